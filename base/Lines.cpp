@@ -1,0 +1,146 @@
+#include "base/Lines.h"
+
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <cstring>
+
+#include "base/RunTimeError.h"
+
+namespace zg {
+
+namespace {
+
+constexpr std::size_t windowSize = 64 * 1024;
+
+/// The first CR or LF of the bytes, or npos.
+std::size_t lineEnd(std::string_view bytes) {
+    const void* lf = bytes.empty() ? nullptr : std::memchr(bytes.data(), '\n', bytes.size());
+    const std::size_t end =
+        lf == nullptr ? bytes.size() : static_cast<std::size_t>(static_cast<const char*>(lf) - bytes.data());
+    const void* cr = end == 0 ? nullptr : std::memchr(bytes.data(), '\r', end);
+    if (cr != nullptr) return static_cast<std::size_t>(static_cast<const char*>(cr) - bytes.data());
+    return lf == nullptr ? std::string_view::npos : end;
+}
+
+}  // namespace
+
+FileHandle openForReading(const std::string& path) {
+    struct stat status {};
+    if (stat(path.c_str(), &status) != 0) raiseFileError(errno);
+    if (S_ISDIR(status.st_mode)) raise(ErrorNumber::PathFileAccessError);
+    FileHandle file(std::fopen(path.c_str(), "rb"));
+    if (!file) raiseFileError(errno);
+    return file;
+}
+
+LineReader::LineReader(const std::string& path) : file_(openForReading(path)) {
+    // The reader keeps a window of its own: a second copy inside the stream would only cost.
+    std::setvbuf(file_.get(), nullptr, _IONBF, 0);
+}
+
+LineReader LineReader::ofText(std::string_view text) {
+    LineReader reader;
+    reader.window_ = text;
+    reader.endOfFile_ = true;
+    return reader;
+}
+
+bool LineReader::fill() {
+    if (endOfFile_) return false;
+    const std::size_t kept = window_.size();
+    if (kept > 0 && window_.data() != buffer_.data()) std::memmove(buffer_.data(), window_.data(), kept);
+    // A line longer than the window doubles it, so that long lines cost linear time.
+    if (buffer_.size() < kept + windowSize) buffer_.resize(std::max(kept + windowSize, 2 * kept));
+    const std::size_t got = std::fread(buffer_.data() + kept, 1, buffer_.size() - kept, file_.get());
+    if (got == 0) {
+        if (std::ferror(file_.get()) != 0) raise(ErrorNumber::DeviceIoError);
+        endOfFile_ = true;
+    }
+    window_ = std::string_view(buffer_.data(), kept + got);
+    return got > 0;
+}
+
+bool LineReader::atEnd() { return window_.empty() && !fill(); }
+
+std::string_view LineReader::readLine() {
+    if (atEnd()) raise(ErrorNumber::InputPastEndOfFile);
+    std::size_t searchedTo = 0;
+    std::size_t end = lineEnd(window_);
+    while (end == std::string_view::npos) {
+        searchedTo = window_.size();
+        if (!fill()) break;
+        end = lineEnd(window_.substr(searchedTo));
+        if (end != std::string_view::npos) end += searchedTo;
+    }
+    ++lineNumber_;
+    if (end == std::string_view::npos) {
+        const std::string_view last = window_;
+        window_ = window_.substr(window_.size());
+        return last;
+    }
+    // A CR at the very edge of the window may have its LF in the next part of the file.
+    if (window_[end] == '\r' && end + 1 == window_.size()) fill();
+    const std::string_view line = window_.substr(0, end);
+    const bool pair = window_[end] == '\r' && end + 1 < window_.size() && window_[end + 1] == '\n';
+    window_.remove_prefix(end + (pair ? 2 : 1));
+    return line;
+}
+
+LineWriter::LineWriter(const std::string& path) {
+    struct stat status {};
+    if (stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) raise(ErrorNumber::PathFileAccessError);
+    file_.reset(std::fopen(path.c_str(), "wb"));
+    if (!file_) raiseFileError(errno == ENOENT ? ENOTDIR : errno);
+}
+
+void LineWriter::write(std::string_view bytes) {
+    if (bytes.empty()) return;
+    if (std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) != bytes.size()) raiseFileError(errno);
+}
+
+void LineWriter::writeLine(std::string_view text) {
+    write(text);
+    write("\r\n");
+}
+
+void LineWriter::close() {
+    std::FILE* file = file_.release();
+    if (file != nullptr && std::fclose(file) != 0) raiseFileError(errno);
+}
+
+void writeQuoted(LineWriter& writer, std::string_view text) {
+    writer.write("\"");
+    writer.write(text);
+    writer.writeLine("\"");
+}
+
+std::string QuotedRecordReader::next() {
+    if (atEnd()) raise(ErrorNumber::InputPastEndOfFile);
+    while (at_ < text_.size() && text_[at_] == ' ') ++at_;
+    std::string record;
+    if (at_ < text_.size() && text_[at_] == '"') {
+        const std::size_t close = text_.find('"', at_ + 1);
+        record = text_.substr(at_ + 1, close == std::string::npos ? std::string::npos : close - at_ - 1);
+        at_ = close == std::string::npos ? text_.size() : close + 1;
+        at_ = std::min(text_.find_first_of(",\r\n", at_), text_.size());
+    } else {
+        const std::size_t end = std::min(text_.find_first_of(",\r\n", at_), text_.size());
+        record = text_.substr(at_, end - at_);
+        while (!record.empty() && record.back() == ' ') record.pop_back();
+        at_ = end;
+    }
+    if (at_ < text_.size()) at_ += text_.compare(at_, 2, "\r\n") == 0 ? 2U : 1U;
+    return record;
+}
+
+std::string readWholeFile(const std::string& path) {
+    const FileHandle file = openForReading(path);
+    std::string out;
+    std::vector<char> part(windowSize);
+    while (const std::size_t got = std::fread(part.data(), 1, part.size(), file.get())) out.append(part.data(), got);
+    if (std::ferror(file.get()) != 0) raise(ErrorNumber::DeviceIoError);
+    return out;
+}
+
+}  // namespace zg

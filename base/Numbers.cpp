@@ -1,0 +1,232 @@
+#include "base/Numbers.h"
+
+#include <array>
+#include <cfloat>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "base/RunTimeError.h"
+#include "base/Text.h"
+
+namespace zg {
+
+namespace {
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+/// The length of the number that the text starts with, sign included; 0 where there is none.
+std::size_t numberLength(std::string_view text) {
+    std::size_t i = 0;
+    if (i < text.size() && (text[i] == '+' || text[i] == '-')) ++i;
+    const std::size_t digitsFrom = i;
+    std::size_t digits = 0;
+    while (i < text.size() && isDigit(text[i])) ++i, ++digits;
+    if (i < text.size() && text[i] == '.') {
+        ++i;
+        while (i < text.size() && isDigit(text[i])) ++i, ++digits;
+    }
+    if (digits == 0) return 0;
+    static_cast<void>(digitsFrom);
+    std::size_t j = i;
+    if (j < text.size() && (text[j] == 'E' || text[j] == 'e' || text[j] == 'D' || text[j] == 'd')) {
+        ++j;
+        if (j < text.size() && (text[j] == '+' || text[j] == '-')) ++j;
+        const std::size_t exponentFrom = j;
+        while (j < text.size() && isDigit(text[j])) ++j;
+        if (j > exponentFrom) i = j;
+    }
+    return i;
+}
+
+/// Parses a text that numberLength has accepted whole.
+double parseNumber(std::string_view text, bool& tooLarge) {
+    std::string plain;
+    if (text.find_first_of("dD") != std::string_view::npos) {
+        plain.assign(text);
+        for (char& c : plain)
+            if (c == 'd' || c == 'D') c = 'E';
+        text = plain;
+    }
+    if (!text.empty() && text.front() == '+') text.remove_prefix(1);
+    double value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    static_cast<void>(end);
+    tooLarge = false;
+    if (error == std::errc::result_out_of_range) {
+        // The library reports both ends of the range alike; only a number too large is a failure.
+        const std::size_t exponent = text.find_first_of("eE");
+        const bool tiny = exponent != std::string_view::npos
+                              ? text.substr(exponent + 1).starts_with('-')
+                              : text.substr(text.front() == '-' ? 1 : 0).starts_with('.') ||
+                                    text.substr(text.front() == '-' ? 1 : 0).starts_with('0');
+        tooLarge = !tiny;
+        value = 0;
+    }
+    return value;
+}
+
+/// Drops commas that stand before the decimal point; a comma anywhere else makes the text no number.
+bool dropGroupingCommas(std::string_view text, std::string& plain) {
+    const std::size_t wholeEnd = std::min(text.find_first_of(".eEdD"), text.size());
+    if (text.find(',', wholeEnd) != std::string_view::npos) return false;
+    bool digitSeen = false;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == ',') {
+            if (!digitSeen) return false;
+            continue;
+        }
+        digitSeen = digitSeen || isDigit(text[i]);
+        plain.push_back(text[i]);
+    }
+    return true;
+}
+
+std::string generalText(double value, int significant) {
+    if (value == 0) return "0";
+    if (std::isnan(value)) return "NaN";
+    if (std::isinf(value)) return value < 0 ? "-Infinity" : "Infinity";
+
+    std::array<char, 64> buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                      std::chars_format::scientific, significant - 1);
+    std::string_view text(buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data()));
+    std::string sign;
+    if (text.front() == '-') {
+        sign = "-";
+        text.remove_prefix(1);
+    }
+    const std::size_t e = text.find('e');
+    std::string digits(1, text[0]);
+    digits.append(text.substr(2, e - 2));
+    while (digits.size() > 1 && digits.back() == '0') digits.pop_back();
+    std::string_view exponentText = text.substr(e + 1);
+    if (exponentText.front() == '+') exponentText.remove_prefix(1);
+    int exponent = 0;
+    std::from_chars(exponentText.data(), exponentText.data() + exponentText.size(), exponent);
+
+    const int count = static_cast<int>(digits.size());
+    const int decimals = count - 1 - exponent;
+    if (exponent >= significant || (exponent < 0 && decimals > significant)) {
+        std::string out = sign + digits.substr(0, 1);
+        if (count > 1) out += "." + digits.substr(1);
+        out += exponent < 0 ? "E-" : "E+";
+        const std::string magnitude = std::to_string(std::abs(exponent));
+        return out + (magnitude.size() < 2 ? "0" : "") + magnitude;
+    }
+    if (exponent < 0) return sign + "0." + std::string(static_cast<std::size_t>(-exponent - 1), '0') + digits;
+    if (decimals <= 0) return sign + digits + std::string(static_cast<std::size_t>(-decimals), '0');
+    const auto whole = static_cast<std::size_t>(exponent + 1);
+    return sign + digits.substr(0, whole) + "." + digits.substr(whole);
+}
+
+}  // namespace
+
+double val(std::string_view text) {
+    std::string packed;
+    const char* from = text.data();
+    if (text.find_first_of(" \t\r\n") != std::string_view::npos) {
+        for (const char c : text)
+            if (c != ' ' && c != '\t' && c != '\r' && c != '\n') packed.push_back(c);
+        from = packed.data();
+        text = packed;
+    }
+    const std::size_t length = numberLength(text);
+    if (length == 0) return 0;
+    bool tooLarge = false;
+    const double value = parseNumber(std::string_view(from, length), tooLarge);
+    if (!tooLarge) return value;
+    return text.front() == '-' ? std::numeric_limits<double>::lowest() : std::numeric_limits<double>::max();
+}
+
+double toDouble(std::string_view text) {
+    text = trimmed(text);
+    std::string plain;
+    if (text.find(',') != std::string_view::npos) {
+        if (!dropGroupingCommas(text, plain)) raise(ErrorNumber::TypeMismatch);
+        text = plain;
+    }
+    const std::size_t length = numberLength(text);
+    if (length == 0 || length != text.size()) raise(ErrorNumber::TypeMismatch);
+    bool tooLarge = false;
+    const double value = parseNumber(text, tooLarge);
+    if (tooLarge) raise(ErrorNumber::Overflow);
+    return value;
+}
+
+float toSingle(double value) {
+    if (!(std::abs(value) <= static_cast<double>(FLT_MAX))) raise(ErrorNumber::Overflow);
+    return static_cast<float>(value);
+}
+
+float toSingle(std::string_view text) { return toSingle(toDouble(text)); }
+
+std::int16_t toInt16(double value) {
+    const double rounded = std::nearbyint(value);
+    if (!(rounded >= -32768.0 && rounded <= 32767.0)) raise(ErrorNumber::Overflow);
+    return static_cast<std::int16_t>(rounded);
+}
+
+std::int32_t toInt32(double value) {
+    const double rounded = std::nearbyint(value);
+    if (!(rounded >= -2147483648.0 && rounded <= 2147483647.0)) raise(ErrorNumber::Overflow);
+    return static_cast<std::int32_t>(rounded);
+}
+
+std::int16_t toInt16(std::string_view text) { return toInt16(toDouble(text)); }
+
+std::int32_t toInt32(std::string_view text) { return toInt32(toDouble(text)); }
+
+double roundHalfEven(double value, int decimals) {
+    if (decimals == 0) return std::nearbyint(value);
+    const double scale = std::pow(10.0, decimals);
+    const double scaled = value * scale;
+    if (!std::isfinite(scaled)) return value;
+    return std::nearbyint(scaled) / scale;
+}
+
+std::string singleText(float value) { return generalText(static_cast<double>(value), 7); }
+
+std::string doubleText(double value) { return generalText(value, 15); }
+
+std::string boolText(bool value) { return value ? "True" : "False"; }
+
+bool toBool(std::string_view text) {
+    const std::string word = lcase(trimmed(text));
+    if (word == "true") return true;
+    if (word == "false") return false;
+    return toDouble(word) != 0;
+}
+
+std::string format00(double value) {
+    if (!(std::abs(value) < 1e15)) raise(ErrorNumber::Overflow);
+    const auto rounded = static_cast<std::int64_t>(std::round(value));
+    const std::string digits = std::to_string(std::abs(rounded));
+    return (rounded < 0 ? "-" : "") + std::string(digits.size() < 2 ? 1 : 0, '0') + digits;
+}
+
+std::string format00(std::string_view text) { return format00(toDouble(text)); }
+
+std::string formatScientific(double value) {
+    std::array<char, 64> buffer{};
+    const auto result =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::scientific, 2);
+    std::string text(buffer.data(), result.ptr);
+    return ucase(text);
+}
+
+std::int32_t idiv(std::int32_t dividend, std::int32_t divisor) {
+    if (divisor == 0) raise(ErrorNumber::DivisionByZero);
+    if (divisor == -1 && dividend == std::numeric_limits<std::int32_t>::min()) raise(ErrorNumber::Overflow);
+    return dividend / divisor;
+}
+
+std::int32_t imod(std::int32_t dividend, std::int32_t divisor) {
+    if (divisor == 0) raise(ErrorNumber::DivisionByZero);
+    if (divisor == -1) return 0;
+    return dividend % divisor;
+}
+
+double intFloor(double value) { return std::floor(value); }
+
+}  // namespace zg

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <exception>
+#include <string>
+
+namespace zg {
+
+/// The numbered errors that conversions, files and scripts raise. The numbers are part of what users see.
+enum class ErrorNumber : int {
+    InvalidProcedureCall = 5,
+    Overflow = 6,
+    SubscriptOutOfRange = 9,
+    DivisionByZero = 11,
+    TypeMismatch = 13,
+    FileNotFound = 53,
+    FileAlreadyOpen = 55,
+    DeviceIoError = 57,
+    DiskFull = 61,
+    InputPastEndOfFile = 62,
+    TooManyFiles = 67,
+    PermissionDenied = 70,
+    PathFileAccessError = 75,
+    PathNotFound = 76,
+    SetNotPermitted = 387,
+    CannotCreateObject = 429,
+};
+
+/// A failure that reaches the user as number and description. It is thrown where no local handling is wanted and
+/// caught at the boundary round each event handler, or where a handler of its own is described.
+class RunTimeError : public std::exception {
+  public:
+    RunTimeError(int errorNumber, std::string errorDescription)
+        : number(errorNumber), description(std::move(errorDescription)) {}
+
+    const char* what() const noexcept override { return description.c_str(); }
+
+    int number;
+    std::string description;
+};
+
+/// The fixed description of an error number, as "Type mismatch" for 13.
+const char* errorDescription(ErrorNumber number);
+
+/// Throws the RunTimeError of that number with its fixed description.
+[[noreturn]] void raise(ErrorNumber number);
+
+/// Throws the RunTimeError that fits the C error number of a failed file operation.
+[[noreturn]] void raiseFileError(int errnoValue);
+
+}  // namespace zg

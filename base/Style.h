@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace zg {
+
+/// A 24-bit colour with red in the low byte; values with the high bit set name a colour of the desktop.
+using Colour = std::uint32_t;
+
+constexpr Colour rgb(unsigned red, unsigned green, unsigned blue) { return red | green << 8U | blue << 16U; }
+constexpr unsigned redOf(Colour colour) { return colour & 0xFFU; }
+constexpr unsigned greenOf(Colour colour) { return colour >> 8U & 0xFFU; }
+constexpr unsigned blueOf(Colour colour) { return colour >> 16U & 0xFFU; }
+
+constexpr Colour black = 0;
+constexpr Colour white = rgb(255, 255, 255);
+
+/// The desktop's colours that drawing and field marks name.
+constexpr Colour scrollBarColour = 0x80000000U;
+constexpr Colour buttonFaceColour = 0x8000000FU;
+
+/// Marks of a field: in error, in error while disabled, clean.
+constexpr Colour yellowMark = 65535;
+constexpr Colour darkYellowMark = 49344;
+constexpr Colour cleanMark = white;
+
+/// A colour that was kept as a single-precision number, as it is painted: whole, and within 24 bits.
+constexpr Colour paintedColour(float stored) {
+    if (!(stored > 0.0F)) return 0;
+    return stored >= 16777215.0F ? 16777215U : static_cast<Colour>(stored);
+}
+
+/// Font of one family of texts. The colour is a single-precision number, as the configuration file keeps it.
+struct FontRecord {
+    float colour = 0;
+    std::string name;
+    std::int16_t size = 0;  ///< points
+    bool bold = false;
+    bool italic = false;
+    bool operator==(const FontRecord&) const = default;
+};
+
+}  // namespace zg

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// A directory of its own for one test, removed with all it holds at the end.
+class TempDirectory {
+  public:
+    TempDirectory();
+    ~TempDirectory();
+    TempDirectory(const TempDirectory&) = delete;
+    TempDirectory& operator=(const TempDirectory&) = delete;
+
+    const std::string& path() const { return path_; }
+
+    /// Full path of a name in it.
+    std::string file(std::string_view name) const;
+
+    /// Writes a file with exactly these bytes and gives its full path.
+    std::string write(std::string_view name, std::string_view bytes) const;
+
+    /// The bytes of a file in it; fails the test where it cannot be read.
+    std::string read(std::string_view name) const;
+
+  private:
+    std::string path_;
+};

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "base/Host.h"
+
+/// Stands in for the person: answers are queued before, what was asked is read after. A box or a picker that no answer waits for
+/// fails the test. The clock moves only when events are pumped.
+class TestHost : public zg::Host {
+  public:
+    ~TestHost() override;
+
+    zg::BoxAnswer showBox(const zg::MessageBox& box) override;
+    std::string pickFileToOpen(const zg::FilePick& pick) override;
+    std::string pickFileToSave(const zg::FilePick& pick) override;
+    std::int64_t tickCount() override { return now; }
+    void pumpEvents(int idleMs) override;
+
+    std::deque<zg::BoxAnswer> boxAnswers;
+    std::deque<std::string> openAnswers;
+    std::deque<std::string> saveAnswers;
+    std::function<void()> onPump;  ///< runs at each pump, as the events that arrive meanwhile
+
+    std::vector<zg::MessageBox> boxes;
+    std::vector<zg::FilePick> openPicks;
+    std::vector<zg::FilePick> savePicks;
+    std::int64_t now = 0;
+    int pumps = 0;
+};
