@@ -1,9 +1,9 @@
 #include "base/Dates.h"
 
 #include <array>
+#include <charconv>
 #include <chrono>
 #include <cmath>
-#include <charconv>
 
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-// What the program asks of the person and the platform. Everything below the windows goes through this one small interface, so that
-// tests answer the questions and read what was asked.
+// What the program asks of the person and the platform. Everything below the windows goes through this one
+// small interface, so that tests answer the questions and read what was asked.
 
 #include <cstdint>
 #include <string>
@@ -30,7 +30,7 @@ struct FilePick {
 };
 
 class Host {
-  public:
+ public:
     virtual ~Host() = default;
 
     virtual BoxAnswer showBox(const MessageBox& box) = 0;

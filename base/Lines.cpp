@@ -138,7 +138,8 @@ std::string readWholeFile(const std::string& path) {
     const FileHandle file = openForReading(path);
     std::string out;
     std::vector<char> part(windowSize);
-    while (const std::size_t got = std::fread(part.data(), 1, part.size(), file.get())) out.append(part.data(), got);
+    while (const std::size_t got = std::fread(part.data(), 1, part.size(), file.get()))
+        out.append(part.data(), got);
     if (std::ferror(file.get()) != 0) raise(ErrorNumber::DeviceIoError);
     return out;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-// Text files line by line: 8-bit bytes as they stand, lines ended by CR LF, CR or LF on reading, CR LF on writing.
+// Text files line by line: 8-bit bytes as they stand, lines ended by CR LF, CR or LF on reading, CR LF on
+// writing.
 
 #include <cstdio>
 #include <memory>
@@ -20,7 +21,7 @@ FileHandle openForReading(const std::string& path);
 
 /// Reads lines of any length. Only a window of the file is in memory at a time, at least one line.
 class LineReader {
-  public:
+ public:
     explicit LineReader(const std::string& path);
 
     /// Reads from bytes in memory, which must outlive the reader.
@@ -38,7 +39,7 @@ class LineReader {
     /// Hands over the open file, to be closed by the new owner.
     FileHandle release() { return std::move(file_); }
 
-  private:
+ private:
     LineReader() = default;
     bool fill();
 
@@ -51,7 +52,7 @@ class LineReader {
 
 /// Writes lines ended by CR LF; the file is replaced. Raises the fitting error where that fails.
 class LineWriter {
-  public:
+ public:
     explicit LineWriter(const std::string& path);
 
     void writeLine(std::string_view text);
@@ -59,21 +60,22 @@ class LineWriter {
     /// Bytes as they stand, without a line end.
     void write(std::string_view bytes);
 
-    /// Flushes and closes; raises 61 or 57 where the bytes did not reach the file. A writer destroyed without it
-    /// closes silently.
+    /// Flushes and closes; raises 61 or 57 where the bytes did not reach the file. A writer destroyed without
+    /// it closes silently.
     void close();
 
-  private:
+ private:
     FileHandle file_;
 };
 
-/// A quoted record as the graph and expression files hold it: the text in double quotes, inner quotes as they stand, CR LF.
+/// A quoted record as the graph and expression files hold it: the text in double quotes, inner quotes as they
+/// stand, CR LF.
 void writeQuoted(LineWriter& writer, std::string_view text);
 
-/// The records of such a file: a quoted text up to its closing quote, or a bare text up to a comma or line end.
-/// A comma separates only outside quotes.
+/// The records of such a file: a quoted text up to its closing quote, or a bare text up to a comma or line
+/// end. A comma separates only outside quotes.
 class QuotedRecordReader {
-  public:
+ public:
     explicit QuotedRecordReader(std::string text) : text_(std::move(text)) {}
 
     bool atEnd() const { return at_ >= text_.size(); }
@@ -81,7 +83,7 @@ class QuotedRecordReader {
     /// Raises 62 past the end.
     std::string next();
 
-  private:
+ private:
     std::string text_;
     std::size_t at_ = 0;
 };

@@ -4,7 +4,8 @@
 
 namespace zg {
 
-/// The pure operations that scripts know as "MathLib" and the tools measure with. Angles of the trigonometric operations are radians.
+/// The pure operations that scripts know as "MathLib" and the tools measure with. Angles of the trigonometric
+/// operations are radians.
 struct MathLibrary {
     static double Pi();
     static double Radians(double degrees);

@@ -1,7 +1,7 @@
 #pragma once
 
-// Every conversion between numbers and text goes through here, independent of the platform's locale, so that a
-// value reads and prints the same on every machine.
+// Every conversion between numbers and text goes through here, independent of the platform's locale, so that
+// a value reads and prints the same on every machine.
 
 #include <cstdint>
 #include <string>
@@ -12,8 +12,8 @@ namespace zg {
 /// The longest leading number of a text, blanks passed over: "25%" is 25, "1,5" is 1, "" is 0. Never fails.
 double val(std::string_view text);
 
-/// The whole text as a number: blanks at both ends, a sign, grouping commas in the whole part and an E or D exponent are allowed.
-/// Raises 13 for anything else (an empty text too) and 6 for a number too large.
+/// The whole text as a number: blanks at both ends, a sign, grouping commas in the whole part and an E or D
+/// exponent are allowed. Raises 13 for anything else (an empty text too) and 6 for a number too large.
 double toDouble(std::string_view text);
 
 /// As toDouble, to the nearest single; raises 6 beyond the range of a single.
@@ -33,8 +33,8 @@ float toSingle(double value);
 /// Rounds to so many decimals (0 to 22), halves to the even neighbour.
 double roundHalfEven(double value, int decimals = 0);
 
-/// Shortest general text with up to seven significant digits: "0.5", "1.671168E+07". The exponent form begins at
-/// 1E+7, and below 1 where more than seven decimals would be needed.
+/// Shortest general text with up to seven significant digits: "0.5", "1.671168E+07". The exponent form begins
+/// at 1E+7, and below 1 where more than seven decimals would be needed.
 std::string singleText(float value);
 
 /// The same with fifteen digits: "1.74532925199433E-02".
@@ -53,8 +53,8 @@ std::string format00(std::string_view text);
 /// Two decimals and a signed exponent of at least two digits: "9.72E-01".
 std::string formatScientific(double value);
 
-/// Integer division toward zero and its remainder, which takes the sign of the dividend; raises 11 for divisor 0
-/// and 6 where the result does not fit.
+/// Integer division toward zero and its remainder, which takes the sign of the dividend; raises 11 for
+/// divisor 0 and 6 where the result does not fit.
 std::int32_t idiv(std::int32_t dividend, std::int32_t divisor);
 std::int32_t imod(std::int32_t dividend, std::int32_t divisor);
 

@@ -80,7 +80,8 @@ std::string existingFile(const std::string& path) {
     std::string found;
     for (fs::directory_iterator it(directory, error), end; !error && it != end; it.increment(error)) {
         const std::string other = it->path().filename().string();
-        if (lcase(other) == name && isPlainFile(it->path()) && (found.empty() || other < found)) found = other;
+        if (lcase(other) == name && isPlainFile(it->path()) && (found.empty() || other < found))
+            found = other;
     }
     if (found.empty()) return {};
     return wanted.has_parent_path() ? (wanted.parent_path() / found).string() : found;

@@ -1,7 +1,7 @@
 #pragma once
 
-// Paths as users and files write them. The separator is an argument with the platform's own as default, so that
-// the rules for "\" hold, and are tested, everywhere.
+// Paths as users and files write them. The separator is an argument with the platform's own as default, so
+// that the rules for "\" hold, and are tested, everywhere.
 
 #include <string>
 #include <string_view>
@@ -15,7 +15,8 @@ constexpr char pathSeparator = '\\';
 constexpr char pathSeparator = '/';
 #endif
 
-/// The directory of the running program without a final separator; set once at start, by tests as they need it.
+/// The directory of the running program without a final separator; set once at start, by tests as they need
+/// it.
 extern std::string applicationDirectory;
 
 /// applicationDirectory, the separator, and the name.
@@ -30,8 +31,8 @@ std::string DirOf(std::string_view path, char separator = pathSeparator);
 /// The trimmed path's part before the first ":", and ":"; a path without one gives the whole path and ":".
 std::string DriveOf(std::string_view path);
 
-/// A plain file of that name is there; "" is none. Where the platform's file system tells letter cases apart, another case of the
-/// same name counts when the exact name is missing.
+/// A plain file of that name is there; "" is none. Where the platform's file system tells letter cases apart,
+/// another case of the same name counts when the exact name is missing.
 bool fileExists(const std::string& path);
 
 /// The name under which the file really lies (see fileExists); "" where there is none.
@@ -40,8 +41,9 @@ std::string existingFile(const std::string& path);
 /// A directory is there; an error in the look-up counts as false.
 bool IsDirectory(const std::string& path);
 
-/// The names (without directory) of the plain files that match a pattern like "/data/*.frq", in case-insensitive
-/// name order, hidden ones included; "*" and "?" stand for any text and any character, letter case does not count.
+/// The names (without directory) of the plain files that match a pattern like "/data/*.frq", in
+/// case-insensitive name order, hidden ones included; "*" and "?" stand for any text and any character,
+/// letter case does not count.
 std::vector<std::string> filesMatching(const std::string& pattern);
 
 }  // namespace zg

@@ -25,10 +25,10 @@ enum class ErrorNumber : int {
     CannotCreateObject = 429,
 };
 
-/// A failure that reaches the user as number and description. It is thrown where no local handling is wanted and
-/// caught at the boundary round each event handler, or where a handler of its own is described.
+/// A failure that reaches the user as number and description. It is thrown where no local handling is wanted
+/// and caught at the boundary round each event handler, or where a handler of its own is described.
 class RunTimeError : public std::exception {
-  public:
+ public:
     RunTimeError(int errorNumber, std::string errorDescription)
         : number(errorNumber), description(std::move(errorDescription)) {}
 

@@ -21,18 +21,19 @@ std::string ucase(std::string_view text);
 
 /// The pieces of a split text, by position from 0.
 class Pieces {
-  public:
+ public:
     explicit Pieces(std::vector<std::string_view> pieces) : pieces_(std::move(pieces)) {}
 
     /// Piece i; raises 9 where there is none.
     std::string_view operator[](std::size_t i) const;
     std::size_t size() const { return pieces_.size(); }
 
-  private:
+ private:
     std::vector<std::string_view> pieces_;
 };
 
-/// Splits at every separator (not empty). Empty pieces are kept; an empty text has no piece at all. The pieces point into the text.
+/// Splits at every separator (not empty). Empty pieces are kept; an empty text has no piece at all. The
+/// pieces point into the text.
 Pieces split(std::string_view text, std::string_view separator);
 
 /// The first n, the last n, and n characters from position start (1-based); tolerant of short texts.

@@ -5,7 +5,7 @@
 
 /// A directory of its own for one test, removed with all it holds at the end.
 class TempDirectory {
-  public:
+ public:
     TempDirectory();
     ~TempDirectory();
     TempDirectory(const TempDirectory&) = delete;
@@ -22,6 +22,6 @@ class TempDirectory {
     /// The bytes of a file in it; fails the test where it cannot be read.
     std::string read(std::string_view name) const;
 
-  private:
+ private:
     std::string path_;
 };

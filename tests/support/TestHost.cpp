@@ -4,7 +4,8 @@
 
 TestHost::~TestHost() {
     EXPECT_TRUE(boxAnswers.empty()) << "a message box that was waited for did not come";
-    EXPECT_TRUE(openAnswers.empty() && saveAnswers.empty()) << "a file picker that was waited for did not come";
+    EXPECT_TRUE(openAnswers.empty() && saveAnswers.empty())
+        << "a file picker that was waited for did not come";
 }
 
 zg::BoxAnswer TestHost::showBox(const zg::MessageBox& box) {

@@ -7,10 +7,10 @@
 
 #include "base/Host.h"
 
-/// Stands in for the person: answers are queued before, what was asked is read after. A box or a picker that no answer waits for
-/// fails the test. The clock moves only when events are pumped.
+/// Stands in for the person: answers are queued before, what was asked is read after. A box or a picker that
+/// no answer waits for fails the test. The clock moves only when events are pumped.
 class TestHost : public zg::Host {
-  public:
+ public:
     ~TestHost() override;
 
     zg::BoxAnswer showBox(const zg::MessageBox& box) override;
