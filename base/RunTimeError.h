@@ -36,6 +36,7 @@ class RunTimeError : public std::exception {
 
     int number;
     std::string description;
+    std::string where;  ///< line and field of a file where they are known, as "17: percent of class 2"
 };
 
 /// The fixed description of an error number, as "Type mismatch" for 13.
