@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 
@@ -21,6 +22,24 @@ std::size_t lineEnd(std::string_view bytes) {
     const void* cr = end == 0 ? nullptr : std::memchr(bytes.data(), '\r', end);
     if (cr != nullptr) return static_cast<std::size_t>(static_cast<const char*>(cr) - bytes.data());
     return lf == nullptr ? std::string_view::npos : end;
+}
+
+/// Line ends among the bytes, CR LF counted once, after a byte that may have been the CR of such a pair. The
+/// short inner runs let the compiler count many bytes at a time.
+std::size_t countLineEnds(std::string_view bytes, char before) {
+    constexpr std::size_t run = 128;
+    std::size_t ends = 0;
+    for (std::size_t from = 0; from < bytes.size(); from += run) {
+        const std::size_t to = std::min(from + run, bytes.size());
+        unsigned char found = bytes[from] == '\r' || (bytes[from] == '\n' && before != '\r') ? 1 : 0;
+        for (std::size_t i = from + 1; i < to; ++i) {
+            const int lone = (bytes[i] == '\n' ? 1 : 0) & (bytes[i - 1] != '\r' ? 1 : 0);
+            found = static_cast<unsigned char>(found + (bytes[i] == '\r' ? 1 : 0) + lone);
+        }
+        ends += found;
+        before = bytes[to - 1];
+    }
+    return ends;
 }
 
 }  // namespace
@@ -85,6 +104,19 @@ std::string_view LineReader::readLine() {
     const bool pair = window_[end] == '\r' && end + 1 < window_.size() && window_[end + 1] == '\n';
     window_.remove_prefix(end + (pair ? 2 : 1));
     return line;
+}
+
+std::size_t LineReader::skipAll() {
+    std::size_t count = 0;
+    char last = '\n';  // what was read so far ended with its line
+    while (!atEnd()) {
+        count += countLineEnds(window_, last);
+        last = window_.back();
+        window_ = window_.substr(window_.size());
+    }
+    if (last != '\n' && last != '\r') ++count;
+    lineNumber_ += count;
+    return count;
 }
 
 LineWriter::LineWriter(const std::string& path) {

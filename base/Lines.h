@@ -33,6 +33,10 @@ class LineReader {
     /// The next line without its end, valid until the next call; raises 62 past the end.
     std::string_view readLine();
 
+    /// Passes over all lines that are left and gives their number; faster than reading them, and no line is
+    /// held whole.
+    std::size_t skipAll();
+
     /// Number of the line last read, from 1.
     std::size_t lineNumber() const { return lineNumber_; }
 
