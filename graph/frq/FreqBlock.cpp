@@ -1,0 +1,113 @@
+#include "graph/frq/FreqBlock.h"
+
+#include <array>
+#include <cstddef>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "graph/frq/FreqFields.h"
+
+namespace zg {
+
+namespace {
+
+constexpr std::int16_t speedClasses = 6;
+
+constexpr std::array<double, 16> powersOfTen = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+/// Reads blanks, digits with a point among them, and "%" off the text. Up to 15 digits and the power of ten
+/// are exact, so their quotient is the number that toDouble gives. False for anything else.
+bool takePlainPercent(const char*& at, const char* end, double& value) {
+    while (at != end && *at == ' ') ++at;
+    std::uint64_t digits = 0;
+    const char* const wholeFrom = at;
+    for (; at != end && isDigit(*at); ++at) digits = digits * 10 + static_cast<unsigned char>(*at - '0');
+    auto count = at - wholeFrom;
+    std::ptrdiff_t decimals = 0;
+    if (at != end && *at == '.') {
+        const char* const decimalsFrom = ++at;
+        for (; at != end && isDigit(*at); ++at) digits = digits * 10 + static_cast<unsigned char>(*at - '0');
+        decimals = at - decimalsFrom;
+        count += decimals;
+    }
+    if (at == end || *at != '%' || count == 0 || count > 15) return false;
+    ++at;
+    value = static_cast<double>(digits) / powersOfTen[static_cast<std::size_t>(decimals)];
+    return true;
+}
+
+bool readPlainShares(std::string_view cells, std::int64_t row, FractionTable& fractions) {
+    std::array<double, speedClasses> percents{};
+    const char* at = cells.data();
+    for (double& percent : percents)
+        if (!takePlainPercent(at, cells.data() + cells.size(), percent)) return false;
+    double* share = &fractions(row, 1);
+    for (const double percent : percents) *share++ = percent / 100;
+    return true;
+}
+
+void readShares(std::string_view cells, std::int64_t row, FractionTable& fractions) {
+    FreqFields percents(cells, '%');
+    for (std::int16_t speedClass = 1; speedClass <= speedClasses; ++speedClass)
+        fractions(row, speedClass) = toDouble(percents.next()) / 100;
+}
+
+void readDirections(LineReader& reader, std::int16_t rose, ModPolarGraph& tables) {
+    const std::int64_t before = firstFractionRow(rose) - 1;
+    for (std::int16_t r = 1; r <= freqDirections; ++r) {
+        FreqFields parts(reader.readLine(), ':');
+        const std::string_view label = parts.next();
+        if (rose == 1) tables.FrqDirectionLabel(r) = trimmed(label);
+        if (!readPlainShares(parts.rest(), before + r, tables.FrqFraction))
+            readShares(parts.next(), before + r, tables.FrqFraction);
+    }
+}
+
+void readCalm(std::string_view line, std::int16_t rose, ModPolarGraph& tables) {
+    tables.FrqCalmPercent(rose) = trimmed(freqField(freqField(line, ':', 1), '%', 0));
+}
+
+/// "Valid Periods = 8700" is 8700, by way of a single: from nine digits on it may move by some units.
+std::int32_t countOf(std::string_view part) {
+    return toInt32(static_cast<double>(toSingle(trimmed(freqField(part, '=', 1)))));
+}
+
+float percentValid(std::int32_t valid, std::int32_t total) {
+    if (total == 0) raise(ErrorNumber::DivisionByZero);
+    const float percent = toSingle(static_cast<double>(valid) / static_cast<double>(total) * 100);
+    return toSingle(roundHalfEven(static_cast<double>(percent), 1));
+}
+
+void readStatistics(std::string_view line, std::int16_t rose, ModPolarGraph& tables) {
+    FreqFields parts(line, ';');
+    const std::int32_t total = tables.FrqTotalPeriods(rose) = countOf(parts.next());
+    const std::int32_t valid = tables.FrqValidPeriods(rose) = countOf(parts.next());
+    const std::int32_t calm = tables.FrqCalmPeriods(rose) = countOf(parts.next());
+    const float percent = tables.FrqPercentValid(rose) = percentValid(valid, total);
+    tables.FrqRoseCaption(rose) = tables.FrqRoseTitle(rose) + ": Total Periods = " + std::to_string(total) +
+                                  "; Valid Periods = " + std::to_string(valid) + " (" + singleText(percent) +
+                                  "%); Calm Wind Periods = " + std::to_string(calm);
+}
+
+}  // namespace
+
+void readFreqBlock(LineReader& reader, const FreqVersion& version, std::int16_t rose, ModPolarGraph& tables) {
+    const bool statistics = version.statistics == FreqStatistics::Present;
+    if (statistics) reader.readLine();  // parts the block from what is above it
+    tables.FrqRoseTitle(rose) = reader.readLine();
+    reader.readLine();  // column headings
+    readDirections(reader, rose, tables);
+    reader.readLine();  // separator
+    readCalm(reader.readLine(), rose, tables);
+    if (statistics) {
+        readStatistics(reader.readLine(), rose, tables);
+        return;
+    }
+    reader.readLine();  // parts the block from what is below it
+    tables.FrqRoseCaption(rose) = tables.FrqRoseTitle(rose);
+}
+
+}  // namespace zg

@@ -1,0 +1,113 @@
+#include "graph/frq/OpenFreqFile.h"
+
+#include <utility>
+#include <vector>
+
+#include "base/Numbers.h"
+#include "graph/frq/FreqBlock.h"
+#include "graph/frq/FreqHeader.h"
+#include "graph/frq/FreqVersion.h"
+
+namespace zg {
+
+namespace {
+
+/// A refused file stays open to the end of the process; every load opens its own.
+void keepOpen(FileHandle file) {
+    static std::vector<FileHandle> refusedFiles;
+    if (file) refusedFiles.push_back(std::move(file));
+}
+
+void tellRefused(const std::string& path, Host& host) {
+    MessageBox box;
+    box.text = "The FRQ File " + path + " is not in the correct data format.";
+    host.showBox(box);
+}
+
+/// Lines of the file plus one; raises 6 where that leaves 16 bits.
+std::int16_t countLines(LineReader reader) { return toInt16(static_cast<double>(reader.skipAll() + 1)); }
+
+std::int16_t roseCount(std::int16_t lineCount, const FreqHeaderSize& header, const FreqVersion& version) {
+    const double blockLines = static_cast<double>(lineCount) - static_cast<double>(header.lines);
+    return toInt16(blockLines / version.linesARose);
+}
+
+/// Fresh tables for the roses counted; raises 9 where the header claims more lines than the file has.
+void sizeRoseTables(const FreqVersion& version, ModPolarGraph& tables) {
+    if (tables.FrqRoseCount < 0) raise(ErrorNumber::SubscriptOutOfRange);
+    const auto last = static_cast<std::size_t>(tables.FrqRoseCount);
+    if (version.statistics == FreqStatistics::Present) {
+        tables.FrqTotalPeriods.redim(last);
+        tables.FrqValidPeriods.redim(last);
+        tables.FrqCalmPeriods.redim(last);
+        tables.FrqPercentValid.redim(last);
+    } else {
+        tables.FrqTotalPeriods.clear();
+        tables.FrqValidPeriods.clear();
+        tables.FrqCalmPeriods.clear();
+        tables.FrqPercentValid.clear();
+    }
+    tables.FrqCalmPercent.redim(last);
+    tables.FrqRoseCaption.redim(last);
+    tables.FrqRoseTitle.redim(last);
+    tables.FrqDirectionLabel.redim(static_cast<std::size_t>(freqDirections));
+}
+
+void forgetClassChoices(ModPolarGraph& tables) {
+    tables.ClassesFromFile = true;
+    tables.ClassesInKnots = false;
+    tables.KnotTableReady = false;
+}
+
+void readContent(LineReader reader, const FreqVersion& version, const FreqHeaderSize& header,
+                 ModPolarGraph& tables) {
+    reader.readLine();
+    readFreqHeaderFields(reader, version, header, tables);
+    forgetClassChoices(tables);
+    skipFreqHeaderRest(reader, version, header);
+    for (std::int16_t rose = 1; rose <= tables.FrqRoseCount; ++rose)
+        readFreqBlock(reader, version, rose, tables);
+}
+
+void makePlotTexts(ModPolarGraph& tables) {
+    tables.GraphTitle =
+        tables.FrqTitle1.empty() ? tables.FrqTitle2 : tables.FrqTitle1 + " - " + tables.FrqTitle2;
+    tables.GraphSubTitle = tables.FrqMeasure + "; [" + tables.FrqPeriodText + "]";
+    tables.GraphCaption = tables.FrqRoseCount > 0 ? tables.FrqRoseCaption(1) : "ALL DATA ARE MISSING";
+}
+
+}  // namespace
+
+FreqFileOutcome loadFreqLines(const FreqSource& open, const std::string& path, ModPolarGraph& tables,
+                              Host& host) {
+    tables.CurrentRose = 1;
+    const FreqVersion* version = nullptr;
+    FreqHeaderSize header;
+    {
+        LineReader reader = open();
+        version = freqVersionOf(reader.readLine());
+        if (version == nullptr) {
+            keepOpen(reader.release());
+            tellRefused(path, host);
+            return FreqFileOutcome::Refused;
+        }
+        tables.FrqVersion = version->name;
+        header = readFreqHeaderSize(reader, *version);
+    }
+
+    tables.FrqLineCount = countLines(open());
+    tables.FrqFraction.redim(static_cast<std::size_t>(tables.FrqLineCount));
+    tables.FrqRoseCount = roseCount(tables.FrqLineCount, header, *version);
+    sizeRoseTables(*version, tables);
+
+    readContent(open(), *version, header, tables);
+    makePlotTexts(tables);
+    tables.FrqLoaded = true;
+    return FreqFileOutcome::Loaded;
+}
+
+FreqFileOutcome loadFreqFile(const std::string& path, ModPolarGraph& tables, Host& host) {
+    return loadFreqLines([&path] { return LineReader(path); }, path, tables, host);
+}
+
+}  // namespace zg
