@@ -1,0 +1,13 @@
+#pragma once
+
+#include "graph/render/Frame.h"
+
+namespace zg {
+
+/// Number of spokes for a ShowGrid value: 64, 16, or none.
+int spokeCount(std::int32_t showGrid);
+
+/// Disc, rings and spokes, and on them the rose on show with its direction labels.
+void drawCoordinateSystem(Frame& frame);
+
+}  // namespace zg

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+
+#include "graph/frq/ModPolarGraph.h"
+#include "graph/model/Polar.h"
+#include "graph/render/Canvas.h"
+#include "graph/render/PlotSettings.h"
+#include "graph/render/PolarGeometry.h"
+
+namespace zg {
+
+/// One redraw under way: what it reads, where it paints, and what its pieces leave to the next one.
+struct Frame {
+    const PlotSettings& settings;
+    Polar& polar;
+    ModPolarGraph& tables;
+    Canvas& canvas;
+    PolarGeometry& geometry;
+    double width = 0;  ///< of the canvas, scale units
+    double height = 0;
+    /// Style in force. A piece that writes leaves its style behind, and later texts are measured in it.
+    TextStyle textStyle;
+    std::string lastLabel = {};  ///< the direction or percent label written last, "" before the first
+
+    Point centre() const { return {geometry.CentreX, geometry.CentreY}; }
+    double outerRadius() const { return static_cast<double>(polar.Radius) * geometry.UnitLength; }
+};
+
+/// The style of a font family in its own colour.
+TextStyle textStyleOf(const FontRecord& font);
+
+/// Number of whole polar units within the radius; raises 6 above 32767.
+int wholeUnits(const Polar& polar);
+
+}  // namespace zg

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "graph/render/Frame.h"
+
+namespace zg {
+
+/// The file's direction row (1 north, clockwise to 16) of sector 0 to 15 (0 east, counterclockwise).
+int directionRow(int sector);
+
+/// A bar of a sector, degrees counterclockwise from east; start above end crosses east.
+struct SectorSpan {
+    double startDegrees = 0;
+    double endDegrees = 0;
+    bool operator==(const SectorSpan&) const = default;
+};
+
+/// The bar is 7.5 degrees wide about the sector's direction.
+SectorSpan sectorSpan(int sector);
+
+/// A filled pie sector of the circle about (cx, cy), outlined in the desktop's scroll bar colour.
+void DrawPiePiece(Canvas& canvas, float cx, float cy, double radius, float color, double startDegrees,
+                  double endDegrees);
+
+/// The stacked bars of the rose on show and, outside the outer ring, the direction labels, sector by sector.
+void drawWindRose(Frame& frame);
+
+}  // namespace zg
