@@ -8,23 +8,16 @@
 #include <string>
 
 #include "base/Host.h"
+#include "graph/control/PageLayout.h"
+#include "graph/control/PropertyBag.h"
 #include "graph/frq/OpenFreqFile.h"
 #include "graph/model/Plot.h"
 #include "graph/model/Polar.h"
 #include "graph/render/Canvas.h"
+#include "graph/render/PlotSettings.h"
 #include "graph/render/PolarGeometry.h"
 
 namespace zg {
-
-/// Place and visibility of a child surface within the control, in pixels.
-struct ChildSurface {
-    int left = 0;
-    int top = 0;
-    int width = 0;
-    int height = 0;
-    bool visible = false;
-    bool operator==(const ChildSurface&) const = default;
-};
 
 /// What the control needs of the window that shows it.
 class ControlWindow {
@@ -39,6 +32,9 @@ class ControlWindow {
 
     /// Places, sizes or visibility of child surfaces changed.
     virtual void layoutChanged() = 0;
+
+    /// The rulers are to be painted again.
+    virtual void rulersChanged() = 0;
 
     /// What was painted on the page is to be shown.
     virtual void pagePainted() = 0;
@@ -68,6 +64,168 @@ struct PolarGraphEvents {
     std::function<void(std::int16_t button, std::int16_t shift, float x, float y)> MouseMove;
     std::function<void(std::int16_t button, std::int16_t shift, float x, float y)> MouseUp;
     std::function<void(float angle, float radius, float x, float y, float portion)> DrawProgress;
+};
+
+/// Properties that neither drawing nor placing reads, under their names and with a new control's values.
+struct ControlProperties {
+    bool AutoUpdate = true;
+    std::string Comment;
+    PicturePointer MouseIcon;
+    std::int16_t MousePointer = 0;
+    std::int32_t SetActiveTool = 0;
+    std::int32_t SetRulerMode = 1;
+    bool StopAni = true;
+};
+
+/// Mouse buttons as the events number them.
+constexpr std::int16_t leftButton = 1;
+constexpr std::int16_t rightButton = 2;
+
+/// The control draws modPolarGraph's tables. Each property is a pair of functions of one name; each setter
+/// tells the window of its property store, and those of what is on the page repaint it.
+class PolarGraph {
+ public:
+    static constexpr const char* cornerToolTip =
+        "Left click to reset the drawing area: Right click to change the ruler mode.";
+
+    /// Arranges the children and paints the page with the designed properties. The window is called while
+    /// this runs. Raises what an unreadable suite configuration or a designed value of the wrong kind raises.
+    PolarGraph(ControlWindow& window, Host& host, const PropertyBag& designed = {});
+    PolarGraph(const PolarGraph&) = delete;
+    PolarGraph& operator=(const PolarGraph&) = delete;
+
+    PolarGraphEvents events;
+
+    float AspectRatio() const { return settings_.AspectRatio; }
+    /// Above 0 and up to 5; another value is refused with a message and the old one stays. Four decimals.
+    void AspectRatio(float value);
+
+    bool AutoUpdate() const { return own_.AutoUpdate; }
+    /// Chosen at design time; raises 387.
+    void AutoUpdate(bool value);
+
+    Colour BackColor() const { return settings_.BackColor; }
+    void BackColor(Colour value);
+
+    const std::string& Comment() const { return own_.Comment; }
+    void Comment(const std::string& value);
+
+    std::int16_t OffsetDrawingAreaX() const { return page_.OffsetDrawingAreaX; }
+    void OffsetDrawingAreaX(std::int16_t value);
+    std::int16_t OffsetDrawingAreaY() const { return page_.OffsetDrawingAreaY; }
+    void OffsetDrawingAreaY(std::int16_t value);
+
+    PicturePointer MouseIcon() const { return own_.MouseIcon; }
+    void MouseIcon(PicturePointer value);
+    std::int16_t MousePointer() const { return own_.MousePointer; }
+    void MousePointer(std::int16_t value);
+
+    PicturePointer Picture() const { return settings_.Picture; }
+    void Picture(PicturePointer value);
+    std::int32_t PictureStyle() const { return settings_.PictureStyle; }
+    void PictureStyle(std::int32_t value);
+
+    zg::Polar& Polar() { return polar_; }
+    const zg::Polar& Polar() const { return polar_; }
+    void Polar(const zg::Polar& value);
+    zg::Plot& Plot() { return plot_; }
+    const zg::Plot& Plot() const { return plot_; }
+    void Plot(zg::Plot value);
+
+    std::int32_t ScrollBars() const { return page_.ScrollBars; }
+    void ScrollBars(std::int32_t value);
+
+    std::int32_t SetActiveTool() const { return own_.SetActiveTool; }
+    /// A new value ends the old tool: its shapes and the selection are hidden.
+    void SetActiveTool(std::int32_t value);
+
+    std::int32_t SetRulerMode() const { return own_.SetRulerMode; }
+    void SetRulerMode(std::int32_t value);
+
+    bool ShowCoordinateSystem() const { return settings_.ShowCoordinateSystem; }
+    void ShowCoordinateSystem(bool value);
+    std::int32_t ShowGrid() const { return settings_.ShowGrid; }
+    void ShowGrid(std::int32_t value);
+    bool ShowLabel() const { return settings_.ShowLabel; }
+    void ShowLabel(bool value);
+    bool ShowLegend() const { return settings_.ShowLegend; }
+    void ShowLegend(bool value);
+    bool ShowRuler() const { return page_.ShowRuler; }
+    void ShowRuler(bool value);
+
+    bool StopAni() const { return own_.StopAni; }
+    void StopAni(bool value);
+
+    std::int16_t Zoom() const { return settings_.Zoom; }
+    void Zoom(std::int16_t value);
+
+    /// A selection is shown and does not measure 1 by 1.
+    bool ActiveSelection() const;
+
+    /// Clears the page; tables and objects stay.
+    void ClearGraph();
+
+    /// Loads the file into the tables and, if it was accepted, refreshes. The result is always 0; see
+    /// lastOpenOutcome. Errors of a broken file reach the caller with the tables partly filled.
+    std::int16_t OpenFreqFile(const std::string& path);
+
+    /// What became of the last OpenFreqFile; Refused where it ended in an error.
+    FreqFileOutcome lastOpenOutcome() const { return lastOpenOutcome_; }
+
+    void Refresh();
+
+    /// A left click on the corner.
+    void ResetDrawingArea();
+
+    void ShowAbout();
+
+    /// All properties that can be kept, under their own names. Polar and Plot are no part of it.
+    void ReadProperties(const PropertyBag& bag);
+    void WriteProperties(PropertyBag& bag) const;
+
+    /// While suspended nothing repaints, so that several properties can change under one Refresh.
+    void suspendUpdates(bool suspended) { suspended_ = suspended; }
+
+    /// The control's inner size in pixels is new.
+    void layout(int width, int height);
+
+    /// The scroll bars' values are new; kept within their ranges.
+    void scrollTo(int horizontal, int vertical);
+
+    /// picRulerJ was pressed: left resets the drawing area, right changes the ruler mode.
+    void cornerPressed(std::int16_t button);
+
+    const ChildSurfaces& surfaces() const { return surfaces_; }
+    const ScrollRange& horizontalScroll() const { return horizontalScroll_; }
+    const ScrollRange& verticalScroll() const { return verticalScroll_; }
+
+    /// Of the last redraw; all 0 before the first.
+    const PolarGeometry& geometry() const { return geometry_; }
+
+ private:
+    void RedrawGraph(std::int16_t mode);
+    void drawCurves();
+    void changed() { window_.propertyChanged(); }
+    void changedOnPage();
+    void resizePage();
+    void movePage();
+    void arrangeChildren();
+    void endTool();
+
+    ControlWindow& window_;
+    Host& host_;
+    zg::Polar polar_;
+    zg::Plot plot_;
+    PlotSettings settings_;
+    ControlProperties own_;
+    PageLayout page_;
+    ChildSurfaces surfaces_;
+    ScrollRange horizontalScroll_;
+    ScrollRange verticalScroll_;
+    PolarGeometry geometry_;
+
+    bool suspended_ = false;
+    FreqFileOutcome lastOpenOutcome_ = FreqFileOutcome::Refused;
 };
 
 }  // namespace zg

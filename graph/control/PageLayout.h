@@ -1,0 +1,74 @@
+#pragma once
+
+// Where the child surfaces of the control lie. The work area is the whole control; rulers and scroll bars lie
+// over it along the edges, and the page lies on it at its offset.
+
+#include <cstdint>
+
+namespace zg {
+
+/// Place and visibility of a child surface, in pixels. The rulers lie within their holders; shpSelect,
+/// shpCircle and the crosshair lie within the page; all others within the control.
+struct ChildSurface {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+    bool visible = false;
+    bool operator==(const ChildSurface&) const = default;
+};
+
+struct ChildSurfaces {
+    ChildSurface picScroll;    ///< filler between the two scroll bars
+    ChildSurface hsScroll;     ///< along the bottom
+    ChildSurface vsScroll;     ///< along the right
+    ChildSurface picHolderRV;  ///< left edge, holds picRulerV
+    ChildSurface picRulerV;
+    ChildSurface picHolderRH;  ///< top edge, holds picRulerH
+    ChildSurface picRulerH;
+    ChildSurface picRulerJ;  ///< corner where the rulers join
+    ChildSurface picGraph;   ///< the page
+    ChildSurface picShadow;
+    ChildSurface picBuffer;  ///< never shown
+    ChildSurface lblTrackAngle;
+    ChildSurface shpSelect;
+    ChildSurface shpCircle;
+    ChildSurface linCrossH;
+    ChildSurface linCrossV;
+};
+
+/// A scroll bar's range and position, in pixels of the work area. The range always holds 0.
+struct ScrollRange {
+    int minimum = 0;
+    int maximum = 0;
+    int value = 0;
+    int smallChange = 10;
+    int largeChange = 1;
+    bool operator==(const ScrollRange&) const = default;
+};
+
+constexpr int rulerThickness = 20;
+constexpr int scrollBarThickness = 17;
+constexpr int shadowOffset = 3;
+constexpr int cornerGap = 5;
+
+/// Width and height of the square page at that zoom in percent, at least 1.
+int pageSize(std::int16_t zoom);
+
+/// What the arrangement depends on.
+struct PageLayout {
+    int width = 0;  ///< of the control
+    int height = 0;
+    std::int32_t ScrollBars = 3;  ///< 1 horizontal, 2 vertical, 3 both, else none
+    bool ShowRuler = false;
+    int page = 300;                       ///< width and height of the page, at least 1
+    std::int16_t OffsetDrawingAreaX = 0;  ///< top left of the page within the work area, before scrolling
+    std::int16_t OffsetDrawingAreaY = 0;
+};
+
+/// Arranges scroll bars, rulers, page and shadow. The scroll ranges follow the page, their values are kept
+/// within them, and the page is shifted by the values. Other surfaces stay as they are.
+void arrange(const PageLayout& layout, ChildSurfaces& surfaces, ScrollRange& horizontal,
+             ScrollRange& vertical);
+
+}  // namespace zg

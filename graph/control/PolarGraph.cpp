@@ -1,0 +1,172 @@
+#include "graph/control/PolarGraph.h"
+
+#include "base/Numbers.h"
+#include "base/RunTimeError.h"
+#include "graph/control/CreatePolar.h"
+#include "graph/frq/ModPolarGraph.h"
+#include "graph/render/RedrawGraph.h"
+
+namespace zg {
+
+namespace {
+
+constexpr std::int16_t curvesAndRulers = 3;
+
+}  // namespace
+
+PolarGraph::PolarGraph(ControlWindow& window, Host& host, const PropertyBag& designed)
+    : window_(window), host_(host), polar_(createPolar(modPolarGraph)) {
+    ReadProperties(designed);
+}
+
+void PolarGraph::AspectRatio(float value) {
+    const auto refuse = [this](const char* text) {
+        host_.showBox({text, "Polar Graph", BoxIcon::Warning, BoxButtons::Ok});
+    };
+    if (!(value > 0)) return refuse("The AspectRatio value must be greater than 0.");
+    if (!(value <= 5)) return refuse("The AspectRatio value must be less than or equal to 5.");
+    const float rounded = toSingle(roundHalfEven(static_cast<double>(value), 4));
+    settings_.AspectRatio = rounded == 0 ? 0.0001F : rounded;
+    changedOnPage();
+}
+
+void PolarGraph::AutoUpdate(bool) { raise(ErrorNumber::SetNotPermitted); }
+
+void PolarGraph::BackColor(Colour value) {
+    settings_.BackColor = value;
+    changedOnPage();
+}
+
+void PolarGraph::Comment(const std::string& value) {
+    own_.Comment = value;
+    changed();
+}
+
+void PolarGraph::MouseIcon(PicturePointer value) {
+    own_.MouseIcon = std::move(value);
+    window_.pointerChanged();
+    changed();
+}
+
+void PolarGraph::MousePointer(std::int16_t value) {
+    own_.MousePointer = value;
+    window_.pointerChanged();
+    changed();
+}
+
+void PolarGraph::Picture(PicturePointer value) {
+    settings_.Picture = std::move(value);
+    changed();
+    if (settings_.Picture) RedrawGraph(curvesAndRulers);
+}
+
+void PolarGraph::PictureStyle(std::int32_t value) {
+    settings_.PictureStyle = value;
+    changed();
+    if (settings_.Picture) RedrawGraph(curvesAndRulers);
+}
+
+void PolarGraph::Polar(const zg::Polar& value) {
+    polar_ = value;
+    changed();
+}
+
+void PolarGraph::Plot(zg::Plot value) {
+    plot_ = std::move(value);
+    changed();
+}
+
+void PolarGraph::SetActiveTool(std::int32_t value) {
+    if (value == own_.SetActiveTool) return;
+    endTool();
+    own_.SetActiveTool = value;
+    changed();
+}
+
+void PolarGraph::SetRulerMode(std::int32_t value) {
+    own_.SetRulerMode = value;
+    window_.rulersChanged();
+    changed();
+}
+
+void PolarGraph::ShowCoordinateSystem(bool value) {
+    settings_.ShowCoordinateSystem = value;
+    changedOnPage();
+}
+
+void PolarGraph::ShowGrid(std::int32_t value) {
+    settings_.ShowGrid = value;
+    changedOnPage();
+}
+
+void PolarGraph::ShowLabel(bool value) {
+    settings_.ShowLabel = value;
+    changedOnPage();
+}
+
+void PolarGraph::ShowLegend(bool value) {
+    settings_.ShowLegend = value;
+    changedOnPage();
+}
+
+void PolarGraph::StopAni(bool value) {
+    own_.StopAni = value;
+    changed();
+}
+
+bool PolarGraph::ActiveSelection() const {
+    const ChildSurface& selection = surfaces_.shpSelect;
+    return selection.visible && !(selection.width == 1 && selection.height == 1);
+}
+
+void PolarGraph::ClearGraph() {
+    window_.pageCanvas().clear(settings_.BackColor);
+    window_.pagePainted();
+}
+
+std::int16_t PolarGraph::OpenFreqFile(const std::string& path) {
+    lastOpenOutcome_ = FreqFileOutcome::Refused;
+    lastOpenOutcome_ = loadFreqFile(path, modPolarGraph, host_);
+    if (lastOpenOutcome_ == FreqFileOutcome::Loaded) Refresh();
+    return 0;
+}
+
+void PolarGraph::Refresh() { RedrawGraph(curvesAndRulers); }
+
+void PolarGraph::ShowAbout() { window_.showAbout("About"); }
+
+void PolarGraph::RedrawGraph(std::int16_t mode) {
+    if (!own_.AutoUpdate || suspended_) return;
+    try {
+        redrawFrame(settings_, polar_, modPolarGraph, window_.pageCanvas(), geometry_);
+    } catch (...) {
+        window_.pagePainted();  // what an error left is what the page shows
+        throw;
+    }
+    window_.pagePainted();
+    const AfterFrame after = afterFrame(mode);
+    if (after.curves) drawCurves();
+    if (after.rulers) window_.rulersChanged();
+}
+
+void PolarGraph::drawCurves() {
+    const std::int32_t count = plot_.Count();
+    for (std::int32_t i = 1; i <= count; ++i) {
+        if (!plot_.Item(i).Visible) continue;
+        std::int16_t index = toInt16(static_cast<double>(i));
+        if (events.BeforeGraph) events.BeforeGraph(index);
+    }
+}
+
+void PolarGraph::changedOnPage() {
+    changed();
+    RedrawGraph(curvesAndRulers);
+}
+
+void PolarGraph::endTool() {
+    for (ChildSurface* shape : {&surfaces_.shpCircle, &surfaces_.shpSelect}) shape->visible = false;
+    for (ChildSurface* cross : {&surfaces_.linCrossH, &surfaces_.linCrossV}) *cross = {};
+    window_.layoutChanged();
+}
+
+}  // namespace zg

@@ -1,0 +1,24 @@
+#include "graph/control/SuiteConfiguration.h"
+
+#include "base/Lines.h"
+#include "base/Paths.h"
+#include "base/Text.h"
+
+namespace zg {
+
+void readSuiteWorkDir(const std::string& path, std::string& workDir) {
+    const std::string file = existingFile(path);
+    if (file.empty()) {
+        workDir.clear();
+        return;
+    }
+    LineReader reader(file);
+    while (!reader.atEnd()) {
+        const Pieces pieces = split(reader.readLine(), "=");
+        if (pieces.size() < 2 || trimmed(pieces[0]) != "WorkDir") continue;
+        workDir = trim(pieces[1]);
+        return;
+    }
+}
+
+}  // namespace zg
