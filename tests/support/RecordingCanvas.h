@@ -1,0 +1,168 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "graph/render/Canvas.h"
+
+namespace zg {
+
+void PrintTo(const Point& point, std::ostream* out);
+void PrintTo(const Rect& rect, std::ostream* out);
+void PrintTo(const TextStyle& style, std::ostream* out);
+void PrintTo(const LineStyle& style, std::ostream* out);
+
+}  // namespace zg
+
+/// The drawing commands as plain data.
+namespace drawn {
+
+struct Clear {
+    zg::Colour colour;
+    bool operator==(const Clear&) const = default;
+};
+struct KeepPicture {
+    bool operator==(const KeepPicture&) const = default;
+};
+struct Blit {
+    const zg::Picture* picture;
+    zg::Rect target;
+    bool operator==(const Blit&) const = default;
+};
+struct BlitMasked {
+    const zg::Picture* picture;
+    const zg::Picture* mask;
+    zg::Rect target;
+    bool operator==(const BlitMasked&) const = default;
+};
+struct FillRectangle {
+    zg::Rect rectangle;
+    zg::Colour colour;
+    bool operator==(const FillRectangle&) const = default;
+};
+struct Circle {
+    zg::Point centre;
+    double radius;
+    zg::Colour colour;
+    bool operator==(const Circle&) const = default;
+};
+struct Disc {
+    zg::Point centre;
+    double radius;
+    zg::Colour fill;
+    zg::Colour outline;
+    bool operator==(const Disc&) const = default;
+};
+struct Line {
+    zg::Point from;
+    zg::Point to;
+    zg::LineStyle style;
+    bool operator==(const Line&) const = default;
+};
+struct Pie {
+    zg::Point centre;
+    double radius;
+    double start;
+    double end;
+    zg::Colour fill;
+    zg::Colour outline;
+    bool operator==(const Pie&) const = default;
+};
+struct FillPolygon {
+    std::vector<zg::Point> corners;
+    zg::Colour colour;
+    bool operator==(const FillPolygon&) const = default;
+};
+struct Text {
+    zg::Point at;
+    std::string text;
+    zg::TextStyle style;
+    bool operator==(const Text&) const = default;
+};
+
+using Command = std::variant<Clear, KeepPicture, Blit, BlitMasked, FillRectangle, Circle, Disc, Line, Pie,
+                             FillPolygon, Text>;
+
+/// The command's kind and values, for the messages of failed tests.
+std::string describe(const Command& command);
+
+void PrintTo(const Clear& command, std::ostream* out);
+void PrintTo(const KeepPicture& command, std::ostream* out);
+void PrintTo(const Blit& command, std::ostream* out);
+void PrintTo(const BlitMasked& command, std::ostream* out);
+void PrintTo(const FillRectangle& command, std::ostream* out);
+void PrintTo(const Circle& command, std::ostream* out);
+void PrintTo(const Disc& command, std::ostream* out);
+void PrintTo(const Line& command, std::ostream* out);
+void PrintTo(const Pie& command, std::ostream* out);
+void PrintTo(const FillPolygon& command, std::ostream* out);
+void PrintTo(const Text& command, std::ostream* out);
+
+}  // namespace drawn
+
+/// Keeps every drawing command in a list. Its text metrics are fixed: a character is 6 wide at size 8 and
+/// grows with the size, a line is one and a half sizes high, an empty text too.
+class RecordingCanvas : public zg::Canvas {
+ public:
+    explicit RecordingCanvas(double width = 300, double height = 300) : width_(width), height_(height) {}
+
+    std::vector<drawn::Command> commands;
+
+    /// The commands of one kind, in order.
+    template <typename T>
+    std::vector<T> all() const {
+        std::vector<T> found;
+        for (const drawn::Command& command : commands)
+            if (const T* one = std::get_if<T>(&command)) found.push_back(*one);
+        return found;
+    }
+
+    /// The texts written, in order.
+    std::vector<std::string> texts() const;
+
+    /// The first text that reads so; fails the test where none does.
+    drawn::Text textReading(const std::string& text) const;
+
+    /// The kinds of all commands in order, runs of one kind counted: "Clear", "Line x64".
+    std::vector<std::string> kinds() const;
+
+    /// The surface's size from now on.
+    void resize(double width, double height);
+
+    double width() const override { return width_; }
+    double height() const override { return height_; }
+    void clear(zg::Colour colour) override;
+    void keepPicture() override;
+    void blit(const zg::Picture& picture, const zg::Rect& target) override;
+    void blitMasked(const zg::Picture& picture, const zg::Picture& mask, const zg::Rect& target) override;
+    void fillRectangle(const zg::Rect& rectangle, zg::Colour colour) override;
+    void circle(zg::Point centre, double radius, zg::Colour colour) override;
+    void disc(zg::Point centre, double radius, zg::Colour fill, zg::Colour outline) override;
+    void line(zg::Point from, zg::Point to, const zg::LineStyle& style) override;
+    void pie(zg::Point centre, double radius, double start, double end, zg::Colour fill,
+             zg::Colour outline) override;
+    void fillPolygon(const std::vector<zg::Point>& corners, zg::Colour colour) override;
+    void setTextPosition(zg::Point position) override { position_ = position; }
+    zg::Point textPosition() const override { return position_; }
+    void text(const std::string& text, const zg::TextStyle& style) override;
+    zg::TextSize measure(const std::string& text, const zg::TextStyle& style) const override;
+
+ private:
+    double width_;
+    double height_;
+    zg::Point position_;
+};
+
+/// A picture that has nothing but a size.
+class BlankPicture : public zg::Picture {
+ public:
+    BlankPicture(int width, int height) : width_(width), height_(height) {}
+    int width() const override { return width_; }
+    int height() const override { return height_; }
+
+ private:
+    int width_;
+    int height_;
+};
