@@ -1,0 +1,43 @@
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "graph/control/PolarGraph.h"
+#include "tests/support/RecordingCanvas.h"
+
+/// A window without a toolkit: it keeps what the control asked of it, in order, and its page records.
+class FakeWindow : public zg::ControlWindow {
+ public:
+    RecordingCanvas canvas{1, 1};
+    std::vector<std::string> calls;
+    std::vector<std::pair<int, int>> pageSizes;
+    std::string aboutTitle;
+
+    /// How often a call came since the last forget.
+    long count(const std::string& call) const { return std::count(calls.begin(), calls.end(), call); }
+
+    /// Whole frames painted since the last forget.
+    std::size_t frames() const { return canvas.all<drawn::KeepPicture>().size(); }
+
+    void forget() {
+        calls.clear();
+        pageSizes.clear();
+        canvas.commands.clear();
+    }
+
+    zg::Canvas& pageCanvas() override { return canvas; }
+    void pageResized(int width, int height) override {
+        calls.emplace_back("pageResized");
+        pageSizes.emplace_back(width, height);
+        canvas.resize(width, height);
+    }
+    void layoutChanged() override { calls.emplace_back("layoutChanged"); }
+    void rulersChanged() override { calls.emplace_back("rulersChanged"); }
+    void pagePainted() override { calls.emplace_back("pagePainted"); }
+    void propertyChanged() override { calls.emplace_back("propertyChanged"); }
+    void pointerChanged() override { calls.emplace_back("pointerChanged"); }
+    void showAbout(const std::string& title) override { aboutTitle = title; }
+};

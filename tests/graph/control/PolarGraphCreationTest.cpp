@@ -1,0 +1,109 @@
+#include <gtest/gtest.h>
+
+#include "graph/control/CreatePolar.h"
+#include "tests/graph/control/PolarGraphFixture.h"
+
+namespace zg {
+namespace {
+
+class PolarGraphCreation : public PolarGraphFixture {};
+
+TEST_F(PolarGraphCreation, ReadiesTheTablesForOneRoseWithoutAFile) {
+    modPolarGraph.CurrentRose = 7;
+    modPolarGraph.FrqRoseCount = 9;
+    modPolarGraph.FrqCalmPercent.redim(9);
+    const PolarGraph graph(window, host);
+    EXPECT_EQ(modPolarGraph.CurrentRose, 1);
+    EXPECT_EQ(modPolarGraph.FrqRoseCount, 1);
+    EXPECT_EQ(modPolarGraph.FrqCalmPercent.size(), 2U);
+    EXPECT_EQ(modPolarGraph.FrqCalmPercent(1), "");
+    EXPECT_FALSE(modPolarGraph.FrqLoaded);
+}
+
+TEST_F(PolarGraphCreation, FillsTheFactoryStyle) {
+    const PolarGraph graph(window, host);
+    EXPECT_EQ(modPolarGraph.DirectionFont, (FontRecord{0, "Arial", 8, true, false}));
+    EXPECT_EQ(modPolarGraph.PercentFont, (FontRecord{0, "Arial", 7, false, false}));
+    EXPECT_EQ(modPolarGraph.GridLineColor, 14737632.0F);
+    EXPECT_EQ(modPolarGraph.WindClassColor, (std::array<float, 6>{255, 65280, 16711680, 65535, 16776960, 0}));
+}
+
+TEST_F(PolarGraphCreation, KeepsFontsThatHaveBeenChosen) {
+    modPolarGraph.LegendFont = {255, "Courier", 9, true, true};
+    const PolarGraph graph(window, host);
+    EXPECT_EQ(modPolarGraph.LegendFont, (FontRecord{255, "Courier", 9, true, true}));
+    EXPECT_EQ(modPolarGraph.LabelFont, (FontRecord{0, "Arial", 8, false, false}));
+}
+
+TEST_F(PolarGraphCreation, ReadsTheWorkingDirectoryOfTheSuite) {
+    directory.write("orbita.cfg", "Name=Suite\r\nWorkDir = /data/work \r\n");
+    const PolarGraph graph(window, host);
+    EXPECT_EQ(modPolarGraph.WorkDir, "/data/work");
+}
+
+TEST_F(PolarGraphCreation, WithoutTheSuitesFileThereIsNoWorkingDirectory) {
+    modPolarGraph.WorkDir = "/old";
+    const PolarGraph graph(window, host);
+    EXPECT_EQ(modPolarGraph.WorkDir, "");
+}
+
+TEST_F(PolarGraphCreation, PlacesThePageAndItsShadowAndShowsIt) {
+    const PolarGraph graph(window, host);
+    EXPECT_EQ(graph.surfaces().picGraph, (ChildSurface{0, 0, 300, 300, true}));
+    EXPECT_EQ(graph.surfaces().picShadow, (ChildSurface{3, 3, 300, 300, true}));
+    EXPECT_EQ(window.pageSizes, (std::vector<std::pair<int, int>>{{300, 300}}));
+}
+
+TEST_F(PolarGraphCreation, AppliesTheDesignedProperties) {
+    PropertyBag bag;
+    bag.WriteProperty("ShowRuler", "True");
+    bag.WriteProperty("OffsetDrawingAreaX", "40");
+    bag.WriteProperty("OffsetDrawingAreaY", "30");
+    bag.WriteProperty("ScrollBars", "1");
+    bag.WriteProperty("Zoom", "100");
+    const PolarGraph graph(window, host, bag);
+    EXPECT_TRUE(graph.surfaces().picRulerJ.visible);
+    EXPECT_TRUE(graph.surfaces().hsScroll.visible);
+    EXPECT_FALSE(graph.surfaces().vsScroll.visible);
+    EXPECT_EQ(graph.surfaces().picGraph, (ChildSurface{40, 30, 600, 600, true}));
+    EXPECT_EQ(graph.surfaces().picShadow, (ChildSurface{43, 33, 600, 600, true}));
+}
+
+TEST_F(PolarGraphCreation, PaintsThePageAfterItHasItsSizeAndLeavesTheStoreClean) {
+    const PolarGraph graph(window, host);
+    EXPECT_EQ(window.frames(), 1U);
+    EXPECT_EQ(graph.geometry().CentreX, 150.0F);
+    EXPECT_EQ(window.count("propertyChanged"), 0);
+}
+
+TEST_F(PolarGraphCreation, ControlWithoutAutoUpdateNeverPaints) {
+    PropertyBag bag;
+    bag.WriteProperty("AutoUpdate", "False");
+    PolarGraph graph(window, host, bag);
+    EXPECT_FALSE(graph.AutoUpdate());
+    graph.Refresh();
+    graph.Zoom(100);
+    graph.AspectRatio(2);
+    EXPECT_TRUE(window.canvas.commands.empty());
+    EXPECT_EQ(window.count("pagePainted"), 0);
+    EXPECT_EQ(graph.geometry().UnitLength, 0.0F);
+    EXPECT_EQ(graph.AspectRatio(), 2.0F);
+    EXPECT_EQ(window.pageSizes.back(), (std::pair<int, int>{600, 600}));
+}
+
+TEST_F(PolarGraphCreation, NamesTheCornersToolTip) {
+    EXPECT_STREQ(PolarGraph::cornerToolTip,
+                 "Left click to reset the drawing area: Right click to change the ruler mode.");
+}
+
+TEST_F(PolarGraphCreation, PolarAloneReadiesTheTablesThatItIsGiven) {
+    ModPolarGraph tables;
+    const Polar polar = createPolar(tables);
+    EXPECT_EQ(polar.Radius, 5.0F);
+    EXPECT_EQ(tables.FrqRoseCount, 1);
+    EXPECT_EQ(tables.LabelFont.name, "Arial");
+    EXPECT_EQ(modPolarGraph.FrqRoseCount, 0);
+}
+
+}  // namespace
+}  // namespace zg
