@@ -1,0 +1,69 @@
+#include "processing/Directories.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "base/Numbers.h"
+
+namespace zg {
+
+FileCounts fileCounts;
+
+namespace {
+
+/// A longer path opens nowhere, and walking up its levels would only cost time.
+constexpr std::size_t longestPath = 4096;
+
+bool endsInSeparator(std::string_view path, char separator) {
+    return path.ends_with(separator) || path.ends_with('\\');
+}
+
+}  // namespace
+
+std::string withSeparator(std::string_view directory, char separator) {
+    std::string out(directory);
+    if (!endsInSeparator(directory, separator)) out += separator;
+    return out;
+}
+
+bool MakeDirectoryTree(std::string_view path, char separator) {
+    if (path.size() > longestPath) return false;
+    if (IsDirectory(std::string(path))) return true;
+    if (endsInSeparator(path, separator)) path.remove_suffix(1);
+    if (path.empty()) return false;
+
+    // From the path upwards to the first level that is there; no level left is the root or the current one.
+    std::vector<std::size_t> missing;
+    for (std::string level(path); !level.empty() && !IsDirectory(level); level = DirOf(level, separator))
+        missing.push_back(level.size());
+    for (; !missing.empty(); missing.pop_back()) {
+        const std::string level(path.substr(0, missing.back()));
+        std::error_code error;
+        std::filesystem::create_directory(level, error);
+        if (error || !IsDirectory(level)) return false;
+    }
+    return true;
+}
+
+void AskCreateWorkDir(Host& host, const WorkDirCaller& caller, const std::string& directory) {
+    const BoxAnswer answer =
+        host.showBox({.text = "The Working Directory " + directory +
+                              " does not exist.  Would you like to create this directory?",
+                      .title = "Create Directory?",
+                      .icon = BoxIcon::Question,
+                      .buttons = BoxButtons::YesNo});
+    if (answer != BoxAnswer::Yes || !MakeDirectoryTree(directory)) return;
+    caller.clearWorkDirBox();
+    caller.restart();
+}
+
+std::vector<std::string> FindFiles(std::string_view caller, const std::string& pattern) {
+    std::vector<std::string> names = filesMatching(pattern);
+    const std::int16_t count = toInt16(static_cast<double>(names.size()));
+    if (caller == "BatchMode") fileCounts.BatchFileCount = count;
+    if (caller == "CreateReport") fileCounts.ReportFileCount = count;
+    if (names.empty()) names.emplace_back();
+    return names;
+}
+
+}  // namespace zg

@@ -1,0 +1,32 @@
+#pragma once
+
+// Text of headers and fields: blanks, quotes, columns, latitudes and longitudes.
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/Text.h"
+
+namespace zg {
+
+/// Trimmed, with single blanks between the words. The argument is consumed: it is empty afterwards.
+std::string SqueezeBlanks(std::string& text);
+
+/// Trimmed and without double quotes. The argument is consumed: it is empty afterwards.
+std::string RemoveQuotes(std::string& text);
+
+/// Index of the first field that equals the key once the field is trimmed, -1 where there is none.
+int FindColumn(std::string_view key, const std::vector<std::string>& fields);
+int FindColumn(std::string_view key, const Pieces& fields);
+
+/// "45.5N" is 45.5 and "45.5S" is -45.5: the number before the last character, turned for "S" (or "W").
+/// Raises 13 where that is no number, 5 for an empty text.
+double LatToNumber(std::string_view text);
+double LonToNumber(std::string_view text);
+
+/// The absolute value followed by "N" or, below 0, "S" ("E" or "W"). The argument becomes its absolute value.
+std::string LatToText(double& value);
+std::string LonToText(double& value);
+
+}  // namespace zg

@@ -1,0 +1,38 @@
+#include "processing/TextViewer.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "base/Lines.h"
+#include "base/RunTimeError.h"
+#include "processing/Directories.h"
+#include "processing/Wait.h"
+
+namespace zg {
+
+namespace {
+
+/// Time for the disk before the start, and for the shell to have read the batch file after it.
+constexpr std::int32_t pauseMs = 500;
+
+void writeBatchFile(const std::string& batchFile, const std::string& path) {
+    LineWriter out(batchFile);
+    out.writeLine("notepad \"" + path + "\"");
+    out.close();
+}
+
+}  // namespace
+
+void ViewTextFile(Host& host, ProcessStarter& starter, const std::string& path, const std::string& directory,
+                  char separator) {
+    const std::string batchFile = withSeparator(directory, separator) + "open_file.bat";
+    writeBatchFile(batchFile, path);
+    WaitMs(host, pauseMs);
+    starter.start(batchFile, WindowStyle::Hidden);
+    WaitMs(host, pauseMs);
+    std::error_code error;
+    std::filesystem::remove(batchFile, error);
+    if (error) raiseFileError(error.value());
+}
+
+}  // namespace zg

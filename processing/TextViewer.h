@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+#include "base/Host.h"
+#include "base/Paths.h"
+#include "processing/ProcessStarter.h"
+
+namespace zg {
+
+/// Shows a text file in the platform's viewer by way of the batch file open_file.bat, which lies in the
+/// directory for the second that this takes. Raises the error of a file that cannot be written or deleted.
+void ViewTextFile(Host& host, ProcessStarter& starter, const std::string& path, const std::string& directory,
+                  char separator = pathSeparator);
+
+}  // namespace zg
