@@ -1,0 +1,43 @@
+#pragma once
+
+// The process-wide settings and run values that every dialog reads and writes directly. Fonts, colours, the
+// legend's unit and the working directory live with the plot's tables in modPolarGraph.
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace zg {
+
+using MonthTexts = std::array<std::string, 12>;  ///< January at 0
+using ClassTexts = std::array<std::string, 6>;
+
+struct Settings {
+    std::string CfgFilePath;  ///< Zephyrgraph.cfg in the program's directory
+
+    std::string DefaultTimeZone;  ///< label of the time zone offered first
+    MonthTexts SeasonOfMonth;
+    MonthTexts CustomSeasonOfMonth;
+    ClassTexts WindClassMin;      ///< lower bounds of the speed classes in m/s, as typed
+    std::string ZoomPercentText;  ///< "100"
+    std::int16_t ZoomListIndex = 0;
+    std::string RadiusText;  ///< "25%"
+
+    ClassTexts DefaultWindClassMin = {"0.5", "1.8", "3.3", "5.4", "8.5", "10.8"};
+
+    // Derived values as the control file takes them. They hold from one accepted dialog to the next, whatever
+    // happens to the texts above meanwhile.
+    MonthTexts SeasonNames;  ///< the first SeasonCount count
+    std::int16_t SeasonCount = 0;
+    std::array<std::int16_t, 12> MonthSeasonIndex{};  ///< from 1
+    std::string MonthSeasonString;                    ///< "1,1,2,2,2,3,3,3,4,4,4,1"
+    std::string WindClassString;                      ///< "0.5,1.8,3.3,5.4,8.5,10.8"
+
+    std::string CurrentFrqPath;    ///< file on show, "" before the first
+    bool BatchMode = false;        ///< the open command takes BatchFRQFilename and asks nothing
+    std::string BatchFRQFilename;  ///< full path
+};
+
+extern Settings settings;
+
+}  // namespace zg
