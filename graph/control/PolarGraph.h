@@ -195,6 +195,12 @@ class PolarGraph {
     /// picRulerJ was pressed: left resets the drawing area, right changes the ruler mode.
     void cornerPressed(std::int16_t button);
 
+    /// The pointer on the page, in its pixels. Each is passed on to the host first; every move then tells the
+    /// tracked position.
+    void mouseDown(std::int16_t button, std::int16_t shift, float x, float y);
+    void mouseMove(std::int16_t button, std::int16_t shift, float x, float y);
+    void mouseUp(std::int16_t button, std::int16_t shift, float x, float y);
+
     const ChildSurfaces& surfaces() const { return surfaces_; }
     const ScrollRange& horizontalScroll() const { return horizontalScroll_; }
     const ScrollRange& verticalScroll() const { return verticalScroll_; }
@@ -211,6 +217,7 @@ class PolarGraph {
     void movePage();
     void arrangeChildren();
     void endTool();
+    void raiseTrackPosition(float x, float y);
 
     ControlWindow& window_;
     Host& host_;

@@ -1,0 +1,147 @@
+#include "platform/PageWidget.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <array>
+#include <utility>
+
+#include "platform/Errors.h"
+#include "platform/QtPicture.h"
+
+namespace zg {
+
+namespace {
+
+constexpr std::int16_t customPointer = 99;
+
+std::int16_t buttonNumber(Qt::MouseButtons buttons) {
+    std::int16_t number = 0;
+    if (buttons.testFlag(Qt::LeftButton)) number |= 1;
+    if (buttons.testFlag(Qt::RightButton)) number |= 2;
+    if (buttons.testFlag(Qt::MiddleButton)) number |= 4;
+    return number;
+}
+
+std::int16_t shiftState(Qt::KeyboardModifiers modifiers) {
+    std::int16_t state = 0;
+    if (modifiers.testFlag(Qt::ShiftModifier)) state |= 1;
+    if (modifiers.testFlag(Qt::ControlModifier)) state |= 2;
+    if (modifiers.testFlag(Qt::AltModifier)) state |= 4;
+    return state;
+}
+
+Qt::CursorShape shapeOf(std::int16_t pointer) {
+    constexpr std::array<std::pair<std::int16_t, Qt::CursorShape>, 9> shapes = {{{1, Qt::ArrowCursor},
+                                                                                 {2, Qt::CrossCursor},
+                                                                                 {3, Qt::IBeamCursor},
+                                                                                 {5, Qt::SizeAllCursor},
+                                                                                 {6, Qt::SizeBDiagCursor},
+                                                                                 {7, Qt::SizeVerCursor},
+                                                                                 {8, Qt::SizeFDiagCursor},
+                                                                                 {9, Qt::SizeHorCursor},
+                                                                                 {11, Qt::WaitCursor}}};
+    for (const auto& [number, shape] : shapes)
+        if (number == pointer) return shape;
+    return Qt::ArrowCursor;
+}
+
+}  // namespace
+
+std::int16_t keyCodeOf(int key) {
+    if ((key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9) ||
+        key == Qt::Key_Space)
+        return static_cast<std::int16_t>(key);
+    if (key >= Qt::Key_F1 && key <= Qt::Key_F16) return static_cast<std::int16_t>(112 + key - Qt::Key_F1);
+    constexpr std::array<std::pair<int, std::int16_t>, 15> codes = {{{Qt::Key_Backspace, 8},
+                                                                     {Qt::Key_Tab, 9},
+                                                                     {Qt::Key_Return, 13},
+                                                                     {Qt::Key_Enter, 13},
+                                                                     {Qt::Key_Shift, 16},
+                                                                     {Qt::Key_Control, 17},
+                                                                     {Qt::Key_Escape, 27},
+                                                                     {Qt::Key_PageUp, 33},
+                                                                     {Qt::Key_PageDown, 34},
+                                                                     {Qt::Key_End, 35},
+                                                                     {Qt::Key_Home, 36},
+                                                                     {Qt::Key_Left, 37},
+                                                                     {Qt::Key_Up, 38},
+                                                                     {Qt::Key_Right, 39},
+                                                                     {Qt::Key_Down, 40}}};
+    for (const auto& [qtKey, code] : codes)
+        if (qtKey == key) return code;
+    if (key == Qt::Key_Insert) return 45;
+    return key == Qt::Key_Delete ? 46 : 0;
+}
+
+PageWidget::PageWidget(PolarGraphWidget& owner) : QWidget(&owner), owner_(owner) {
+    setObjectName(QStringLiteral("picGraph"));
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAccessibleName(QStringLiteral("Wind rose"));
+}
+
+void PageWidget::showPointer(std::int16_t pointer, const PicturePointer& icon) {
+    if (pointer == customPointer && icon)
+        setCursor(QCursor(QPixmap::fromImage(static_cast<const QtPicture&>(*icon).image())));
+    else
+        setCursor(shapeOf(pointer));
+}
+
+void PageWidget::paintEvent(QPaintEvent*) { QPainter(this).drawImage(QPointF(0, 0), owner_.pageImage()); }
+
+void PageWidget::mousePressEvent(QMouseEvent* event) {
+    guarded(owner_.host_, [this, event] {
+        owner_.graph_->mouseDown(buttonNumber(event->button()), shiftState(event->modifiers()),
+                                 static_cast<float>(event->position().x()),
+                                 static_cast<float>(event->position().y()));
+    })();
+}
+
+void PageWidget::mouseMoveEvent(QMouseEvent* event) {
+    guarded(owner_.host_, [this, event] {
+        owner_.graph_->mouseMove(buttonNumber(event->buttons()), shiftState(event->modifiers()),
+                                 static_cast<float>(event->position().x()),
+                                 static_cast<float>(event->position().y()));
+    })();
+}
+
+void PageWidget::mouseReleaseEvent(QMouseEvent* event) {
+    guarded(owner_.host_, [this, event] {
+        owner_.graph_->mouseUp(buttonNumber(event->button()), shiftState(event->modifiers()),
+                               static_cast<float>(event->position().x()),
+                               static_cast<float>(event->position().y()));
+        if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()) &&
+            owner_.graph_->events.Click)
+            owner_.graph_->events.Click();
+    })();
+}
+
+void PageWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event);
+    if (owner_.graph_->events.DblClick) guarded(owner_.host_, [this] { owner_.graph_->events.DblClick(); })();
+}
+
+void PageWidget::keyPressEvent(QKeyEvent* event) {
+    guarded(owner_.host_, [this, event] {
+        const PolarGraphEvents& events = owner_.graph_->events;
+        std::int16_t code = keyCodeOf(event->key());
+        if (events.KeyDown) events.KeyDown(code, shiftState(event->modifiers()));
+        const QByteArray characters = event->text().toLatin1();
+        for (const char character : characters) {
+            std::int16_t ascii = static_cast<unsigned char>(character);
+            if (events.KeyPress) events.KeyPress(ascii);
+        }
+    })();
+    event->ignore();  // keys the control has no use for serve the window
+}
+
+void PageWidget::keyReleaseEvent(QKeyEvent* event) {
+    guarded(owner_.host_, [this, event] {
+        std::int16_t code = keyCodeOf(event->key());
+        if (owner_.graph_->events.KeyUp) owner_.graph_->events.KeyUp(code, shiftState(event->modifiers()));
+    })();
+    event->ignore();
+}
+
+}  // namespace zg

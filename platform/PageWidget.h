@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QWidget>
+
+#include "platform/PolarGraphWidget.h"
+
+namespace zg {
+
+/// picGraph, the page: shows the drawing and passes the pointer and the keys on to the control.
+class PageWidget : public QWidget {
+ public:
+    explicit PageWidget(PolarGraphWidget& owner);
+
+    /// Pointer of the page by its number; 99 takes the picture.
+    void showPointer(std::int16_t pointer, const PicturePointer& icon);
+
+ protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+
+ private:
+    PolarGraphWidget& owner_;
+};
+
+/// A key's number as the control's events give it: letters and digits by their upper-case character, others
+/// by the usual virtual key codes; 0 for keys without one.
+std::int16_t keyCodeOf(int key);
+
+}  // namespace zg

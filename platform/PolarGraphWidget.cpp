@@ -1,0 +1,131 @@
+#include "platform/PolarGraphWidget.h"
+
+#include <QCoreApplication>
+#include <QPaintEvent>
+#include <QSignalBlocker>
+#include <QTimer>
+#include <QWheelEvent>
+
+#include "platform/Errors.h"
+#include "platform/PageWidget.h"
+#include "platform/QtText.h"
+
+namespace zg {
+
+namespace {
+
+const QColor workAreaColour(160, 160, 160);
+const QColor shadowColour(96, 96, 96);
+
+QWidget* plainSurface(QWidget* parent, const char* name, const QColor& colour) {
+    auto* surface = new QWidget(parent);
+    surface->setObjectName(QString::fromLatin1(name));
+    surface->setAutoFillBackground(true);
+    surface->setPalette(QPalette(colour));
+    return surface;
+}
+
+void place(QWidget& widget, const ChildSurface& surface) {
+    widget.setGeometry(surface.left, surface.top, surface.width, surface.height);
+    widget.setVisible(surface.visible);
+}
+
+}  // namespace
+
+PolarGraphWidget::PolarGraphWidget(Host& host, const PropertyBag& designed, QWidget* parent)
+    : QWidget(parent),
+      host_(host),
+      picShadow_(plainSurface(this, "picShadow", shadowColour)),
+      picGraph_(new PageWidget(*this)),
+      hsScroll_(new QScrollBar(Qt::Horizontal, this)),
+      vsScroll_(new QScrollBar(Qt::Vertical, this)),
+      picScroll_(new QWidget(this)) {
+    hsScroll_->setObjectName(QStringLiteral("hsScroll"));
+    vsScroll_->setObjectName(QStringLiteral("vsScroll"));
+    picScroll_->setObjectName(QStringLiteral("picScroll"));
+    picScroll_->setAutoFillBackground(true);
+    for (QScrollBar* bar : {hsScroll_, vsScroll_})
+        connect(bar, &QScrollBar::valueChanged, this, guarded(host_, [this] { scrolled(); }));
+    graph_.reset(new PolarGraph(*this, host_, designed));  // only this class may show itself as the window
+    layoutChanged();
+}
+
+PolarGraphWidget::~PolarGraphWidget() { endPainting(); }
+
+const QImage& PolarGraphWidget::pageImage() {
+    endPainting();
+    return page_;
+}
+
+Canvas& PolarGraphWidget::pageCanvas() {
+    if (page_.isNull()) pageResized(1, 1);
+    if (!canvas_) {
+        const QSizeF units = page_.deviceIndependentSize();
+        canvas_ = std::make_unique<QtCanvas>(page_, units.width(), units.height());
+    }
+    return *canvas_;
+}
+
+void PolarGraphWidget::pageResized(int width, int height) {
+    endPainting();
+    page_ = makePageImage(width, height, devicePixelRatioF());
+}
+
+void PolarGraphWidget::layoutChanged() {
+    if (!graph_) return;  // the control arranges its children before it is there to be asked
+    const ChildSurfaces& surfaces = graph_->surfaces();
+    place(*picShadow_, surfaces.picShadow);
+    place(*picGraph_, surfaces.picGraph);
+    place(*picScroll_, surfaces.picScroll);
+    placeScrollBar(*hsScroll_, surfaces.hsScroll, graph_->horizontalScroll());
+    placeScrollBar(*vsScroll_, surfaces.vsScroll, graph_->verticalScroll());
+}
+
+void PolarGraphWidget::placeScrollBar(QScrollBar& bar, const ChildSurface& surface,
+                                      const ScrollRange& range) {
+    const QSignalBlocker quiet(bar);
+    bar.setRange(range.minimum, range.maximum);
+    bar.setSingleStep(range.smallChange);
+    bar.setPageStep(range.largeChange);
+    bar.setValue(range.value);
+    place(bar, surface);
+}
+
+void PolarGraphWidget::pagePainted() {
+    endPainting();
+    picGraph_->update();
+}
+
+void PolarGraphWidget::pointerChanged() {
+    if (graph_) picGraph_->showPointer(graph_->MousePointer(), graph_->MouseIcon());
+}
+
+void PolarGraphWidget::showAbout(const std::string& title) { emit aboutRequested(shown(title)); }
+
+void PolarGraphWidget::resizeEvent(QResizeEvent*) {
+    guarded(host_, [this] { graph_->layout(width(), height()); })();
+}
+
+void PolarGraphWidget::paintEvent(QPaintEvent* event) {
+    QPainter(this).fillRect(event->rect(), workAreaColour);
+    followScreen();
+}
+
+void PolarGraphWidget::followScreen() {
+    if (qFuzzyCompare(page_.devicePixelRatio(), devicePixelRatioF())) return;
+    // The window moved to a screen of another resolution: the page is drawn anew, never scaled.
+    QTimer::singleShot(0, this, guarded(host_, [this] {
+                           const QSizeF units = page_.deviceIndependentSize();
+                           pageResized(qRound(units.width()), qRound(units.height()));
+                           graph_->Refresh();
+                       }));
+}
+
+void PolarGraphWidget::wheelEvent(QWheelEvent* event) {
+    QScrollBar* bar = event->modifiers().testFlag(Qt::ShiftModifier) ? hsScroll_ : vsScroll_;
+    if (bar->isVisible()) QCoreApplication::sendEvent(bar, event);
+}
+
+void PolarGraphWidget::scrolled() { graph_->scrollTo(hsScroll_->value(), vsScroll_->value()); }
+
+}  // namespace zg

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QScrollBar>
+#include <QWidget>
+#include <memory>
+
+#include "graph/control/PolarGraph.h"
+#include "platform/QtCanvas.h"
+
+namespace zg {
+
+class PageWidget;
+
+/// The window of a PolarGraph: its child surfaces are widgets under their own names, its page an image that
+/// holds the drawing and is repainted sharp on every screen.
+class PolarGraphWidget : public QWidget, private ControlWindow {
+    Q_OBJECT
+
+ public:
+    PolarGraphWidget(Host& host, const PropertyBag& designed, QWidget* parent = nullptr);
+    ~PolarGraphWidget() override;
+
+    PolarGraph& graph() { return *graph_; }
+
+    /// What was painted on the page, at the screen's resolution.
+    const QImage& pageImage();
+
+    /// Small enough for any window; the page scrolls.
+    QSize minimumSizeHint() const override { return {200, 160}; }
+
+ signals:
+    void aboutRequested(const QString& title);
+
+ protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+ private:
+    friend class PageWidget;
+
+    Canvas& pageCanvas() override;
+    void pageResized(int width, int height) override;
+    void layoutChanged() override;
+    void rulersChanged() override {}
+    void pagePainted() override;
+    void propertyChanged() override {}
+    void pointerChanged() override;
+    void showAbout(const std::string& title) override;
+
+    void endPainting() { canvas_.reset(); }
+    void followScreen();
+    void placeScrollBar(QScrollBar& bar, const ChildSurface& place, const ScrollRange& range);
+    void scrolled();
+
+    Host& host_;
+    QImage page_;
+    std::unique_ptr<QtCanvas> canvas_;  ///< only while the page is being painted
+    QWidget* picShadow_;
+    PageWidget* picGraph_;
+    QScrollBar* hsScroll_;
+    QScrollBar* vsScroll_;
+    QWidget* picScroll_;
+    std::unique_ptr<PolarGraph> graph_;
+};
+
+}  // namespace zg

@@ -1,0 +1,192 @@
+#include "platform/QtCanvas.h"
+
+#include <QFontMetricsF>
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "platform/QtPicture.h"
+#include "platform/QtText.h"
+
+namespace zg {
+
+namespace {
+
+constexpr double layoutDotsPerInch = 96;
+constexpr double millimetresPerInch = 25.4;
+/// No page is wide enough to show more of a line than this.
+constexpr std::size_t longestText = 4096;
+/// Coordinates beyond any page: what lies further out than this cannot be seen, and the rasteriser must not
+/// meet it.
+constexpr double farOut = 1e6;
+
+double bounded(double value) {
+    if (std::isnan(value)) return 0;
+    return std::clamp(value, -farOut, farOut);
+}
+
+QPointF toQPointF(Point point) { return {bounded(point.x), bounded(point.y)}; }
+
+QRectF toQRectF(const Rect& rect) {
+    return {QPointF(bounded(rect.left), bounded(rect.top)),
+            QPointF(bounded(rect.right), bounded(rect.bottom))};
+}
+
+QRectF around(Point centre, double radius) {
+    const double r = bounded(radius);
+    return {bounded(centre.x) - r, bounded(centre.y) - r, 2 * r, 2 * r};
+}
+
+double toDegrees(double radians) { return radians * 180 / std::numbers::pi; }
+
+QPen outlinePen(Colour colour) { return {toQColor(colour), 1}; }
+
+Qt::PenStyle penStyle(std::int32_t style) {
+    switch (style) {
+        case 1:
+            return Qt::DashLine;
+        case 2:
+            return Qt::DotLine;
+        case 3:
+            return Qt::DashDotLine;
+        case 4:
+            return Qt::DashDotDotLine;
+        case 5:
+            return Qt::NoPen;
+        default:
+            return Qt::SolidLine;
+    }
+}
+
+QString shownLine(const std::string& text) {
+    return text.size() <= longestText ? shown(text) : shown(std::string_view(text).substr(0, longestText));
+}
+
+const QImage& imageOf(const Picture& picture) { return static_cast<const QtPicture&>(picture).image(); }
+
+}  // namespace
+
+QColor toQColor(Colour colour) {
+    if (colour == scrollBarColour) return {72, 72, 72};
+    if (colour == buttonFaceColour) return {240, 240, 240};
+    return {static_cast<int>(redOf(colour)), static_cast<int>(greenOf(colour)),
+            static_cast<int>(blueOf(colour))};
+}
+
+Colour fromQColor(const QColor& colour) {
+    return rgb(static_cast<unsigned>(colour.red()), static_cast<unsigned>(colour.green()),
+               static_cast<unsigned>(colour.blue()));
+}
+
+QImage makePageImage(int width, int height, double deviceScale) {
+    QImage image(static_cast<int>(std::lround(width * deviceScale)),
+                 static_cast<int>(std::lround(height * deviceScale)), QImage::Format_RGB32);
+    const int dots = static_cast<int>(std::lround(layoutDotsPerInch * 1000 / millimetresPerInch));
+    image.setDotsPerMeterX(dots);
+    image.setDotsPerMeterY(dots);
+    image.setDevicePixelRatio(deviceScale);
+    image.fill(Qt::white);
+    return image;
+}
+
+QtCanvas::QtCanvas(QPaintDevice& device, double width, double height)
+    : own_(&device), painter_(own_), width_(width), height_(height) {
+    painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                            QPainter::SmoothPixmapTransform);
+}
+
+QtCanvas::QtCanvas(QPainter& painter, double width, double height)
+    : painter_(painter), width_(width), height_(height) {
+    painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                            QPainter::SmoothPixmapTransform);
+}
+
+void QtCanvas::clear(Colour colour) {
+    painter_.fillRect(QRectF(0, 0, width_, height_), toQColor(colour));
+    position_ = {};
+}
+
+void QtCanvas::blit(const Picture& picture, const Rect& target) {
+    painter_.drawImage(toQRectF(target), imageOf(picture));
+}
+
+void QtCanvas::blitMasked(const Picture& picture, const Picture& mask, const Rect& target) {
+    QImage shownPart = imageOf(picture).convertToFormat(QImage::Format_ARGB32);
+    QImage opaque = imageOf(mask).scaled(shownPart.size()).convertToFormat(QImage::Format_Grayscale8);
+    opaque.invertPixels();
+    shownPart.setAlphaChannel(opaque);
+    painter_.drawImage(toQRectF(target), shownPart);
+}
+
+void QtCanvas::fillRectangle(const Rect& rectangle, Colour colour) {
+    painter_.fillRect(toQRectF(rectangle), toQColor(colour));
+}
+
+void QtCanvas::circle(Point centre, double radius, Colour colour) {
+    painter_.setPen(outlinePen(colour));
+    painter_.setBrush(Qt::NoBrush);
+    painter_.drawEllipse(around(centre, radius));
+}
+
+void QtCanvas::disc(Point centre, double radius, Colour fill, Colour outline) {
+    painter_.setPen(outlinePen(outline));
+    painter_.setBrush(toQColor(fill));
+    painter_.drawEllipse(around(centre, radius));
+}
+
+void QtCanvas::line(Point from, Point to, const LineStyle& style) {
+    QPen pen(toQColor(style.colour), std::max(1, style.width), penStyle(style.style));
+    pen.setCapStyle(Qt::FlatCap);
+    painter_.setPen(pen);
+    painter_.drawLine(toQPointF(from), toQPointF(to));
+}
+
+void QtCanvas::pie(Point centre, double radius, double start, double end, Colour fill, Colour outline) {
+    if (!(radius > 0)) return;
+    const double sweep = end < start ? end + 2 * std::numbers::pi - start : end - start;
+    QPainterPath path(toQPointF(centre));
+    path.arcTo(around(centre, radius), toDegrees(start), toDegrees(sweep));
+    path.closeSubpath();
+    painter_.setPen(outlinePen(outline));
+    painter_.setBrush(toQColor(fill));
+    painter_.drawPath(path);
+}
+
+void QtCanvas::fillPolygon(const std::vector<Point>& corners, Colour colour) {
+    QPolygonF polygon;
+    polygon.reserve(static_cast<qsizetype>(corners.size()));
+    for (const Point& corner : corners) polygon.append(toQPointF(corner));
+    painter_.setPen(Qt::NoPen);
+    painter_.setBrush(toQColor(colour));
+    painter_.drawPolygon(polygon);
+}
+
+QFont QtCanvas::fontOf(const TextStyle& style) const {
+    QFont font(shown(style.face));
+    // Points are of 96 dots an inch on the surface, so that a printer's own resolution does not change the
+    // layout.
+    const double size = std::clamp(style.size, 1.0, 1000.0);
+    font.setPointSizeF(size * layoutDotsPerInch / painter_.device()->logicalDpiY());
+    font.setBold(style.bold);
+    font.setItalic(style.italic);
+    font.setKerning(true);
+    return font;
+}
+
+void QtCanvas::text(const std::string& text, const TextStyle& style) {
+    const QFont font = fontOf(style);
+    const QFontMetricsF metrics(font, painter_.device());
+    painter_.setFont(font);
+    painter_.setPen(toQColor(style.colour));
+    painter_.drawText(QPointF(bounded(position_.x), bounded(position_.y) + metrics.ascent()),
+                      shownLine(text));
+    position_ = {0, position_.y + metrics.height()};
+}
+
+TextSize QtCanvas::measure(const std::string& text, const TextStyle& style) const {
+    const QFontMetricsF metrics(fontOf(style), painter_.device());
+    return {metrics.horizontalAdvance(shownLine(text)), metrics.height()};
+}
+
+}  // namespace zg

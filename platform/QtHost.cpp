@@ -1,0 +1,130 @@
+#include "platform/QtHost.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QTimer>
+
+#include "base/Text.h"
+#include "platform/QtText.h"
+
+namespace zg {
+
+namespace {
+
+QMessageBox::Icon toIcon(BoxIcon icon) {
+    switch (icon) {
+        case BoxIcon::Information:
+            return QMessageBox::Information;
+        case BoxIcon::Warning:
+            return QMessageBox::Warning;
+        case BoxIcon::Question:
+            return QMessageBox::Question;
+        case BoxIcon::Stop:
+            return QMessageBox::Critical;
+        case BoxIcon::None:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons toButtons(BoxButtons buttons) {
+    switch (buttons) {
+        case BoxButtons::YesNo:
+            return QMessageBox::Yes | QMessageBox::No;
+        case BoxButtons::RetryCancel:
+            return QMessageBox::Retry | QMessageBox::Cancel;
+        case BoxButtons::Ok:
+            break;
+    }
+    return QMessageBox::Ok;
+}
+
+BoxAnswer toAnswer(int button, BoxButtons buttons) {
+    switch (button) {
+        case QMessageBox::Yes:
+            return BoxAnswer::Yes;
+        case QMessageBox::No:
+            return BoxAnswer::No;
+        case QMessageBox::Retry:
+            return BoxAnswer::Retry;
+        case QMessageBox::Cancel:
+            return BoxAnswer::Cancel;
+        default:
+            break;
+    }
+    if (buttons == BoxButtons::YesNo) return BoxAnswer::No;
+    return buttons == BoxButtons::RetryCancel ? BoxAnswer::Cancel : BoxAnswer::Ok;
+}
+
+void setUp(QFileDialog& dialog, const FilePick& pick) {
+    const QStringList filters = nameFilters(pick.filter);
+    dialog.setNameFilters(filters);
+    if (pick.filterIndex >= 1 && pick.filterIndex <= filters.size())
+        dialog.selectNameFilter(filters[pick.filterIndex - 1]);
+    if (!pick.directory.empty()) dialog.setDirectory(fileName(pick.directory));
+    if (!pick.fileName.empty()) dialog.selectFile(fileName(pick.fileName));
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !pick.overwritePrompt);
+}
+
+std::string chosen(QFileDialog& dialog) {
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+    return filePath(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
+}
+
+}  // namespace
+
+QtHost::QtHost() { clock_.start(); }
+
+BoxAnswer QtHost::showBox(const MessageBox& box) {
+    QMessageBox dialog(toIcon(box.icon), box.title.empty() ? QStringLiteral("Zephyrgraph") : shown(box.title),
+                       shown(box.text), toButtons(box.buttons), QApplication::activeWindow());
+    dialog.setTextFormat(Qt::PlainText);
+    return toAnswer(dialog.exec(), box.buttons);
+}
+
+std::string QtHost::pickFileToOpen(const FilePick& pick) {
+    QFileDialog dialog(QApplication::activeWindow(),
+                       pick.title.empty() ? QStringLiteral("Open") : shown(pick.title));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    setUp(dialog, pick);
+    return chosen(dialog);
+}
+
+std::string QtHost::pickFileToSave(const FilePick& pick) {
+    QFileDialog dialog(QApplication::activeWindow(),
+                       pick.title.empty() ? QStringLiteral("Save As") : shown(pick.title));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    setUp(dialog, pick);
+    return chosen(dialog);
+}
+
+void QtHost::pumpEvents(int idleMs) {
+    if (idleMs <= 0) {
+        QCoreApplication::processEvents();
+        return;
+    }
+    QEventLoop loop;
+    QTimer::singleShot(idleMs, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+QStringList nameFilters(const std::string& filter) {
+    QStringList filters;
+    const Pieces pieces = split(filter, "|");
+    for (std::size_t i = 0; i + 1 < pieces.size(); i += 2) {
+        QStringList patterns;
+        for (const QString& pattern : shown(pieces[i + 1]).split(QLatin1Char(';'), Qt::SkipEmptyParts))
+            if (const QString plain = pattern.trimmed(); !plain.isEmpty())
+                patterns.append(plain == QLatin1String("*.*") ? QStringLiteral("*") : plain);
+        QString name = shown(trimmed(pieces[i]));
+        // The toolkit adds the patterns itself: a description that already ends in them would show them
+        // twice.
+        if (const qsizetype at = name.lastIndexOf(QLatin1Char('(')); at > 0) name = name.left(at).trimmed();
+        filters.append(name + QStringLiteral(" (") + patterns.join(QLatin1Char(' ')) + QLatin1Char(')'));
+    }
+    return filters;
+}
+
+}  // namespace zg
