@@ -1,0 +1,60 @@
+#include "shell/MenuTree.h"
+
+#include <gtest/gtest.h>
+
+#include <QMenu>
+
+namespace zg {
+namespace {
+
+class MenuTreeTest : public ::testing::Test {
+ protected:
+    MenuTreeTest() : actions_(buildMenus(bar_)) {}
+
+    QMenuBar bar_;
+    std::map<std::string, QAction*> actions_;
+};
+
+TEST_F(MenuTreeTest, TheBarShowsItsMenusInOrder) {
+    QStringList captions;
+    for (const QAction* action : bar_.actions()) captions.append(action->text());
+    EXPECT_EQ(captions, (QStringList{"&File", "&Edit", "&View", "&Options", "&Help"}));
+}
+
+TEST_F(MenuTreeTest, ThePopUpOfTheListStandsOnNoBar) {
+    const QMenu* graph = actions_.at("mnuGraph")->menu();
+    ASSERT_NE(graph, nullptr);
+    EXPECT_EQ(graph->actions().size(), 12);
+    EXPECT_EQ(actions_.at("mnuGraphOption_7")->text(), "Sto&p");
+}
+
+TEST_F(MenuTreeTest, HiddenEntriesAreOutOfReach) {
+    for (const char* name : {"mnuFileOption_0", "mnuViewRefresh", "mnuPolarOption_4", "mnuPolarOption_6"}) {
+        EXPECT_FALSE(actions_.at(name)->isVisible()) << name;
+        EXPECT_FALSE(actions_.at(name)->isEnabled()) << name;
+    }
+    EXPECT_TRUE(actions_.at("mnuPolarOption_4")->isChecked());
+}
+
+TEST_F(MenuTreeTest, RadioEntriesShutEachOtherOut) {
+    actions_.at("mnuPolarGridOption_2")->trigger();
+    EXPECT_FALSE(actions_.at("mnuPolarGridOption_1")->isChecked());
+    EXPECT_TRUE(actions_.at("mnuPolarGridOption_2")->isChecked());
+    EXPECT_TRUE(actions_.at("mnuViewAspectOption_0")->isChecked()) << "another group stays";
+}
+
+TEST_F(MenuTreeTest, ShortcutsAreThoseOfTheCommands) {
+    EXPECT_EQ(actions_.at("mnuFileOption_12")->shortcut(), QKeySequence("Ctrl+S"));
+    EXPECT_EQ(actions_.at("mnuFileOption_13")->shortcut(), QKeySequence("Ctrl+B"));
+    EXPECT_EQ(actions_.at("mnuFileOption_15")->shortcut(), QKeySequence("Ctrl+R"));
+    EXPECT_EQ(actions_.at("mnuFileOption_16")->shortcut(), QKeySequence("Ctrl+P"));
+    EXPECT_EQ(actions_.at("mnuEditOption_0")->shortcut(), QKeySequence("Ctrl+C"));
+    EXPECT_EQ(actions_.at("mnuEditOption_1")->shortcut(), QKeySequence("Ctrl+A"));
+}
+
+TEST_F(MenuTreeTest, CaptionsKeepTheirDoubleBlanks) {
+    EXPECT_EQ(actions_.at("mnuAvePeriod")->text(), "Wind Rose  (Seasonal, etc...)");
+}
+
+}  // namespace
+}  // namespace zg
