@@ -53,13 +53,24 @@ void sizeRoseTables(const FreqVersion& version, ModPolarGraph& tables) {
     tables.FrqDirectionLabel.redim(static_cast<std::size_t>(freqDirections));
 }
 
+/// Runs a pass over the file; an error in it learns the line that was read last.
+template <typename Pass>
+void withLine(LineReader& reader, Pass pass) {
+    try {
+        pass();
+    } catch (RunTimeError& error) {
+        if (error.where.empty()) error.where = std::to_string(reader.lineNumber());
+        throw;
+    }
+}
+
 void forgetClassChoices(ModPolarGraph& tables) {
     tables.ClassesFromFile = true;
     tables.ClassesInKnots = false;
     tables.KnotTableReady = false;
 }
 
-void readContent(LineReader reader, const FreqVersion& version, const FreqHeaderSize& header,
+void readContent(LineReader& reader, const FreqVersion& version, const FreqHeaderSize& header,
                  ModPolarGraph& tables) {
     reader.readLine();
     readFreqHeaderFields(reader, version, header, tables);
@@ -92,7 +103,7 @@ FreqFileOutcome loadFreqLines(const FreqSource& open, const std::string& path, M
             return FreqFileOutcome::Refused;
         }
         tables.FrqVersion = version->name;
-        header = readFreqHeaderSize(reader, *version);
+        withLine(reader, [&] { header = readFreqHeaderSize(reader, *version); });
     }
 
     tables.FrqLineCount = countLines(open());
@@ -100,7 +111,8 @@ FreqFileOutcome loadFreqLines(const FreqSource& open, const std::string& path, M
     tables.FrqRoseCount = roseCount(tables.FrqLineCount, header, *version);
     sizeRoseTables(*version, tables);
 
-    readContent(open(), *version, header, tables);
+    LineReader content = open();
+    withLine(content, [&] { readContent(content, *version, header, tables); });
     makePlotTexts(tables);
     tables.FrqLoaded = true;
     return FreqFileOutcome::Loaded;

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include "graph/frq/ModPolarGraph.h"
+
+namespace zg {
+
+/// Every table of a loaded file as JSON under its own name, per-rose tables with their empty index 0. Tables
+/// that the file's version does not have are null. Texts are UTF-8.
+std::string tablesAsJson(const ModPolarGraph& tables);
+
+}  // namespace zg
