@@ -1,0 +1,123 @@
+// One redraw of a 600 x 600 page beside the same shapes and texts painted straight with the toolkit's
+// painter.
+
+#include <benchmark/benchmark.h>
+
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QPainterPath>
+#include <numbers>
+
+#include "graph/control/CreatePolar.h"
+#include "graph/frq/OpenFreqFile.h"
+#include "graph/render/RedrawGraph.h"
+#include "platform/QtCanvas.h"
+#include "platform/QtText.h"
+#include "tests/support/RecordingCanvas.h"
+
+namespace {
+
+constexpr int side = 600;
+
+class SilentHost : public zg::Host {
+ public:
+    zg::BoxAnswer showBox(const zg::MessageBox&) override { return zg::BoxAnswer::Ok; }
+    std::string pickFileToOpen(const zg::FilePick&) override { return {}; }
+    std::string pickFileToSave(const zg::FilePick&) override { return {}; }
+    std::int64_t tickCount() override { return 0; }
+    void pumpEvents(int) override {}
+};
+
+zg::Polar& loadedPolar() {
+    static zg::Polar polar = [] {
+        zg::Polar fresh = zg::createPolar(zg::modPolarGraph);
+        SilentHost host;
+        zg::loadFreqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq", zg::modPolarGraph, host);
+        return fresh;
+    }();
+    return polar;
+}
+
+void redraw(benchmark::State& state) {
+    zg::Polar& polar = loadedPolar();
+    QImage page = zg::makePageImage(side, side);
+    for (auto _ : state) {
+        zg::QtCanvas canvas(page, side, side);
+        zg::PolarGeometry geometry;
+        zg::redrawFrame(zg::PlotSettings{}, polar, zg::modPolarGraph, canvas, geometry);
+    }
+}
+BENCHMARK(redraw)->Unit(benchmark::kMillisecond);
+
+/// Paints one recorded command with plain painter calls.
+struct Straight {
+    QPainter& painter;
+
+    void operator()(const drawn::Clear& c) const {
+        painter.fillRect(0, 0, side, side, zg::toQColor(c.colour));
+    }
+    void operator()(const drawn::FillRectangle& r) const {
+        painter.fillRect(QRectF(QPointF(r.rectangle.left, r.rectangle.top),
+                                QPointF(r.rectangle.right, r.rectangle.bottom)),
+                         zg::toQColor(r.colour));
+    }
+    void operator()(const drawn::Circle& c) const {
+        painter.setPen(zg::toQColor(c.colour));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawEllipse(QPointF(c.centre.x, c.centre.y), c.radius, c.radius);
+    }
+    void operator()(const drawn::Disc& d) const {
+        painter.setPen(zg::toQColor(d.outline));
+        painter.setBrush(zg::toQColor(d.fill));
+        painter.drawEllipse(QPointF(d.centre.x, d.centre.y), d.radius, d.radius);
+    }
+    void operator()(const drawn::Line& l) const {
+        painter.setPen(zg::toQColor(l.style.colour));
+        painter.drawLine(QPointF(l.from.x, l.from.y), QPointF(l.to.x, l.to.y));
+    }
+    void operator()(const drawn::Pie& p) const {
+        if (!(p.radius > 0)) return;
+        const double degrees = 180 / std::numbers::pi;
+        const double sweep = p.end < p.start ? p.end + 2 * std::numbers::pi - p.start : p.end - p.start;
+        QPainterPath path(QPointF(p.centre.x, p.centre.y));
+        path.arcTo(QRectF(p.centre.x - p.radius, p.centre.y - p.radius, 2 * p.radius, 2 * p.radius),
+                   p.start * degrees, sweep * degrees);
+        path.closeSubpath();
+        painter.setPen(zg::toQColor(p.outline));
+        painter.setBrush(zg::toQColor(p.fill));
+        painter.drawPath(path);
+    }
+    void operator()(const drawn::Text& t) const {
+        QFont font(QString::fromStdString(t.style.face));
+        font.setPointSizeF(t.style.size);
+        font.setBold(t.style.bold);
+        font.setItalic(t.style.italic);
+        painter.setFont(font);
+        painter.setPen(zg::toQColor(t.style.colour));
+        painter.drawText(QPointF(t.at.x, t.at.y + t.style.size), QString::fromStdString(t.text));
+    }
+    template <typename Other>
+    void operator()(const Other&) const {}
+};
+
+void paintedStraight(benchmark::State& state) {
+    RecordingCanvas recording(side, side);
+    zg::PolarGeometry geometry;
+    zg::redrawFrame(zg::PlotSettings{}, loadedPolar(), zg::modPolarGraph, recording, geometry);
+    QImage page = zg::makePageImage(side, side);
+    for (auto _ : state) {
+        QPainter painter(&page);
+        painter.setRenderHint(QPainter::Antialiasing);
+        for (const auto& command : recording.commands) std::visit(Straight{painter}, command);
+    }
+}
+BENCHMARK(paintedStraight)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}
