@@ -17,7 +17,12 @@ constexpr std::array<std::uint16_t, 32> windowsCharacters = {
 /// Takes one character off the front of the bytes; nothing where they are no valid UTF-8.
 std::optional<std::uint32_t> takeCharacter(std::string_view& bytes) {
     const auto first = static_cast<unsigned char>(bytes.front());
-    const std::size_t length = first < 0x80 ? 1 : first < 0xC2 ? 0 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : first < 0xF5 ? 4 : 0;
+    const std::size_t length = first < 0x80   ? 1
+                               : first < 0xC2 ? 0
+                               : first < 0xE0 ? 2
+                               : first < 0xF0 ? 3
+                               : first < 0xF5 ? 4
+                                              : 0;
     if (length == 0 || bytes.size() < length) return std::nullopt;
     std::uint32_t character = length == 1 ? first : first & (0xFFU >> (length + 1));
     for (std::size_t i = 1; i < length; ++i) {

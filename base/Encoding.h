@@ -1,6 +1,7 @@
 #pragma once
 
-// Texts of files are bytes of either of two encodings. They are kept as read; only what is shown, and what was typed, is converted.
+// Texts of files are bytes of either of two encodings. They are kept as read; only what is shown, and what
+// was typed, is converted.
 
 #include <string>
 #include <string_view>

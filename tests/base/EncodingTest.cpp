@@ -6,7 +6,8 @@ namespace zg {
 namespace {
 
 TEST(Encoding, ValidUtf8StaysAsItIs) {
-    EXPECT_EQ(toUtf8("M\xC3\xBCnchen \xE2\x82\xAC \xF0\x9F\x8C\xAC"), "M\xC3\xBCnchen \xE2\x82\xAC \xF0\x9F\x8C\xAC");
+    EXPECT_EQ(toUtf8("M\xC3\xBCnchen \xE2\x82\xAC \xF0\x9F\x8C\xAC"),
+              "M\xC3\xBCnchen \xE2\x82\xAC \xF0\x9F\x8C\xAC");
     EXPECT_EQ(toUtf8(""), "");
 }
 
@@ -17,8 +18,8 @@ TEST(Encoding, OtherBytesAreReadAsWindowsText) {
 }
 
 TEST(Encoding, BrokenUtf8IsNoUtf8) {
-    for (const char* bytes : {"\xC3", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xF5\x80\x80\x80",
-                              "\xE2\x82", "\x80"})
+    for (const char* bytes : {"\xC3", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80",
+                              "\xF5\x80\x80\x80", "\xE2\x82", "\x80"})
         EXPECT_FALSE(isUtf8(bytes)) << bytes;
 }
 

@@ -1,0 +1,46 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that building, running and testing need: only those that are missing.
+#   tools/setup.sh            what ./run.sh needs
+#   tools/setup.sh --tests    and what ./test.sh needs
+#   tools/setup.sh --checks   and what the stricter checks need
+set -euo pipefail
+
+packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libcli11-dev nlohmann-json3-dev
+          fonts-liberation fonts-dejavu-core)
+tests=(libgtest-dev libbenchmark-dev libmuparser-dev python3 clang libclang-rt-14-dev)
+checks=(clang-format git)
+
+case "${1:-}" in
+    "") ;;
+    --tests) packages+=("${tests[@]}") ;;
+    --checks) packages+=("${tests[@]}" "${checks[@]}") ;;
+    *) echo "tools/setup.sh: unknown option $1" >&2; exit 2 ;;
+esac
+
+if ! command -v dpkg-query >/dev/null 2>&1; then
+    echo "tools/setup.sh: this is no Debian system; please install yourself: ${packages[*]}" >&2
+    exit 0
+fi
+
+missing=()
+for package in "${packages[@]}"; do
+    state=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null || true)
+    [ "$state" = installed ] || missing+=("$package")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+if [ "$(id -u)" -eq 0 ]; then
+    as_root=()
+elif command -v sudo >/dev/null 2>&1; then
+    as_root=(sudo)
+else
+    echo "tools/setup.sh: these packages are missing and neither root nor sudo is at hand: ${missing[*]}" >&2
+    echo "Please have them installed:  apt-get install --no-install-recommends ${missing[*]}" >&2
+    exit 1
+fi
+
+echo "Installing: ${missing[*]}"
+export DEBIAN_FRONTEND=noninteractive
+install() { "${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null; }
+# The package lists may be missing or too old: only then are they fetched.
+install 2>/dev/null || { "${as_root[@]}" apt-get update -qq && install; }
