@@ -81,15 +81,24 @@ float percentValid(std::int32_t valid, std::int32_t total) {
     return toSingle(roundHalfEven(static_cast<double>(percent), 1));
 }
 
+std::string captionOf(std::int16_t rose, const ModPolarGraph& tables) {
+    const std::string& title = tables.FrqRoseTitle(rose);
+    std::string caption;
+    caption.reserve(title.size() + 120);
+    caption.append(title).append(": Total Periods = ").append(std::to_string(tables.FrqTotalPeriods(rose)));
+    caption.append("; Valid Periods = ").append(std::to_string(tables.FrqValidPeriods(rose)));
+    caption.append(" (").append(singleText(tables.FrqPercentValid(rose))).append("%)");
+    caption.append("; Calm Wind Periods = ").append(std::to_string(tables.FrqCalmPeriods(rose)));
+    return caption;
+}
+
 void readStatistics(std::string_view line, std::int16_t rose, ModPolarGraph& tables) {
     FreqFields parts(line, ';');
-    const std::int32_t total = tables.FrqTotalPeriods(rose) = countOf(parts.next());
-    const std::int32_t valid = tables.FrqValidPeriods(rose) = countOf(parts.next());
-    const std::int32_t calm = tables.FrqCalmPeriods(rose) = countOf(parts.next());
-    const float percent = tables.FrqPercentValid(rose) = percentValid(valid, total);
-    tables.FrqRoseCaption(rose) = tables.FrqRoseTitle(rose) + ": Total Periods = " + std::to_string(total) +
-                                  "; Valid Periods = " + std::to_string(valid) + " (" + singleText(percent) +
-                                  "%); Calm Wind Periods = " + std::to_string(calm);
+    tables.FrqTotalPeriods(rose) = countOf(parts.next());
+    tables.FrqValidPeriods(rose) = countOf(parts.next());
+    tables.FrqCalmPeriods(rose) = countOf(parts.next());
+    tables.FrqPercentValid(rose) = percentValid(tables.FrqValidPeriods(rose), tables.FrqTotalPeriods(rose));
+    tables.FrqRoseCaption(rose) = captionOf(rose, tables);
 }
 
 }  // namespace
