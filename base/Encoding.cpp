@@ -84,7 +84,8 @@ std::string fromUtf8(std::string_view utf8) {
         if (!byte) return std::string(utf8);
         out.push_back(*byte);
     }
-    return out;
+    // Some windows-1252 bytes happen to be other characters in UTF-8, and would be read as those.
+    return toUtf8(out) == utf8 ? out : std::string(utf8);
 }
 
 }  // namespace zg

@@ -28,6 +28,16 @@ TEST(Encoding, TypedTextIsStoredAsWindowsTextWhereItFits) {
     EXPECT_EQ(fromUtf8("\xE5\x8C\x97"), "\xE5\x8C\x97") << "what does not fit stays UTF-8";
 }
 
+TEST(Encoding, TypedTextWhoseWindowsBytesReadAsOtherTextStaysUtf8) {
+    const std::string text = "\xC3\x83\xC2\xA9";  // as windows-1252 these two characters are one in UTF-8
+    EXPECT_EQ(fromUtf8(text), text);
+    EXPECT_EQ(toUtf8(fromUtf8(text)), text);
+}
+
+TEST(Encoding, OneBadByteMakesTheWholeTextWindowsText) {
+    EXPECT_EQ(toUtf8("\xC3\xA9 \xE9"), "\xC3\x83\xC2\xA9 \xC3\xA9");
+}
+
 TEST(Encoding, EveryWindowsCharacterComesBack) {
     for (int byte = 1; byte < 256; ++byte) {
         const std::string text(1, static_cast<char>(byte));
