@@ -1,5 +1,7 @@
 #include "graph/frq/FreqVersion.h"
 
+#include <algorithm>
+
 #include "base/Text.h"
 
 namespace zg {
@@ -20,6 +22,14 @@ const FreqVersion* freqVersionOf(std::string_view firstLine) {
     for (const FreqVersion& version : freqVersions)
         if (literal == version.firstLine) return &version;
     return nullptr;
+}
+
+bool mayBeFreqFile(std::string_view firstBytes) {
+    firstBytes.remove_prefix(std::min(firstBytes.find_first_not_of(' '), firstBytes.size()));
+    return std::any_of(freqVersions.begin(), freqVersions.end(), [firstBytes](const FreqVersion& version) {
+        const std::size_t shared = std::min(firstBytes.size(), version.firstLine.size());
+        return firstBytes.substr(0, shared) == version.firstLine.substr(0, shared);
+    });
 }
 
 }  // namespace zg

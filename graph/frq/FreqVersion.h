@@ -27,4 +27,8 @@ extern const std::array<FreqVersion, 4> freqVersions;
 /// The version whose literal the line is, blanks around it aside; null where it is none.
 const FreqVersion* freqVersionOf(std::string_view firstLine);
 
+/// The text, blanks before it aside, begins with the beginning of one of the literals, or is all blanks: more
+/// of it decides. What fails here is refused without reading its first line, however long that is.
+bool mayBeFreqFile(std::string_view firstBytes);
+
 }  // namespace zg

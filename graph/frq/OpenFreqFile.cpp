@@ -96,7 +96,7 @@ FreqFileOutcome loadFreqLines(const FreqSource& open, const std::string& path, M
     FreqHeaderSize header;
     {
         LineReader reader = open();
-        version = freqVersionOf(reader.readLine());
+        if (mayBeFreqFile(reader.ahead())) version = freqVersionOf(reader.readLine());
         if (version == nullptr) {
             keepOpen(reader.release());
             tellRefused(path, host);

@@ -43,5 +43,21 @@ TEST(LineSkip, CountsWhatIsLeftAndMovesTheLineNumber) {
     EXPECT_EQ(reader.skipAll(), 0U);
 }
 
+TEST(LineAhead, ShowsWhatComesNextAndTakesNothing) {
+    LineReader reader = LineReader::ofText("one\r\ntwo");
+    EXPECT_EQ(reader.ahead(), "one\r\ntwo");
+    EXPECT_EQ(reader.readLine(), "one");
+    EXPECT_EQ(reader.ahead(), "two");
+    reader.readLine();
+    EXPECT_EQ(reader.ahead(), "");
+}
+
+TEST(LineAhead, FetchesTheBeginningOfAFile) {
+    const TempDirectory directory;
+    LineReader reader(directory.write("long.txt", std::string(300'000, 'x')));
+    EXPECT_EQ(reader.ahead(), std::string(65'536, 'x'));
+    EXPECT_EQ(reader.readLine().size(), 300'000U);
+}
+
 }  // namespace
 }  // namespace zg
