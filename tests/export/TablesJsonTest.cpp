@@ -48,6 +48,29 @@ TEST(TablesJson, HoldsTheFilesFigures) {
     EXPECT_EQ(json["CurrentRose"], 1);
 }
 
+TEST(TablesJson, FractionsComeBackExactly) {
+    ModPolarGraph tables;
+    TestHost host;
+    loadFreqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq", tables, host);
+    const auto rows = nlohmann::ordered_json::parse(tablesAsJson(tables))["FrqFraction"];
+    ASSERT_EQ(rows.size(), static_cast<std::size_t>(tables.FrqFraction.rows()));
+    for (std::size_t row = 0; row < rows.size(); ++row)
+        for (std::size_t c = 0; c < 7; ++c)
+            EXPECT_EQ(rows[row][c].get<double>(),
+                      tables.FrqFraction(static_cast<std::int64_t>(row), static_cast<std::int64_t>(c)));
+}
+
+TEST(TablesJson, BeforeAnyLoadAndWithoutRosesTheTablesAreShort) {
+    ModPolarGraph tables;
+    EXPECT_EQ(nlohmann::ordered_json::parse(tablesAsJson(tables))["FrqFraction"].size(), 0U);
+    TestHost host;
+    loadFreqFile(ZG_SOURCE_DIR "/tests/graph/frq/data/header_only.frq", tables, host);
+    const auto json = nlohmann::ordered_json::parse(tablesAsJson(tables));
+    EXPECT_EQ(json["FrqRoseTitle"], nlohmann::ordered_json::parse(R"([""])"));
+    EXPECT_EQ(json["FrqTotalPeriods"], nlohmann::ordered_json::parse("[0]"));
+    EXPECT_EQ(json["GraphCaption"], "ALL DATA ARE MISSING");
+}
+
 TEST(TablesJson, TablesThatTheVersionDoesNotHaveAreNull) {
     const auto json = tablesOf("trade_wind_coast.frq");
     ASSERT_EQ(json["FrqVersion"], "2.0");
