@@ -29,6 +29,12 @@ struct FilePick {
     bool overwritePrompt = false;
 };
 
+struct FolderPick {
+    std::string title;
+    std::string start;  ///< selected when the picker opens
+    bool offerNewFolder = false;
+};
+
 class Host {
  public:
     virtual ~Host() = default;
@@ -38,6 +44,12 @@ class Host {
     /// Full path of the picked file, "" when cancelled.
     virtual std::string pickFileToOpen(const FilePick& pick) = 0;
     virtual std::string pickFileToSave(const FilePick& pick) = 0;
+
+    /// Full paths of the picked files, none when cancelled.
+    virtual std::vector<std::string> pickFilesToOpen(const FilePick& pick) = 0;
+
+    /// Full path of the picked folder, "" when cancelled.
+    virtual std::string pickFolder(const FolderPick& pick) = 0;
 
     /// Milliseconds of a clock that only moves forward.
     virtual std::int64_t tickCount() = 0;

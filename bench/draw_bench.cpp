@@ -24,6 +24,8 @@ class SilentHost : public zg::Host {
     zg::BoxAnswer showBox(const zg::MessageBox&) override { return zg::BoxAnswer::Ok; }
     std::string pickFileToOpen(const zg::FilePick&) override { return {}; }
     std::string pickFileToSave(const zg::FilePick&) override { return {}; }
+    std::vector<std::string> pickFilesToOpen(const zg::FilePick&) override { return {}; }
+    std::string pickFolder(const zg::FolderPick&) override { return {}; }
     std::int64_t tickCount() override { return 0; }
     void pumpEvents(int) override {}
 };

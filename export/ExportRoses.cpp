@@ -30,6 +30,8 @@ class StreamHost : public Host {
     }
     std::string pickFileToOpen(const FilePick&) override { return {}; }
     std::string pickFileToSave(const FilePick&) override { return {}; }
+    std::vector<std::string> pickFilesToOpen(const FilePick&) override { return {}; }
+    std::string pickFolder(const FolderPick&) override { return {}; }
     std::int64_t tickCount() override { return 0; }
     void pumpEvents(int) override {}
 

@@ -82,10 +82,12 @@ PageWidget::PageWidget(PolarGraphWidget& owner) : QWidget(&owner), owner_(owner)
 }
 
 void PageWidget::showPointer(std::int16_t pointer, const PicturePointer& icon) {
-    if (pointer == customPointer && icon)
-        setCursor(QCursor(QPixmap::fromImage(static_cast<const QtPicture&>(*icon).image())));
-    else
+    if (pointer != customPointer || !icon) {
         setCursor(shapeOf(pointer));
+        return;
+    }
+    const auto& picture = static_cast<const QtPicture&>(*icon);
+    setCursor(QCursor(QPixmap::fromImage(picture.image()), picture.hotSpot().x(), picture.hotSpot().y()));
 }
 
 void PageWidget::paintEvent(QPaintEvent*) { QPainter(this).drawImage(QPointF(0, 0), owner_.pageImage()); }

@@ -9,6 +9,7 @@
 #include "platform/Errors.h"
 #include "platform/PageWidget.h"
 #include "platform/QtText.h"
+#include "platform/RulerWidget.h"
 
 namespace zg {
 
@@ -39,11 +40,19 @@ PolarGraphWidget::PolarGraphWidget(Host& host, const PropertyBag& designed, QWid
       picGraph_(new PageWidget(*this)),
       hsScroll_(new QScrollBar(Qt::Horizontal, this)),
       vsScroll_(new QScrollBar(Qt::Vertical, this)),
-      picScroll_(new QWidget(this)) {
+      picScroll_(new QWidget(this)),
+      picHolderRH_(new QWidget(this)),
+      picHolderRV_(new QWidget(this)),
+      picRulerH_(new RulerWidget(*this, RulerPart::Top, picHolderRH_)),
+      picRulerV_(new RulerWidget(*this, RulerPart::Left, picHolderRV_)),
+      picRulerJ_(new RulerWidget(*this, RulerPart::Corner, this)) {
     hsScroll_->setObjectName(QStringLiteral("hsScroll"));
     vsScroll_->setObjectName(QStringLiteral("vsScroll"));
     picScroll_->setObjectName(QStringLiteral("picScroll"));
     picScroll_->setAutoFillBackground(true);
+    picHolderRH_->setObjectName(QStringLiteral("picHolderRH"));
+    picHolderRV_->setObjectName(QStringLiteral("picHolderRV"));
+    picRulerJ_->setToolTip(QString::fromLatin1(PolarGraph::cornerToolTip));
     for (QScrollBar* bar : {hsScroll_, vsScroll_})
         connect(bar, &QScrollBar::valueChanged, this, guarded(host_, [this] { scrolled(); }));
     graph_.reset(new PolarGraph(*this, host_, designed));  // only this class may show itself as the window
@@ -77,6 +86,11 @@ void PolarGraphWidget::layoutChanged() {
     place(*picShadow_, surfaces.picShadow);
     place(*picGraph_, surfaces.picGraph);
     place(*picScroll_, surfaces.picScroll);
+    place(*picHolderRH_, surfaces.picHolderRH);
+    place(*picHolderRV_, surfaces.picHolderRV);
+    place(*picRulerH_, surfaces.picRulerH);
+    place(*picRulerV_, surfaces.picRulerV);
+    place(*picRulerJ_, surfaces.picRulerJ);
     placeScrollBar(*hsScroll_, surfaces.hsScroll, graph_->horizontalScroll());
     placeScrollBar(*vsScroll_, surfaces.vsScroll, graph_->verticalScroll());
 }
@@ -94,6 +108,10 @@ void PolarGraphWidget::placeScrollBar(QScrollBar& bar, const ChildSurface& surfa
 void PolarGraphWidget::pagePainted() {
     endPainting();
     picGraph_->update();
+}
+
+void PolarGraphWidget::rulersChanged() {
+    for (RulerWidget* ruler : {picRulerH_, picRulerV_, picRulerJ_}) ruler->update();
 }
 
 void PolarGraphWidget::pointerChanged() {

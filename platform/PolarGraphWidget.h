@@ -10,6 +10,7 @@
 namespace zg {
 
 class PageWidget;
+class RulerWidget;
 
 /// The window of a PolarGraph: its child surfaces are widgets under their own names, its page an image that
 /// holds the drawing and is repainted sharp on every screen.
@@ -38,11 +39,12 @@ class PolarGraphWidget : public QWidget, private ControlWindow {
 
  private:
     friend class PageWidget;
+    friend class RulerWidget;
 
     Canvas& pageCanvas() override;
     void pageResized(int width, int height) override;
     void layoutChanged() override;
-    void rulersChanged() override {}
+    void rulersChanged() override;
     void pagePainted() override;
     void propertyChanged() override {}
     void pointerChanged() override;
@@ -61,6 +63,11 @@ class PolarGraphWidget : public QWidget, private ControlWindow {
     QScrollBar* hsScroll_;
     QScrollBar* vsScroll_;
     QWidget* picScroll_;
+    QWidget* picHolderRH_;
+    QWidget* picHolderRV_;
+    RulerWidget* picRulerH_;
+    RulerWidget* picRulerV_;
+    RulerWidget* picRulerJ_;
     std::unique_ptr<PolarGraph> graph_;
 };
 

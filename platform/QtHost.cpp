@@ -100,6 +100,30 @@ std::string QtHost::pickFileToSave(const FilePick& pick) {
     return chosen(dialog);
 }
 
+std::vector<std::string> QtHost::pickFilesToOpen(const FilePick& pick) {
+    QFileDialog dialog(QApplication::activeWindow(), shown(pick.title));
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    dialog.setLabelText(QFileDialog::Accept, QStringLiteral("Select"));
+    dialog.setLabelText(QFileDialog::Reject, QStringLiteral("Cancel"));
+    dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("Look in:"));
+    dialog.setLabelText(QFileDialog::FileName, QStringLiteral("File name(s):"));
+    dialog.setLabelText(QFileDialog::FileType, QStringLiteral("Files of type:"));
+    setUp(dialog, pick);
+    std::vector<std::string> paths;
+    if (dialog.exec() == QDialog::Accepted)
+        for (const QString& path : dialog.selectedFiles())
+            paths.push_back(filePath(QDir::toNativeSeparators(path)));
+    return paths;
+}
+
+std::string QtHost::pickFolder(const FolderPick& pick) {
+    QFileDialog dialog(QApplication::activeWindow(), shown(pick.title), fileName(pick.start));
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    dialog.setOption(QFileDialog::ReadOnly, !pick.offerNewFolder);
+    return chosen(dialog);
+}
+
 void QtHost::pumpEvents(int idleMs) {
     if (idleMs <= 0) {
         QCoreApplication::processEvents();

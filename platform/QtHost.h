@@ -16,6 +16,8 @@ class QtHost : public Host {
     BoxAnswer showBox(const MessageBox& box) override;
     std::string pickFileToOpen(const FilePick& pick) override;
     std::string pickFileToSave(const FilePick& pick) override;
+    std::vector<std::string> pickFilesToOpen(const FilePick& pick) override;
+    std::string pickFolder(const FolderPick& pick) override;
     std::int64_t tickCount() override { return clock_.elapsed(); }
     void pumpEvents(int idleMs) override;
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImage>
+#include <QPoint>
 
 #include "graph/render/Canvas.h"
 
@@ -9,14 +10,19 @@ namespace zg {
 /// A picture decoded by the toolkit.
 class QtPicture : public Picture {
  public:
-    explicit QtPicture(QImage image) : image_(std::move(image)) {}
+    explicit QtPicture(QImage image, QPoint hotSpot = {-1, -1})
+        : image_(std::move(image)), hotSpot_(hotSpot) {}
 
     int width() const override { return image_.width(); }
     int height() const override { return image_.height(); }
     const QImage& image() const { return image_; }
 
+    /// Where a pointer of this picture points; (-1, -1) is its middle.
+    QPoint hotSpot() const { return hotSpot_; }
+
  private:
     QImage image_;
+    QPoint hotSpot_;
 };
 
 /// Loads a picture file of any kind the toolkit reads; raises 481, "Invalid picture", or the error of the

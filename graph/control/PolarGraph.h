@@ -10,6 +10,7 @@
 #include "base/Host.h"
 #include "graph/control/PageLayout.h"
 #include "graph/control/PropertyBag.h"
+#include "graph/control/Rulers.h"
 #include "graph/frq/OpenFreqFile.h"
 #include "graph/model/Plot.h"
 #include "graph/model/Polar.h"
@@ -200,6 +201,9 @@ class PolarGraph {
     void mouseDown(std::int16_t button, std::int16_t shift, float x, float y);
     void mouseMove(std::int16_t button, std::int16_t shift, float x, float y);
     void mouseUp(std::int16_t button, std::int16_t shift, float x, float y);
+
+    /// What the ruler along that edge shows now.
+    RulerView rulerView(RulerSide side) const;
 
     const ChildSurfaces& surfaces() const { return surfaces_; }
     const ScrollRange& horizontalScroll() const { return horizontalScroll_; }

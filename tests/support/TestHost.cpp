@@ -21,12 +21,13 @@ zg::BoxAnswer TestHost::showBox(const zg::MessageBox& box) {
 
 namespace {
 
-std::string take(std::deque<std::string>& answers, const zg::FilePick& pick) {
+template <typename Answer>
+Answer take(std::deque<Answer>& answers, const std::string& asked) {
     if (answers.empty()) {
-        ADD_FAILURE() << "unexpected file picker: " << pick.filter;
+        ADD_FAILURE() << "unexpected picker: " << asked;
         return {};
     }
-    std::string answer = answers.front();
+    Answer answer = answers.front();
     answers.pop_front();
     return answer;
 }
@@ -35,12 +36,22 @@ std::string take(std::deque<std::string>& answers, const zg::FilePick& pick) {
 
 std::string TestHost::pickFileToOpen(const zg::FilePick& pick) {
     openPicks.push_back(pick);
-    return take(openAnswers, pick);
+    return take(openAnswers, pick.filter);
 }
 
 std::string TestHost::pickFileToSave(const zg::FilePick& pick) {
     savePicks.push_back(pick);
-    return take(saveAnswers, pick);
+    return take(saveAnswers, pick.filter);
+}
+
+std::vector<std::string> TestHost::pickFilesToOpen(const zg::FilePick& pick) {
+    filesPicks.push_back(pick);
+    return take(filesAnswers, pick.filter);
+}
+
+std::string TestHost::pickFolder(const zg::FolderPick& pick) {
+    folderPicks.push_back(pick);
+    return take(folderAnswers, pick.title);
 }
 
 void TestHost::pumpEvents(int idleMs) {

@@ -16,17 +16,23 @@ class TestHost : public zg::Host {
     zg::BoxAnswer showBox(const zg::MessageBox& box) override;
     std::string pickFileToOpen(const zg::FilePick& pick) override;
     std::string pickFileToSave(const zg::FilePick& pick) override;
+    std::vector<std::string> pickFilesToOpen(const zg::FilePick& pick) override;
+    std::string pickFolder(const zg::FolderPick& pick) override;
     std::int64_t tickCount() override { return now; }
     void pumpEvents(int idleMs) override;
 
     std::deque<zg::BoxAnswer> boxAnswers;
     std::deque<std::string> openAnswers;
     std::deque<std::string> saveAnswers;
+    std::deque<std::vector<std::string>> filesAnswers;
+    std::deque<std::string> folderAnswers;
     std::function<void()> onPump;  ///< runs at each pump, as the events that arrive meanwhile
 
     std::vector<zg::MessageBox> boxes;
     std::vector<zg::FilePick> openPicks;
     std::vector<zg::FilePick> savePicks;
+    std::vector<zg::FilePick> filesPicks;
+    std::vector<zg::FolderPick> folderPicks;
     std::int64_t now = 0;
     int pumps = 0;
 };

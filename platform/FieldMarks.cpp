@@ -1,0 +1,82 @@
+#include "platform/FieldMarks.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QVariant>
+
+#include "base/Text.h"
+#include "platform/QtText.h"
+#include "processing/FieldMarks.h"
+
+namespace zg {
+
+namespace {
+
+constexpr const char* markProperty = "fieldMark";
+
+QString textOf(const QWidget& field) {
+    if (const auto* box = qobject_cast<const QLineEdit*>(&field)) return box->text();
+    if (const auto* list = qobject_cast<const QComboBox*>(&field)) return list->currentText();
+    return {};
+}
+
+void setText(QWidget& field, const QString& text) {
+    if (auto* box = qobject_cast<QLineEdit*>(&field)) box->setText(text);
+    if (auto* list = qobject_cast<QComboBox*>(&field); list != nullptr && list->isEditable())
+        list->setEditText(text);
+}
+
+}  // namespace
+
+Colour fieldMark(const QWidget& field) {
+    const QVariant mark = field.property(markProperty);
+    return mark.isValid() ? mark.toUInt() : cleanMark;
+}
+
+void setFieldMark(QWidget& field, Colour mark) {
+    field.setProperty(markProperty, mark);
+    if (mark != yellowMark && mark != darkYellowMark) {
+        field.setPalette(QPalette());
+        return;
+    }
+    QPalette palette = field.palette();
+    for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Button})
+        palette.setColor(role, toQColor(mark));
+    for (const QPalette::ColorRole role : {QPalette::Text, QPalette::ButtonText})
+        palette.setColor(role, Qt::black);
+    field.setPalette(palette);
+}
+
+void MarkInvalid(QWidget& field) { setFieldMark(field, yellowMark); }
+
+void ClearInvalid(QWidget& field) { setFieldMark(field, cleanMark); }
+
+void ClearInvalidIfFilled(QWidget& field) {
+    const std::string text = typed(textOf(field));
+    setFieldMark(field, filledMark(fieldMark(field), text));
+    const std::string plain = trim(text);
+    if (plain != text) setText(field, shown(plain));
+}
+
+void SetEnabled(QWidget& field) { field.setEnabled(true); }
+
+void SetDisabled(QWidget& field) { field.setEnabled(false); }
+
+void DisableField(QWidget& field) {
+    field.setEnabled(false);
+    setFieldMark(field, disabledMark(fieldMark(field)));
+}
+
+void EnableField(QWidget& field) {
+    field.setEnabled(true);
+    setFieldMark(field, enabledMark(fieldMark(field)));
+}
+
+void SetFieldStates(Fields plainOff, Fields fieldsOff, Fields plainOn, Fields fieldsOn) {
+    for (QWidget* field : plainOff) SetDisabled(*field);
+    for (QWidget* field : fieldsOff) DisableField(*field);
+    for (QWidget* field : plainOn) SetEnabled(*field);
+    for (QWidget* field : fieldsOn) EnableField(*field);
+}
+
+}  // namespace zg

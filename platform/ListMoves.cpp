@@ -1,0 +1,37 @@
+#include "platform/ListMoves.h"
+
+#include "platform/QtText.h"
+#include "processing/ListMoves.h"
+
+namespace zg {
+
+namespace {
+
+/// Hands the rows to a rule and shows what came of it.
+void applyTo(QListWidget& list, void (*rule)(std::vector<ListRow>&)) {
+    std::vector<ListRow> rows;
+    for (int i = 0; i < list.count(); ++i)
+        rows.push_back({list.item(i)->text().toStdString(), list.item(i)->isSelected()});
+    rule(rows);
+    list.clear();
+    for (const ListRow& row : rows) {
+        list.addItem(QString::fromStdString(row.text));
+        list.item(list.count() - 1)->setSelected(row.selected);
+    }
+}
+
+}  // namespace
+
+void ListMoveUp(QListWidget& list) {
+    applyTo(list, static_cast<void (*)(std::vector<ListRow>&)>(&ListMoveUp));
+}
+
+void ListMoveDown(QListWidget& list) {
+    applyTo(list, static_cast<void (*)(std::vector<ListRow>&)>(&ListMoveDown));
+}
+
+void ListRemoveSelected(QListWidget& list) {
+    applyTo(list, static_cast<void (*)(std::vector<ListRow>&)>(&ListRemoveSelected));
+}
+
+}  // namespace zg

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QListWidget>
+
+namespace zg {
+
+/// Moves the selected rows of a list one place, as a block that stays selected; nothing moves once one of
+/// them has reached the end.
+void ListMoveUp(QListWidget& list);
+void ListMoveDown(QListWidget& list);
+
+/// Takes the selected rows out.
+void ListRemoveSelected(QListWidget& list);
+
+}  // namespace zg

@@ -1,0 +1,41 @@
+#include "platform/Pickers.h"
+
+#include <QScrollBar>
+
+#include "base/Paths.h"
+#include "platform/QtText.h"
+
+namespace zg {
+
+std::string ShowFileOpen(Host& host, const std::string& filter, int index, const std::string& initDir) {
+    FilePick pick;
+    pick.filter = filter;
+    pick.filterIndex = index;
+    pick.directory = initDir;
+    return host.pickFileToOpen(pick);
+}
+
+void SelectFiles(Host& host, QListWidget& list, std::string& dir, const std::string& filter) {
+    FilePick pick;
+    pick.title = "Select Files";
+    pick.filter = filter;
+    pick.directory = dir;
+    const std::vector<std::string> paths = host.pickFilesToOpen(pick);
+    if (paths.empty()) return;
+    for (const std::string& path : paths) list.addItem(shown(path));
+    // A row is never cut off: the list scrolls sideways as far as its longest text and a scroll bar reach.
+    list.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    list.setTextElideMode(Qt::ElideNone);
+    dir = DirOf(paths.front());
+}
+
+std::string BrowseForFolder(Host& host, const std::string& start, const std::string& title, int style) {
+    FolderPick pick;
+    pick.title = title;
+    pick.start = start;
+    pick.offerNewFolder = style > 0;
+    const std::string picked = host.pickFolder(pick);
+    return picked.empty() ? start : picked;
+}
+
+}  // namespace zg

@@ -1,0 +1,174 @@
+// Marks, key filters, pickers and list moves on real controls.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
+
+#include "platform/BatchStarter.h"
+#include "platform/FieldMarks.h"
+#include "platform/KeyFilter.h"
+#include "platform/ListMoves.h"
+#include "platform/Pickers.h"
+#include "platform/QtText.h"
+#include "processing/KeyFilters.h"
+#include "tests/support/TestHost.h"
+
+namespace zg {
+namespace {
+
+TEST(FieldMarks, AMarkIsYellowWithBlackText) {
+    QLineEdit box;
+    MarkInvalid(box);
+    EXPECT_EQ(fromQColor(box.palette().color(QPalette::Base)), 65535U);
+    EXPECT_EQ(box.palette().color(QPalette::Text), QColor(Qt::black));
+    ClearInvalid(box);
+    EXPECT_EQ(fieldMark(box), cleanMark);
+    EXPECT_EQ(box.palette().color(QPalette::Base), QApplication::palette().color(QPalette::Base));
+}
+
+TEST(FieldMarks, AMarkSurvivesADisabledFieldInADarkerYellow) {
+    QLineEdit box;
+    MarkInvalid(box);
+    DisableField(box);
+    EXPECT_FALSE(box.isEnabled());
+    EXPECT_EQ(fieldMark(box), 49344U);
+    EnableField(box);
+    EXPECT_TRUE(box.isEnabled());
+    EXPECT_EQ(fieldMark(box), yellowMark);
+}
+
+TEST(FieldMarks, AnUnmarkedFieldIsFaceColouredWhileDisabledAndCleanAfterwards) {
+    QDateTimeEdit picker;
+    DisableField(picker);
+    EXPECT_EQ(fieldMark(picker), buttonFaceColour);
+    EnableField(picker);
+    EXPECT_EQ(fieldMark(picker), cleanMark);
+}
+
+TEST(FieldMarks, ClearingWhenFilledTrimsTheText) {
+    QLineEdit box;
+    MarkInvalid(box);
+    ClearInvalidIfFilled(box);
+    EXPECT_EQ(fieldMark(box), yellowMark) << "an empty field keeps its mark";
+    box.setText("  a ");
+    ClearInvalidIfFilled(box);
+    EXPECT_EQ(fieldMark(box), cleanMark);
+    EXPECT_EQ(box.text(), "a");
+}
+
+TEST(FieldMarks, StatesAreSetInGroups) {
+    QPushButton plain;
+    QPushButton otherPlain;
+    otherPlain.setEnabled(false);
+    QLineEdit field;
+    QComboBox otherField;
+    MarkInvalid(field);
+    DisableField(otherField);
+    QWidget* const plainOff[] = {&plain};
+    QWidget* const fieldsOff[] = {&field};
+    QWidget* const plainOn[] = {&otherPlain};
+    QWidget* const fieldsOn[] = {&otherField};
+    SetFieldStates(plainOff, fieldsOff, plainOn, fieldsOn);
+    EXPECT_FALSE(plain.isEnabled());
+    EXPECT_EQ(fieldMark(field), darkYellowMark);
+    EXPECT_TRUE(otherPlain.isEnabled());
+    EXPECT_EQ(fieldMark(otherField), cleanMark);
+}
+
+TEST(FieldMarks, AControlInTwoGroupsTakesTheLast) {
+    QLineEdit field;
+    QWidget* const same[] = {&field};
+    SetFieldStates({}, same, {}, same);
+    EXPECT_TRUE(field.isEnabled());
+}
+
+struct Filter {
+    const char* name;
+    std::int16_t (*function)(std::int16_t);
+    const char* passes;
+};
+
+class KeyFilters : public ::testing::TestWithParam<Filter> {};
+
+TEST_P(KeyFilters, LetOnlyTheirCharactersBeTyped) {
+    QLineEdit box;
+    filterKeys(box, GetParam().function);
+    QTest::keyClicks(&box, "a1-2.3,4 x");
+    EXPECT_EQ(box.text(), GetParam().passes);
+    QTest::keyClick(&box, Qt::Key_Backspace);
+    EXPECT_EQ(box.text().length(), QString(GetParam().passes).length() - 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, KeyFilters,
+                         ::testing::Values(Filter{"Positive", KeyNumericPositive, "12.34"},
+                                           Filter{"Integer", KeyNumericInteger, "1234"},
+                                           Filter{"Signed", KeyNumericSigned, "1-2.34"},
+                                           Filter{"Heights", KeyNumericHeights, "12.3,4"}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST(Pickers, ThePickerOfOneFileStartsWithoutAName) {
+    TestHost host;
+    host.openAnswers = {"/a/b.dat"};
+    EXPECT_EQ(ShowFileOpen(host, "Data|*.dat", 2, "/a"), "/a/b.dat");
+    EXPECT_EQ(host.openPicks[0].filterIndex, 2);
+    EXPECT_EQ(host.openPicks[0].directory, "/a");
+    EXPECT_EQ(host.openPicks[0].fileName, "");
+}
+
+TEST(Pickers, SeveralFilesGoToTheListAsFullPaths) {
+    TestHost host;
+    QListWidget list;
+    std::string dir = "/start";
+    host.filesAnswers = {{"/data/a.dat", "/data/b.dat"}, {}};
+    SelectFiles(host, list, dir, "Data|*.dat");
+    EXPECT_EQ(host.filesPicks[0].title, "Select Files");
+    EXPECT_EQ(host.filesPicks[0].directory, "/start");
+    ASSERT_EQ(list.count(), 2);
+    EXPECT_EQ(list.item(1)->text(), "/data/b.dat");
+    EXPECT_EQ(dir, "/data");
+    SelectFiles(host, list, dir, "Data|*.dat");
+    EXPECT_EQ(list.count(), 2) << "a cancel changes nothing";
+    EXPECT_EQ(dir, "/data");
+}
+
+TEST(Pickers, AFolderThatIsNotPickedIsTheOneToStartFrom) {
+    TestHost host;
+    host.folderAnswers = {"/new", ""};
+    EXPECT_EQ(BrowseForFolder(host, "/start", "Choose", -1), "/new");
+    EXPECT_FALSE(host.folderPicks[0].offerNewFolder);
+    EXPECT_EQ(BrowseForFolder(host, "/start", "Choose", 1), "/start");
+    EXPECT_TRUE(host.folderPicks[1].offerNewFolder);
+}
+
+TEST(ListMovesOnLists, MoveTheSelectedRowsAndKeepThemSelected) {
+    QListWidget list;
+    list.setSelectionMode(QAbstractItemView::ExtendedSelection);
+    list.addItems({"a", "b", "c", "d"});
+    list.item(1)->setSelected(true);
+    list.item(2)->setSelected(true);
+    ListMoveUp(list);
+    EXPECT_EQ(list.item(0)->text(), "b");
+    EXPECT_EQ(list.item(2)->text(), "a");
+    EXPECT_TRUE(list.item(0)->isSelected());
+    EXPECT_TRUE(list.item(1)->isSelected());
+    ListMoveUp(list);
+    EXPECT_EQ(list.item(0)->text(), "b") << "the end stops the block";
+    ListMoveDown(list);
+    EXPECT_EQ(list.item(1)->text(), "b");
+    ListRemoveSelected(list);
+    EXPECT_EQ(list.count(), 2);
+    EXPECT_EQ(list.item(0)->text(), "a");
+}
+
+TEST(BatchStarterLines, NameTheFileToView) {
+    EXPECT_EQ(viewedFile("notepad \"/a b/c.frq\""), "/a b/c.frq");
+    EXPECT_EQ(viewedFile("pause"), "");
+}
+
+}  // namespace
+}  // namespace zg
