@@ -1,82 +1,131 @@
 #include "shell/FrmMain.h"
 
-#include <QCoreApplication>
-#include <QMenuBar>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QSignalBlocker>
 
+#include "base/Numbers.h"
 #include "base/Paths.h"
 #include "platform/Errors.h"
+#include "platform/QtPicture.h"
 #include "platform/QtText.h"
 #include "shell/MenuTree.h"
 #include "shell/Resources.h"
+#include "shell/settings/CfgFile.h"
+#include "shell/settings/Settings.h"
+#include "shell/settings/StartSequence.h"
 
 namespace zg {
 
 namespace {
 
-/// Properties of the control that the window is designed with.
-PropertyBag designedProperties() {
-    PropertyBag bag;
-    bag.WriteProperty("Zoom", "100");
-    bag.WriteProperty("OffsetDrawingAreaX", "10");
-    bag.WriteProperty("OffsetDrawingAreaY", "10");
-    return bag;
+constexpr std::int16_t customPointer = 99;
+constexpr QSize swatchPixels(46, 18);
+constexpr QSize startSize(740, 880);
+
+/// The whole page in sight where the screen is large enough.
+QSize sizeOnScreen() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen == nullptr ? startSize : startSize.boundedTo(screen->availableSize() - QSize(40, 60));
 }
+
+QString twoDecimals(double value) { return shown(doubleText(roundHalfEven(value, 2))); }
 
 }  // namespace
 
-frmMain::frmMain(Host& host)
-    : host_(host), pgPolarGraph_(new PolarGraphWidget(host, designedProperties(), this)) {
+frmMain::frmMain(Host& host) : host_(host) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Zephyrgraph"));
     setWindowIcon(programIcon("zephyrgraph"));
-    pgPolarGraph_->setObjectName(QStringLiteral("pgPolarGraph"));
-    setCentralWidget(pgPolarGraph_);
+    ui_ = makeFrmMainControls(*this, host);
     makeMenus();
-    resize(640, 670);
+    makeToolbars();
+    followPlot();
+    resize(sizeOnScreen());
 }
 
-void frmMain::makeMenus() {
-    actions_ = buildMenus(*menuBar());
-    const std::map<std::string, std::function<void()>> commands = {
-        {"mnuFileOption_1", [this] { mnuFileOption_Click(1); }},
-        {"mnuFileOption_18", [this] { mnuFileOption_Click(18); }},
-    };
-    for (const MenuEntry& entry : menuTree()) {
-        if (entry.kind == EntryKind::Menu || entry.kind == EntryKind::Separator) continue;
-        QAction* action = actions_.at(entry.name);
-        const auto command = commands.find(entry.name);
-        if (command == commands.end())
-            action->setEnabled(false);
-        else
-            connect(action, &QAction::triggered, this, guarded(host_, command->second));
+void frmMain::Form_Load() {
+    actions_.at("mnuFileOption_6")->setText(QStringLiteral("Process Monitor Met. Data"));
+    settings.DebugFlag = true;
+    ReadCfgFile(settings.CfgFilePath);
+    modPolarGraph.FrqLoaded = false;
+    SizeLegendSwatch();
+    for (ColourBox* box : ui_.picColor)
+        box->setCursor(programCursor(static_cast<int>(ToolCursor::ColourBox)));
+    if (const auto picture = findBackgroundPicture()) {
+        LoadBackgroundPicture(FileNameOf(picture->path));
+        pgPolarGraph().PictureStyle(picture->style);
     }
+    {
+        const QSignalBlocker quiet(ui_.lstAspect);
+        ui_.lstAspect->setCurrentRow(0);
+    }
+    ui_.lstZoom->setCurrentRow(settings.ZoomListIndex);
+    pgPolarGraph().Zoom(toInt16(startZoom()));
+    if (const auto radius = startRadius()) pgPolarGraph().Polar().Radius = toSingle(*radius);
+    clearLabelLines();
+    resetWindClassMin();
+    pgPolarGraph().Refresh();  // the radius and the labels are set without a repaint of their own
 }
 
-QAction* frmMain::menuAction(const std::string& name) const {
-    const auto found = actions_.find(name);
-    return found == actions_.end() ? nullptr : found->second;
+void frmMain::SizeLegendSwatch() { picTemp_ = swatchPixels; }
+
+bool frmMain::LoadBackgroundPicture(const std::string& name) {
+    const std::string path = backgroundPicturePath(name);
+    if (path.empty()) return false;
+    pgPolarGraph().Picture(loadPicture(path));
+    return true;
 }
 
-void frmMain::mnuFileOption_Click(int Index) {
-    if (Index == 1) openFrqFile();
-    if (Index == 18) QCoreApplication::exit();
+void frmMain::LoadToolCursor(ToolCursor id) {
+    pgPolarGraph().MousePointer(customPointer);
+    pgPolarGraph().MouseIcon(cursorPicture(static_cast<int>(id)));
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    if (!pgPolarGraph().StopAni()) pgPolarGraph().StopAni(true);
+    event->accept();
+}
+
+void frmMain::followPlot() {
+    PolarGraphEvents& events = pgPolarGraph().events;
+    events.TrackPosition = [this](float, float, float bearing, float, float, float, float radial) {
+        trackPosition(bearing, radial);
+    };
+    events.MouseMove = [this](std::int16_t, std::int16_t, float, float) { followSelection(); };
+    connect(ui_.pgPolarGraph, &PolarGraphWidget::aboutRequested, this,
+            guarded(host_, [this] { showAbout(); }));
+}
+
+void frmMain::trackPosition(float bearing, float radial) {
+    ui_.panels[1]->setText(QStringLiteral("Angle = ") + twoDecimals(static_cast<double>(bearing)) +
+                           QChar(176));
+    ui_.panels[2]->setText(QStringLiteral("Percent = ") + twoDecimals(10.0 * static_cast<double>(radial)) +
+                           QLatin1Char('%'));
+}
+
+void frmMain::followSelection() {
+    ui_.toolbarButtons.at("copy")->setEnabled(hasCommand("mnuEditOption_0") &&
+                                              pgPolarGraph().ActiveSelection());
+}
+
+void frmMain::PlotFrqFile(const std::string& path) {
+    setWindowTitle(QStringLiteral("Zephyrgraph - ") + shown(FileNameOf(path)));
+    settings.CurrentFrqPath = path;
+    pgPolarGraph().OpenFreqFile(path);
 }
 
 void frmMain::openFrqFile() {
     FilePick pick;
     pick.filter = "Frequency File (*.frq) | *.frq; |All Files (*.*) | *.*";
     pick.directory = modPolarGraph.WorkDir;
-    const std::string path = host_.pickFileToOpen(pick);
+    const std::string path = settings.BatchMode ? settings.BatchFRQFilename : host_.pickFileToOpen(pick);
     if (path.empty()) return;
     modPolarGraph.WorkDir = DirOf(path);
     // Only the first character is looked at: nearly every directory gets its final separator this way.
     if (modPolarGraph.WorkDir.substr(0, 1) != "\\") modPolarGraph.WorkDir += pathSeparator;
     PlotFrqFile(path);
-}
-
-void frmMain::PlotFrqFile(const std::string& path) {
-    setWindowTitle(QStringLiteral("Zephyrgraph - ") + shown(FileNameOf(path)));
-    pgPolarGraph_->graph().OpenFreqFile(path);
 }
 
 }  // namespace zg

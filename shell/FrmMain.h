@@ -1,41 +1,99 @@
 #pragma once
 
 #include <QMainWindow>
+#include <functional>
 #include <map>
 #include <string>
 
 #include "base/Host.h"
-#include "platform/PolarGraphWidget.h"
+#include "shell/FrmMainControls.h"
 
 namespace zg {
 
-/// The main window: the plot, and the menus that act on it. Each command is wired in one place, by the name
-/// of its entry; an entry without a command is disabled.
+/// Resource numbers of the program's own pointers.
+enum class ToolCursor {
+    ColourBox = 101,
+    Aspect = 103,
+    Circular = 104,
+    Pan = 105,
+    PanDragging = 106,
+    Select = 107,
+    Zoom = 108
+};
+
+/// The main window: the plot, the list of graphs, and the menus that act on them. Each command is wired in
+/// one place, by the name of its entry; an entry without a command is disabled.
 class frmMain : public QMainWindow {
     Q_OBJECT
 
  public:
     explicit frmMain(Host& host);
 
+    /// What the window does once before it is first shown: reads the configuration, finds the background
+    /// picture, and puts zoom, radius and labels at their start. An error ends it where it happens.
+    void Form_Load();
+
     /// Runs the File entry of that index, as a click would: 1 opens an FRQ file.
     void mnuFileOption_Click(int Index);
+    void mnuViewAspectOption_Click(int Index);
+    void mnuViewZoomSize_Click(int Index);
 
     /// Loads an FRQ file into the plot. The title names the file first, so that one that fails to load still
     /// does.
     void PlotFrqFile(const std::string& path);
 
-    PolarGraphWidget& pgPolarGraph() { return *pgPolarGraph_; }
+    /// The plot gets the pointer of that number.
+    void LoadToolCursor(ToolCursor id);
+
+    /// Puts the picture of that name from the program's Bitmap directory on the plot; false where there is
+    /// none. Raises 481 for a file that is no picture.
+    bool LoadBackgroundPicture(const std::string& name);
+
+    /// Pixels of the picture that a graph's swatch is drawn in.
+    void SizeLegendSwatch();
+    QSize legendSwatchSize() const { return picTemp_; }
+
+    /// Presses a tool as a click would.
+    void pressTool(Tool tool);
+    Tool activeTool() const { return activeToolButton_; }
+
+    PolarGraph& pgPolarGraph() { return ui_.pgPolarGraph->graph(); }
+    const FrmMainControls& controls() const { return ui_; }
 
     /// The action of a menu entry by its name, as "mnuFileOption_1"; null where there is none.
     QAction* menuAction(const std::string& name) const;
 
+ protected:
+    void closeEvent(QCloseEvent* event) override;
+
  private:
     void makeMenus();
+    std::map<std::string, std::function<void()>> commands();
+    void makeToolbars();
+    void followPlot();
+
     void openFrqFile();
+    void mnuEdit_Open();
+    void toggleShown(const char* entry, QWidget& bar);
+    void viewFrqFile();
+    void showAbout();
+    void toolDropsSelection();
+    void lstAspect_Click(int row);
+    void lstZoom_Click(int row);
+    void customEntryOnEnter(QListWidget& list, std::function<void()> show);
+    void showAspectDialog();
+    void showZoomDialog();
+    void trackPosition(float bearing, float radial);
+    void followSelection();
+    bool hasCommand(const std::string& entry) const { return commands_.contains(entry); }
 
     Host& host_;
-    PolarGraphWidget* pgPolarGraph_;
+    FrmMainControls ui_;
     std::map<std::string, QAction*> actions_;
+    std::map<std::string, std::function<void()>> commands_;
+    Tool activeToolButton_ = Tool::Arrow;
+    bool panDragging_ = false;
+    QSize picTemp_;
 };
 
 }  // namespace zg

@@ -1,17 +1,31 @@
 #include <QApplication>
+#include <memory>
 
 #include "base/Paths.h"
 #include "platform/Errors.h"
 #include "platform/QtHost.h"
 #include "platform/QtText.h"
+#include "processing/Stations.h"
 #include "shell/FrmMain.h"
+#include "shell/FrmSplashScreen.h"
+#include "shell/settings/StartSequence.h"
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Zephyrgraph"));
     zg::applicationDirectory = zg::filePath(QCoreApplication::applicationDirPath());
     zg::QtHost host;
-    zg::frmMain window(host);
-    window.show();
-    return QApplication::exec();
+
+    std::unique_ptr<zg::frmMain> window;
+    const auto showMain = [&host, &window] {
+        window = std::make_unique<zg::frmMain>(host);
+        zg::guarded(host, [&window] { window->Form_Load(); })();
+        window->show();
+    };
+    zg::startSettings();
+    zg::LoadStationData();
+    zg::frmSplashScreen splash(host, showMain);
+    splash.run();
+    // A window closed while the splash still waits has ended the program already.
+    return window && window->isVisible() ? QApplication::exec() : 0;
 }

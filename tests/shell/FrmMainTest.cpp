@@ -5,6 +5,8 @@
 #include <QTest>
 
 #include "base/Paths.h"
+#include "shell/settings/Settings.h"
+#include "shell/settings/StartSequence.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 
@@ -17,7 +19,9 @@ class FrmMainTest : public ::testing::Test {
  protected:
     void SetUp() override {
         modPolarGraph = ModPolarGraph();
+        settings = Settings();
         applicationDirectory = directory_.path();
+        startSettings();
         window_ = std::make_unique<frmMain>(host_);
         window_->show();
     }
@@ -65,7 +69,7 @@ TEST_F(FrmMainTest, ACancelledPickerChangesNothing) {
 TEST_F(FrmMainTest, ARefusedFileIsToldAndTheFormerRoseStays) {
     open(sample);
     const std::string title = modPolarGraph.GraphTitle;
-    const QImage before = window_->pgPolarGraph().pageImage().copy();
+    const QImage before = window_->controls().pgPolarGraph->pageImage().copy();
     const std::string junk = directory_.write("junk.frq", std::string("\0\xff\x01junk", 7));
     host_.boxAnswers = {BoxAnswer::Ok};
     open(junk);
@@ -73,7 +77,7 @@ TEST_F(FrmMainTest, ARefusedFileIsToldAndTheFormerRoseStays) {
     EXPECT_EQ(host_.boxes[0].text, "The FRQ File " + junk + " is not in the correct data format.");
     EXPECT_EQ(window_->windowTitle(), "Zephyrgraph - junk.frq");
     EXPECT_EQ(modPolarGraph.GraphTitle, title);
-    EXPECT_EQ(window_->pgPolarGraph().pageImage(), before);
+    EXPECT_EQ(window_->controls().pgPolarGraph->pageImage(), before);
 }
 
 struct BadFile {
@@ -117,10 +121,9 @@ TEST_F(FrmMainTest, AMissingFileAndADirectoryAreTold) {
 
 TEST_F(FrmMainTest, ThePlotFollowsTheWindowsSize) {
     window_->resize(900, 800);
-    const QSize wide = window_->pgPolarGraph().size();
+    const QSize wide = window_->controls().pgPolarGraph->size();
     window_->resize(500, 500);
-    EXPECT_LT(window_->pgPolarGraph().width(), wide.width());
-    EXPECT_EQ(window_->pgPolarGraph().width(), window_->width());
+    EXPECT_LT(window_->controls().pgPolarGraph->width(), wide.width());
 }
 
 }  // namespace

@@ -1,0 +1,108 @@
+#include "shell/FrmChangeDir.h"
+
+#include <QStorageInfo>
+#include <QVBoxLayout>
+
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
+#include "platform/Errors.h"
+#include "platform/QtText.h"
+#include "processing/Directories.h"
+
+namespace zg {
+
+namespace {
+
+#ifdef _WIN32
+const char* const rootDirectory = "C:\\";
+#else
+const char* const rootDirectory = "/";
+#endif
+
+std::string startDirectory(const std::string& asked, const std::string& workDir) {
+    if (IsDirectory(asked)) return asked;
+    return IsDirectory(workDir) ? workDir : rootDirectory;
+}
+
+}  // namespace
+
+frmChangeDir::frmChangeDir(Host& host, std::string& directory, const std::string& workDir, QWidget* parent)
+    : QDialog(parent), host_(host), directory_(directory), start_(startDirectory(directory, workDir)) {
+    setObjectName(QStringLiteral("frmChangeDir"));
+    setWindowTitle(QStringLiteral("Change Directory"));
+    model_ = new QFileSystemModel(this);
+    model_->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot | QDir::Drives);
+    model_->setRootPath(QString());
+    lblCurDir = new QLabel;
+    lblCurDir->setObjectName(QStringLiteral("lblCurDir"));
+    lblCurDir->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    Drive1 = new QComboBox;
+    Drive1->setObjectName(QStringLiteral("Drive1"));
+    Drive1->setAccessibleName(QStringLiteral("Drive"));
+    for (const QStorageInfo& volume : QStorageInfo::mountedVolumes())
+        if (volume.isValid() && volume.isReady()) Drive1->addItem(volume.rootPath());
+    Dir1 = new QTreeView;
+    Dir1->setObjectName(QStringLiteral("Dir1"));
+    Dir1->setAccessibleName(QStringLiteral("Directory"));
+    Dir1->setModel(model_);
+    Dir1->setHeaderHidden(true);
+    for (int column = 1; column < model_->columnCount(); ++column) Dir1->hideColumn(column);
+    cmdOK = new QPushButton(QStringLiteral("OK"));
+    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK->setDefault(true);
+    cmdCancel = new QPushButton(QStringLiteral("Cancel"));
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    cmdCancel->setAutoDefault(false);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(new QLabel(QStringLiteral("Current Working Directory:")));
+    layout->addWidget(lblCurDir);
+    layout->addWidget(Drive1);
+    layout->addWidget(Dir1, 1);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(cmdOK);
+    buttons->addWidget(cmdCancel);
+    layout->addLayout(buttons);
+    resize(420, 420);
+
+    goTo(fileName(start_));
+    connect(Drive1, &QComboBox::activated, this, guarded(host_, [this] { Drive1_Change(); }));
+    connect(Dir1->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            guarded(host_, [this] { Dir1_Change(); }));
+    connect(cmdOK, &QPushButton::clicked, this, guarded(host_, [this] { cmdOK_Click(); }));
+    connect(cmdCancel, &QPushButton::clicked, this, &frmChangeDir::reject);
+}
+
+void frmChangeDir::goTo(const QString& path) {
+    const QModelIndex index = model_->index(path);
+    Dir1->setCurrentIndex(index);
+    Dir1->expand(index);
+    Dir1->scrollTo(index);
+    lblCurDir->setText(QDir::toNativeSeparators(path));
+}
+
+void frmChangeDir::Drive1_Change() {
+    // A drive that is not ready leaves the tree where it was.
+    if (const QString drive = Drive1->currentText(); QDir(drive).isReadable()) goTo(drive);
+}
+
+void frmChangeDir::Dir1_Change() {
+    lblCurDir->setText(QDir::toNativeSeparators(model_->filePath(Dir1->currentIndex())));
+}
+
+void frmChangeDir::cmdOK_Click() {
+    try {
+        directory_ = withSeparator(filePath(lblCurDir->text()));
+        accept();
+    } catch (const RunTimeError& error) {
+        host_.showBox({"Error: " + error.description, "", BoxIcon::None, BoxButtons::Ok});
+    }
+}
+
+void frmChangeDir::reject() {
+    directory_ = withSeparator(start_);
+    QDialog::reject();
+}
+
+}  // namespace zg

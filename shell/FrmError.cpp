@@ -1,0 +1,51 @@
+#include "shell/FrmError.h"
+
+#include <QGuiApplication>
+#include <QVBoxLayout>
+
+namespace zg {
+
+frmError::frmError(QWidget* parent) : QDialog(parent) {
+    setObjectName(QStringLiteral("frmError"));
+    setWindowTitle(QStringLiteral("Error"));
+    lblDescr = new QLabel;
+    lblDescr->setObjectName(QStringLiteral("lblDescr"));
+    lblDescr->setWordWrap(true);
+    lblDescr->setTextFormat(Qt::PlainText);
+    lblDescr->setMinimumWidth(360);
+    cmdOK = new QPushButton(QStringLiteral("OK"));
+    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK->setDefault(true);
+    cmdDisable = new QPushButton(QStringLiteral("Disable Error Checking"));
+    cmdDisable->setObjectName(QStringLiteral("cmdDisable"));
+    cmdDisable->setAutoDefault(false);
+    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cmdDisable, &QPushButton::clicked, this, &frmError::cmdDisable_Click);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(lblDescr);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(cmdOK);
+    buttons->addWidget(cmdDisable);
+    layout->addLayout(buttons);
+}
+
+void frmError::ShowError(const QString& description, const QString& modType) {
+    gsModType = modType;
+    if (modType == QLatin1String("RUN")) {
+        cmdDisable->setText(QStringLiteral("Cannot Disable Error Checking When Trying to Run"));
+        cmdDisable->setEnabled(false);
+    }
+    lblDescr->setText(description);
+    const QCursor* screenPointer = QGuiApplication::overrideCursor();
+    hourglass_ = screenPointer != nullptr && screenPointer->shape() == Qt::WaitCursor;
+    if (screenPointer != nullptr) QGuiApplication::restoreOverrideCursor();
+    exec();
+}
+
+void frmError::cmdDisable_Click() {
+    if (hourglass_) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    reject();
+}
+
+}  // namespace zg

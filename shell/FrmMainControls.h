@@ -1,0 +1,92 @@
+#pragma once
+
+#include <QComboBox>
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMainWindow>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <array>
+#include <functional>
+#include <map>
+#include <string>
+
+#include "platform/PolarGraphWidget.h"
+
+namespace zg {
+
+/// The tools of tblToolbox by their index.
+enum class Tool { Arrow = 1, Select, Cross, Circular, Pan, Aspect, Zoom };
+
+/// A box that shows a colour and is clicked to choose another.
+class ColourBox : public QPushButton {
+ public:
+    explicit ColourBox(Colour colour, QWidget* parent = nullptr);
+
+    Colour colour() const { return colour_; }
+    void setColour(Colour colour);
+
+ protected:
+    void paintEvent(QPaintEvent* event) override;
+
+ private:
+    Colour colour_;
+};
+
+/// A list whose rows act when they are chosen: by a click, also on the row that is current already, by the
+/// arrow keys, or by code.
+class ChoiceList : public QListWidget {
+ public:
+    ChoiceList();
+
+    std::function<void(int row)> onChoice;
+
+ protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+    bool pressed_ = false;
+};
+
+/// The list of graphs. Its columns share its width anew at each resize.
+class GraphTable : public QTreeWidget {
+ protected:
+    void resizeEvent(QResizeEvent* event) override;
+};
+
+/// The controls of the main window under their names. They belong to the window.
+struct FrmMainControls {
+    QWidget* tblToolbar = nullptr;
+    std::map<std::string, QToolButton*> toolbarButtons;  ///< new, open, save, print, copy
+    QFrame* fraToolbox = nullptr;
+    QWidget* tblToolbox = nullptr;
+    std::array<QToolButton*, 7> toolboxButtons{};  ///< in the order of Tool
+    ChoiceList* lstAspect = nullptr;
+    ChoiceList* lstZoom = nullptr;
+    PolarGraphWidget* pgPolarGraph = nullptr;
+    QFrame* fraHolder = nullptr;
+    QComboBox* cmbFunction = nullptr;
+    QLineEdit* txtCoefficient = nullptr;
+    std::array<ColourBox*, 2> picColor{};
+    QPushButton* cmdExpr = nullptr;
+    QPushButton* cmdClear = nullptr;
+    QPushButton* cmdReplace = nullptr;
+    QPushButton* cmdPlot = nullptr;
+    QTreeWidget* lvwTable = nullptr;
+    QStatusBar* sbStatusBar = nullptr;
+    std::array<QLabel*, 3> panels{};  ///< panels 1 to 3 of the status bar
+    QFrame* picTray = nullptr;
+    QProgressBar* pgbProgressBar = nullptr;
+};
+
+/// Makes the controls and lays them out: toolbar along the top, toolbox down the left, plot in the middle,
+/// equation row and list under it, status bar along the bottom.
+FrmMainControls makeFrmMainControls(QMainWindow& window, Host& host);
+
+}  // namespace zg

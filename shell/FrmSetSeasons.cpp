@@ -1,0 +1,142 @@
+#include "shell/FrmSetSeasons.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+#include "platform/Errors.h"
+#include "platform/FieldMarks.h"
+#include "platform/QtText.h"
+
+namespace zg {
+
+namespace {
+
+constexpr std::array<const char*, 12> monthLabels = {
+    "January:", "February:", "March:",     "April:",   "May:",      "June:",
+    "July:",    "August:",   "September:", "October:", "November:", "December:"};
+
+QString indexed(const char* name, std::size_t index) {
+    return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index);
+}
+
+void select(QComboBox& list, const std::string& season) {
+    const int row = list.findText(shown(season));
+    if (row >= 0) list.setCurrentIndex(row);
+}
+
+}  // namespace
+
+frmSetSeasons::frmSetSeasons(Host& host, QWidget* parent) : QDialog(parent), host_(host) {
+    setObjectName(QStringLiteral("frmSetSeasons"));
+    setWindowTitle(QStringLiteral(" Set Seasons for Generating Wind Roses from Meteorological Data"));
+    layOut();
+    for (std::size_t month = 0; month < cboSeason.size(); ++month)
+        connect(cboSeason[month], &QComboBox::currentIndexChanged, this,
+                guarded(host_, [this, month] { cboSeason_Click(month); }));
+    connect(cmdOk, &QPushButton::clicked, this, guarded(host_, [this] { cmdOK_Click(); }));
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(cmdDefaults, &QPushButton::clicked, this, guarded(host_, [this] { cmdDefaults_Click(); }));
+    Form_Load();
+}
+
+void frmSetSeasons::layOut() {
+    auto* grid = new QGridLayout(this);
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(6);
+    for (std::size_t month = 0; month < cboSeason.size(); ++month) {
+        cboSeason[month] = new QComboBox;
+        cboSeason[month]->setObjectName(indexed("cboSeason", month));
+        cboSeason[month]->setAccessibleName(QString::fromLatin1(monthLabels[month]));
+        for (const std::string_view season : seasonChoices) cboSeason[month]->addItem(shown(season));
+        txtCustomSeason[month] = new QLineEdit;
+        txtCustomSeason[month]->setObjectName(indexed("txtCustomSeason", month));
+        txtCustomSeason[month]->setAccessibleName(QString::fromLatin1(monthLabels[month]));
+        txtCustomSeason[month]->setMinimumWidth(160);
+        auto* lblMonth = new QLabel(QString::fromLatin1(monthLabels[month]));
+        lblMonth->setObjectName(indexed("lblMonth", month));
+        lblMonth->setBuddy(cboSeason[month]);
+        const int row = static_cast<int>(month);
+        grid->addWidget(lblMonth, row, 0, Qt::AlignRight | Qt::AlignVCenter);
+        grid->addWidget(cboSeason[month], row, 1);
+        grid->addWidget(txtCustomSeason[month], row, 2);
+        setCustom(month, false);
+    }
+    cmdDefaults = new QPushButton(QStringLiteral("Defaults"));
+    cmdDefaults->setObjectName(QStringLiteral("cmdDefaults"));
+    cmdDefaults->setAutoDefault(false);
+    cmdOk = new QPushButton(QStringLiteral("OK"));
+    cmdOk->setObjectName(QStringLiteral("cmdOk"));
+    cmdOk->setDefault(true);
+    cmdCancel = new QPushButton(QStringLiteral("Cancel"));
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    cmdCancel->setAutoDefault(false);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(cmdDefaults);
+    buttons->addStretch();
+    buttons->addWidget(cmdOk);
+    buttons->addWidget(cmdCancel);
+    grid->addLayout(buttons, static_cast<int>(cboSeason.size()), 0, 1, 3);
+    grid->setColumnStretch(2, 1);
+    // The title is long: it should be readable over the dialog.
+    setMinimumWidth(fontMetrics().horizontalAdvance(windowTitle()) + 120);
+}
+
+void frmSetSeasons::setCustom(std::size_t month, bool enabled) {
+    if (enabled)
+        EnableField(*txtCustomSeason[month]);
+    else
+        DisableField(*txtCustomSeason[month]);
+}
+
+void frmSetSeasons::Form_Load() {
+    const SeasonFields stored = loadSeasonFields();
+    for (std::size_t month = 0; month < cboSeason.size(); ++month) {
+        select(*cboSeason[month], stored.cboSeason[month]);
+        txtCustomSeason[month]->setText(shown(stored.txtCustomSeason[month]));
+        if (!stored.txtCustomSeason[month].empty()) setCustom(month, true);
+    }
+}
+
+void frmSetSeasons::cboSeason_Click(std::size_t month) {
+    if (typed(cboSeason[month]->currentText()) == customSeason) {
+        setCustom(month, true);
+        return;
+    }
+    ClearInvalid(*txtCustomSeason[month]);
+    setCustom(month, false);
+}
+
+void frmSetSeasons::cmdDefaults_Click() {
+    const SeasonFields defaults = defaultSeasonFields();
+    for (std::size_t month = 0; month < cboSeason.size(); ++month) {
+        select(*cboSeason[month], defaults.cboSeason[month]);
+        txtCustomSeason[month]->clear();
+        setCustom(month, false);
+    }
+}
+
+SeasonFields frmSetSeasons::fields() const {
+    SeasonFields rows;
+    for (std::size_t month = 0; month < cboSeason.size(); ++month) {
+        rows.cboSeason[month] = typed(cboSeason[month]->currentText());
+        rows.txtCustomSeason[month] = typed(txtCustomSeason[month]->text());
+    }
+    return rows;
+}
+
+void frmSetSeasons::cmdOK_Click() {
+    const SeasonFields rows = fields();
+    const auto missing = firstMissingCustomSeason(rows);
+    for (std::size_t month = 0; month < missing.value_or(rows.cboSeason.size()); ++month)
+        if (fieldMark(*txtCustomSeason[month]) == yellowMark && !rows.txtCustomSeason[month].empty())
+            ClearInvalid(*txtCustomSeason[month]);
+    if (missing) {
+        MarkInvalid(*txtCustomSeason[*missing]);
+        host_.showBox({std::string(missingCustomSeasonText), "Error", BoxIcon::Warning, BoxButtons::Ok});
+        return;
+    }
+    acceptSeasons(rows);
+    accept();
+}
+
+}  // namespace zg

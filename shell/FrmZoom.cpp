@@ -1,0 +1,78 @@
+#include "shell/FrmZoom.h"
+
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+#include "base/Numbers.h"
+#include "platform/Errors.h"
+#include "platform/KeyFilter.h"
+#include "platform/QtText.h"
+#include "processing/KeyFilters.h"
+#include "shell/DialogButtons.h"
+#include "shell/settings/CfgFile.h"
+#include "shell/settings/Settings.h"
+
+namespace zg {
+
+namespace {
+
+constexpr double smallestZoom = 20;
+constexpr double largestZoom = 500;
+
+QStringList zoomRows() {
+    QStringList rows;
+    for (int percent = 20; percent <= 100; percent += 5) rows.append(QString::number(percent));
+    for (int percent = 125; percent <= 200; percent += 25) rows.append(QString::number(percent));
+    for (int percent = 250; percent <= 500; percent += 50) rows.append(QString::number(percent));
+    return rows;
+}
+
+}  // namespace
+
+frmZoom::frmZoom(Host& host, PolarGraph& graph, QWidget* parent)
+    : QDialog(parent), host_(host), graph_(graph) {
+    setObjectName(QStringLiteral("frmZoom"));
+    setWindowTitle(QStringLiteral("Custom Zoom"));
+    auto* frame = new QGroupBox(QStringLiteral("Zoom to (%)"));
+    lblLabel = new QLabel(QStringLiteral("Current zoom: %1%").arg(graph.Zoom()));
+    lblLabel->setObjectName(QStringLiteral("lblLabel"));
+    cmbZoom = new QComboBox;
+    cmbZoom->setObjectName(QStringLiteral("cmbZoom"));
+    cmbZoom->setAccessibleName(frame->title());
+    cmbZoom->setEditable(true);
+    cmbZoom->setInsertPolicy(QComboBox::NoInsert);
+    cmbZoom->addItems(zoomRows());
+    cmbZoom->setCurrentText(QString::number(graph.Zoom()));
+    filterKeys(*cmbZoom->lineEdit(), KeyNumericInteger);
+
+    auto* inFrame = new QVBoxLayout(frame);
+    inFrame->addWidget(lblLabel);
+    inFrame->addWidget(cmbZoom);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(frame);
+    const DialogButtons buttons = addOkCancel(*layout);
+    cmdOk = buttons.ok;
+    cmdCancel = buttons.cancel;
+    connect(cmdOk, &QPushButton::clicked, this, guarded(host_, [this] { cmdOk_Click(); }));
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    cmbZoom->setFocus();
+    cmbZoom->lineEdit()->selectAll();
+}
+
+void frmZoom::cmdOk_Click() {
+    const std::string text = typed(cmbZoom->currentText());
+    const double percent = val(text);
+    if (percent < smallestZoom || percent > largestZoom) {
+        host_.showBox({"Enter a value between 20 to 500.", "Zoom", BoxIcon::Information, BoxButtons::Ok});
+        cmbZoom->setFocus();
+        return;
+    }
+    const std::int16_t zoom = toInt16(percent);
+    if (zoom != graph_.Zoom()) graph_.Zoom(zoom);
+    settings.ZoomPercentText = text;
+    WriteCfgFile(settings.CfgFilePath);
+    accept();
+}
+
+}  // namespace zg
