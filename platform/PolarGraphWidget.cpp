@@ -6,8 +6,11 @@
 #include <QTimer>
 #include <QWheelEvent>
 
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
 #include "platform/Errors.h"
 #include "platform/PageWidget.h"
+#include "platform/QtPicture.h"
 #include "platform/QtText.h"
 #include "platform/RulerWidget.h"
 
@@ -41,6 +44,7 @@ PolarGraphWidget::PolarGraphWidget(Host& host, const PropertyBag& designed, QWid
       hsScroll_(new QScrollBar(Qt::Horizontal, this)),
       vsScroll_(new QScrollBar(Qt::Vertical, this)),
       picScroll_(new QWidget(this)),
+      lblTrackAngle_(new QLabel(picGraph_)),
       picHolderRH_(new QWidget(this)),
       picHolderRV_(new QWidget(this)),
       picRulerH_(new RulerWidget(*this, RulerPart::Top, picHolderRH_)),
@@ -50,6 +54,9 @@ PolarGraphWidget::PolarGraphWidget(Host& host, const PropertyBag& designed, QWid
     vsScroll_->setObjectName(QStringLiteral("vsScroll"));
     picScroll_->setObjectName(QStringLiteral("picScroll"));
     picScroll_->setAutoFillBackground(true);
+    lblTrackAngle_->setObjectName(QStringLiteral("lblTrackAngle"));
+    lblTrackAngle_->move(6, 6);
+    lblTrackAngle_->hide();
     picHolderRH_->setObjectName(QStringLiteral("picHolderRH"));
     picHolderRV_->setObjectName(QStringLiteral("picHolderRV"));
     picRulerJ_->setToolTip(QString::fromLatin1(PolarGraph::cornerToolTip));
@@ -119,6 +126,21 @@ void PolarGraphWidget::pointerChanged() {
 }
 
 void PolarGraphWidget::showAbout(const std::string& title) { emit aboutRequested(shown(title)); }
+
+void PolarGraphWidget::trackAngleChanged(const std::string& text) {
+    lblTrackAngle_->setText(shown(text));
+    lblTrackAngle_->adjustSize();
+    lblTrackAngle_->setVisible(!text.empty());
+}
+
+PicturePointer PolarGraphWidget::loadPicture(const std::string& path) {
+    if (!fileExists(path)) return nullptr;
+    try {
+        return zg::loadPicture(path);
+    } catch (const RunTimeError&) {
+        return nullptr;  // a marker without its picture is not drawn, and nobody is asked about it
+    }
+}
 
 void PolarGraphWidget::resizeEvent(QResizeEvent*) {
     guarded(host_, [this] { graph_->layout(width(), height()); })();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLabel>
 #include <QScrollBar>
 #include <QWidget>
 #include <memory>
@@ -49,6 +50,8 @@ class PolarGraphWidget : public QWidget, private ControlWindow {
     void propertyChanged() override {}
     void pointerChanged() override;
     void showAbout(const std::string& title) override;
+    void trackAngleChanged(const std::string& text) override;
+    PicturePointer loadPicture(const std::string& path) override;
 
     void endPainting() { canvas_.reset(); }
     void followScreen();
@@ -63,6 +66,7 @@ class PolarGraphWidget : public QWidget, private ControlWindow {
     QScrollBar* hsScroll_;
     QScrollBar* vsScroll_;
     QWidget* picScroll_;
+    QLabel* lblTrackAngle_;
     QWidget* picHolderRH_;
     QWidget* picHolderRV_;
     RulerWidget* picRulerH_;

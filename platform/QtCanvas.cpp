@@ -6,6 +6,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "platform/MarkerSymbols.h"
 #include "platform/QtPicture.h"
 #include "platform/QtText.h"
 
@@ -59,8 +60,10 @@ Qt::PenStyle penStyle(std::int32_t style) {
     }
 }
 
-QString shownLine(const std::string& text) {
-    return text.size() <= longestText ? shown(text) : shown(std::string_view(text).substr(0, longestText));
+/// The text in the characters that its face needs.
+QString shownLine(const std::string& text, const std::string& face) {
+    const std::string_view visible = std::string_view(text).substr(0, longestText);
+    return needsSymbols(face) ? symbolText(visible) : shown(visible);
 }
 
 const QImage& imageOf(const Picture& picture) { return static_cast<const QtPicture&>(picture).image(); }
@@ -163,7 +166,7 @@ void QtCanvas::fillPolygon(const std::vector<Point>& corners, Colour colour) {
 }
 
 QFont QtCanvas::fontOf(const TextStyle& style) const {
-    QFont font(shown(style.face));
+    QFont font(needsSymbols(style.face) ? symbolFace() : shown(style.face));
     // Points are of 96 dots an inch on the surface, so that a printer's own resolution does not change the
     // layout.
     const double size = std::clamp(style.size, 1.0, 1000.0);
@@ -180,13 +183,13 @@ void QtCanvas::text(const std::string& text, const TextStyle& style) {
     painter_.setFont(font);
     painter_.setPen(toQColor(style.colour));
     painter_.drawText(QPointF(bounded(position_.x), bounded(position_.y) + metrics.ascent()),
-                      shownLine(text));
+                      shownLine(text, style.face));
     position_ = {0, position_.y + metrics.height()};
 }
 
 TextSize QtCanvas::measure(const std::string& text, const TextStyle& style) const {
     const QFontMetricsF metrics(fontOf(style), painter_.device());
-    return {metrics.horizontalAdvance(shownLine(text)), metrics.height()};
+    return {metrics.horizontalAdvance(shownLine(text, style.face)), metrics.height()};
 }
 
 }  // namespace zg

@@ -7,6 +7,7 @@
 
 #include "base/Numbers.h"
 #include "base/Paths.h"
+#include "base/RunTimeError.h"
 #include "platform/Errors.h"
 #include "platform/QtPicture.h"
 #include "platform/QtText.h"
@@ -93,6 +94,13 @@ void frmMain::followPlot() {
     events.TrackPosition = [this](float, float, float bearing, float, float, float, float radial) {
         trackPosition(bearing, radial);
     };
+    events.BeforeGraph = [this](std::int16_t& index) {
+        beginProgress(pgPolarGraph().Plot().Item(std::int64_t{index}));
+    };
+    events.DrawProgress = [this](float, float, float, float, float) { ui_.pgbProgressBar->advance(); };
+    events.DrawBegin = [this](bool& value) {
+        if (value) ui_.pgbProgressBar->hide();
+    };
     events.MouseMove = [this](std::int16_t, std::int16_t, float, float) { followSelection(); };
     connect(ui_.pgPolarGraph, &PolarGraphWidget::aboutRequested, this,
             guarded(host_, [this] { showAbout(); }));
@@ -103,6 +111,14 @@ void frmMain::trackPosition(float bearing, float radial) {
                            QChar(176));
     ui_.panels[2]->setText(QStringLiteral("Percent = ") + twoDecimals(10.0 * static_cast<double>(radial)) +
                            QLatin1Char('%'));
+}
+
+/// The bar counts the steps of the graph that is about to be drawn.
+void frmMain::beginProgress(const GrapInfo& graph) {
+    if (graph.Step == 0) zg::raise(ErrorNumber::DivisionByZero);
+    const double steps =
+        static_cast<double>(graph.EndingAngle - graph.StartingAngle) / static_cast<double>(graph.Step);
+    ui_.pgbProgressBar->begin(steps + 1);
 }
 
 void frmMain::followSelection() {

@@ -85,6 +85,7 @@ class frmMain : public QMainWindow {
     void showZoomDialog();
     void trackPosition(float bearing, float radial);
     void followSelection();
+    void beginProgress(const GrapInfo& graph);
     bool hasCommand(const std::string& entry) const { return commands_.contains(entry); }
 
     Host& host_;

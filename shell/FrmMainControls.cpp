@@ -16,6 +16,7 @@ namespace {
 
 constexpr int gap = 2;
 constexpr int twipsPerPixel = 15;
+constexpr int barScale = 200;
 constexpr int legendColumnWidth = 800 / twipsPerPixel;
 constexpr int tableSlack = 60 / twipsPerPixel;
 
@@ -189,7 +190,7 @@ void makeStatusBar(FrmMainControls& ui, QMainWindow& window) {
     ui.panels[2]->setMinimumWidth(width);
     ui.picTray = named(new QFrame, "picTray");
     ui.picTray->setFixedWidth(160);
-    ui.pgbProgressBar = named(new QProgressBar, "pgbProgressBar");
+    ui.pgbProgressBar = named(new StepBar, "pgbProgressBar");
     ui.pgbProgressBar->setTextVisible(false);
     ui.pgbProgressBar->setFixedHeight(14);
     ui.pgbProgressBar->hide();
@@ -263,6 +264,19 @@ FrmMainControls makeFrmMainControls(QMainWindow& window, Host& host) {
     window.setCentralWidget(centre);
     makeStatusBar(ui, window);
     return ui;
+}
+
+void StepBar::begin(double steps) {
+    steps_ = std::max(1.0, steps);
+    done_ = 0;
+    setRange(0, barScale);
+    setValue(0);
+    show();
+}
+
+void StepBar::advance() {
+    done_ = std::min(done_ + 1, steps_);
+    setValue(static_cast<int>(done_ / steps_ * barScale));
 }
 
 void GraphTable::resizeEvent(QResizeEvent* event) {

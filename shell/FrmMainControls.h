@@ -54,6 +54,20 @@ class ChoiceList : public QListWidget {
     bool pressed_ = false;
 };
 
+/// A progress bar that counts far more steps than it has pixels and repaints only for those that can be seen.
+class StepBar : public QProgressBar {
+ public:
+    /// Starts at 0 and shows itself; so many steps, at least one, fill it.
+    void begin(double steps);
+
+    /// One step more; beyond the last it stays full.
+    void advance();
+
+ private:
+    double steps_ = 1;
+    double done_ = 0;
+};
+
 /// The list of graphs. Its columns share its width anew at each resize.
 class GraphTable : public QTreeWidget {
  protected:
@@ -82,7 +96,7 @@ struct FrmMainControls {
     QStatusBar* sbStatusBar = nullptr;
     std::array<QLabel*, 3> panels{};  ///< panels 1 to 3 of the status bar
     QFrame* picTray = nullptr;
-    QProgressBar* pgbProgressBar = nullptr;
+    StepBar* pgbProgressBar = nullptr;
 };
 
 /// Makes the controls and lays them out: toolbar along the top, toolbox down the left, plot in the middle,

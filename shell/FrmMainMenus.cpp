@@ -69,9 +69,15 @@ std::map<std::string, std::function<void()>> frmMain::commands() {
         {"mnuSetSeasons", [this] { frmSetSeasons(host_, this).exec(); }},
         {"mnuSetWindSpeedClasses", [this] { frmSetWindSpeedClasses(host_, this).exec(); }},
         {"mnuPolarOption_1",
-         [this] { pgPolarGraph().ShowLabel(actions_.at("mnuPolarOption_1")->isChecked()); }},
+         [this] {
+             pgPolarGraph().ShowLabel(actions_.at("mnuPolarOption_1")->isChecked());
+             pgPolarGraph().DrawGraph();
+         }},
         {"mnuPolarOption_2",
-         [this] { pgPolarGraph().ShowLegend(actions_.at("mnuPolarOption_2")->isChecked()); }},
+         [this] {
+             pgPolarGraph().ShowLegend(actions_.at("mnuPolarOption_2")->isChecked());
+             pgPolarGraph().DrawGraph();
+         }},
         {"mnuPolarOption_4",
          [this] { pgPolarGraph().ShowCoordinateSystem(actions_.at("mnuPolarOption_4")->isChecked()); }},
         {"mnuHelpAbout", [this] { showAbout(); }},

@@ -15,7 +15,12 @@ constexpr std::int16_t curvesAndRulers = 3;
 }  // namespace
 
 PolarGraph::PolarGraph(ControlWindow& window, Host& host, const PropertyBag& designed)
-    : window_(window), host_(host), polar_(createPolar(modPolarGraph)) {
+    : window_(window),
+      host_(host),
+      engine_([this] { return host_.tickCount(); }),
+      polar_(createPolar(modPolarGraph)) {
+    engine_.Language("VBScript");
+    engine_.AddObject("MathLib");
     ReadProperties(designed);
 }
 
@@ -145,17 +150,8 @@ void PolarGraph::RedrawGraph(std::int16_t mode) {
     }
     window_.pagePainted();
     const AfterFrame after = afterFrame(mode);
-    if (after.curves) drawCurves();
+    if (after.curves) DrawGraph();
     if (after.rulers) window_.rulersChanged();
-}
-
-void PolarGraph::drawCurves() {
-    const std::int32_t count = plot_.Count();
-    for (std::int32_t i = 1; i <= count; ++i) {
-        if (!plot_.Item(i).Visible) continue;
-        std::int16_t index = toInt16(static_cast<double>(i));
-        if (events.BeforeGraph) events.BeforeGraph(index);
-    }
 }
 
 void PolarGraph::changedOnPage() {

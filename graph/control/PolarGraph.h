@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "base/Host.h"
@@ -17,6 +18,7 @@
 #include "graph/render/Canvas.h"
 #include "graph/render/PlotSettings.h"
 #include "graph/render/PolarGeometry.h"
+#include "graph/script/ScriptEngine.h"
 
 namespace zg {
 
@@ -25,7 +27,7 @@ class ControlWindow {
  public:
     virtual ~ControlWindow() = default;
 
-    /// The page's surface. Its size follows pageResized.
+    /// The page's surface, good until the next pageResized or pagePainted. Its size follows pageResized.
     virtual Canvas& pageCanvas() = 0;
 
     /// The page has a new size in pixels, at least 1 by 1; its content is repainted after the call.
@@ -47,6 +49,12 @@ class ControlWindow {
     virtual void pointerChanged() = 0;
 
     virtual void showAbout(const std::string& title) = 0;
+
+    /// lblTrackAngle has a new text; an empty one hides it.
+    virtual void trackAngleChanged(const std::string& text) = 0;
+
+    /// The picture of a file; null where there is none or it is no picture.
+    virtual PicturePointer loadPicture(const std::string& path) = 0;
 };
 
 /// Events towards the host. An empty function is no listener.
@@ -166,6 +174,12 @@ class PolarGraph {
     /// Clears the page; tables and objects stay.
     void ClearGraph();
 
+    /// Paints the curve of that number, or all of them, where they are visible. Instantly false paints each
+    /// at once whatever its delay; true lets those with a delay sweep step by step, with events served
+    /// meanwhile, until StopAni becomes true. Raises the script engine's errors; what was painted until then
+    /// stays.
+    void DrawGraph(std::optional<std::int16_t> index = std::nullopt, bool instantly = false);
+
     /// Loads the file into the tables and, if it was accepted, refreshes. The result is always 0; see
     /// lastOpenOutcome. Errors of a broken file reach the caller with the tables partly filled.
     std::int16_t OpenFreqFile(const std::string& path);
@@ -214,7 +228,12 @@ class PolarGraph {
 
  private:
     void RedrawGraph(std::int16_t mode);
-    void drawCurves();
+    void drawItem(std::int16_t index, bool instantly);
+    void DrawCurve(const GrapInfo& graph);
+    void sweep(const GrapInfo& graph);
+    bool waitForNextStep(std::int16_t delay, float angle);
+    void raiseDrawBegin(bool value);
+    void showTrackAngle(const std::string& text);
     void changed() { window_.propertyChanged(); }
     void changedOnPage();
     void resizePage();
@@ -225,6 +244,7 @@ class PolarGraph {
 
     ControlWindow& window_;
     Host& host_;
+    ScriptEngine engine_;
     zg::Polar polar_;
     zg::Plot plot_;
     PlotSettings settings_;

@@ -1,5 +1,7 @@
 #include "graph/model/Plot.h"
 
+#include <algorithm>
+
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 
@@ -44,6 +46,11 @@ GrapInfo& Plot::Item(std::int64_t index) { return *items_[position(index)].graph
 GrapInfo& Plot::Item(std::string_view key) { return *items_[position(key)].graph; }
 
 const GrapInfo& Plot::Item(std::int64_t index) const { return *items_[position(index)].graph; }
+
+bool Plot::contains(const GrapInfo& graph) const {
+    return std::any_of(items_.begin(), items_.end(),
+                       [&graph](const Entry& entry) { return entry.graph.get() == &graph; });
+}
 
 void Plot::Remove(std::int64_t index) {
     items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(position(index)));

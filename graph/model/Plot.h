@@ -37,6 +37,9 @@ class Plot {
     GrapInfo& Item(std::string_view key);
     const GrapInfo& Item(std::int64_t index) const;
 
+    /// The graph is one of the list.
+    bool contains(const GrapInfo& graph) const;
+
     std::int32_t Count() const { return static_cast<std::int32_t>(items_.size()); }
 
     /// Raises as Item does.

@@ -24,6 +24,8 @@ class RefusalHost : public zg::Host {
     }
     std::string pickFileToOpen(const zg::FilePick&) override { std::abort(); }
     std::string pickFileToSave(const zg::FilePick&) override { std::abort(); }
+    std::vector<std::string> pickFilesToOpen(const zg::FilePick&) override { std::abort(); }
+    std::string pickFolder(const zg::FolderPick&) override { std::abort(); }
     std::int64_t tickCount() override { return 0; }
     void pumpEvents(int) override {}
 

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QMenu>
+#include <QProgressBar>
 #include <QTest>
 #include <QTimer>
 
@@ -205,6 +206,41 @@ TEST_F(FrmMainCommands, ClosingEndsAnAnimation) {
     window_->close();
     EXPECT_TRUE(plot().StopAni());
     EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(FrmMainCommands, TheProgressBarFollowsACurve) {
+    GrapInfo& curve = plot().Plot().Add("", "4*sin(2*t)", rgb(0, 0, 255), rgb(0, 0, 255));
+    curve.Delay = 1;
+    curve.EndingAngle = 90;
+    curve.Step = 10;
+    auto* bar = window_->findChild<QProgressBar*>("pgbProgressBar");
+    std::vector<int> values;
+    host_.onPump = [&] {
+        EXPECT_TRUE(bar->isVisible());
+        values.push_back(bar->value() * 100 / bar->maximum());
+    };
+    plot().DrawGraph(std::int16_t{1}, true);
+    ASSERT_FALSE(values.empty());
+    EXPECT_EQ(values.front(), 10);
+    EXPECT_EQ(values.back(), 100);
+    EXPECT_FALSE(bar->isVisible());
+}
+
+TEST_F(FrmMainCommands, ClosingTheWindowEndsAnAnimation) {
+    plot().Plot().Add("", "2", rgb(0, 0, 255), rgb(0, 0, 255)).Delay = 10;
+    int pumps = 0;
+    host_.onPump = [&] {
+        if (++pumps == 3) window_->close();
+    };
+    plot().DrawGraph(std::int16_t{1}, true);
+    EXPECT_LT(pumps, 10);
+}
+
+TEST_F(FrmMainCommands, ACurveWithoutAStepIsTold) {
+    plot().Plot().Add("", "2", rgb(0, 0, 255), rgb(0, 0, 255)).Step = 0;
+    host_.boxAnswers = {BoxAnswer::Ok};
+    choose("mnuPolarOption_1");
+    EXPECT_EQ(host_.boxes[0].text, "Run-time error '11':\n\nDivision by zero");
 }
 
 TEST_F(FrmMainCommands, ResetBringsThePageBesideTheRulers) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -40,4 +41,12 @@ class FakeWindow : public zg::ControlWindow {
     void propertyChanged() override { calls.emplace_back("propertyChanged"); }
     void pointerChanged() override { calls.emplace_back("pointerChanged"); }
     void showAbout(const std::string& title) override { aboutTitle = title; }
+    void trackAngleChanged(const std::string& text) override { trackAngles.push_back(text); }
+    zg::PicturePointer loadPicture(const std::string& path) override {
+        const auto found = pictures.find(path);
+        return found == pictures.end() ? nullptr : found->second;
+    }
+
+    std::vector<std::string> trackAngles;
+    std::map<std::string, zg::PicturePointer> pictures;
 };

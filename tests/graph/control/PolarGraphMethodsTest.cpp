@@ -33,7 +33,8 @@ TEST_F(PolarGraphMethods, RefreshPaintsFrameThenCurvesThenRulers) {
     graph.events.BeforeGraph = [this](std::int16_t&) { window.calls.emplace_back("curve"); };
     graph.Refresh();
     EXPECT_EQ(window.frames(), 1U);
-    EXPECT_EQ(window.calls, (std::vector<std::string>{"pagePainted", "curve", "rulersChanged"}));
+    EXPECT_EQ(window.calls,
+              (std::vector<std::string>{"pagePainted", "curve", "pagePainted", "rulersChanged"}));
 }
 
 TEST_F(PolarGraphMethods, OnlyVisibleCurvesAreAnnounced) {

@@ -1,0 +1,118 @@
+// Curves r = f(t): painting them all or one, at once or step by step.
+
+#include <cmath>
+
+#include "base/MathLibrary.h"
+#include "base/Numbers.h"
+#include "graph/control/CurveSweep.h"
+#include "graph/control/PolarGraph.h"
+
+namespace zg {
+
+namespace {
+
+constexpr int pumpMilliseconds = 5;
+
+std::string trackText(float angle) {
+    return "Angle : " + doubleText(roundHalfEven(static_cast<double>(angle))) + "\xC2\xB0";
+}
+
+/// Puts a value back at the end, however the end comes about.
+template <typename Act>
+class AtEnd {
+ public:
+    explicit AtEnd(Act act) : act_(std::move(act)) {}
+    ~AtEnd() { act_(); }
+    AtEnd(const AtEnd&) = delete;
+    AtEnd& operator=(const AtEnd&) = delete;
+
+ private:
+    Act act_;
+};
+
+}  // namespace
+
+void PolarGraph::DrawGraph(std::optional<std::int16_t> index, bool instantly) {
+    if (index) {
+        drawItem(*index, instantly);
+        return;
+    }
+    const std::int32_t count = plot_.Count();
+    for (std::int32_t i = 1; i <= count; ++i) drawItem(toInt16(static_cast<double>(i)), instantly);
+}
+
+void PolarGraph::drawItem(std::int16_t index, bool instantly) {
+    if (!plot_.Item(static_cast<std::int64_t>(index)).Visible) return;
+    if (events.BeforeGraph) events.BeforeGraph(index);
+    // The host may have changed the list or the number.
+    GrapInfo& graph = plot_.Item(static_cast<std::int64_t>(index));
+    const std::int16_t delay = graph.Delay;
+    if (!instantly) graph.Delay = 0;
+    const AtEnd putBack([this, &graph, delay] {
+        if (plot_.contains(graph)) graph.Delay = delay;
+    });
+    DrawCurve(graph);
+}
+
+void PolarGraph::raiseDrawBegin(bool value) {
+    if (events.DrawBegin) events.DrawBegin(value);
+}
+
+void PolarGraph::showTrackAngle(const std::string& text) {
+    surfaces_.lblTrackAngle.visible = !text.empty();
+    window_.trackAngleChanged(text);
+}
+
+void PolarGraph::DrawCurve(const GrapInfo& graph) {
+    raiseDrawBegin(false);
+    const bool animated = graph.Delay > 0;
+    const bool endless = graph.Step == 0;
+    if (animated || endless) own_.StopAni = false;
+    if (animated) showTrackAngle("Angle : 0\xC2\xB0");
+    const AtEnd done([this, animated, endless] {
+        if (animated || endless) own_.StopAni = true;
+        window_.pagePainted();
+        if (animated) showTrackAngle({});
+        raiseDrawBegin(true);
+    });
+    sweep(graph);
+}
+
+void PolarGraph::sweep(const GrapInfo& graph) {
+    // The host may change or drop the curve while an animation serves its events: the sweep goes on with what
+    // it began with.
+    const GrapInfo curve = graph;
+    CurveSampler sampler(engine_, curve);
+    MarkerPictures pictures;
+    if (curve.Series.AllowMarker && curve.Series.Marker.UsePicture)
+        pictures = {window_.loadPicture(curve.Series.Marker.PicturePath),
+                    window_.loadPicture(curve.Series.Marker.MaskPicturePath)};
+    CurvePainter painter(curve.Series, pictures, geometry_);
+    const bool yields = curve.Delay > 0 || curve.Step == 0;
+    for (SweepAngles angles(curve); !angles.done(); angles.advance()) {
+        const CurvePoint point = sampler.at(angles.angle(), geometry_);
+        painter.paint(window_.pageCanvas(), point);
+        if (events.DrawProgress)
+            events.DrawProgress(point.angle, point.radius, static_cast<float>(point.x),
+                                static_cast<float>(point.y), curve.EndingAngle);
+        if (yields && !waitForNextStep(curve.Delay, point.angle)) break;
+    }
+    painter.finish(window_.pageCanvas());
+}
+
+/// Serves events until the delay has passed; false when the sweep is to end.
+bool PolarGraph::waitForNextStep(std::int16_t delay, float angle) {
+    if (delay > 0) {
+        window_.pagePainted();
+        showTrackAngle(trackText(angle));
+    }
+    const std::int64_t start = host_.tickCount();
+    const double wait = MathLibrary::Milliseconds(delay) * 1000;
+    do {
+        if (own_.StopAni) return false;
+        host_.pumpEvents(delay > 0 ? pumpMilliseconds : 0);
+    } while (static_cast<double>(host_.tickCount() - start) < wait);
+    return !own_.StopAni;
+}
+
+}  // namespace zg

@@ -1,0 +1,58 @@
+#include "graph/render/Curve.h"
+
+namespace zg {
+
+namespace {
+
+constexpr std::int32_t alignRight = 1;
+constexpr std::int32_t alignHorizontalCentre = 2;
+constexpr std::int32_t alignBottom = 8;
+constexpr std::int32_t alignVerticalCentre = 16;
+
+void paintPicture(Canvas& canvas, Point at, const Marker& marker, const MarkerPictures& pictures) {
+    if (!pictures.picture) return;
+    const TextSize size{static_cast<double>(marker.PictureWidth), static_cast<double>(marker.PictureHeight)};
+    const Point corner = alignedCorner(at, size, marker.GetHorizAlign, marker.GetVertAlign);
+    const Rect target{corner.x, corner.y, corner.x + size.width, corner.y + size.height};
+    if (!marker.Transparent)
+        canvas.blit(*pictures.picture, target);
+    else if (pictures.mask)
+        canvas.blitMasked(*pictures.picture, *pictures.mask, target);
+}
+
+void paintCharacter(Canvas& canvas, Point at, const Marker& marker) {
+    const TextStyle style{marker.Font.Name, static_cast<double>(marker.Font.Size), marker.Font.Bold,
+                          marker.Font.Italic, marker.FillColor};
+    canvas.setTextPosition(
+        alignedCorner(at, canvas.measure(marker.Style, style), marker.GetHorizAlign, marker.GetVertAlign));
+    canvas.text(marker.Style, style);
+}
+
+}  // namespace
+
+void paintShading(Canvas& canvas, Point centre, Point from, Point to, const Pen& pen) {
+    canvas.fillPolygon({centre, from, to}, pen.FillColor);
+    // Neighbours share this edge: without it the smooth edges of both would leave a pale seam.
+    canvas.line(centre, from, {pen.FillColor, 1, 0});
+}
+
+void paintSegment(Canvas& canvas, Point from, Point to, const Pen& pen) {
+    canvas.line(from, to, {pen.FillColor, pen.Weight, pen.Style});
+}
+
+Point alignedCorner(Point at, const TextSize& size, std::int32_t horizontal, std::int32_t vertical) {
+    const double x =
+        horizontal == alignHorizontalCentre ? size.width / 2 : (horizontal == alignRight ? 0 : size.width);
+    const double y =
+        vertical == alignVerticalCentre ? size.height / 2 : (vertical == alignBottom ? 0 : size.height);
+    return {at.x - x, at.y - y};
+}
+
+void paintMarker(Canvas& canvas, Point at, const Marker& marker, const MarkerPictures& pictures) {
+    if (marker.UsePicture)
+        paintPicture(canvas, at, marker, pictures);
+    else
+        paintCharacter(canvas, at, marker);
+}
+
+}  // namespace zg
