@@ -9,6 +9,7 @@
 #include <numbers>
 
 #include "graph/control/CreatePolar.h"
+#include "graph/control/CurveSweep.h"
 #include "graph/frq/OpenFreqFile.h"
 #include "graph/render/RedrawGraph.h"
 #include "platform/QtCanvas.h"
@@ -114,6 +115,31 @@ void paintedStraight(benchmark::State& state) {
     }
 }
 BENCHMARK(paintedStraight)->Unit(benchmark::kMillisecond);
+
+/// A surface that takes drawing and does nothing: what is left is the work beside the raster.
+class NoSurface : public RecordingCanvas {
+ public:
+    NoSurface() : RecordingCanvas(side, side) {}
+    void line(zg::Point, zg::Point, const zg::LineStyle&) override { ++lines; }
+    long lines = 0;
+};
+
+void curve(benchmark::State& state) {
+    zg::ScriptEngine engine([] { return std::int64_t{0}; });
+    zg::GrapInfo graph;
+    graph.Equation = "4*sin(2*t)";
+    graph.Step = 360.0F / static_cast<float>(state.range(0));
+    zg::PolarGeometry geometry{0, 0, side / 2, side / 2, 40};
+    NoSurface surface;
+    for (auto _ : state) {
+        zg::CurveSampler sampler(engine, graph);
+        zg::CurvePainter painter(graph.Series, {}, geometry);
+        for (zg::SweepAngles angles(graph); !angles.done(); angles.advance())
+            painter.paint(surface, sampler.at(angles.angle(), geometry));
+        painter.finish(surface);
+    }
+}
+BENCHMARK(curve)->Arg(360)->Arg(1000000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -141,6 +141,7 @@ void QtCanvas::disc(Point centre, double radius, Colour fill, Colour outline) {
 void QtCanvas::line(Point from, Point to, const LineStyle& style) {
     QPen pen(toQColor(style.colour), std::max(1, style.width), penStyle(style.style));
     pen.setCapStyle(Qt::FlatCap);
+    if (style.phase > 0) pen.setDashOffset(style.phase / std::max(1, style.width));
     painter_.setPen(pen);
     painter_.drawLine(toQPointF(from), toQPointF(to));
 }

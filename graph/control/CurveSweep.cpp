@@ -45,7 +45,8 @@ CurvePoint CurveSampler::at(float angle, const PolarGeometry& geometry) {
 
 void CurvePainter::lineTo(Canvas& canvas, Point point) {
     if (series_.Pen.AllowShading) paintShading(canvas, centre_, pen_, point, series_.Pen);
-    if (series_.Pen.AllowConVertices) paintSegment(canvas, pen_, point, series_.Pen);
+    if (series_.Pen.AllowConVertices) paintSegment(canvas, pen_, point, series_.Pen, length_);
+    length_ += std::hypot(point.x - pen_.x, point.y - pen_.y);
     pen_ = point;
     waiting_ = false;
 }

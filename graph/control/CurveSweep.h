@@ -82,6 +82,7 @@ class CurvePainter {
     const Series& series_;
     MarkerPictures pictures_;
     Point centre_;
+    double length_ = 0;  ///< of what is painted
     bool begun_ = false;
     bool waiting_ = false;
     Point pen_;   ///< end of what is painted

@@ -56,6 +56,7 @@ struct LineStyle {
     Colour colour = black;
     std::int32_t width = 1;
     std::int32_t style = 0;
+    double phase = 0;  ///< length of the line that this one goes on from, so that dashes run through
     bool operator==(const LineStyle&) const = default;
 };
 

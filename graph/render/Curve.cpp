@@ -33,11 +33,11 @@ void paintCharacter(Canvas& canvas, Point at, const Marker& marker) {
 void paintShading(Canvas& canvas, Point centre, Point from, Point to, const Pen& pen) {
     canvas.fillPolygon({centre, from, to}, pen.FillColor);
     // Neighbours share this edge: without it the smooth edges of both would leave a pale seam.
-    canvas.line(centre, from, {pen.FillColor, 1, 0});
+    canvas.line(centre, from, {pen.FillColor, 1, 0, 0});
 }
 
-void paintSegment(Canvas& canvas, Point from, Point to, const Pen& pen) {
-    canvas.line(from, to, {pen.FillColor, pen.Weight, pen.Style});
+void paintSegment(Canvas& canvas, Point from, Point to, const Pen& pen, double phase) {
+    canvas.line(from, to, {pen.FillColor, pen.Weight, pen.Style, pen.Style == 0 ? 0 : phase});
 }
 
 Point alignedCorner(Point at, const TextSize& size, std::int32_t horizontal, std::int32_t vertical) {

@@ -17,7 +17,8 @@ struct MarkerPictures {
 /// Fills the area between the centre and the line.
 void paintShading(Canvas& canvas, Point centre, Point from, Point to, const Pen& pen);
 
-void paintSegment(Canvas& canvas, Point from, Point to, const Pen& pen);
+/// The phase is the length of the curve before this piece of it.
+void paintSegment(Canvas& canvas, Point from, Point to, const Pen& pen, double phase);
 
 /// Top left corner of something of that size that is aligned to a point: flags 0 left, 1 right, 2 centre and
 /// 4 top, 8 bottom, 16 centre of the point.

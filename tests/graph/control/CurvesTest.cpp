@@ -47,7 +47,7 @@ TEST_F(Curves, PointsGoCounterclockwiseFromEastWithUpPositive) {
     expectNear(lines()[0].to, onPage(2, 90));
     expectNear(lines()[1].to, onPage(2, 180));
     EXPECT_LT(lines()[0].to.y, static_cast<double>(graph.geometry().CentreY)) << "90 degrees is up";
-    EXPECT_EQ(lines()[0].style, (LineStyle{rgb(1, 2, 3), 1, 0}));
+    EXPECT_EQ(lines()[0].style, (LineStyle{rgb(1, 2, 3), 1, 0, 0}));
 }
 
 TEST_F(Curves, PenWeightAndStyleAreThoseOfTheLine) {
@@ -56,7 +56,19 @@ TEST_F(Curves, PenWeightAndStyleAreThoseOfTheLine) {
     curve.Series.Pen.Weight = 5;
     curve.Series.Pen.Style = 2;
     graph.DrawGraph();
-    EXPECT_EQ(lines()[0].style, (LineStyle{rgb(1, 2, 3), 5, 2}));
+    EXPECT_EQ(lines()[0].style, (LineStyle{rgb(1, 2, 3), 5, 2, 0}));
+}
+
+TEST_F(Curves, DashesRunThroughFromPieceToPiece) {
+    GrapInfo& curve = add("2");
+    curve.Step = 90;
+    curve.Series.Pen.Style = 1;
+    graph.DrawGraph();
+    ASSERT_EQ(lines().size(), 4U);
+    const double piece = std::hypot(lines()[0].to.x - lines()[0].from.x, lines()[0].to.y - lines()[0].from.y);
+    EXPECT_EQ(lines()[0].style.phase, 0);
+    EXPECT_NEAR(lines()[1].style.phase, piece, 1e-6);
+    EXPECT_NEAR(lines()[3].style.phase, 3 * piece, 1e-3);
 }
 
 TEST_F(Curves, TIsInRadiansAndTheCoefficientRunsBefore) {
