@@ -31,7 +31,8 @@ class LineReader {
     bool atEnd();
 
     /// What comes next as far as it has been fetched, line ends included, valid until the next call: at least
-    /// one byte where the end has not come, the first 64 KiB of a file (or all of it) before any line is read.
+    /// one byte where the end has not come, the first 64 KiB of a file (or all of it) before any line is
+    /// read.
     std::string_view ahead() { return atEnd() ? std::string_view() : window_; }
 
     /// The next line without its end, valid until the next call; raises 62 past the end.

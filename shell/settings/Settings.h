@@ -33,8 +33,8 @@ struct Settings {
     std::string MonthSeasonString;                    ///< "1,1,2,2,2,3,3,3,4,4,4,1"
     std::string WindClassString;                      ///< "0.5,1.8,3.3,5.4,8.5,10.8"
 
-    std::string CurrentFrqPath;    ///< file on show, "" before the first
-    bool DebugFlag = false;  ///< the tick of the About box; nothing else reads it
+    std::string CurrentFrqPath;  ///< file on show, "" before the first
+    bool DebugFlag = false;      ///< the tick of the About box; nothing else reads it
 
     bool BatchMode = false;        ///< the open command takes BatchFRQFilename and asks nothing
     std::string BatchFRQFilename;  ///< full path

@@ -44,7 +44,8 @@ INSTANTIATE_TEST_SUITE_P(Formulas, Sweep,
                                            "MathLib.Sec(t)", "MathLib.Radius(t,a)", "MathLib.Pi*t",
                                            "int(t)+fix(t)+sgn(t)+abs(t)", "tan(t)", "t Mod 3", "round(t, 2)",
                                            "t > 0", "u*t", "1e308*t*10", "MathLib.Radians(t)",
-                                           "(t-1)*(t+1)/(t*t+1)", "a*t*(t+b)*t*t", "t*t*t", "(t*t)^2", "2-t*a", "sin(t)*t", "Rnd*0"));
+                                           "(t-1)*(t+1)/(t*t+1)", "a*t*(t+b)*t*t", "t*t*t", "(t*t)^2",
+                                           "2-t*a", "sin(t)*t", "Rnd*0"));
 
 TEST(Sweeps, ANameThatGetsAnotherMeaningIsCompiledAnew) {
     Engine engine;
