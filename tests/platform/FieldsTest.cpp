@@ -9,13 +9,18 @@
 #include <QPushButton>
 #include <QTest>
 
+#include "base/Paths.h"
 #include "platform/BatchStarter.h"
+#include "platform/Combos.h"
 #include "platform/FieldMarks.h"
 #include "platform/KeyFilter.h"
 #include "platform/ListMoves.h"
 #include "platform/Pickers.h"
 #include "platform/QtText.h"
 #include "processing/KeyFilters.h"
+#include "processing/Zones.h"
+#include "tests/support/Raises.h"
+#include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
@@ -143,6 +148,26 @@ TEST(Pickers, AFolderThatIsNotPickedIsTheOneToStartFrom) {
     EXPECT_FALSE(host.folderPicks[0].offerNewFolder);
     EXPECT_EQ(BrowseForFolder(host, "/start", "Choose", 1), "/start");
     EXPECT_TRUE(host.folderPicks[1].offerNewFolder);
+}
+
+TEST(TimeZoneBoxes, HoldAllLabelsInTheTablesOrder) {
+    timeZones = TimeZoneTable();
+    applicationDirectory = ZG_SOURCE_DIR "/data";
+    QComboBox box;
+    FillTimeZones(box);
+    ASSERT_EQ(box.count(), 63);
+    EXPECT_EQ(box.itemText(0), "(UTC+00:00) Azores, Cape Verde Island");
+    EXPECT_EQ(box.itemText(2), "(UTC+03:00) Baghdad, Kuwait, Riyadh");
+    EXPECT_EQ(box.itemText(62), "(UTC-12:00) Eniwetok, Kwajalein");
+    timeZones = TimeZoneTable();
+}
+
+TEST(TimeZoneBoxes, AMissingTableIsTheSystemsError) {
+    const TempDirectory directory;
+    timeZones = TimeZoneTable();
+    applicationDirectory = directory.path();
+    QComboBox box;
+    EXPECT_RAISES(53, "File not found", FillTimeZones(box));
 }
 
 TEST(ListMovesOnLists, MoveTheSelectedRowsAndKeepThemSelected) {

@@ -243,6 +243,17 @@ TEST_F(FrmMainCommands, ACurveWithoutAStepIsTold) {
     EXPECT_EQ(host_.boxes[0].text, "Run-time error '11':\n\nDivision by zero");
 }
 
+TEST_F(FrmMainCommands, ExitEndsTheProgramAtOnceAndAsksNothing) {
+    const std::string before = directory_.read("Zephyrgraph.cfg");
+    settings.ZoomPercentText = "unsaved";
+    plot().StopAni(false);
+    QTimer::singleShot(0, [this] { choose("mnuFileOption_18"); });
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_TRUE(host_.boxes.empty());
+    EXPECT_FALSE(plot().StopAni()) << "no unload has run";
+    EXPECT_EQ(directory_.read("Zephyrgraph.cfg"), before) << "nothing is saved at the exit";
+}
+
 TEST_F(FrmMainCommands, ResetBringsThePageBesideTheRulers) {
     plot().OffsetDrawingAreaX(200);
     choose("mnuViewDA");

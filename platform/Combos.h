@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QComboBox>
+
+namespace zg {
+
+/// Adds the labels of all time zones to the box, in the order of their table, which is read at first use.
+/// Raises what a missing or broken table raises.
+void FillTimeZones(QComboBox& combo);
+
+}  // namespace zg
