@@ -1,7 +1,9 @@
 #include "platform/FieldMarks.h"
 
+#include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QVariant>
 
 #include "base/Text.h"
@@ -14,10 +16,13 @@ namespace {
 
 constexpr const char* markProperty = "fieldMark";
 
+/// The text by which a field counts as filled; that of a list is its current row.
 QString textOf(const QWidget& field) {
     if (const auto* box = qobject_cast<const QLineEdit*>(&field)) return box->text();
-    if (const auto* list = qobject_cast<const QComboBox*>(&field)) return list->currentText();
-    return {};
+    if (const auto* combo = qobject_cast<const QComboBox*>(&field)) return combo->currentText();
+    if (const auto* picker = qobject_cast<const QAbstractSpinBox*>(&field)) return picker->text();
+    const auto* list = qobject_cast<const QListWidget*>(&field);
+    return list != nullptr && list->currentItem() != nullptr ? list->currentItem()->text() : QString();
 }
 
 void setText(QWidget& field, const QString& text) {

@@ -1,5 +1,7 @@
 #include "platform/KeyFilter.h"
 
+#include <QCoreApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 
 #include "platform/QtText.h"
@@ -10,27 +12,54 @@ namespace {
 
 class TypedKeys : public QObject {
  public:
-    TypedKeys(QLineEdit& box, KeyFunction function) : QObject(&box), function_(std::move(function)) {
+    TypedKeys(QLineEdit& box, KeyFunction function)
+        : QObject(&box), box_(box), function_(std::move(function)) {
         box.installEventFilter(this);
     }
 
     bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() != QEvent::KeyPress) return false;
-        const auto* key = static_cast<QKeyEvent*>(event);
-        if (key->text().isEmpty() || key->modifiers().testFlag(Qt::ControlModifier) ||
-            key->modifiers().testFlag(Qt::AltModifier))
-            return false;
-        for (const char byte : typed(key->text()))
-            if (function_(static_cast<unsigned char>(byte)) == 0) return passesOn(key->key()) ? false : true;
+        if (event->type() == QEvent::KeyPress) return drops(static_cast<const QKeyEvent&>(*event));
+        if (event->type() == QEvent::InputMethod)
+            return replaces(static_cast<const QInputMethodEvent&>(*event));
         return false;
     }
 
  private:
-    /// Keys that serve the dialog whatever a box may hold.
-    static bool passesOn(int key) {
-        return key == Qt::Key_Tab || key == Qt::Key_Backtab || key == Qt::Key_Escape;
+    bool drops(const QKeyEvent& key) const {
+        return !key.text().isEmpty() && !isCommand(key) && !passes(key.text());
     }
 
+    /// Keys that serve the box or the dialog whatever the box may hold. Delete comes with a character of its
+    /// own on some desktops.
+    static bool isCommand(const QKeyEvent& key) {
+        if (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab || key.key() == Qt::Key_Escape ||
+            key.key() == Qt::Key_Delete)
+            return true;
+        // Ctrl and Alt together are the AltGr key of some desktops, which types characters.
+        return key.modifiers().testFlag(Qt::ControlModifier) != key.modifiers().testFlag(Qt::AltModifier);
+    }
+
+    bool passes(const QString& text) const {
+        for (const char byte : typed(text))
+            if (function_(static_cast<unsigned char>(byte)) == 0) return false;
+        return true;
+    }
+
+    /// Characters that are composed from several keys, or picked on a screen's keyboard, come as one text.
+    bool replaces(const QInputMethodEvent& event) {
+        QString kept;
+        for (const char32_t point : event.commitString().toUcs4()) {
+            const QString character = QString::fromUcs4(&point, 1);
+            if (passes(character)) kept += character;
+        }
+        if (kept == event.commitString()) return false;
+        QInputMethodEvent rest(event.preeditString(), event.attributes());
+        rest.setCommitString(kept, event.replacementStart(), event.replacementLength());
+        QCoreApplication::sendEvent(&box_, &rest);
+        return true;
+    }
+
+    QLineEdit& box_;
     KeyFunction function_;
 };
 

@@ -8,7 +8,6 @@ DialogButtons addOkCancel(QBoxLayout& layout) {
     ok->setDefault(true);
     auto* cancel = new QPushButton(QStringLiteral("Cancel"));
     cancel->setObjectName(QStringLiteral("cmdCancel"));
-    cancel->setAutoDefault(false);
     auto* row = new QHBoxLayout;
     row->addStretch();
     row->addWidget(ok);

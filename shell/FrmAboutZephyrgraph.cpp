@@ -46,11 +46,13 @@ frmAboutZephyrgraph::frmAboutZephyrgraph(QWidget* parent) : QDialog(parent) {
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 
     auto* words = new QVBoxLayout;
+    words->setSpacing(4);
     words->addWidget(title);
     words->addWidget(line("lblVersion", QString::fromLatin1(programVersion)));
     words->addWidget(line("lblLevel", QString::fromLatin1(programLevel)));
     words->addSpacing(8);
     words->addWidget(text);
+    words->addStretch();
     auto* top = new QHBoxLayout;
     top->setSpacing(18);
     top->addWidget(picture, 0, Qt::AlignTop);

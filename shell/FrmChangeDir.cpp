@@ -52,7 +52,6 @@ frmChangeDir::frmChangeDir(Host& host, std::string& directory, const std::string
     cmdOK->setDefault(true);
     cmdCancel = new QPushButton(QStringLiteral("Cancel"));
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    cmdCancel->setAutoDefault(false);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(new QLabel(QStringLiteral("Current Working Directory:")));
@@ -66,7 +65,12 @@ frmChangeDir::frmChangeDir(Host& host, std::string& directory, const std::string
     layout->addLayout(buttons);
     resize(420, 420);
 
+    showDriveOf(fileName(start_));
     goTo(fileName(start_));
+    // The tree reads directories in the background and moves the row away meanwhile.
+    connect(model_, &QFileSystemModel::directoryLoaded, this, [this](const QString& loaded) {
+        if (model_->filePath(Dir1->currentIndex()).startsWith(loaded)) showCurrent();
+    });
     connect(Drive1, &QComboBox::activated, this, guarded(host_, [this] { Drive1_Change(); }));
     connect(Dir1->selectionModel(), &QItemSelectionModel::currentChanged, this,
             guarded(host_, [this] { Dir1_Change(); }));
@@ -78,8 +82,21 @@ void frmChangeDir::goTo(const QString& path) {
     const QModelIndex index = model_->index(path);
     Dir1->setCurrentIndex(index);
     Dir1->expand(index);
-    Dir1->scrollTo(index);
+    showCurrent();
     lblCurDir->setText(QDir::toNativeSeparators(path));
+}
+
+/// In the middle, so that the directories below it are seen too.
+void frmChangeDir::showCurrent() {
+    Dir1->scrollTo(Dir1->currentIndex(), QAbstractItemView::PositionAtCenter);
+}
+
+/// The drive box begins at the drive that holds the directory, also where the desktop does not list it.
+void frmChangeDir::showDriveOf(const QString& path) {
+    const QString drive = QStorageInfo(path).rootPath();
+    if (drive.isEmpty()) return;
+    if (Drive1->findText(drive) < 0) Drive1->addItem(drive);
+    Drive1->setCurrentText(drive);
 }
 
 void frmChangeDir::Drive1_Change() {
@@ -88,6 +105,7 @@ void frmChangeDir::Drive1_Change() {
 }
 
 void frmChangeDir::Dir1_Change() {
+    if (!Dir1->currentIndex().isValid()) return;  // a directory that went away leaves the choice as it was
     lblCurDir->setText(QDir::toNativeSeparators(model_->filePath(Dir1->currentIndex())));
 }
 

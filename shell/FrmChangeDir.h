@@ -29,6 +29,8 @@ class frmChangeDir : public QDialog {
     void Dir1_Change();
     void cmdOK_Click();
     void goTo(const QString& path);
+    void showCurrent();
+    void showDriveOf(const QString& path);
 
     Host& host_;
     std::string& directory_;

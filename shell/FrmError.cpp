@@ -18,10 +18,11 @@ frmError::frmError(QWidget* parent) : QDialog(parent) {
     cmdOK->setDefault(true);
     cmdDisable = new QPushButton(QStringLiteral("Disable Error Checking"));
     cmdDisable->setObjectName(QStringLiteral("cmdDisable"));
-    cmdDisable->setAutoDefault(false);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     connect(cmdDisable, &QPushButton::clicked, this, &frmError::cmdDisable_Click);
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(14, 14, 14, 12);
+    layout->setSpacing(14);
     layout->addWidget(lblDescr);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();

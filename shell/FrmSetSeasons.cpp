@@ -30,9 +30,12 @@ frmSetSeasons::frmSetSeasons(Host& host, QWidget* parent) : QDialog(parent), hos
     setObjectName(QStringLiteral("frmSetSeasons"));
     setWindowTitle(QStringLiteral(" Set Seasons for Generating Wind Roses from Meteorological Data"));
     layOut();
-    for (std::size_t month = 0; month < cboSeason.size(); ++month)
-        connect(cboSeason[month], &QComboBox::currentIndexChanged, this,
-                guarded(host_, [this, month] { cboSeason_Click(month); }));
+    for (std::size_t month = 0; month < cboSeason.size(); ++month) {
+        const auto click = guarded(host_, [this, month] { cboSeason_Click(month); });
+        connect(cboSeason[month], &QComboBox::currentIndexChanged, this, click);
+        // The row that is picked again is a click too.
+        connect(cboSeason[month], &QComboBox::activated, this, click);
+    }
     connect(cmdOk, &QPushButton::clicked, this, guarded(host_, [this] { cmdOK_Click(); }));
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(cmdDefaults, &QPushButton::clicked, this, guarded(host_, [this] { cmdDefaults_Click(); }));
@@ -63,14 +66,14 @@ void frmSetSeasons::layOut() {
     }
     cmdDefaults = new QPushButton(QStringLiteral("Defaults"));
     cmdDefaults->setObjectName(QStringLiteral("cmdDefaults"));
-    cmdDefaults->setAutoDefault(false);
     cmdOk = new QPushButton(QStringLiteral("OK"));
     cmdOk->setObjectName(QStringLiteral("cmdOk"));
     cmdOk->setDefault(true);
     cmdCancel = new QPushButton(QStringLiteral("Cancel"));
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    cmdCancel->setAutoDefault(false);
     auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(6);
+    buttons->setContentsMargins(0, 8, 0, 0);
     buttons->addWidget(cmdDefaults);
     buttons->addStretch();
     buttons->addWidget(cmdOk);

@@ -20,7 +20,6 @@ QString indexed(const char* name, std::size_t index) {
 QPushButton* button(const char* name, const char* caption) {
     auto* made = new QPushButton(QString::fromLatin1(caption));
     made->setObjectName(QString::fromLatin1(name));
-    made->setAutoDefault(false);
     return made;
 }
 
@@ -71,6 +70,7 @@ void frmSetWindSpeedClasses::layOut() {
     cmdCancel = button("cmdCancel", "&Cancel");
     cmdOK->setDefault(true);
     auto* buttons = new QHBoxLayout;
+    buttons->setContentsMargins(0, 6, 0, 0);
     buttons->addWidget(cmdDefault);
     buttons->addStretch();
     buttons->addWidget(cmdOK);

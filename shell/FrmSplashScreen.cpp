@@ -1,7 +1,6 @@
 #include "shell/FrmSplashScreen.h"
 
 #include <QGuiApplication>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
 
@@ -60,8 +59,6 @@ void frmSplashScreen::mousePressEvent(QMouseEvent*) {
     SplashClicked = true;
     unloadAndShowMain();
 }
-
-void frmSplashScreen::keyPressEvent(QKeyEvent*) { mousePressEvent(nullptr); }
 
 void frmSplashScreen::paintEvent(QPaintEvent*) {
     QPainter painter(this);

@@ -9,7 +9,7 @@
 namespace zg {
 
 /// What is seen first: the program's name for a moment. Then, or on a click at once, the main window comes,
-/// once.
+/// once. Closing the splash is no click: the main window comes when its time is over.
 class frmSplashScreen : public QWidget {
     Q_OBJECT
 
@@ -24,7 +24,6 @@ class frmSplashScreen : public QWidget {
  protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
  private:
     void unloadAndShowMain();

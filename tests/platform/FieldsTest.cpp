@@ -3,14 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDateTimeEdit>
+#include <QInputMethodEvent>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
 
 #include "base/Paths.h"
-#include "platform/BatchStarter.h"
 #include "platform/Combos.h"
 #include "platform/FieldMarks.h"
 #include "platform/KeyFilter.h"
@@ -66,6 +67,45 @@ TEST(FieldMarks, ClearingWhenFilledTrimsTheText) {
     EXPECT_EQ(box.text(), "a");
 }
 
+TEST(FieldMarks, DatesAndListsAreFilledByWhatTheyShow) {
+    QDateTimeEdit picker;
+    MarkInvalid(picker);
+    ClearInvalidIfFilled(picker);
+    EXPECT_EQ(fieldMark(picker), cleanMark);
+    QListWidget list;
+    MarkInvalid(list);
+    ClearInvalidIfFilled(list);
+    EXPECT_EQ(fieldMark(list), yellowMark) << "no row is current";
+    list.addItem("a");
+    list.setCurrentRow(0);
+    ClearInvalidIfFilled(list);
+    EXPECT_EQ(fieldMark(list), cleanMark);
+}
+
+TEST(FieldMarks, MarksAreSeenWithBlackTextOnADarkTheme) {
+    const QPalette before = QApplication::palette();
+    QPalette dark = before;
+    dark.setColor(QPalette::Base, QColor(20, 20, 20));
+    dark.setColor(QPalette::Text, Qt::white);
+    QApplication::setPalette(dark);
+    QLineEdit box;
+    QListWidget list;
+    QDateTimeEdit picker;
+    for (QWidget* field :
+         {static_cast<QWidget*>(&box), static_cast<QWidget*>(&list), static_cast<QWidget*>(&picker)}) {
+        MarkInvalid(*field);
+        EXPECT_EQ(field->palette().color(QPalette::Text), QColor(Qt::black));
+        DisableField(*field);
+        EXPECT_EQ(fromQColor(field->palette().color(QPalette::Disabled, QPalette::Base)), 49344U);
+        EXPECT_EQ(field->palette().color(QPalette::Disabled, QPalette::Text), QColor(Qt::black));
+        EnableField(*field);
+        ClearInvalid(*field);
+        EXPECT_NE(field->palette().color(QPalette::Text), field->palette().color(QPalette::Base));
+        EXPECT_EQ(field->palette().color(QPalette::Base), dark.color(QPalette::Base));
+    }
+    QApplication::setPalette(before);
+}
+
 TEST(FieldMarks, StatesAreSetInGroups) {
     QPushButton plain;
     QPushButton otherPlain;
@@ -115,6 +155,49 @@ INSTANTIATE_TEST_SUITE_P(All, KeyFilters,
                                            Filter{"Signed", KeyNumericSigned, "1-2.34"},
                                            Filter{"Heights", KeyNumericHeights, "12.3,4"}),
                          [](const auto& row) { return std::string(row.param.name); });
+
+TEST(KeyFilter, TheDeleteKeyWorksThoughItComesWithACharacter) {
+    QLineEdit box("12");
+    filterKeys(box, KeyNumericInteger);
+    box.setCursorPosition(0);
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, QStringLiteral("\x7f"));
+    QApplication::sendEvent(&box, &press);
+    EXPECT_EQ(box.text(), "2");
+}
+
+TEST(KeyFilter, CharactersOfTheAltGrKeyAreFilteredToo) {
+    QLineEdit box;
+    filterKeys(box, KeyNumericInteger);
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_At, Qt::ControlModifier | Qt::AltModifier, QStringLiteral("@"));
+    QApplication::sendEvent(&box, &press);
+    EXPECT_EQ(box.text(), "");
+}
+
+TEST(KeyFilter, CharactersOfAnInputMethodAreFilteredToo) {
+    QLineEdit box;
+    filterKeys(box, KeyNumericInteger);
+    QInputMethodEvent composed;
+    composed.setCommitString(QStringLiteral("1a2"));
+    QApplication::sendEvent(&box, &composed);
+    EXPECT_EQ(box.text(), "12");
+}
+
+TEST(KeyFilter, PastedTextGoesInAsItIs) {
+    QLineEdit box;
+    filterKeys(box, KeyNumericInteger);
+    QApplication::clipboard()->setText("a-b");
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    box.paste();
+    EXPECT_EQ(box.text(), "a-ba-b");
+}
+
+TEST(KeyFilter, TheLastFunctionCounts) {
+    QLineEdit box;
+    filterKeys(box, KeyNumericInteger);
+    filterKeys(box, KeyNumericSigned);
+    QTest::keyClicks(&box, "-1");
+    EXPECT_EQ(box.text(), "-1");
+}
 
 TEST(Pickers, ThePickerOfOneFileStartsWithoutAName) {
     TestHost host;
@@ -188,11 +271,6 @@ TEST(ListMovesOnLists, MoveTheSelectedRowsAndKeepThemSelected) {
     ListRemoveSelected(list);
     EXPECT_EQ(list.count(), 2);
     EXPECT_EQ(list.item(0)->text(), "a");
-}
-
-TEST(BatchStarterLines, NameTheFileToView) {
-    EXPECT_EQ(viewedFile("notepad \"/a b/c.frq\""), "/a b/c.frq");
-    EXPECT_EQ(viewedFile("pause"), "");
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QLabel>
 #include <QTest>
 
@@ -98,6 +99,33 @@ TEST_F(FrmSetSeasonsTest, CancelAfterDefaultsStoresNothing) {
     EXPECT_EQ(season(5)->currentText(), "Spring");
 }
 
+TEST_F(FrmSetSeasonsTest, EnterOnCancelCancels) {
+    season(0)->setCurrentText("Fall");
+    form_->activateWindow();
+    auto* cancel = form_->findChild<QPushButton*>("cmdCancel");
+    cancel->setFocus();
+    QTest::keyClick(cancel, Qt::Key_Return);
+    EXPECT_FALSE(form_->isVisible());
+    EXPECT_EQ(settings.SeasonOfMonth[0], "Winter");
+}
+
+TEST_F(FrmSetSeasonsTest, TheStartAcceptsItUnseen) {
+    frmSetSeasons unseen(host_);
+    settings.SeasonCount = 0;
+    unseen.Form_Load();
+    unseen.cmdOK_Click();
+    EXPECT_FALSE(unseen.isVisible());
+    EXPECT_EQ(settings.SeasonCount, 4);
+    EXPECT_EQ(settings.MonthSeasonString, "1,1,2,2,2,3,3,3,4,4,4,1");
+}
+
+TEST_F(FrmSetSeasonsTest, TabGoesThroughTheMonthsInOrder) {
+    form_->activateWindow();
+    season(0)->setFocus();
+    QTest::keyClick(season(0), Qt::Key_Tab);
+    EXPECT_EQ(form_->focusWidget(), season(1)) << "past the disabled box";
+}
+
 TEST_F(FrmSetSeasonsTest, EscapeCancels) {
     season(0)->setCurrentText("Fall");
     QTest::keyClick(form_.get(), Qt::Key_Escape);
@@ -115,6 +143,17 @@ TEST_F(FrmSetSeasonsTest, AStoredCustomTextEnablesItsBoxAndPickingASeasonDisable
     EXPECT_FALSE(custom(3)->isEnabled());
     press("cmdDefaults");
     EXPECT_EQ(custom(3)->text(), "");
+}
+
+TEST_F(FrmSetSeasonsTest, PickingTheSameSeasonAgainDisablesItsBoxToo) {
+    settings.CustomSeasonOfMonth[3] = "Monsoon";
+    WriteCfgFile(settings.CfgFilePath);
+    open();
+    season(3)->setFocus();
+    season(3)->showPopup();
+    QTest::keyClick(season(3)->view(), Qt::Key_Return);
+    EXPECT_EQ(season(3)->currentText(), "Spring");
+    EXPECT_FALSE(custom(3)->isEnabled());
 }
 
 TEST_F(FrmSetSeasonsTest, AStoredSeasonThatIsNotOfferedLeavesTheMonthsDefault) {

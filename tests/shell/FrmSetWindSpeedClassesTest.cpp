@@ -85,6 +85,32 @@ TEST_F(FrmClassesTest, EnterGoesOnToTheNextField) {
     EXPECT_EQ(form_->focusWidget(), box(1));
 }
 
+TEST_F(FrmClassesTest, EnterOnAButtonPressesThatButton) {
+    fill({"1", "2", "3", "4", "5", "6"});
+    form_->activateWindow();
+    auto* fallback = form_->findChild<QPushButton*>("cmdDefault");
+    fallback->setFocus();
+    QTest::keyClick(fallback, Qt::Key_Return);
+    EXPECT_TRUE(form_->isVisible());
+    EXPECT_EQ(box(0)->text(), "0.5");
+    box(0)->setText("0.1");
+    auto* cancel = form_->findChild<QPushButton*>("cmdCancel");
+    cancel->setFocus();
+    QTest::keyClick(cancel, Qt::Key_Return);
+    EXPECT_FALSE(form_->isVisible());
+    EXPECT_EQ(settings.WindClassMin[0], "0.5");
+}
+
+TEST_F(FrmClassesTest, DefaultTakesTheMarkOffAnEmptyBox) {
+    box(3)->clear();
+    host_.boxAnswers = {BoxAnswer::Ok};
+    press("cmdOK");
+    EXPECT_EQ(fieldMark(*box(3)), yellowMark);
+    press("cmdDefault");
+    EXPECT_EQ(fieldMark(*box(3)), cleanMark);
+    EXPECT_EQ(box(3)->text(), "5.4");
+}
+
 TEST_F(FrmClassesTest, EqualMinimaPass) {
     fill({"1", "1", "2", "3", "4", "5"});
     press("cmdOK");

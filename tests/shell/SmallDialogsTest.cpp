@@ -240,6 +240,17 @@ INSTANTIATE_TEST_SUITE_P(Limits, ZoomEntries,
                                            Entry{"abc", "Enter a value between 20 to 500."},
                                            Entry{"1e9", "Enter a value between 20 to 500."}));
 
+TEST_F(PlotDialogs, EnterOnCancelCancels) {
+    frmZoom form(host_, plot());
+    form.show();
+    form.findChild<QComboBox*>("cmbZoom")->setCurrentText("250");
+    auto* cancel = form.findChild<QPushButton*>("cmdCancel");
+    cancel->setFocus();
+    QTest::keyClick(cancel, Qt::Key_Return);
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(plot().Zoom(), 100);
+}
+
 TEST_F(PlotDialogs, ZoomOffersItsRowsAndTakesDigits) {
     frmZoom form(host_, plot());
     form.show();
