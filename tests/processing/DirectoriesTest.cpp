@@ -14,10 +14,10 @@ using namespace zg;
 TEST(WithSeparatorTest, AddsOneWhereNoneIs) {
     EXPECT_EQ(withSeparator("C:\\work", '\\'), "C:\\work\\");
     EXPECT_EQ(withSeparator("C:\\work\\", '\\'), "C:\\work\\");
-    EXPECT_EQ(withSeparator("/work", '/'), "/work/");
-    EXPECT_EQ(withSeparator("/work/", '/'), "/work/");
-    EXPECT_EQ(withSeparator("/work\\", '/'), "/work\\") << "a path typed elsewhere keeps its own";
-    EXPECT_EQ(withSeparator("/work/", '\\'), "/work/\\");
+    EXPECT_EQ(withSeparator("/data", '/'), "/data/");
+    EXPECT_EQ(withSeparator("/data/", '/'), "/data/");
+    EXPECT_EQ(withSeparator("/data\\", '/'), "/data\\") << "a path typed elsewhere keeps its own";
+    EXPECT_EQ(withSeparator("/data/", '\\'), "/data/\\");
     EXPECT_EQ(withSeparator("", '\\'), "\\");
 }
 
