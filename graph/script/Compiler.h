@@ -107,7 +107,8 @@ class Compiler {
     Scope* scope_ = nullptr;
     std::vector<Loop> loops_;
     std::vector<std::shared_ptr<Procedure>> procedures_;
-    std::size_t barrier_ = 0;  ///< instructions before it may be jumped to and are not folded
+    std::set<std::string> constants_;  ///< global ones of this text; those of an earlier text may come again
+    std::size_t barrier_ = 0;          ///< instructions before it may be jumped to and are not folded
     int nesting_ = 0;
     bool inLine_ = false;  ///< within an If of one line
 };

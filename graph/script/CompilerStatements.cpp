@@ -127,7 +127,10 @@ void Compiler::constStatement() {
         lexer_.next();
         const ScriptPosition place = lexer_.position();
         const std::string name = takeName();
-        if (isUserName(name)) lexer_.fail(ScriptErrorNumber::NameRedefined, place);
+        // The same statements are added again at each redraw: a constant of an earlier text is defined anew.
+        const Symbol* known = scope_ == nullptr ? symbols_.find(name) : nullptr;
+        const bool again = known != nullptr && known->isConstant && !constants_.contains(name);
+        if (!again && isUserName(name)) lexer_.fail(ScriptErrorNumber::NameRedefined, place);
         expect(Token::Equal, ScriptErrorNumber::ExpectedEquals);
         here();
         const std::size_t from = chunk_->code.size();
@@ -137,13 +140,14 @@ void Compiler::constStatement() {
                                (chunk_->code.size() == from + 2 && (last == Op::Negate || last == Op::Plus) &&
                                 chunk_->code[from].op == Op::Constant);
         if (!isLiteral) lexer_.fail(ScriptErrorNumber::ExpectedLiteralConstant, place);
-        declare(name, place);
+        if (!again) declare(name, place);
         if (const std::int32_t* slot = local(name)) {
             scope_->constants.insert(name);
             emitAt(place, Op::StoreLocal, *slot);
         } else {
             const std::int32_t symbol = symbols_.intern(name);
             symbols_[symbol].isConstant = true;
+            constants_.insert(name);
             emitAt(place, Op::DefineConstant, symbol);
         }
     } while (lexer_.token() == Token::Comma);

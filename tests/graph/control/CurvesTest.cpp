@@ -80,6 +80,13 @@ TEST_F(Curves, TIsInRadiansAndTheCoefficientRunsBefore) {
     expectNear(lines()[0].to, onPage(2, 180));
 }
 
+TEST_F(Curves, ACoefficientWithAConstantSurvivesEveryRedraw) {
+    add("k", "Const k = 2").Step = 180;
+    graph.Refresh();
+    graph.Refresh();
+    EXPECT_EQ(window.frames(), 2U);
+}
+
 TEST_F(Curves, ACoefficientIsTrimmedAndClosedOnce) {
     EXPECT_EQ(coefficientCode("  "), "");
     EXPECT_EQ(coefficientCode(" a=2 "), "a=2:");

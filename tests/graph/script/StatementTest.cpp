@@ -94,6 +94,15 @@ TEST(State, ACodeThatDoesNotCompileLeavesNothing) {
     EXPECT_EQ(engine.eval("k"), "Integer 5");
 }
 
+TEST(State, AConstantMayComeAgainWithALaterText) {
+    Engine engine;
+    EXPECT_EQ(engine.errorOfCode("Const k = 1:"), "");
+    EXPECT_EQ(engine.errorOfCode("Const k = 2:"), "");
+    EXPECT_EQ(engine.eval("k"), "Integer 2");
+    EXPECT_EQ(engine.errorOfCode("k = 5"), "501 1:1") << "it is a constant all the same";
+    EXPECT_EQ(engine.errorOfCode("Const k = 3: Const k = 4"), "1041 1:20");
+}
+
 TEST(OptionExplicit, AsksForDeclarations) {
     Engine engine;
     EXPECT_EQ(engine.errorOfCode("Option Explicit\nDim a\na = 1"), "");
