@@ -1,10 +1,12 @@
 #include "base/Numbers.h"
 
+#include <algorithm>
 #include <array>
-#include <cfloat>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
+#include <optional>
 
 #include "base/RunTimeError.h"
 #include "base/Text.h"
@@ -15,55 +17,66 @@ namespace {
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
-/// The length of the number that the text starts with, sign included; 0 where there is none.
-std::size_t numberLength(std::string_view text) {
+/// A number at the beginning of a text, by the places of its parts.
+struct NumberShape {
+    std::size_t length = 0;  ///< sign and exponent included; 0 where the text starts with no number
+    std::size_t exponentAt = std::string_view::npos;  ///< the E or D, where there is one
+};
+
+NumberShape numberAtStart(std::string_view text) {
     std::size_t i = 0;
     if (i < text.size() && (text[i] == '+' || text[i] == '-')) ++i;
-    const std::size_t digitsFrom = i;
     std::size_t digits = 0;
     while (i < text.size() && isDigit(text[i])) ++i, ++digits;
     if (i < text.size() && text[i] == '.') {
         ++i;
         while (i < text.size() && isDigit(text[i])) ++i, ++digits;
     }
-    if (digits == 0) return 0;
-    static_cast<void>(digitsFrom);
+    if (digits == 0) return {};
     std::size_t j = i;
     if (j < text.size() && (text[j] == 'E' || text[j] == 'e' || text[j] == 'D' || text[j] == 'd')) {
         ++j;
         if (j < text.size() && (text[j] == '+' || text[j] == '-')) ++j;
         const std::size_t exponentFrom = j;
         while (j < text.size() && isDigit(text[j])) ++j;
-        if (j > exponentFrom) i = j;
+        if (j > exponentFrom) return {j, i};
     }
-    return i;
+    return {i, std::string_view::npos};
 }
 
-/// Parses a text that numberLength has accepted whole.
-double parseNumber(std::string_view text, bool& tooLarge) {
-    std::string plain;
-    if (text.find_first_of("dD") != std::string_view::npos) {
-        plain.assign(text);
-        for (char& c : plain)
-            if (c == 'd' || c == 'D') c = 'E';
-        text = plain;
+/// Whether a number outside the range lies beyond its large end: by the place of its first digit that is not
+/// 0, moved by the exponent. The library reports both ends of the range alike.
+bool isBeyondLargeEnd(std::string_view number, std::size_t exponentAt) {
+    const std::string_view mantissa = number.substr(0, exponentAt);
+    const auto point = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
+    const auto first = static_cast<std::int64_t>(mantissa.find_first_of("123456789"));
+    const std::int64_t place = first < point ? point - first : point + 1 - first;
+    if (exponentAt == std::string_view::npos) return place > 0;
+
+    std::string_view digits = number.substr(exponentAt + 1);
+    if (digits.front() == '+') digits.remove_prefix(1);
+    std::int64_t exponent = 0;
+    const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), exponent);
+    if (read.ec == std::errc::result_out_of_range) return digits.front() != '-';
+    return exponent > -place;
+}
+
+/// The value of a text that is one number of this shape. A number too small is 0; nothing stands for one too
+/// large.
+template <typename Real>
+std::optional<Real> parseNumber(std::string_view text, const NumberShape& shape) {
+    std::string withE;
+    if (shape.exponentAt != std::string_view::npos && (text[shape.exponentAt] | 0x20) == 'd') {
+        withE = text;
+        withE[shape.exponentAt] = 'E';
+        text = withE;
     }
-    if (!text.empty() && text.front() == '+') text.remove_prefix(1);
-    double value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    static_cast<void>(end);
-    tooLarge = false;
-    if (error == std::errc::result_out_of_range) {
-        // The library reports both ends of the range alike; only a number too large is a failure.
-        const std::size_t exponent = text.find_first_of("eE");
-        const bool tiny = exponent != std::string_view::npos
-                              ? text.substr(exponent + 1).starts_with('-')
-                              : text.substr(text.front() == '-' ? 1 : 0).starts_with('.') ||
-                                    text.substr(text.front() == '-' ? 1 : 0).starts_with('0');
-        tooLarge = !tiny;
-        value = 0;
-    }
-    return value;
+    const std::size_t plus = text.front() == '+' ? 1 : 0;
+    Real value = 0;
+    const auto read = std::from_chars(text.data() + plus, text.data() + text.size(), value);
+    if (read.ec != std::errc::result_out_of_range) return value;
+    if (isBeyondLargeEnd(text, shape.exponentAt)) return std::nullopt;
+    return Real(0);
 }
 
 /// Drops commas that stand before the decimal point; a comma anywhere else makes the text no number.
@@ -80,6 +93,22 @@ bool dropGroupingCommas(std::string_view text, std::string& plain) {
         plain.push_back(text[i]);
     }
     return true;
+}
+
+/// The whole text as a number; raises 13 and 6 as toDouble does.
+template <typename Real>
+Real wholeNumber(std::string_view text) {
+    text = trimmed(text);
+    std::string plain;
+    if (text.find(',') != std::string_view::npos) {
+        if (!dropGroupingCommas(text, plain)) raise(ErrorNumber::TypeMismatch);
+        text = plain;
+    }
+    const NumberShape shape = numberAtStart(text);
+    if (shape.length == 0 || shape.length != text.size()) raise(ErrorNumber::TypeMismatch);
+    const std::optional<Real> value = parseNumber<Real>(text, shape);
+    if (!value) raise(ErrorNumber::Overflow);
+    return *value;
 }
 
 std::string generalText(double value, int significant) {
@@ -124,42 +153,29 @@ std::string generalText(double value, int significant) {
 
 double val(std::string_view text) {
     std::string packed;
-    const char* from = text.data();
     if (text.find_first_of(" \t\r\n") != std::string_view::npos) {
         for (const char c : text)
             if (c != ' ' && c != '\t' && c != '\r' && c != '\n') packed.push_back(c);
-        from = packed.data();
         text = packed;
     }
-    const std::size_t length = numberLength(text);
-    if (length == 0) return 0;
-    bool tooLarge = false;
-    const double value = parseNumber(std::string_view(from, length), tooLarge);
-    if (!tooLarge) return value;
+    const NumberShape shape = numberAtStart(text);
+    if (shape.length == 0) return 0;
+    const std::optional<double> value = parseNumber<double>(text.substr(0, shape.length), shape);
+    if (value) return *value;
     return text.front() == '-' ? std::numeric_limits<double>::lowest() : std::numeric_limits<double>::max();
 }
 
-double toDouble(std::string_view text) {
-    text = trimmed(text);
-    std::string plain;
-    if (text.find(',') != std::string_view::npos) {
-        if (!dropGroupingCommas(text, plain)) raise(ErrorNumber::TypeMismatch);
-        text = plain;
-    }
-    const std::size_t length = numberLength(text);
-    if (length == 0 || length != text.size()) raise(ErrorNumber::TypeMismatch);
-    bool tooLarge = false;
-    const double value = parseNumber(text, tooLarge);
-    if (tooLarge) raise(ErrorNumber::Overflow);
-    return value;
-}
+double toDouble(std::string_view text) { return wholeNumber<double>(text); }
 
 float toSingle(double value) {
-    if (!(std::abs(value) <= static_cast<double>(FLT_MAX))) raise(ErrorNumber::Overflow);
+    // Up to half a step above the largest single, that one is the nearest.
+    constexpr double roundsBeyond = 0x1.ffffffp127;
+    if (!(std::abs(value) < roundsBeyond)) raise(ErrorNumber::Overflow);
     return static_cast<float>(value);
 }
 
-float toSingle(std::string_view text) { return toSingle(toDouble(text)); }
+// Not by way of a double: rounding twice may end beside the nearest single.
+float toSingle(std::string_view text) { return wholeNumber<float>(text); }
 
 std::int16_t toInt16(double value) {
     const double rounded = std::nearbyint(value);
@@ -181,7 +197,8 @@ double roundHalfEven(double value, int decimals) {
     if (decimals == 0) return std::nearbyint(value);
     const double scale = std::pow(10.0, decimals);
     const double scaled = value * scale;
-    if (!std::isfinite(scaled)) return value;
+    // From 2^52 on a double has no fraction, so that there is nothing to round (nor in what is no number).
+    if (!(std::abs(scaled) < 4503599627370496.0)) return value;
     return std::nearbyint(scaled) / scale;
 }
 
@@ -208,6 +225,7 @@ std::string format00(double value) {
 std::string format00(std::string_view text) { return format00(toDouble(text)); }
 
 std::string formatScientific(double value) {
+    if (value == 0) value = 0;  // -0 too
     std::array<char, 64> buffer{};
     const auto result =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::scientific, 2);
