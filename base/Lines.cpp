@@ -1,27 +1,35 @@
 #include "base/Lines.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
+#include <system_error>
 
 #include "base/RunTimeError.h"
 
 namespace zg {
 
+namespace fs = std::filesystem;
+
 namespace {
 
 constexpr std::size_t windowSize = 64 * 1024;
 
-/// The first CR or LF of the bytes, or npos.
+/// The first CR or LF of the bytes, or npos. Searched piece by piece: in a file without any LF a search for
+/// the next one would pass over all that is left, for every line.
 std::size_t lineEnd(std::string_view bytes) {
-    const void* lf = bytes.empty() ? nullptr : std::memchr(bytes.data(), '\n', bytes.size());
-    const std::size_t end =
-        lf == nullptr ? bytes.size() : static_cast<std::size_t>(static_cast<const char*>(lf) - bytes.data());
-    const void* cr = end == 0 ? nullptr : std::memchr(bytes.data(), '\r', end);
-    if (cr != nullptr) return static_cast<std::size_t>(static_cast<const char*>(cr) - bytes.data());
-    return lf == nullptr ? std::string_view::npos : end;
+    constexpr std::size_t pieceSize = 256;
+    const auto find = [&bytes](char c, std::size_t from, std::size_t to) {
+        const void* at = std::memchr(bytes.data() + from, c, to - from);
+        return at == nullptr ? to : static_cast<std::size_t>(static_cast<const char*>(at) - bytes.data());
+    };
+    for (std::size_t from = 0; from < bytes.size(); from += pieceSize) {
+        const std::size_t to = std::min(from + pieceSize, bytes.size());
+        const std::size_t end = find('\r', from, find('\n', from, to));
+        if (end != to) return end;
+    }
+    return std::string_view::npos;
 }
 
 /// Line ends among the bytes, CR LF counted once, after a byte that may have been the CR of such a pair. The
@@ -45,9 +53,12 @@ std::size_t countLineEnds(std::string_view bytes, char before) {
 }  // namespace
 
 FileHandle openForReading(const std::string& path) {
-    struct stat status {};
-    if (stat(path.c_str(), &status) != 0) raiseFileError(errno);
-    if (S_ISDIR(status.st_mode)) raise(ErrorNumber::PathFileAccessError);
+    // The C library would take such a name up to the NUL.
+    if (path.find('\0') != std::string::npos) raise(ErrorNumber::FileNotFound);
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    // A pipe that nobody writes to would hold the program for good.
+    if (fs::exists(status) && !fs::is_regular_file(status)) raise(ErrorNumber::PathFileAccessError);
     FileHandle file(std::fopen(path.c_str(), "rb"));
     if (!file) raiseFileError(errno);
     return file;
@@ -66,7 +77,7 @@ LineReader LineReader::ofText(std::string_view text) {
 }
 
 bool LineReader::fill() {
-    if (endOfFile_) return false;
+    if (endOfFile_ || !file_) return false;
     const std::size_t kept = window_.size();
     if (kept > 0 && window_.data() != buffer_.data()) std::memmove(buffer_.data(), window_.data(), kept);
     // A line longer than the window doubles it, so that long lines cost linear time.
@@ -120,8 +131,9 @@ std::size_t LineReader::skipAll() {
 }
 
 LineWriter::LineWriter(const std::string& path) {
-    struct stat status {};
-    if (stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) raise(ErrorNumber::PathFileAccessError);
+    std::error_code error;
+    if (path.find('\0') != std::string::npos || fs::is_directory(path, error))
+        raise(ErrorNumber::PathFileAccessError);
     file_.reset(std::fopen(path.c_str(), "wb"));
     if (!file_) raiseFileError(errno == ENOENT ? ENOTDIR : errno);
 }

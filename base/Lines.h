@@ -16,7 +16,8 @@ struct FileCloser {
 };
 using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 
-/// Opens a plain file for binary reading; raises 53, 70, 75 or 76 where that fails, 75 for a directory.
+/// Opens a plain file for binary reading; raises 53, 70, 75 or 76 where that fails, 75 for a directory, a
+/// pipe or a device.
 FileHandle openForReading(const std::string& path);
 
 /// Reads lines of any length. Only a window of the file is in memory at a time, at least one line.
@@ -45,7 +46,7 @@ class LineReader {
     /// Number of the line last read, from 1.
     std::size_t lineNumber() const { return lineNumber_; }
 
-    /// Hands over the open file, to be closed by the new owner.
+    /// Hands over the open file, to be closed by the new owner; what has been fetched can still be read.
     FileHandle release() { return std::move(file_); }
 
  private:

@@ -1,8 +1,12 @@
 #include "base/Lines.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "tests/support/Raises.h"
 #include "tests/support/TempDirectory.h"
@@ -33,6 +37,57 @@ TEST(LineReader, ALastLineWithoutItsEndIsALine) {
     EXPECT_EQ(linesOf("a\r\nb"), (Strings{"a", "b"}));
     EXPECT_EQ(linesOf("a\r"), (Strings{"a"}));
     EXPECT_EQ(linesOf(""), Strings{});
+    EXPECT_EQ(linesOf("\n"), (Strings{""}));
+    EXPECT_EQ(linesOf("a\r\n\r"), (Strings{"a", ""}));
+}
+
+TEST(LineReader, ANewLineByteAfterAPairIsALineOfItsOwn) {
+    EXPECT_EQ(linesOf("a\r\n\nb"), (Strings{"a", "", "b"}));
+    EXPECT_EQ(linesOf("a\r\r\nb"), (Strings{"a", "", "b"}));
+    EXPECT_EQ(linesOf("a\n\rb"), (Strings{"a", "", "b"}));
+}
+
+TEST(LineReader, FindsEveryEndWhereverItStands) {
+    for (std::size_t length = 250; length < 520; ++length) {
+        const std::string line(length, 'x');
+        ASSERT_EQ(linesOf(line + "\r\nb\rc\nd"), (Strings{line, "b", "c", "d"})) << length;
+    }
+}
+
+TEST(LineReader, ACrAtTheVeryEndOfTheWindowAndTheFileEndsTheLine) {
+    const std::string line(65535, 'x');
+    EXPECT_EQ(linesOf(line + "\r"), (Strings{line}));
+    EXPECT_EQ(linesOf(line + "\r\n"), (Strings{line}));
+    EXPECT_EQ(linesOf(line + "\r\r"), (Strings{line, ""}));
+}
+
+TEST(LineReader, ManyLinesWithoutAnyLfCostNoTime) {
+    std::string bytes;
+    constexpr std::size_t count = 1'000'000;
+    for (std::size_t i = 0; i < count; ++i) bytes += "a line\r";
+    LineReader reader = LineReader::ofText(bytes);
+    while (!reader.atEnd()) ASSERT_EQ(reader.readLine(), "a line");
+    EXPECT_EQ(reader.lineNumber(), count);
+}
+
+TEST(LineReader, GivesUpItsFileAndKeepsWhatItHasFetched) {
+    const TempDirectory directory;
+    LineReader reader(directory.write("lines.txt", "a\n" + std::string(100'000, 'x')));
+    EXPECT_EQ(reader.readLine(), "a");
+    EXPECT_NE(reader.release(), nullptr);
+    EXPECT_EQ(reader.readLine().size(), 65534U);
+    EXPECT_TRUE(reader.atEnd());
+    EXPECT_RAISES(62, "Input past end of file", reader.readLine());
+}
+
+TEST(LineReader, MovesWithWhatItHasFetched) {
+    const TempDirectory directory;
+    LineReader first(directory.write("lines.txt", "a\nb\nc"));
+    first.readLine();
+    LineReader second(std::move(first));
+    EXPECT_EQ(second.readLine(), "b");
+    EXPECT_EQ(second.lineNumber(), 2U);
+    EXPECT_EQ(second.readLine(), "c");
 }
 
 TEST(LineReader, KeepsBytesAsTheyStand) {
@@ -66,6 +121,19 @@ TEST(LineReader, RaisesForWhatCannotBeRead) {
     EXPECT_RAISES(53, "File not found", LineReader(directory.file("nowhere")));
     EXPECT_RAISES(75, "Path/File access error", LineReader(directory.path()));
     EXPECT_RAISES(53, "File not found", LineReader(""));
+    const std::string plain = directory.write("plain", "a");
+    EXPECT_RAISES(76, "Path not found", LineReader(plain + "/below"));
+    EXPECT_RAISES(53, "File not found", LineReader(directory.file("no/such/file")));
+    EXPECT_RAISES(53, "File not found", LineReader(plain + std::string("\0x", 2)));
+    EXPECT_RAISES(75, "Path/File access error", LineReader(std::string(100'000, 'x')));
+    EXPECT_RAISES(75, "Path/File access error", readWholeFile(directory.path()));
+}
+
+TEST(LineReader, RefusesAPipeInsteadOfWaitingForItsWriter) {
+    const TempDirectory directory;
+    ASSERT_EQ(mkfifo(directory.file("pipe").c_str(), 0600), 0);
+    EXPECT_RAISES(75, "Path/File access error", LineReader(directory.file("pipe")));
+    EXPECT_RAISES(75, "Path/File access error", readWholeFile(directory.file("pipe")));
 }
 
 TEST(LineReader, RaisesWithoutPermission) {
@@ -91,12 +159,35 @@ TEST(LineWriter, EndsItsLinesInCrLfAndReplacesTheFile) {
     writer.writeLine("");
     writer.close();
     EXPECT_EQ(directory.read("out.txt"), "a\r\nb\r\n");
+    writer.close();
+    EXPECT_EQ(directory.read("out.txt"), "a\r\nb\r\n") << "a second close does nothing";
+}
+
+TEST(LineWriter, WritesBytesAsTheyStand) {
+    const TempDirectory directory;
+    const std::string bytes("\0\xFF\n\x1A\t", 5);
+    {
+        LineWriter writer(directory.file("out.txt"));
+        writer.write("");
+        writer.writeLine(bytes);
+    }
+    EXPECT_EQ(directory.read("out.txt"), bytes + "\r\n") << "and closes without being told";
+}
+
+TEST(LineWriter, AFileWithoutLinesIsEmpty) {
+    const TempDirectory directory;
+    LineWriter(directory.file("out.txt")).close();
+    EXPECT_EQ(directory.read("out.txt"), "");
 }
 
 TEST(LineWriter, RaisesForWhatCannotBeWritten) {
     const TempDirectory directory;
     EXPECT_RAISES(76, "Path not found", LineWriter(directory.file("no/such/directory")));
     EXPECT_RAISES(75, "Path/File access error", LineWriter(directory.path()));
+    const std::string plain = directory.write("plain", "a");
+    EXPECT_RAISES(76, "Path not found", LineWriter(plain + "/below"));
+    EXPECT_RAISES(75, "Path/File access error", LineWriter(plain + std::string("\0x", 2)));
+    EXPECT_EQ(directory.read("plain"), "a");
 }
 
 TEST(LineWriter, RaisesWhenTheDiskIsFull) {
@@ -104,6 +195,8 @@ TEST(LineWriter, RaisesWhenTheDiskIsFull) {
     LineWriter writer("/dev/full");
     writer.writeLine("a");
     EXPECT_RAISES(61, "Disk full", writer.close());
+    LineWriter large("/dev/full");
+    EXPECT_RAISES(61, "Disk full", large.writeLine(std::string(1'000'000, 'a')));
 }
 
 TEST(QuotedRecords, KeepInnerQuotesAndCommas) {
@@ -120,6 +213,36 @@ TEST(QuotedRecords, ACommaPartsOnlyOutsideQuotes) {
     for (const char* record : {"pow(t,2)", "a", "b", "c", "d", "e"}) EXPECT_EQ(records.next(), record);
     EXPECT_TRUE(records.atEnd());
     EXPECT_RAISES(62, "Input past end of file", records.next());
+    EXPECT_RAISES(62, "Input past end of file", QuotedRecordReader("").next());
+}
+
+TEST(QuotedRecords, WhatIsWrittenComesBack) {
+    const TempDirectory directory;
+    const Strings texts = {"POLAR GRAPH 1.0", "", "  a, b  ", "two\r\nlines", "tab\t", "\xE9"};
+    LineWriter writer(directory.file("records"));
+    for (const std::string& text : texts) writeQuoted(writer, text);
+    writer.close();
+    QuotedRecordReader records(readWholeFile(directory.file("records")));
+    for (const std::string& text : texts) EXPECT_EQ(records.next(), text);
+    EXPECT_TRUE(records.atEnd());
+}
+
+TEST(QuotedRecords, AnInnerQuoteEndsTheTextAndDropsTheRest) {
+    QuotedRecordReader records("\"a\"b\"\r\n\"c\"d,e\r\n");
+    for (const char* record : {"a", "c", "e"}) EXPECT_EQ(records.next(), record);
+    EXPECT_TRUE(records.atEnd());
+}
+
+TEST(QuotedRecords, EmptyPlacesAreEmptyRecords) {
+    QuotedRecordReader records(",\r\n\n\"\"\r  ");
+    for (int i = 0; i < 5; ++i) EXPECT_EQ(records.next(), "") << i;
+    EXPECT_TRUE(records.atEnd());
+}
+
+TEST(QuotedRecords, ABareTextKeepsItsInnerBlanksAndQuotes) {
+    QuotedRecordReader records("  a \"b\"  c  ,d");
+    EXPECT_EQ(records.next(), "a \"b\"  c");
+    EXPECT_EQ(records.next(), "d");
 }
 
 TEST(QuotedRecords, AnUnclosedQuoteRunsToTheEnd) {
@@ -132,6 +255,8 @@ TEST(ReadWholeFile, GivesTheBytes) {
     const TempDirectory directory;
     const std::string bytes(200000, '\0');
     EXPECT_EQ(readWholeFile(directory.write("zeros", bytes)), bytes);
+    EXPECT_EQ(readWholeFile(directory.write("empty", "")), "");
+    EXPECT_EQ(readWholeFile(directory.write("ends", "a\r\nb\n\r")), "a\r\nb\n\r");
 }
 
 }  // namespace
