@@ -20,9 +20,20 @@ constexpr chrono::sys_days epoch = chrono::sys_days(chrono::year(1899) / 12 / 30
 constexpr std::array<const char*, 12> monthNames = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
                                                     "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
 
-std::int64_t floorDays(DateTime moment) {
-    return static_cast<std::int64_t>(
-        std::floor(static_cast<double>(moment.seconds) / static_cast<double>(secondsADay)));
+chrono::days wholeDays(DateTime moment) {
+    return chrono::floor<chrono::days>(chrono::seconds(moment.seconds));
+}
+
+/// The moment so many seconds later; raises 6 outside the years that moments have.
+DateTime moved(DateTime moment, std::int64_t seconds) {
+    constexpr std::int64_t first =
+        chrono::seconds(chrono::sys_days(chrono::year(100) / 1 / 1) - epoch).count();
+    constexpr std::int64_t beyond =
+        chrono::seconds(chrono::sys_days(chrono::year(10000) / 1 / 1) - epoch).count();
+    const bool within = moment.seconds >= first && moment.seconds < beyond;
+    if (!within || seconds < first - moment.seconds || seconds >= beyond - moment.seconds)
+        raise(ErrorNumber::Overflow);
+    return {moment.seconds + seconds};
 }
 
 /// A run of one to maxDigits digits and nothing else, as a number; raises 13 for anything else.
@@ -51,13 +62,13 @@ DateTime makeDate(int year, int month, int day) {
 }
 
 CalendarDate dateOf(DateTime moment) {
-    const chrono::year_month_day date(epoch + chrono::days(floorDays(moment)));
+    const chrono::year_month_day date(epoch + wholeDays(moment));
     return {static_cast<int>(date.year()), static_cast<int>(static_cast<unsigned>(date.month())),
             static_cast<int>(static_cast<unsigned>(date.day()))};
 }
 
 TimeOfDay timeOf(DateTime moment) {
-    const auto rest = static_cast<int>(moment.seconds - floorDays(moment) * secondsADay);
+    const auto rest = static_cast<int>(moment.seconds - chrono::seconds(wholeDays(moment)).count());
     return {rest / 3600, rest / 60 % 60, rest % 60};
 }
 
@@ -95,15 +106,22 @@ TimeOfDay parseTime(std::string_view text) {
 }
 
 std::int64_t timeSerial(std::int64_t hours, std::int64_t minutes, std::int64_t seconds) {
+    for (const std::int64_t part : {hours, minutes, seconds})
+        if (part != static_cast<std::int32_t>(part)) raise(ErrorNumber::Overflow);
     return hours * 3600 + minutes * 60 + seconds;
 }
 
-DateTime addDays(DateTime moment, std::int64_t days) { return {moment.seconds + days * secondsADay}; }
+DateTime addDays(DateTime moment, std::int64_t days) {
+    if (days != static_cast<std::int32_t>(days)) raise(ErrorNumber::Overflow);
+    return moved(moment, days * secondsADay);
+}
 
-DateTime addSeconds(DateTime moment, std::int64_t seconds) { return {moment.seconds + seconds}; }
+DateTime addSeconds(DateTime moment, std::int64_t seconds) { return moved(moment, seconds); }
 
 DateTime addHours(DateTime moment, double hours) {
-    return {moment.seconds + static_cast<std::int64_t>(std::nearbyint(hours * 3600))};
+    const double seconds = std::nearbyint(hours * 3600);
+    if (!(std::abs(seconds) < 1e15)) raise(ErrorNumber::Overflow);
+    return moved(moment, static_cast<std::int64_t>(seconds));
 }
 
 std::string formatDate(DateTime moment) {

@@ -46,12 +46,14 @@ DateTime DateFromParts(std::string_view year, std::string_view month, std::strin
 TimeOfDay parseTime(std::string_view text);
 
 /// Seconds of hours, minutes and seconds that may overflow their ranges: timeSerial(0, 0, 3600) is one hour.
+/// Raises 6 for a part outside 32 bits.
 std::int64_t timeSerial(std::int64_t hours, std::int64_t minutes, std::int64_t seconds);
 
+/// A later or, by a negative amount, earlier moment; raises 6 outside the years 100 to 9999.
 DateTime addDays(DateTime moment, std::int64_t days);
 DateTime addSeconds(DateTime moment, std::int64_t seconds);
 
-/// Adds hours, fractions included (half-hour zones), rounded to the nearest second.
+/// Adds hours, fractions included (half-hour zones), rounded to the nearest second; raises 6 as the others.
 DateTime addHours(DateTime moment, double hours);
 
 /// "Jan 1, 2001"
