@@ -43,10 +43,14 @@ bool matches(std::string_view name, std::string_view pattern) {
     return p == pattern.size();
 }
 
+/// No look-up can be asked for such a name: it would take the part before the NUL.
+bool holdsNul(const fs::path& path) {
+    return path.native().find(fs::path::value_type()) != fs::path::string_type::npos;
+}
+
 bool isPlainFile(const fs::path& path) {
     std::error_code error;
-    const fs::file_status status = fs::status(path, error);
-    return !error && fs::exists(status) && !fs::is_directory(status);
+    return !holdsNul(path) && fs::is_regular_file(path, error);
 }
 
 }  // namespace
@@ -91,7 +95,7 @@ bool fileExists(const std::string& path) { return !existingFile(path).empty(); }
 
 bool IsDirectory(const std::string& path) {
     std::error_code error;
-    return fs::is_directory(path, error);
+    return !holdsNul(path) && fs::is_directory(path, error);
 }
 
 std::vector<std::string> filesMatching(const std::string& pattern) {
