@@ -58,6 +58,9 @@ void raiseFileError(int errnoValue) {
         case ENFILE:
             raise(ErrorNumber::TooManyFiles);
         case ENOSPC:
+#ifdef EDQUOT
+        case EDQUOT:
+#endif
             raise(ErrorNumber::DiskFull);
         case EIO:
             raise(ErrorNumber::DeviceIoError);

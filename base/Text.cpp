@@ -46,7 +46,7 @@ Pieces split(std::string_view text, std::string_view separator) {
     std::vector<std::string_view> pieces;
     if (text.empty()) return Pieces(std::move(pieces));
     while (true) {
-        const std::size_t at = text.find(separator);
+        const std::size_t at = separator.empty() ? std::string_view::npos : text.find(separator);
         pieces.push_back(text.substr(0, at));
         if (at == std::string_view::npos) return Pieces(std::move(pieces));
         text.remove_prefix(at + separator.size());

@@ -32,8 +32,8 @@ class Pieces {
     std::vector<std::string_view> pieces_;
 };
 
-/// Splits at every separator (not empty). Empty pieces are kept; an empty text has no piece at all. The
-/// pieces point into the text.
+/// Splits at every separator; an empty one gives the text as one piece. Empty pieces are kept; an empty text
+/// has no piece at all. The pieces point into the text.
 Pieces split(std::string_view text, std::string_view separator);
 
 /// The first n, the last n, and n characters from position start (1-based); tolerant of short texts.
