@@ -22,11 +22,20 @@ std::string coefficientCode(const std::string& coefficient) {
     return code;
 }
 
-CurveSampler::CurveSampler(ScriptEngine& engine, const GrapInfo& graph) : engine_(engine) {
-    if (const std::string code = coefficientCode(graph.Coefficient); !code.empty()) engine_.AddCode(code);
-    t_ = engine_.slot("t");
-    equation_ = engine_.compile(graph.Equation);
+namespace {
+
+/// The engine after the coefficient's statements have run in it.
+ScriptEngine& prepared(ScriptEngine& engine, const std::string& coefficient) {
+    if (const std::string code = coefficientCode(coefficient); !code.empty()) engine.AddCode(code);
+    return engine;
 }
+
+}  // namespace
+
+CurveSampler::CurveSampler(ScriptEngine& engine, const GrapInfo& graph)
+    : engine_(prepared(engine, graph.Coefficient)),
+      t_(engine_.slot("t")),
+      equation_(engine_.compile(graph.Equation)) {}
 
 CurvePoint CurveSampler::at(float angle, const PolarGeometry& geometry) {
     const double radians = MathLibrary::Radians(static_cast<double>(angle));

@@ -58,8 +58,8 @@ class CurveSampler {
 
  private:
     ScriptEngine& engine_;
-    CompiledExpression equation_;
     VariableSlot t_;
+    CompiledExpression equation_;
 };
 
 /// Paints the points of a sweep one after the other. The canvas is asked for anew at each, since the window

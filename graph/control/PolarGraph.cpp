@@ -20,7 +20,7 @@ PolarGraph::PolarGraph(ControlWindow& window, Host& host, const PropertyBag& des
       engine_([this] { return host_.tickCount(); }),
       polar_(createPolar(modPolarGraph)) {
     engine_.Language("VBScript");
-    engine_.AddObject("MathLib");
+    engine_.AddObject("MathLib", MathLibrary{});
     ReadProperties(designed);
 }
 

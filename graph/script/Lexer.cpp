@@ -1,271 +1,263 @@
 #include "graph/script/Lexer.h"
 
 #include <charconv>
+#include <limits>
 #include <unordered_map>
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "graph/script/Limits.h"
+#include "graph/script/ScriptError.h"
 
-namespace zg {
+namespace zg::script {
 
 namespace {
 
-constexpr std::size_t longestShownLine = 200;
-
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool isNamePart(char c) { return isLetter(c) || isDigit(c) || c == '_'; }
+bool continuesName(char c) { return isLetter(c) || isDigit(c) || c == '_'; }
+bool isBlank(char c) { return c == ' ' || c == '\t'; }
+bool isLineEnd(char c) { return c == '\r' || c == '\n'; }
 
-const std::unordered_map<std::string, Token>& words() {
-    static const std::unordered_map<std::string, Token> table = {{"and", Token::And},
-                                                                 {"byref", Token::ByRef},
-                                                                 {"byval", Token::ByVal},
-                                                                 {"call", Token::Call},
-                                                                 {"case", Token::Case},
-                                                                 {"const", Token::Const},
-                                                                 {"dim", Token::Dim},
-                                                                 {"do", Token::Do},
-                                                                 {"else", Token::Else},
-                                                                 {"elseif", Token::ElseIf},
-                                                                 {"empty", Token::Empty},
-                                                                 {"end", Token::EndWord},
-                                                                 {"eqv", Token::Eqv},
-                                                                 {"exit", Token::Exit},
-                                                                 {"false", Token::False},
-                                                                 {"for", Token::For},
-                                                                 {"function", Token::Function},
-                                                                 {"if", Token::If},
-                                                                 {"imp", Token::Imp},
-                                                                 {"is", Token::Is},
-                                                                 {"let", Token::Let},
-                                                                 {"loop", Token::Loop},
-                                                                 {"mod", Token::Mod},
-                                                                 {"next", Token::Next},
-                                                                 {"not", Token::Not},
-                                                                 {"null", Token::Null},
-                                                                 {"option", Token::Option},
-                                                                 {"or", Token::Or},
-                                                                 {"select", Token::Select},
-                                                                 {"sub", Token::Sub},
-                                                                 {"then", Token::Then},
-                                                                 {"to", Token::To},
-                                                                 {"true", Token::True},
-                                                                 {"until", Token::Until},
-                                                                 {"wend", Token::Wend},
-                                                                 {"while", Token::While},
-                                                                 {"xor", Token::Xor}};
+int digitValue(char c) {
+    if (isDigit(c)) return c - '0';
+    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+    return 99;
+}
+
+const std::unordered_map<std::string_view, TokenKind>& words() {
+    static const std::unordered_map<std::string_view, TokenKind> table = {
+        {"and", TokenKind::And},
+        {"byref", TokenKind::ByRef},
+        {"byval", TokenKind::ByVal},
+        {"call", TokenKind::Call},
+        {"case", TokenKind::Case},
+        {"const", TokenKind::Const},
+        {"dim", TokenKind::Dim},
+        {"do", TokenKind::Do},
+        {"else", TokenKind::Else},
+        {"elseif", TokenKind::ElseIf},
+        {"empty", TokenKind::Empty},
+        {"end", TokenKind::EndWord},
+        {"eqv", TokenKind::Eqv},
+        {"exit", TokenKind::Exit},
+        {"false", TokenKind::False},
+        {"for", TokenKind::For},
+        {"function", TokenKind::Function},
+        {"if", TokenKind::If},
+        {"imp", TokenKind::Imp},
+        {"let", TokenKind::Let},
+        {"loop", TokenKind::Loop},
+        {"mod", TokenKind::Mod},
+        {"next", TokenKind::Next},
+        {"not", TokenKind::Not},
+        {"null", TokenKind::Null},
+        {"option", TokenKind::Option},
+        {"or", TokenKind::Or},
+        {"private", TokenKind::Private},
+        {"public", TokenKind::Public},
+        {"select", TokenKind::Select},
+        {"set", TokenKind::Set},
+        {"sub", TokenKind::Sub},
+        {"then", TokenKind::Then},
+        {"to", TokenKind::To},
+        {"true", TokenKind::True},
+        {"until", TokenKind::Until},
+        {"wend", TokenKind::Wend},
+        {"while", TokenKind::While},
+        {"xor", TokenKind::Xor},
+        {"class", TokenKind::Reserved},
+        {"each", TokenKind::Reserved},
+        {"erase", TokenKind::Reserved},
+        {"goto", TokenKind::Reserved},
+        {"in", TokenKind::Reserved},
+        {"is", TokenKind::Reserved},
+        {"me", TokenKind::Reserved},
+        {"new", TokenKind::Reserved},
+        {"nothing", TokenKind::Reserved},
+        {"on", TokenKind::Reserved},
+        {"redim", TokenKind::Reserved},
+        {"resume", TokenKind::Reserved},
+        {"stop", TokenKind::Reserved},
+        {"typeof", TokenKind::Reserved},
+        {"with", TokenKind::Reserved},
+    };
     return table;
 }
 
 }  // namespace
 
-void Lexer::fail(ScriptErrorNumber number, ScriptPosition position) const {
-    throw ScriptError(static_cast<int>(number), scriptErrorDescription(number), position,
-                      sourceLine(position.line));
+std::size_t Lexer::identifierEnd(std::size_t from) const {
+    while (continuesName(at(from))) ++from;
+    return from;
 }
 
-std::string Lexer::sourceLine(int line) const {
-    std::size_t from = 0;
-    for (int i = 1; i < line && from < source_.size(); ++i) {
-        const std::size_t end = source_.find_first_of("\r\n", from);
-        if (end == std::string_view::npos) return {};
-        from = end + (source_.compare(end, 2, "\r\n") == 0 ? 2U : 1U);
-    }
-    if (from > source_.size()) return {};
-    const std::size_t end = std::min(source_.find_first_of("\r\n", from), source_.size());
-    return std::string(source_.substr(from, std::min(end - from, longestShownLine)));
-}
-
-/// A line that ends in a blank and "_" goes on in the next one.
+/// A blank, an underscore and nothing more in the line join it with the next one.
 bool Lexer::skipContinuation() {
-    if (peek() != '_') return false;
-    std::size_t end = at_ + 1;
-    while (end < source_.size() && (source_[end] == ' ' || source_[end] == '\t')) ++end;
-    if (end >= source_.size() || (source_[end] != '\r' && source_[end] != '\n')) return false;
-    at_ = end + (source_.compare(end, 2, "\r\n") == 0 ? 2U : 1U);
-    lineStart_ = at_;
-    ++line_;
+    if (at(offset_) != '_' || offset_ == 0 || !isBlank(text_[offset_ - 1])) return false;
+    std::size_t end = offset_ + 1;
+    while (isBlank(at(end))) ++end;
+    if (!isLineEnd(at(end))) return false;
+    offset_ = end + (text_.substr(end).starts_with("\r\n") ? 2 : 1);
     return true;
 }
 
-bool Lexer::skipBlanks() {
-    const std::size_t from = at_;
-    while (peek() == ' ' || peek() == '\t') ++at_;
-    return at_ != from;
-}
-
 void Lexer::skipComment() {
-    while (at_ < source_.size() && source_[at_] != '\r' && source_[at_] != '\n') ++at_;
+    while (offset_ < text_.size() && !isLineEnd(text_[offset_])) ++offset_;
 }
 
-void Lexer::next() {
-    while (skipBlanks() || skipContinuation()) {
-    }
-    if (peek() == '\'' && at_ < source_.size()) skipComment();
-    position_ = {line_, static_cast<int>(at_ - lineStart_) + 1};
-    if (at_ >= source_.size()) {
-        token_ = Token::End;
-        return;
-    }
-    const char c = peek();
-    if (isDigit(c) || (c == '.' && isDigit(peek(1))))
-        readNumber();
-    else if (c == '&' && (peek(1) == 'h' || peek(1) == 'H' || peek(1) == 'o' || peek(1) == 'O'))
-        readPrefixedNumber();
-    else if (c == '"')
-        readText();
-    else if (isLetter(c))
-        readName();
-    else
-        readOperator();
+void Lexer::skipBlanks() {
+    do {
+        while (isBlank(at(offset_))) ++offset_;
+    } while (skipContinuation());
+    if (at(offset_) == '\'') skipComment();
 }
 
-void Lexer::readNumber() {
-    const std::size_t from = at_;
-    bool whole = true;
-    while (isDigit(peek())) ++at_;
-    if (peek() == '.') {
-        whole = false;
-        ++at_;
-        while (isDigit(peek())) ++at_;
-    }
-    if (peek() == 'e' || peek() == 'E') {
-        const std::size_t sign = peek(1) == '+' || peek(1) == '-' ? 2 : 1;
-        if (!isDigit(peek(sign))) fail(ScriptErrorNumber::InvalidNumber);
-        whole = false;
-        at_ += sign;
-        while (isDigit(peek())) ++at_;
-    }
-    if (isNamePart(peek()))
-        fail(ScriptErrorNumber::ExpectedEndOfStatement, {line_, static_cast<int>(at_ - lineStart_) + 1});
-    double number = 0;
-    try {
-        number = toDouble(source_.substr(from, at_ - from));
-    } catch (const RunTimeError& error) {
-        throw ScriptError(error.number, error.description, position_, sourceLine(position_.line));
-    }
-    value_ = whole ? Value::ofWhole(number) : Value::ofDouble(number);
-    token_ = Token::Number;
+Token Lexer::made(TokenKind kind, std::size_t length) {
+    Token token;
+    token.kind = kind;
+    token.offset = offset_;
+    offset_ += length;
+    token.end = offset_;
+    return token;
 }
 
-/// "&H1F" and "&O17"; the bits of four hexadecimal digits are those of a 16-bit number.
-void Lexer::readPrefixedNumber() {
-    const int base = peek(1) == 'h' || peek(1) == 'H' ? 16 : 8;
-    at_ += 2;
-    std::uint32_t bits = 0;
-    const char* const from = source_.data() + at_;
-    const auto [end, error] = std::from_chars(from, source_.data() + source_.size(), bits, base);
-    if (error != std::errc() || end == from) fail(ScriptErrorNumber::InvalidNumber);
-    at_ += static_cast<std::size_t>(end - from);
-    if (peek() == '&') ++at_;  // the mark of a 32-bit number
-    const bool sixteen = bits <= 0xFFFFU && source_[at_ - 1] != '&';
-    const double number = sixteen ? static_cast<double>(static_cast<std::int16_t>(bits))
-                                  : static_cast<double>(static_cast<std::int32_t>(bits));
-    value_ = Value::ofWhole(number);
-    token_ = Token::Number;
-}
-
-void Lexer::readText() {
-    std::string text;
-    ++at_;
-    while (true) {
-        if (at_ >= source_.size() || peek() == '\r' || peek() == '\n')
-            fail(ScriptErrorNumber::UnterminatedString);
-        if (peek() == '"') {
-            if (peek(1) != '"') break;
-            ++at_;
-        }
-        text.push_back(peek());
-        ++at_;
+Token Lexer::next() {
+    skipBlanks();
+    if (offset_ >= text_.size()) return made(TokenKind::End, 0);
+    const char c = text_[offset_];
+    if (isLineEnd(c)) return made(TokenKind::LineEnd, text_.substr(offset_).starts_with("\r\n") ? 2 : 1);
+    if (isLetter(c)) return word();
+    if (isDigit(c) || (c == '.' && isDigit(at(offset_ + 1)))) return number();
+    if (c == '"') return textConstant();
+    if (c == '&') {
+        const char radix = at(offset_ + 1);
+        if ((radix == 'h' || radix == 'H') && digitValue(at(offset_ + 2)) < 16) return radixNumber(16);
+        if ((radix == 'o' || radix == 'O') && digitValue(at(offset_ + 2)) < 8) return radixNumber(8);
     }
-    ++at_;
-    value_ = Value::ofString(std::move(text));
-    token_ = Token::Text;
+    return symbol();
 }
 
-void Lexer::readName() {
-    const std::size_t from = at_;
-    while (isNamePart(peek())) ++at_;
-    name_ = lcase(source_.substr(from, at_ - from));
-    if (name_ == "rem") {
+Token Lexer::word() {
+    const std::size_t length = identifierEnd(offset_) - offset_;
+    if (length > maxNameLength) throw ScriptError(ScriptErrorNumber::IdentifierTooLong, text_, offset_);
+    std::string name = lcase(text_.substr(offset_, length));
+    if (name == "rem") {
         skipComment();
-        next();
-        return;
+        return next();
     }
-    const auto word = words().find(name_);
-    token_ = word == words().end() ? Token::Name : word->second;
+    const auto found = words().find(name);
+    Token token = made(found == words().end() ? TokenKind::Identifier : found->second, length);
+    token.text = std::move(name);
+    return token;
 }
 
-void Lexer::readOperator() {
-    const char c = peek();
-    const char d = peek(1);
-    ++at_;
-    const auto pair = [this](Token token) {
-        ++at_;
-        token_ = token;
-    };
-    switch (c) {
-        case '\r':
-        case '\n':
-            if (c == '\r' && d == '\n') ++at_;
-            ++line_;
-            lineStart_ = at_;
-            token_ = Token::EndOfLine;
-            return;
+/// Whole digits without point or exponent are an integer of the narrowest width that holds them.
+Token Lexer::number() {
+    std::size_t end = offset_;
+    bool isWhole = true;
+    while (isDigit(at(end))) ++end;
+    if (at(end) == '.') {
+        isWhole = false;
+        do ++end;
+        while (isDigit(at(end)));
+    }
+    if (at(end) == 'e' || at(end) == 'E') {
+        isWhole = false;
+        ++end;
+        if (at(end) == '+' || at(end) == '-') ++end;
+        if (!isDigit(at(end))) throw ScriptError(ScriptErrorNumber::InvalidNumber, text_, offset_);
+        while (isDigit(at(end))) ++end;
+    }
+    double value = 0;
+    try {
+        value = toDouble(text_.substr(offset_, end - offset_));
+    } catch (const RunTimeError& error) {
+        throw ScriptError(error.number, error.description, text_, offset_);
+    }
+    Token token = made(TokenKind::Number, end - offset_);
+    token.number = isWhole ? widened(ValueType::Integer, value) : Value(value);
+    return token;
+}
+
+/// The digits are the bits of an integer, of a long where there are more of them or "&" follows.
+Token Lexer::radixNumber(int base) {
+    std::size_t end = offset_ + 2;
+    while (digitValue(at(end)) < base) ++end;
+    std::uint32_t bits = 0;
+    const char* const last = text_.data() + end;
+    const auto parsed = std::from_chars(text_.data() + offset_ + 2, last, bits, base);
+    if (parsed.ec != std::errc() || continuesName(at(end)))
+        throw ScriptError(ScriptErrorNumber::InvalidNumber, text_, offset_);
+    const bool isLong = at(end) == '&';
+    if (isLong) ++end;
+    Token token = made(TokenKind::Number, end - offset_);
+    if (bits <= 0xFFFF && !isLong)
+        token.number = Value(ValueType::Integer, static_cast<std::int16_t>(bits));
+    else
+        token.number = Value(ValueType::Long, static_cast<std::int32_t>(bits));
+    return token;
+}
+
+Token Lexer::textConstant() {
+    std::string content;
+    std::size_t i = offset_ + 1;
+    for (; i < text_.size() && !isLineEnd(text_[i]); ++i) {
+        if (text_[i] == '"') {
+            if (at(i + 1) != '"') break;
+            ++i;
+        }
+        content.push_back(text_[i]);
+    }
+    if (at(i) != '"') throw ScriptError(ScriptErrorNumber::UnterminatedString, text_, offset_);
+    Token token = made(TokenKind::Text, i + 1 - offset_);
+    token.text = std::move(content);
+    return token;
+}
+
+Token Lexer::symbol() {
+    const char after = at(offset_ + 1);
+    switch (text_[offset_]) {
         case ':':
-            token_ = Token::Colon;
-            return;
-        case '+':
-            token_ = Token::Plus;
-            return;
-        case '-':
-            token_ = Token::Minus;
-            return;
-        case '*':
-            token_ = Token::Times;
-            return;
-        case '/':
-            token_ = Token::Slash;
-            return;
-        case '\\':
-            token_ = Token::Backslash;
-            return;
-        case '^':
-            token_ = Token::Caret;
-            return;
-        case '&':
-            token_ = Token::Ampersand;
-            return;
+            return made(TokenKind::Colon, 1);
         case '(':
-            token_ = Token::Open;
-            return;
+            return made(TokenKind::OpenParenthesis, 1);
         case ')':
-            token_ = Token::Close;
-            return;
+            return made(TokenKind::CloseParenthesis, 1);
         case ',':
-            token_ = Token::Comma;
-            return;
+            return made(TokenKind::Comma, 1);
         case '.':
-            token_ = Token::Dot;
-            return;
+            return made(TokenKind::Dot, 1);
+        case '+':
+            return made(TokenKind::Plus, 1);
+        case '-':
+            return made(TokenKind::Minus, 1);
+        case '*':
+            return made(TokenKind::Star, 1);
+        case '/':
+            return made(TokenKind::Slash, 1);
+        case '\\':
+            return made(TokenKind::Backslash, 1);
+        case '^':
+            return made(TokenKind::Caret, 1);
+        case '&':
+            return made(TokenKind::Ampersand, 1);
         case '=':
-            if (d == '<') return pair(Token::LessOrEqual);
-            if (d == '>') return pair(Token::GreaterOrEqual);
-            token_ = Token::Equal;
-            return;
+            if (after == '<') return made(TokenKind::LessEqual, 2);
+            if (after == '>') return made(TokenKind::GreaterEqual, 2);
+            return made(TokenKind::Equal, 1);
         case '<':
-            if (d == '=') return pair(Token::LessOrEqual);
-            if (d == '>') return pair(Token::NotEqual);
-            token_ = Token::Less;
-            return;
+            if (after == '>') return made(TokenKind::NotEqual, 2);
+            if (after == '=') return made(TokenKind::LessEqual, 2);
+            return made(TokenKind::Less, 1);
         case '>':
-            if (d == '=') return pair(Token::GreaterOrEqual);
-            if (d == '<') return pair(Token::NotEqual);
-            token_ = Token::Greater;
-            return;
+            if (after == '<') return made(TokenKind::NotEqual, 2);
+            if (after == '=') return made(TokenKind::GreaterEqual, 2);
+            return made(TokenKind::Greater, 1);
         default:
-            fail(ScriptErrorNumber::InvalidCharacter);
+            throw ScriptError(ScriptErrorNumber::InvalidCharacter, text_, offset_);
     }
 }
 
-}  // namespace zg
+}  // namespace zg::script

@@ -1,118 +1,40 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 
-#include "graph/script/ScriptError.h"
-#include "graph/script/Value.h"
+#include "graph/script/Token.h"
 
-namespace zg {
+namespace zg::script {
 
-enum class Token {
-    End,
-    EndOfLine,
-    Colon,
-    Number,
-    Text,
-    Name,
-    Plus,
-    Minus,
-    Times,
-    Slash,
-    Backslash,
-    Caret,
-    Ampersand,
-    Equal,
-    NotEqual,
-    Less,
-    Greater,
-    LessOrEqual,
-    GreaterOrEqual,
-    Open,
-    Close,
-    Comma,
-    Dot,
-    And,
-    ByRef,
-    ByVal,
-    Call,
-    Case,
-    Const,
-    Dim,
-    Do,
-    Else,
-    ElseIf,
-    Empty,
-    EndWord,
-    Eqv,
-    Exit,
-    False,
-    For,
-    Function,
-    If,
-    Imp,
-    Is,
-    Let,
-    Loop,
-    Mod,
-    Next,
-    Not,
-    Null,
-    Option,
-    Or,
-    Select,
-    Sub,
-    Then,
-    To,
-    True,
-    Until,
-    Wend,
-    While,
-    Xor
-};
-
-/// Cuts a script into tokens. Letter case does not count in names; they come out in lower case.
+/// Cuts a text into tokens. Blanks, comments and continued line ends are passed over.
 class Lexer {
  public:
-    explicit Lexer(std::string_view source) : source_(source) { next(); }
+    /// The text must outlive the lexer.
+    explicit Lexer(std::string_view text) : text_(text) {}
 
-    /// The token on hand, its value and where it begins.
-    Token token() const { return token_; }
-    const Value& value() const { return value_; }      ///< of Number and Text
-    const std::string& name() const { return name_; }  ///< of Name
-    ScriptPosition position() const { return position_; }
+    std::string_view text() const { return text_; }
 
-    /// Goes on to the next token; raises the error of a character, number or text that is none.
-    void next();
+    /// The next token; End again and again at the end. Raises a ScriptError for what begins no token.
+    Token next();
 
-    /// Throws with the place of the token on hand.
-    [[noreturn]] void fail(ScriptErrorNumber number) const { fail(number, position_); }
-    [[noreturn]] void fail(ScriptErrorNumber number, ScriptPosition position) const;
-
-    /// The source line of that number, cut where it is very long.
-    std::string sourceLine(int line) const;
+    /// Goes on behind a token that was given out before.
+    void rewindTo(const Token& token) { offset_ = token.end; }
 
  private:
-    bool skipBlanks();
+    void skipBlanks();
     bool skipContinuation();
     void skipComment();
-    void readNumber();
-    void readPrefixedNumber();
-    void readText();
-    void readName();
-    void readOperator();
-    char peek(std::size_t ahead = 0) const {
-        return at_ + ahead < source_.size() ? source_[at_ + ahead] : '\0';
-    }
+    Token made(TokenKind kind, std::size_t length);
+    Token word();
+    Token number();
+    Token radixNumber(int base);
+    Token textConstant();
+    Token symbol();
+    std::size_t identifierEnd(std::size_t from) const;
+    char at(std::size_t offset) const { return offset < text_.size() ? text_[offset] : '\0'; }
 
-    std::string_view source_;
-    std::size_t at_ = 0;
-    std::size_t lineStart_ = 0;
-    int line_ = 1;
-    Token token_ = Token::End;
-    Value value_;
-    std::string name_;
-    ScriptPosition position_;
+    std::string_view text_;
+    std::size_t offset_ = 0;
 };
 
-}  // namespace zg
+}  // namespace zg::script

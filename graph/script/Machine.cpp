@@ -1,168 +1,216 @@
 #include "graph/script/Machine.h"
 
-#include <span>
+#include <cmath>
+#include <new>
+#include <utility>
 
-namespace zg {
+#include "graph/script/Limits.h"
+#include "graph/script/Operators.h"
+#include "graph/script/ScriptError.h"
 
-Machine::Machine(SymbolTable& symbols, RandomState& random, const ScriptClock& clock, std::int32_t timeoutMs)
-    : symbols_(symbols), random_(random), clock_(clock), timeoutMs_(timeoutMs) {
-    if (timeoutMs_ >= 0) startedAt_ = clock_();
-}
+namespace zg::script {
 
-void Machine::push(Value value) {
-    if (stack_.size() >= largestStack) raiseScript(ScriptErrorNumber::OutOfStackSpace);
-    stack_.push_back(std::move(value));
-}
-
-Value Machine::pop() {
-    Value value = std::move(stack_.back());
-    stack_.pop_back();
-    return value;
-}
-
-Value Machine::run(const Chunk& chunk) {
-    frames_.push_back({&chunk, nullptr, {}, 0, 0});
-    locals_.resize(static_cast<std::size_t>(chunk.locals));
-    const Instruction* current = &chunk.code.front();
+Value Machine::run(const CodeBlock& block, std::int64_t timeoutMs) {
+    timeoutMs_ = timeoutMs;
+    startMs_ = timeoutMs < 0 ? 0 : context_.clock();
+    context_.stepsToClockCheck = stepsBetweenClockChecks;
+    block_ = &block;
+    next_ = block.code.data() + 1;
     try {
-        while (!frames_.empty()) {
-            Frame& frame = frames_.back();
-            current = &frame.chunk->code[frame.next++];
-            if (++steps_ % stepsBetweenClockChecks == 0) checkClock();
-            execute(*current);
-        }
+        enter(block, nullptr, 0, false);
+        execute();
     } catch (const ScriptError&) {
+        reset();
         throw;
     } catch (const RunTimeError& error) {
-        throw ScriptError(error.number, error.description, current->position);
+        rethrowWithPlace(error.number, error.description);
+    } catch (const std::bad_alloc&) {
+        rethrowWithPlace(static_cast<int>(ScriptErrorNumber::OutOfMemory),
+                         errorDescription(ScriptErrorNumber::OutOfMemory));
     }
-    return stack_.empty() ? Value() : pop();
+    Value result = std::move(result_);
+    reset();
+    return result;
+}
+
+void Machine::reset() {
+    pop(top_);
+    frames_.clear();
+    result_.clear();
+}
+
+/// The place is that of the instruction being carried out.
+void Machine::rethrowWithPlace(int number, const std::string& description) {
+    const auto at = static_cast<std::size_t>(next_ - block_->code.data()) - 1;
+    const ScriptError error(number, description, block_->unit->text, block_->offsets[at]);
+    reset();
+    throw error;
 }
 
 void Machine::checkClock() {
-    if (timeoutMs_ >= 0 && clock_() - startedAt_ > timeoutMs_) raiseScript(ScriptErrorNumber::TimedOut);
+    context_.stepsToClockCheck = stepsBetweenClockChecks;
+    if (timeoutMs_ >= 0 && context_.clock() - startMs_ >= timeoutMs_) raise(ScriptErrorNumber::OutOfTime);
 }
 
-void Machine::execute(const Instruction& instruction) {
-    Frame& frame = frames_.back();
-    const auto a = static_cast<std::size_t>(instruction.a);
-    switch (instruction.op) {
-        case Op::Constant:
-            return push(frame.chunk->constants[a]);
-        case Op::LoadGlobal:
-            return loadGlobal(instruction.a);
-        case Op::LoadLocal:
-            return push(locals_[frame.locals + a]);
-        case Op::StoreGlobal:
-            symbols_[instruction.a].value = pop();
-            symbols_[instruction.a].procedure = nullptr;
-            return;
-        case Op::StoreLocal:
-            locals_[frame.locals + a] = pop();
-            return;
-        case Op::DefineConstant:
-            symbols_[instruction.a].value = pop();
-            return;
-        case Op::Pop:
-            pop();
-            return;
-        case Op::Negate:
-            return push(negate(pop()));
-        case Op::Not:
-            return push(logicalNot(pop()));
-        case Op::Plus:
-            if (stack_.back().kind != Kind::Null) toNumber(stack_.back());
-            return;
-        case Op::Binary: {
-            const Value right = pop();
-            const Value left = pop();
-            return push(applyOperator(static_cast<Operator>(instruction.a), left, right));
+void Machine::execute() {
+    for (;;) {
+        const Instruction& instruction = *next_++;
+        if (--context_.stepsToClockCheck <= 0) checkClock();
+        switch (instruction.op) {
+            case Op::Constant:
+                push(block_->unit->constants[instruction.target]);
+                break;
+            case Op::Load:
+                load(instruction);
+                break;
+            case Op::Reference:
+                reference(instruction);
+                break;
+            case Op::Store:
+                store(instruction);
+                break;
+            case Op::StoreObject:
+                storeObject(instruction);
+                break;
+            case Op::StoreElement:
+                storeElement(instruction);
+                break;
+            case Op::MakeArray:
+                makeArray(instruction);
+                break;
+            case Op::Index:
+            case Op::IndexReference:
+                index(instruction);
+                break;
+            case Op::CallProcedure:
+                callProcedure(instruction);
+                break;
+            case Op::Member:
+                requireObject(instruction.arguments);
+                hostFunction(*block_->unit->functions[instruction.target], instruction.arguments, true);
+                break;
+            case Op::UnknownMember:
+                requireObject(instruction.arguments);
+                raise(ScriptErrorNumber::UnsupportedMember);
+            case Op::AssignMember:
+                raise(ScriptErrorNumber::UnsupportedMember);
+            case Op::HostFunction:
+                hostFunction(*block_->unit->functions[instruction.target], instruction.arguments, false);
+                break;
+            case Op::Unary:
+                top() = apply(static_cast<Operator>(instruction.arguments), top());
+                break;
+            case Op::Binary:
+                binary(instruction);
+                break;
+            case Op::ToNumber:
+                if (!top().isNumber()) top() = Value(toNumber(top()));
+                break;
+            case Op::ForCheck:
+                forCheck();
+                break;
+            case Op::Pop:
+                pop();
+                break;
+            case Op::Jump:
+                next_ = block_->code.data() + instruction.target;
+                break;
+            case Op::JumpIfFalse:
+                if (!popCondition()) next_ = block_->code.data() + instruction.target;
+                break;
+            case Op::JumpIfTrue:
+                if (popCondition()) next_ = block_->code.data() + instruction.target;
+                break;
+            case Op::Raise:
+                raise(static_cast<ScriptErrorNumber>(instruction.target));
+            case Op::Return:
+                if (leave()) return;
+                break;
         }
-        case Op::Jump:
-            frame.next = a;
-            return;
-        case Op::JumpIfFalse:
-            if (!isTrue(pop())) frame.next = a;
-            return;
-        case Op::JumpIfTrue:
-            if (isTrue(pop())) frame.next = a;
-            return;
-        case Op::ForTest:
-            return forTest();
-        case Op::Builtin:
-            return callFunction(builtinFunctions()[a], instruction.count);
-        case Op::Member:
-            return callFunction(mathLibMembers()[a], instruction.count);
-        case Op::Call:
-            return call(frame.chunk->calls[a]);
-        case Op::Return:
-            return leave();
     }
 }
 
-void Machine::loadGlobal(std::int32_t symbol) {
-    if (!symbols_[symbol].procedure) return push(symbols_[symbol].value);
-    CallSite site;
-    site.symbol = symbol;
-    call(site);
+bool Machine::popCondition() {
+    const bool holds = toCondition(top());
+    pop();
+    return holds;
 }
 
-void Machine::callFunction(const FunctionEntry& entry, std::size_t count) {
-    const std::span<Value> arguments(stack_.data() + (stack_.size() - count), count);
-    Value result = entry.body(arguments, random_);
-    stack_.resize(stack_.size() - count);
-    push(std::move(result));
+/// A local variable, what it refers to, or a global name.
+Value& Machine::place(const Instruction& instruction) {
+    const bool isLocal = instruction.local != noLocal &&
+                         (instruction.target == noGlobal || !globals_[instruction.target].exists);
+    if (!isLocal) return globals_[instruction.target].value;
+    Value& local = stack_[base_ + instruction.local];
+    return local.is(ValueType::Reference) ? *local.target() : local;
 }
 
-void Machine::forTest() {
-    const double step = toNumber(pop());
-    const double limit = toNumber(pop());
-    const double value = toNumber(pop());
-    push(Value::ofBoolean(step >= 0 ? value <= limit : value >= limit));
-}
-
-void Machine::call(const CallSite& site) {
-    const std::shared_ptr<const Procedure> procedure = symbols_[site.symbol].procedure;
-    // What is no procedure cannot be called; a Sub gives nothing that an expression could use.
-    if (!procedure || (!procedure->isFunction && !site.isStatement)) raise(ErrorNumber::TypeMismatch);
-    if (site.arguments.size() != procedure->byReference.size())
-        raiseScript(ScriptErrorNumber::WrongArgumentCount);
-    enter(procedure, site);
-}
-
-void Machine::enter(std::shared_ptr<const Procedure> procedure, const CallSite& site) {
-    if (frames_.size() >= deepestCalls) raiseScript(ScriptErrorNumber::OutOfStackSpace);
-    const std::size_t base = locals_.size();
-    locals_.resize(base + static_cast<std::size_t>(procedure->chunk.locals));
-    const std::size_t firstParameter = base + (procedure->isFunction ? 1 : 0);
-    for (std::size_t i = site.arguments.size(); i-- > 0;) locals_[firstParameter + i] = pop();
-    const Chunk* chunk = &procedure->chunk;
-    frames_.push_back({chunk, std::move(procedure), site, 0, base});
-}
-
-/// Parameters by reference give their values back to the variables that they came from.
-void Machine::handBack(const Frame& frame) {
-    const std::size_t firstParameter = frame.locals + (frame.procedure->isFunction ? 1 : 0);
-    const std::size_t callerLocals = frames_[frames_.size() - 2].locals;
-    for (std::size_t i = 0; i < frame.site.arguments.size(); ++i) {
-        const CallTarget& target = frame.site.arguments[i];
-        if (!frame.procedure->byReference[i]) continue;
-        if (target.place == CallTarget::Place::Local)
-            locals_[callerLocals + static_cast<std::size_t>(target.index)] = locals_[firstParameter + i];
-        if (target.place == CallTarget::Place::Global && !symbols_[target.index].isConstant &&
-            !symbols_[target.index].procedure)
-            symbols_[target.index].value = locals_[firstParameter + i];
+Value& Machine::placeToStore(const Instruction& instruction) {
+    Value& target = place(instruction);
+    if (target.is(ValueType::Array)) raise(ErrorNumber::TypeMismatch);
+    if (instruction.target != noGlobal) {
+        Global& global = globals_[instruction.target];
+        if (global.constant) raise(ScriptErrorNumber::IllegalAssignment);
+        if (&target == &global.value) global.exists = true;
     }
+    return target;
 }
 
-void Machine::leave() {
-    if (frames_.back().procedure) handBack(frames_.back());
-    const Frame frame = std::move(frames_.back());
-    frames_.pop_back();
-    const bool wanted = frame.procedure && frame.procedure->isFunction && !frame.site.isStatement;
-    Value result = wanted ? locals_[frame.locals] : Value();
-    locals_.resize(frame.locals);
-    if (wanted) push(std::move(result));
+void Machine::load(const Instruction& instruction) {
+    Value& value = place(instruction);
+    if (value.is(ValueType::Procedure)) return call(value, 0, true);
+    if (value.is(ValueType::Array)) raise(ErrorNumber::TypeMismatch);
+    push(value);
 }
 
-}  // namespace zg
+/// Constants and functions give values, so that no procedure can change them.
+void Machine::reference(const Instruction& instruction) {
+    Value& value = place(instruction);
+    if (value.is(ValueType::Procedure)) return call(value, 0, true);
+    if (instruction.target != noGlobal) {
+        Global& global = globals_[instruction.target];
+        if (&value == &global.value) {
+            if (global.constant) return push(value);
+            global.exists = true;
+        }
+    }
+    push(Value::reference(&value));
+}
+
+void Machine::store(const Instruction& instruction) {
+    if (top().is(ValueType::Object)) raise(ScriptErrorNumber::UnsupportedMember);
+    placeToStore(instruction) = std::move(top());
+    pop();
+}
+
+void Machine::storeObject(const Instruction& instruction) {
+    if (!top().is(ValueType::Object)) raise(ScriptErrorNumber::ObjectRequired);
+    placeToStore(instruction) = top();
+    pop();
+}
+
+void Machine::binary(const Instruction& instruction) {
+    const auto operation = static_cast<Operator>(instruction.arguments);
+    Value& left = top(1);
+    const Value& right = top();
+    if (left.is(ValueType::Double) && right.is(ValueType::Double) &&
+        (operation == Operator::Add || operation == Operator::Subtract || operation == Operator::Multiply)) {
+        const double result = numericResult(operation, left.number(), right.number());
+        if (!std::isfinite(result)) raise(ErrorNumber::Overflow);
+        left.setNumber(result);
+    } else {
+        left = apply(operation, left, right, context_.budget);
+    }
+    pop();
+}
+
+/// A counter that a negative step lowers runs down to the limit, any other up to it.
+void Machine::forCheck() {
+    const Value& counter = top(2);
+    const Operator operation = top().number() < 0 ? Operator::GreaterEqual : Operator::LessEqual;
+    const bool goesOn = toCondition(apply(operation, counter, top(1), context_.budget));
+    pop(3);
+    push(Value::boolean(goesOn));
+}
+
+}  // namespace zg::script

@@ -1,63 +1,79 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
-#include <memory>
 #include <vector>
 
-#include "graph/script/Functions.h"
-#include "graph/script/Symbols.h"
+#include "graph/script/Code.h"
+#include "graph/script/Globals.h"
+#include "graph/script/ValueStack.h"
 
-namespace zg {
+namespace zg::script {
 
-/// Limits of a running script.
-constexpr std::size_t deepestCalls = 400;
-constexpr std::size_t largestStack = 100000;
-constexpr std::uint32_t stepsBetweenClockChecks = 4096;
-
-/// Milliseconds of a clock that only moves forward.
-using ScriptClock = std::function<std::int64_t()>;
-
-/// Runs one chunk. It lives for one run, so that nothing is left of a run that failed.
+/// Carries out compiled code on a stack of values. Variables of running procedures lie on the same stack.
 class Machine {
  public:
-    /// A time-out below 0 is none.
-    Machine(SymbolTable& symbols, RandomState& random, const ScriptClock& clock, std::int32_t timeoutMs);
+    Machine(Globals& globals, HostContext& context) : globals_(globals), context_(context) {}
 
-    /// The value that the chunk leaves, Empty for statements. Raises a ScriptError with its place.
-    Value run(const Chunk& chunk);
+    /// Runs a block to its end and gives the value it leaves, Empty where it leaves none. Raises a
+    /// ScriptError; the machine is ready for the next block in either case. A time-out in milliseconds below
+    /// 0 is none.
+    Value run(const CodeBlock& block, std::int64_t timeoutMs);
 
  private:
     struct Frame {
-        const Chunk* chunk = nullptr;
-        std::shared_ptr<const Procedure>
-            procedure;  ///< kept while it runs, even if it is defined anew meanwhile
-        CallSite site;
-        std::size_t next = 0;
-        std::size_t locals = 0;  ///< where its locals begin
+        const CodeBlock* block;
+        const Procedure* procedure;  ///< null for code outside procedures
+        const Instruction* next;     ///< where the caller goes on
+        std::size_t base;            ///< of its variables on the stack
+        bool wantsResult;
     };
 
-    void execute(const Instruction& instruction);
-    void loadGlobal(std::int32_t symbol);
-    void call(const CallSite& site);
-    void enter(std::shared_ptr<const Procedure> procedure, const CallSite& site);
-    void leave();
-    void handBack(const Frame& frame);
-    void callFunction(const FunctionEntry& entry, std::size_t count);
-    void forTest();
+    void execute();
     void checkClock();
-    void push(Value value);
-    Value pop();
+    void reset();
+    [[noreturn]] void rethrowWithPlace(int number, const std::string& description);
 
-    SymbolTable& symbols_;
-    RandomState& random_;
-    const ScriptClock& clock_;
-    std::int32_t timeoutMs_;
-    std::int64_t startedAt_ = 0;
-    std::uint32_t steps_ = 0;
-    std::vector<Value> stack_;
-    std::vector<Value> locals_;
+    // The stack. Whatever lies above its top is Empty.
+    Value& top(std::size_t below = 0) { return stack_[top_ - 1 - below]; }
+    void push(const Value& value) { stack_[top_++] = value; }
+    void push(Value&& value) { stack_[top_++] = std::move(value); }
+    void pop() { stack_[--top_].clear(); }
+    void pop(std::size_t count) {
+        for (; count > 0; --count) pop();
+    }
+    bool popCondition();
+
+    Value& place(const Instruction& instruction);
+    Value& placeToStore(const Instruction& instruction);
+    void load(const Instruction& instruction);
+    void reference(const Instruction& instruction);
+    void store(const Instruction& instruction);
+    void storeObject(const Instruction& instruction);
+    void storeElement(const Instruction& instruction);
+    void makeArray(const Instruction& instruction);
+    void index(const Instruction& instruction);
+    void callProcedure(const Instruction& instruction);
+    void enter(const CodeBlock& block, const Procedure* procedure, std::size_t base, bool wantsResult);
+    void call(const Value& procedure, std::size_t arguments, bool wantsResult);
+    bool leave();
+    Value& element(const Value& array, std::size_t indexes, std::size_t below);
+    void takeValues(std::size_t arguments);
+    void hostFunction(const HostFunction& function, std::size_t arguments, bool isMember);
+    void requireObject(std::size_t below);
+    void binary(const Instruction& instruction);
+    void forCheck();
+
+    Globals& globals_;
+    HostContext& context_;
+    ValueStack stack_;
+    std::size_t top_ = 0;
     std::vector<Frame> frames_;
+    const Instruction* next_ = nullptr;
+    const CodeBlock* block_ = nullptr;
+    std::size_t base_ = 0;
+    std::int64_t startMs_ = 0;
+    std::int64_t timeoutMs_ = -1;
+    Value result_;
 };
 
-}  // namespace zg
+}  // namespace zg::script

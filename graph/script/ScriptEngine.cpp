@@ -1,80 +1,92 @@
 #include "graph/script/ScriptEngine.h"
 
-#include "base/RunTimeError.h"
+#include <chrono>
+#include <utility>
+
 #include "base/Text.h"
 #include "graph/script/Compiler.h"
+#include "graph/script/Parser.h"
 
 namespace zg {
 
+using script::CompiledCode;
+using script::Global;
+using script::Value;
+using script::ValueType;
+
 namespace {
 
-constexpr int invalidPropertyValue = 380;
+std::int64_t steadyMilliseconds() {
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
+}
 
-/// The value of a procedure's name is no number, so that fast programs leave it alone.
-Symbol asProcedure(const std::shared_ptr<Procedure>& procedure) {
-    return {procedure->name, {Kind::Null, 0, {}}, true, false, procedure};
+/// A result as a number; a failure to be one is an error at the expression's beginning.
+double numberOf(const Value& value, std::string_view text) {
+    try {
+        return script::toNumber(value);
+    } catch (const RunTimeError& error) {
+        throw ScriptError(error.number, error.description, text, 0);
+    }
 }
 
 }  // namespace
 
-ScriptEngine::ScriptEngine(ScriptClock clock) : clock_(std::move(clock)) {}
-
-void ScriptEngine::Language(std::string_view language) {
-    if (lcase(language) != "vbscript") throw RunTimeError(invalidPropertyValue, "Invalid property value");
-    language_ = language;
+ScriptEngine::ScriptEngine(Clock clock) {
+    context_.clock = clock ? std::move(clock) : Clock(steadyMilliseconds);
 }
 
-void ScriptEngine::AddObject(std::string_view name) {
-    settings_.mathObject = lcase(name);
-    ++definitions_;
+void ScriptEngine::Language(std::string_view name) {
+    if (lcase(name) != "vbscript") raise(ScriptErrorNumber::InvalidPropertyValue);
+    language_ = "VBScript";
+}
+
+void ScriptEngine::Timeout(std::int32_t milliseconds) {
+    if (milliseconds < -1) raise(ScriptErrorNumber::InvalidPropertyValue);
+    timeoutMs_ = milliseconds;
+}
+
+void ScriptEngine::AddObject(std::string_view name, const MathLibrary&) {
+    globals_[globals_.indexOf(lcase(name))] = {Value(ValueType::Object, nullptr), true, true, true};
+    ++namesVersion_;
 }
 
 void ScriptEngine::AddCode(std::string_view text) {
-    const SymbolTable before = symbols_;
-    const ScriptSettings settingsBefore = settings_;
-    Chunk chunk;
-    try {
-        Compiler compiler(text, symbols_, settings_);
-        chunk = compiler.compileScript();
-        for (const auto& procedure : compiler.procedures())
-            symbols_[symbols_.intern(procedure->name)] = asProcedure(procedure);
-    } catch (...) {
-        symbols_ = before;
-        settings_ = settingsBefore;
-        throw;
-    }
-    ++definitions_;
-    run(chunk);
+    const CompiledCode code = script::compileCode(text, globals_);
+    if (!code.variables.empty() || !code.procedures.empty()) ++namesVersion_;
+    script::install(code, globals_);
+    machine_.run(code.main, timeoutMs_);
 }
-
-Value ScriptEngine::run(const Chunk& chunk) { return Machine(symbols_, random_, clock_, Timeout).run(chunk); }
 
 Value ScriptEngine::Eval(std::string_view text) {
-    return run(Compiler(text, symbols_, settings_).compileExpression());
+    return machine_.run(script::compileExpression(text, script::parseExpression(text), globals_), timeoutMs_);
 }
 
+double ScriptEngine::evalNumber(std::string_view text) { return numberOf(Eval(text), text); }
+
 CompiledExpression ScriptEngine::compile(std::string_view text) {
-    CompiledExpression expression;
-    expression.source_ = text;
-    expression.chunk_ = Compiler(text, symbols_, settings_).compileExpression();
-    expression.fast_ = FastProgram::of(expression.chunk_);
-    expression.definitions_ = definitions_;
-    return expression;
+    CompiledExpression made;
+    made.text_ = text;
+    made.namesVersion_ = namesVersion_;
+    script::Syntax syntax = script::parseExpression(text);
+    made.isNumeric_ = made.numeric_.compile(syntax, globals_);
+    made.general_ = script::compileExpression(text, std::move(syntax), globals_);
+    return made;
+}
+
+/// Without the fast form, or to find its error. The expression is brought up to date first.
+double ScriptEngine::evaluateAnew(CompiledExpression& expression) {
+    if (expression.namesVersion_ != namesVersion_) expression = compile(expression.text_);
+    return numberOf(machine_.run(expression.general_, timeoutMs_), expression.text_);
 }
 
 VariableSlot ScriptEngine::slot(std::string_view name) {
-    const std::int32_t symbol = symbols_.intern(lcase(name));
-    if (!symbols_[symbol].declared) {
-        symbols_[symbol].declared = true;
-        ++definitions_;
-    }
-    return {symbol};
-}
-
-double ScriptEngine::evaluateInGeneral(CompiledExpression& expression) {
-    if (expression.definitions_ == definitions_) return toNumber(run(expression.chunk_));
-    expression = compile(std::string(expression.source_));
-    return evaluateNumber(expression);
+    Global& global = globals_[globals_.indexOf(lcase(name))];
+    if (global.constant) raise(ScriptErrorNumber::IllegalAssignment);
+    if (!global.declared) ++namesVersion_;
+    global.exists = true;
+    global.declared = true;
+    return VariableSlot(global);
 }
 
 }  // namespace zg

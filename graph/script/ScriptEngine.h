@@ -1,88 +1,117 @@
 #pragma once
 
-// Runs formulas and statements that users type. All state is in the engine: variables and procedures live
-// from one call to the next.
+// A script engine for a subset of VBScript. Lexer, parser, compiler and machine each know only what the one
+// before made; this class holds the state: the global names, the pseudo-random numbers, the time-out.
+// Statements and expressions may be given as text again and again; an expression that is wanted many times is
+// compiled once and then evaluated for every value of its variables, formulas over numbers in a form without
+// types.
 
+#include <cmath>
 #include <cstdint>
-#include <optional>
+#include <functional>
 #include <string>
 #include <string_view>
 
-#include "graph/script/FastProgram.h"
+#include "base/MathLibrary.h"
+#include "graph/script/Code.h"
+#include "graph/script/Globals.h"
 #include "graph/script/Machine.h"
+#include "graph/script/NumericCode.h"
+#include "graph/script/ScriptError.h"
+#include "graph/script/Value.h"
 
 namespace zg {
 
-/// An expression that is evaluated many times. It belongs to the engine that made it.
+/// An expression compiled by a ScriptEngine, which must outlive it.
 class CompiledExpression {
- public:
-    CompiledExpression() = default;
-
  private:
     friend class ScriptEngine;
-    std::string source_;
-    Chunk chunk_;
-    std::optional<FastProgram> fast_;
-    std::uint32_t definitions_ = 0;
+
+    std::string text_;
+    std::uint64_t namesVersion_ = 0;  ///< the engine's when the expression was compiled
+    bool isNumeric_ = false;
+    script::NumericCode numeric_;  ///< the fast form, if there is one
+    script::CodeBlock general_;
 };
 
-/// A variable that the host sets before each evaluation.
-struct VariableSlot {
-    std::int32_t symbol = 0;
+/// A global variable of a ScriptEngine, found once and then set without its name. The engine must outlive it.
+class VariableSlot {
+ private:
+    friend class ScriptEngine;
+
+    explicit VariableSlot(script::Global& global) : global_(&global) {}
+
+    script::Global* global_;
 };
 
 class ScriptEngine {
  public:
-    /// The clock serves the time-out.
-    explicit ScriptEngine(ScriptClock clock);
+    /// Milliseconds of a clock that only moves forward.
+    using Clock = std::function<std::int64_t()>;
 
-    /// "VBScript" is the one language that there is; raises 380, "Invalid property value", for another.
-    void Language(std::string_view language);
+    /// Without a clock of the caller's it reads the machine's steady one.
+    explicit ScriptEngine(Clock clock = {});
+    ScriptEngine(const ScriptEngine&) = delete;
+    ScriptEngine& operator=(const ScriptEngine&) = delete;
+
+    /// "VBScript", in any case when set; raises 380 for any other language.
     const std::string& Language() const { return language_; }
+    void Language(std::string_view name);
 
-    /// Milliseconds that one call may take; below 0 there is no limit.
-    std::int32_t Timeout = 10000;
+    /// How many milliseconds one call may run before it raises 32811; -1 is no limit, anything lower raises
+    /// 380.
+    std::int32_t Timeout() const { return timeoutMs_; }
+    void Timeout(std::int32_t milliseconds);
 
-    /// Makes the math library reachable under a name, as "MathLib.Pi".
-    void AddObject(std::string_view name);
+    /// Makes the library's operations known as members of `name`.
+    void AddObject(std::string_view name, const MathLibrary& library);
 
-    /// Compiles the text and runs its statements. Nothing of a text that does not compile takes effect.
+    /// Runs statements; procedures and variables stay for later calls. Raises a ScriptError, after which the
+    /// statements before the failing one have had their effect; a text with a syntax error has none.
     void AddCode(std::string_view text);
 
-    /// The value of the one expression that the text is.
-    Value Eval(std::string_view text);
+    /// The value of an expression, Empty for a text without one. Raises a ScriptError.
+    script::Value Eval(std::string_view text);
+    /// The same as a number: 0 for Empty, -1 for True, the number a text is. Raises 13 and 94 besides.
+    double evalNumber(std::string_view text);
 
-    /// The same as a number; raises 13 for a text that is none.
-    double EvalNumber(std::string_view text) { return toNumber(Eval(text)); }
-
+    /// Raises a ScriptError for what is no expression.
     CompiledExpression compile(std::string_view text);
+    /// As evalNumber, for an expression that this engine compiled. Names mean what they mean now, also where
+    /// code was added after compiling.
+    double evaluateNumber(CompiledExpression& expression);
+    /// Whether the expression has the fast form, which most formulas over numbers have.
+    static bool isNumericForm(const CompiledExpression& expression) { return expression.isNumeric_; }
+
+    /// The variable of that name, which exists from here on. Raises 501 for the name of a constant, object or
+    /// procedure.
     VariableSlot slot(std::string_view name);
-
-    void setNumber(VariableSlot slot, double value) {
-        Value& variable = symbols_[slot.symbol].value;
-        variable.kind = Kind::Double;
-        variable.number = value;
-    }
-
-    /// No parsing and no allocation happens while names keep their meaning.
-    double evaluateNumber(CompiledExpression& expression) {
-        double result = 0;
-        if (expression.definitions_ == definitions_ && expression.fast_ &&
-            expression.fast_->run(symbols_, result))
-            return result;
-        return evaluateInGeneral(expression);
-    }
+    /// Makes the variable a Double; the value must be finite.
+    void setNumber(VariableSlot slot, double value);
 
  private:
-    Value run(const Chunk& chunk);
-    double evaluateInGeneral(CompiledExpression& expression);
+    double evaluateAnew(CompiledExpression& expression);
 
-    ScriptClock clock_;
     std::string language_ = "VBScript";
-    SymbolTable symbols_;
-    ScriptSettings settings_;
-    RandomState random_;
-    std::uint32_t definitions_ = 1;  ///< grows when names may have got another meaning
+    std::int32_t timeoutMs_ = 10'000;
+    /// Counts the texts that declared names, which may change what a compiled name stands for.
+    std::uint64_t namesVersion_ = 0;
+    script::Globals globals_;
+    script::HostContext context_;
+    script::Machine machine_{globals_, context_};
 };
+
+inline double ScriptEngine::evaluateNumber(CompiledExpression& expression) {
+    if (expression.isNumeric_ && expression.namesVersion_ == namesVersion_) {
+        const double result = expression.numeric_.evaluate();
+        if (std::isfinite(result)) return result;
+    }
+    return evaluateAnew(expression);
+}
+
+inline void ScriptEngine::setNumber(VariableSlot slot, double value) {
+    if (slot.global_->constant) raise(ScriptErrorNumber::IllegalAssignment);
+    slot.global_->value.setNumber(value);
+}
 
 }  // namespace zg

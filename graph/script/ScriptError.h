@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -7,16 +8,16 @@
 
 namespace zg {
 
-/// Errors of compiling, numbered as scripts know them. Errors of running have the numbers of ErrorNumber and
-/// those below.
+/// The numbers that scripts add to those of ErrorNumber.
 enum class ScriptErrorNumber : int {
     OutOfMemory = 7,
     OutOfStackSpace = 28,
     InvalidUseOfNull = 94,
+    InvalidPropertyValue = 380,
     ObjectRequired = 424,
-    NoSuchMember = 438,
-    WrongArgumentCount = 450,
-    VariableIsUndefined = 500,
+    UnsupportedMember = 438,
+    WrongArguments = 450,
+    VariableUndefined = 500,
     IllegalAssignment = 501,
     SyntaxError = 1002,
     ExpectedOpenParenthesis = 1005,
@@ -34,41 +35,41 @@ enum class ScriptErrorNumber : int {
     ExpectedNext = 1020,
     ExpectedCase = 1021,
     ExpectedSelect = 1022,
-    ExpectedExpression = 1023,
     ExpectedStatement = 1024,
     ExpectedEndOfStatement = 1025,
-    ExpectedLiteralConstant = 1045,
+    ExpectedIntegerConstant = 1026,
+    ExpectedWhileOrUntil = 1027,
+    IdentifierTooLong = 1030,
     InvalidNumber = 1031,
     InvalidCharacter = 1032,
     UnterminatedString = 1033,
+    LoopWithoutDo = 1038,
     InvalidExit = 1039,
+    InvalidForVariable = 1040,
     NameRedefined = 1041,
-    TimedOut = 32811,
+    ParenthesesWithSub = 1044,
+    ExpectedLiteral = 1045,
+    OutOfTime = 32811,
 };
 
-/// Where in a script something stands, both from 1.
-struct ScriptPosition {
-    int line = 1;
-    int column = 1;
-    bool operator==(const ScriptPosition&) const = default;
-};
+/// The fixed description of a script's error number.
+const char* errorDescription(ScriptErrorNumber number);
 
-/// An error of a script: the first cause, where it stands, and the source line.
+/// A script that does not compile, or a statement or operation of it that failed.
 class ScriptError : public RunTimeError {
  public:
-    ScriptError(int errorNumber, std::string errorDescription, ScriptPosition place,
-                std::string sourceLine = {})
-        : RunTimeError(errorNumber, std::move(errorDescription)),
-          position(place),
-          text(std::move(sourceLine)) {}
+    /// The error at a byte of the text; the end of the text is a position too.
+    ScriptError(int errorNumber, std::string errorDescription, std::string_view text, std::size_t offset);
+    ScriptError(ScriptErrorNumber errorNumber, std::string_view text, std::size_t offset);
 
-    ScriptPosition position;
-    std::string text;
+    int line;    ///< from 1; lines end with CR LF, CR or LF
+    int column;  ///< from 1, in characters: the bytes of one UTF-8 sequence count once
+    /// What stands around the position in its line, at most 80 characters, and below it a line with "^" under
+    /// the position.
+    std::string snippet;
 };
 
-const char* scriptErrorDescription(ScriptErrorNumber number);
-
-/// Throws the error of running with that number; the machine adds where it happened.
-[[noreturn]] void raiseScript(ScriptErrorNumber number);
+/// Throws the error of that number where the place in the text is added later, by whoever runs the code.
+[[noreturn]] void raise(ScriptErrorNumber number);
 
 }  // namespace zg

@@ -1,79 +1,121 @@
 #pragma once
 
-// A value of a script and the operators on values. Whole numbers grow into the next wider kind instead of
-// overflowing, as scripts expect: Integer (16 bits), Long (32 bits), Double.
+// A script's value: a number of some width, a text, Null, or one of the things that only a variable can hold.
 
 #include <cstdint>
+#include <memory>
 #include <string>
+#include <utility>
 
-namespace zg {
+namespace zg::script {
 
-enum class Kind : std::uint8_t { Empty, Null, Boolean, Byte, Integer, Long, Single, Double, String };
-
-struct Value {
-    Kind kind = Kind::Empty;
-    double number = 0;  ///< of every kind but Empty, Null and String; True is -1
-    std::string text;   ///< of String
-
-    static Value ofDouble(double value) { return {Kind::Double, value, {}}; }
-    static Value ofBoolean(bool value) { return {Kind::Boolean, value ? -1.0 : 0.0, {}}; }
-    static Value ofLong(std::int32_t value) { return {Kind::Long, static_cast<double>(value), {}}; }
-    static Value ofString(std::string value) { return {Kind::String, 0, std::move(value)}; }
-
-    /// A whole number in the narrowest kind that holds it, Integer first.
-    static Value ofWhole(double value);
+/// The order matters: up to Double the value counts as the double it keeps, whatever the formula does with
+/// it.
+enum class ValueType : std::uint8_t {
+    Empty,
+    Boolean,
+    Byte,
+    Integer,
+    Long,
+    Double,
+    Single,
+    Text,
+    Null,
+    Object,
+    Array,      ///< in a variable only
+    Procedure,  ///< in a global name only
+    Reference,  ///< on the machine's stack only
 };
 
-/// Length beyond which a string is out of memory.
-constexpr std::size_t longestString = 16U * 1024 * 1024;
-
-enum class Operator : std::uint8_t {
-    Add,
-    Subtract,
-    Multiply,
-    Divide,
-    IntegerDivide,
-    Modulo,
-    Power,
-    Concatenate,
-    Equal,
-    NotEqual,
-    Less,
-    Greater,
-    LessOrEqual,
-    GreaterOrEqual,
-    And,
-    Or,
-    Xor,
-    Eqv,
-    Imp
+/// What a value holds besides its number.
+struct Payload {
+    virtual ~Payload() = default;
 };
 
-/// The result of a binary operator; raises 6, 11, 13 or 5 as the operands demand. Null makes most results
-/// Null.
-Value applyOperator(Operator operation, const Value& left, const Value& right);
+/// What the values of one engine hold.
+struct MemoryBudget {
+    std::size_t characters = 0;  ///< of all texts
+    std::size_t elements = 0;    ///< of all arrays
+};
 
-Value negate(const Value& value);
-Value logicalNot(const Value& value);
+struct TextPayload : Payload {
+    TextPayload(std::string content, std::shared_ptr<MemoryBudget> charged);
+    ~TextPayload() override;
 
-/// The value as a number; Empty is 0. Raises 13 for a text that is none and 94 for Null.
+    std::string text;
+    std::shared_ptr<MemoryBudget> budget;  ///< may be null
+};
+
+class Value {
+ public:
+    Value() noexcept {}
+    explicit Value(double number) : type_(ValueType::Double), number_(number) {}
+    /// A number that fits its type.
+    Value(ValueType type, double number) : type_(type), number_(number) {}
+    Value(ValueType type, std::shared_ptr<Payload> payload) : type_(type), payload_(std::move(payload)) {}
+
+    static Value boolean(bool value) { return {ValueType::Boolean, value ? -1.0 : 0.0}; }
+    static Value null() { return {ValueType::Null, 0.0}; }
+    /// A text of a length that was checked before; its characters are charged to the budget while it lives.
+    static Value text(std::string content, const std::shared_ptr<MemoryBudget>& budget = nullptr);
+    static Value reference(Value* target);
+
+    ValueType type() const { return type_; }
+    bool is(ValueType type) const { return type_ == type; }
+    /// Empty, Boolean or of a width whose arithmetic a double carries out exactly.
+    bool isPlainNumber() const { return type_ <= ValueType::Double; }
+    /// Plain or a single.
+    bool isNumber() const { return type_ <= ValueType::Single; }
+
+    /// The value of a number: 0 for Empty, -1 for True.
+    double number() const { return number_; }
+    const std::string& text() const { return static_cast<const TextPayload*>(payload_.get())->text; }
+    Payload* payload() const { return payload_.get(); }
+    const std::shared_ptr<Payload>& sharedPayload() const { return payload_; }
+    Value* target() const { return target_; }
+
+    void setNumber(double number) {
+        if (payload_) payload_.reset();
+        type_ = ValueType::Double;
+        number_ = number;
+    }
+    void clear() {
+        if (payload_) payload_.reset();
+        type_ = ValueType::Empty;
+        number_ = 0;
+    }
+    /// Where the number lies; the address is good for as long as the value itself.
+    const double* numberAddress() const { return &number_; }
+
+ private:
+    ValueType type_ = ValueType::Empty;
+    union {
+        double number_ = 0;
+        Value* target_;
+    };
+    std::shared_ptr<Payload> payload_;
+};
+
+/// "Integer", "Double", "String" and so on, as scripts see them.
+const char* typeName(ValueType type);
+/// The number that VarType gives.
+int typeCode(ValueType type);
+
+/// A number of any type but text stays as it is; a text is read whole, as a double. Raises 13 for what is no
+/// number, 94 for Null.
 double toNumber(const Value& value);
-
-/// As toNumber, rounded half to even to 32 bits; raises 6 beyond them.
-std::int32_t toWhole(const Value& value);
-
-/// As a text: numbers by their shortest form, "True" and "False", Empty is "". Raises 94 for Null.
+/// Rounded half to even; raises 6 outside 32 bits, else as toNumber.
+std::int32_t toLong(const Value& value);
+/// "True" or "False", a number's shortest text, "" for Empty. Raises 13 for an object, 94 for Null.
 std::string toText(const Value& value);
-
 /// Whether a condition holds; Null does not.
-bool isTrue(const Value& value);
+bool toCondition(const Value& value);
 
-bool isNumberText(const std::string& text);
+/// An integer in the narrowest type from the given one on that holds it: Byte, Integer, Long, else Double.
+Value widened(ValueType narrowest, double whole);
+/// A single where the result fits one, else a double; raises 6 for what is not finite.
+Value singleOrDouble(double result);
+/// A double; raises 6 for what is not finite.
+Value checkedDouble(double result);
 
-/// "Double", "String", ... as scripts name the kinds.
-const char* kindName(Kind kind);
-
-/// Raises 6 for what is not finite, else gives it back.
-double finite(double value);
-
-}  // namespace zg
+}  // namespace zg::script

@@ -324,7 +324,7 @@ TEST_F(Curves, AScriptThatDoesNotCompileIsToldWithItsPlace) {
         FAIL();
     } catch (const ScriptError& error) {
         EXPECT_EQ(error.number, 1006);
-        EXPECT_EQ(error.position.column, 6);
+        EXPECT_EQ(error.column, 6);
     }
     EXPECT_TRUE(lines().empty());
 }
