@@ -6,8 +6,6 @@
 #include <QTimer>
 #include <QWheelEvent>
 
-#include "base/Paths.h"
-#include "base/RunTimeError.h"
 #include "platform/Errors.h"
 #include "platform/PageWidget.h"
 #include "platform/QtPicture.h"
@@ -84,7 +82,20 @@ Canvas& PolarGraphWidget::pageCanvas() {
 
 void PolarGraphWidget::pageResized(int width, int height) {
     endPainting();
+    kept_ = QImage();
     page_ = makePageImage(width, height, devicePixelRatioF());
+}
+
+void PolarGraphWidget::keepPicture() {
+    endPainting();
+    kept_ = page_;
+}
+
+bool PolarGraphWidget::restorePicture() {
+    if (kept_.isNull()) return false;
+    endPainting();
+    page_ = kept_;
+    return true;
 }
 
 void PolarGraphWidget::layoutChanged() {
@@ -133,14 +144,7 @@ void PolarGraphWidget::trackAngleChanged(const std::string& text) {
     lblTrackAngle_->setVisible(!text.empty());
 }
 
-PicturePointer PolarGraphWidget::loadPicture(const std::string& path) {
-    if (!fileExists(path)) return nullptr;
-    try {
-        return zg::loadPicture(path);
-    } catch (const RunTimeError&) {
-        return nullptr;  // a marker without its picture is not drawn, and nobody is asked about it
-    }
-}
+PicturePointer PolarGraphWidget::loadPicture(const std::string& path) { return loadMarkerPicture(path); }
 
 void PolarGraphWidget::resizeEvent(QResizeEvent*) {
     guarded(host_, [this] { graph_->layout(width(), height()); })();

@@ -46,6 +46,8 @@ class PolarGraphWidget : public QWidget, private ControlWindow {
     void pageResized(int width, int height) override;
     void layoutChanged() override;
     void rulersChanged() override;
+    void keepPicture() override;
+    bool restorePicture() override;
     void pagePainted() override;
     void propertyChanged() override {}
     void pointerChanged() override;
@@ -60,6 +62,7 @@ class PolarGraphWidget : public QWidget, private ControlWindow {
 
     Host& host_;
     QImage page_;
+    QImage kept_;  ///< the persistent picture; shares its pixels with the page until the page is painted on
     std::unique_ptr<QtCanvas> canvas_;  ///< only while the page is being painted
     QWidget* picShadow_;
     PageWidget* picGraph_;

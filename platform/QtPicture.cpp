@@ -3,6 +3,7 @@
 #include <QImageReader>
 
 #include "base/Lines.h"
+#include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "platform/QtText.h"
 
@@ -21,6 +22,15 @@ PicturePointer loadPicture(const std::string& path) {
     const QImage image = reader.read();
     if (image.isNull()) throw RunTimeError(invalidPicture, "Invalid picture");
     return std::make_shared<QtPicture>(image);
+}
+
+PicturePointer loadMarkerPicture(const std::string& path) {
+    if (!fileExists(path)) return nullptr;
+    try {
+        return loadPicture(path);
+    } catch (const RunTimeError&) {
+        return nullptr;
+    }
 }
 
 }  // namespace zg

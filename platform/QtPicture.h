@@ -29,4 +29,8 @@ class QtPicture : public Picture {
 /// file.
 PicturePointer loadPicture(const std::string& path);
 
+/// The same for a marker's picture: null where there is no such file or it is no picture, and nobody is
+/// asked about it.
+PicturePointer loadMarkerPicture(const std::string& path);
+
 }  // namespace zg

@@ -125,7 +125,7 @@ bool PolarGraph::ActiveSelection() const {
 }
 
 void PolarGraph::ClearGraph() {
-    window_.pageCanvas().clear(settings_.BackColor);
+    if (!window_.restorePicture()) window_.pageCanvas().clear(settings_.BackColor);
     window_.pagePainted();
 }
 
@@ -145,12 +145,14 @@ void PolarGraph::RedrawGraph(std::int16_t mode) {
     try {
         redrawFrame(settings_, polar_, modPolarGraph, window_.pageCanvas(), geometry_);
     } catch (...) {
+        window_.keepPicture();
         window_.pagePainted();  // what an error left is what the page shows
         throw;
     }
+    window_.keepPicture();
     window_.pagePainted();
     const AfterFrame after = afterFrame(mode);
-    if (after.curves) DrawGraph();
+    if (after.curves) drawAll(false);
     if (after.rulers) window_.rulersChanged();
 }
 

@@ -39,6 +39,12 @@ class ControlWindow {
     /// The rulers are to be painted again.
     virtual void rulersChanged() = 0;
 
+    /// What is on the page now is its persistent picture, until the page gets another size or another one.
+    virtual void keepPicture() = 0;
+
+    /// The page shows its persistent picture again; false where it has none.
+    virtual bool restorePicture() = 0;
+
     /// What was painted on the page is to be shown.
     virtual void pagePainted() = 0;
 
@@ -171,10 +177,11 @@ class PolarGraph {
     /// A selection is shown and does not measure 1 by 1.
     bool ActiveSelection() const;
 
-    /// Clears the page; tables and objects stay.
+    /// Clears the page down to its persistent picture, the rose without curves; tables and objects stay.
     void ClearGraph();
 
-    /// Paints the curve of that number, or all of them, where they are visible. Instantly false paints each
+    /// Paints the curve of that number over what is on the page, or all of them over the persistent picture,
+    /// where they are visible. Instantly false paints each
     /// at once whatever its delay; true lets those with a delay sweep step by step, with events served
     /// meanwhile, until StopAni becomes true. Raises the script engine's errors; what was painted until then
     /// stays.
@@ -228,6 +235,7 @@ class PolarGraph {
 
  private:
     void RedrawGraph(std::int16_t mode);
+    void drawAll(bool instantly);
     void drawItem(std::int16_t index, bool instantly);
     void DrawCurve(const GrapInfo& graph);
     void sweep(const GrapInfo& graph);

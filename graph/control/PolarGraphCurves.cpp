@@ -1,5 +1,6 @@
 // Curves r = f(t): painting them all or one, at once or step by step.
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/MathLibrary.h"
@@ -37,8 +38,15 @@ void PolarGraph::DrawGraph(std::optional<std::int16_t> index, bool instantly) {
         drawItem(*index, instantly);
         return;
     }
+    // A curve that was hidden, changed or removed since would stay on the page otherwise.
+    ClearGraph();
+    drawAll(instantly);
+}
+
+void PolarGraph::drawAll(bool instantly) {
     const std::int32_t count = plot_.Count();
-    for (std::int32_t i = 1; i <= count; ++i) drawItem(toInt16(static_cast<double>(i)), instantly);
+    for (std::int32_t i = 1; i <= std::min(count, plot_.Count()); ++i)
+        drawItem(toInt16(static_cast<double>(i)), instantly);
 }
 
 void PolarGraph::drawItem(std::int16_t index, bool instantly) {

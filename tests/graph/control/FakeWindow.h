@@ -37,6 +37,12 @@ class FakeWindow : public zg::ControlWindow {
     }
     void layoutChanged() override { calls.emplace_back("layoutChanged"); }
     void rulersChanged() override { calls.emplace_back("rulersChanged"); }
+    void keepPicture() override { hasPicture = true; }
+    bool restorePicture() override {
+        calls.emplace_back("restorePicture");
+        return hasPicture;
+    }
+    bool hasPicture = false;
     void pagePainted() override { calls.emplace_back("pagePainted"); }
     void propertyChanged() override { calls.emplace_back("propertyChanged"); }
     void pointerChanged() override { calls.emplace_back("pointerChanged"); }

@@ -59,16 +59,24 @@ TEST_F(PolarGraphMethods, SuspendedControlPaintsOnceAtTheEnd) {
     EXPECT_TRUE(graph.AutoUpdate());
 }
 
-TEST_F(PolarGraphMethods, ClearGraphEmptiesThePageAndKeepsTables) {
+TEST_F(PolarGraphMethods, ClearGraphLeavesThePersistentPictureAndTheTables) {
     modPolarGraph = roseTables();
     graph.Plot().Add("", "1", 0, 0);
     graph.BackColor(rgb(5, 6, 7));
     window.forget();
     graph.ClearGraph();
-    EXPECT_EQ(window.canvas.commands, (std::vector<drawn::Command>{drawn::Clear{rgb(5, 6, 7)}}));
-    EXPECT_EQ(window.calls, std::vector<std::string>{"pagePainted"});
+    EXPECT_TRUE(window.canvas.commands.empty());
+    EXPECT_EQ(window.calls, (std::vector<std::string>{"restorePicture", "pagePainted"}));
     EXPECT_TRUE(modPolarGraph.FrqLoaded);
     EXPECT_EQ(graph.Plot().Count(), 1);
+}
+
+TEST_F(PolarGraphMethods, ClearGraphWithoutAPersistentPictureEmptiesThePage) {
+    graph.BackColor(rgb(5, 6, 7));
+    window.forget();
+    window.hasPicture = false;
+    graph.ClearGraph();
+    EXPECT_EQ(window.canvas.commands, (std::vector<drawn::Command>{drawn::Clear{rgb(5, 6, 7)}}));
 }
 
 TEST_F(PolarGraphMethods, AboutBoxHasItsTitle) {
