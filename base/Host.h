@@ -4,8 +4,11 @@
 // small interface, so that tests answer the questions and read what was asked.
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "base/Style.h"
 
 namespace zg {
 
@@ -50,6 +53,10 @@ class Host {
 
     /// Full path of the picked folder, "" when cancelled.
     virtual std::string pickFolder(const FolderPick& pick) = 0;
+
+    /// The picked colour or font, nothing when cancelled; the dialog starts with the given one.
+    virtual std::optional<Colour> pickColour(Colour current) = 0;
+    virtual std::optional<FontRecord> pickFont(const FontRecord& current) = 0;
 
     /// Milliseconds of a clock that only moves forward.
     virtual std::int64_t tickCount() = 0;

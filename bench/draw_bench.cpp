@@ -27,6 +27,8 @@ class SilentHost : public zg::Host {
     std::string pickFileToSave(const zg::FilePick&) override { return {}; }
     std::vector<std::string> pickFilesToOpen(const zg::FilePick&) override { return {}; }
     std::string pickFolder(const zg::FolderPick&) override { return {}; }
+    std::optional<zg::Colour> pickColour(zg::Colour) override { return {}; }
+    std::optional<zg::FontRecord> pickFont(const zg::FontRecord&) override { return {}; }
     std::int64_t tickCount() override { return 0; }
     void pumpEvents(int) override {}
 };

@@ -32,6 +32,8 @@ class StreamHost : public Host {
     std::string pickFileToSave(const FilePick&) override { return {}; }
     std::vector<std::string> pickFilesToOpen(const FilePick&) override { return {}; }
     std::string pickFolder(const FolderPick&) override { return {}; }
+    std::optional<Colour> pickColour(Colour) override { return {}; }
+    std::optional<FontRecord> pickFont(const FontRecord&) override { return {}; }
     std::int64_t tickCount() override { return 0; }
     void pumpEvents(int) override {}
 

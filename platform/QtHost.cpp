@@ -1,11 +1,14 @@
 #include "platform/QtHost.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QEventLoop>
 #include <QFileDialog>
+#include <QFontDialog>
 #include <QMessageBox>
 #include <QTimer>
 
+#include "base/Numbers.h"
 #include "base/Text.h"
 #include "platform/QtText.h"
 
@@ -122,6 +125,25 @@ std::string QtHost::pickFolder(const FolderPick& pick) {
     dialog.setOption(QFileDialog::ShowDirsOnly);
     dialog.setOption(QFileDialog::ReadOnly, !pick.offerNewFolder);
     return chosen(dialog);
+}
+
+std::optional<Colour> QtHost::pickColour(Colour current) {
+    const QColor colour = QColorDialog::getColor(toQColor(current), QApplication::activeWindow());
+    if (!colour.isValid()) return std::nullopt;
+    return fromQColor(colour);
+}
+
+/// The colour of the record stays; the toolkit's font dialog has none.
+std::optional<FontRecord> QtHost::pickFont(const FontRecord& current) {
+    QFont font(shown(current.name));
+    if (current.size > 0) font.setPointSize(current.size);
+    font.setBold(current.bold);
+    font.setItalic(current.italic);
+    bool accepted = false;
+    font = QFontDialog::getFont(&accepted, font, QApplication::activeWindow());
+    if (!accepted) return std::nullopt;
+    return FontRecord{current.colour, typed(font.family()), toInt16(font.pointSizeF()), font.bold(),
+                      font.italic()};
 }
 
 void QtHost::pumpEvents(int idleMs) {

@@ -18,6 +18,8 @@ class QtHost : public Host {
     std::string pickFileToSave(const FilePick& pick) override;
     std::vector<std::string> pickFilesToOpen(const FilePick& pick) override;
     std::string pickFolder(const FolderPick& pick) override;
+    std::optional<Colour> pickColour(Colour current) override;
+    std::optional<FontRecord> pickFont(const FontRecord& current) override;
     std::int64_t tickCount() override { return clock_.elapsed(); }
     void pumpEvents(int idleMs) override;
 

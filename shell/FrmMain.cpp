@@ -11,6 +11,7 @@
 #include "platform/Errors.h"
 #include "platform/QtPicture.h"
 #include "platform/QtText.h"
+#include "shell/FrmComment.h"
 #include "shell/MenuTree.h"
 #include "shell/Resources.h"
 #include "shell/settings/CfgFile.h"
@@ -31,8 +32,6 @@ QSize sizeOnScreen() {
     return screen == nullptr ? startSize : startSize.boundedTo(screen->availableSize() - QSize(40, 60));
 }
 
-QString twoDecimals(double value) { return shown(doubleText(roundHalfEven(value, 2))); }
-
 }  // namespace
 
 frmMain::frmMain(Host& host) : host_(host) {
@@ -42,6 +41,7 @@ frmMain::frmMain(Host& host) : host_(host) {
     ui_ = makeFrmMainControls(*this, host);
     makeMenus();
     makeToolbars();
+    connectGraphList();
     followPlot();
     resize(sizeOnScreen());
 }
@@ -89,47 +89,15 @@ void frmMain::closeEvent(QCloseEvent* event) {
     event->accept();
 }
 
-void frmMain::followPlot() {
-    PolarGraphEvents& events = pgPolarGraph().events;
-    events.TrackPosition = [this](float, float, float bearing, float, float, float, float radial) {
-        trackPosition(bearing, radial);
-    };
-    events.BeforeGraph = [this](std::int16_t& index) {
-        beginProgress(pgPolarGraph().Plot().Item(std::int64_t{index}));
-    };
-    events.DrawProgress = [this](float, float, float, float, float) { ui_.pgbProgressBar->advance(); };
-    events.DrawBegin = [this](bool& value) {
-        if (value) ui_.pgbProgressBar->hide();
-    };
-    events.MouseMove = [this](std::int16_t, std::int16_t, float, float) { followSelection(); };
-    connect(ui_.pgPolarGraph, &PolarGraphWidget::aboutRequested, this,
-            guarded(host_, [this] { showAbout(); }));
-}
-
-void frmMain::trackPosition(float bearing, float radial) {
-    ui_.panels[1]->setText(QStringLiteral("Angle = ") + twoDecimals(static_cast<double>(bearing)) +
-                           QChar(176));
-    ui_.panels[2]->setText(QStringLiteral("Percent = ") + twoDecimals(10.0 * static_cast<double>(radial)) +
-                           QLatin1Char('%'));
-}
-
-/// The bar counts the steps of the graph that is about to be drawn.
-void frmMain::beginProgress(const GrapInfo& graph) {
-    if (graph.Step == 0) zg::raise(ErrorNumber::DivisionByZero);
-    const double steps =
-        static_cast<double>(graph.EndingAngle - graph.StartingAngle) / static_cast<double>(graph.Step);
-    ui_.pgbProgressBar->begin(steps + 1);
-}
-
-void frmMain::followSelection() {
-    ui_.toolbarButtons.at("copy")->setEnabled(hasCommand("mnuEditOption_0") &&
-                                              pgPolarGraph().ActiveSelection());
-}
-
 void frmMain::PlotFrqFile(const std::string& path) {
     setWindowTitle(QStringLiteral("Zephyrgraph - ") + shown(FileNameOf(path)));
     settings.CurrentFrqPath = path;
     pgPolarGraph().OpenFreqFile(path);
+    if (pgPolarGraph().lastOpenOutcome() != FreqFileOutcome::Loaded) return;
+    listPlot();
+    pgPolarGraph().DrawGraph();
+    if (!pgPolarGraph().Comment().empty()) frmComment(host_, pgPolarGraph(), this).exec();
+    selectOnly(0);
 }
 
 void frmMain::openFrqFile() {

@@ -3,7 +3,9 @@
 #include <QMainWindow>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "base/Host.h"
 #include "shell/FrmMainControls.h"
@@ -42,6 +44,12 @@ class frmMain : public QMainWindow {
     /// does.
     void PlotFrqFile(const std::string& path);
 
+    /// Appends the row of that curve of the plot, from 1, to the list.
+    void AddGraph(std::int16_t Index);
+
+    /// Runs the entry of the list's pop-up of that index on the selected rows.
+    void mnuGraphOption_Click(int Index);
+
     /// The plot gets the pointer of that number.
     void LoadToolCursor(ToolCursor id);
 
@@ -77,6 +85,37 @@ class frmMain : public QMainWindow {
     void toggleShown(const char* entry, QWidget& bar);
     void viewFrqFile();
     void showAbout();
+    struct CurveTexts {
+        std::string coefficient;
+        std::string equation;
+    };
+    void connectGraphList();
+    std::vector<int> selectedRows() const;
+    GrapInfo& graphOfRow(int row);
+    void rebuildGraphList();
+    void selectOnly(int row);
+    void listPlot();
+    std::optional<CurveTexts> checkedTexts();
+    void cmdPlot_Click();
+    void cmdReplace_Click();
+    void cmdExpr_Click();
+    void cmbFunction_Change();
+    void cmbFunction_Click(int index);
+    void lvwTable_ItemClick();
+    void showInEditRow(int row);
+    void popUpGraphMenu(const QPoint& at);
+    void mnuGraph_Open();
+    void hideSelected(bool hide);
+    void deleteSelected();
+    void playSelected();
+    void showTable();
+    void showProperties();
+
+    void lockWhileDrawing(bool value);
+    void pgPolarGraph_Click();
+    static std::map<std::string, std::string> toolbarEntries();
+    QToolButton& toolButton(Tool tool) { return *ui_.toolboxButtons[static_cast<std::size_t>(tool) - 1]; }
+
     void toolDropsSelection();
     void lstAspect_Click(int row);
     void lstZoom_Click(int row);

@@ -2,7 +2,9 @@
 
 #include <QBoxLayout>
 #include <QButtonGroup>
+#include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
@@ -169,12 +171,14 @@ void makeTable(FrmMainControls& ui) {
     ui.lvwTable->setHeaderLabels({"Legend", "Coefficient", "Function"});
     ui.lvwTable->setRootIsDecorated(false);
     ui.lvwTable->setUniformRowHeights(true);
+    ui.lvwTable->setAllColumnsShowFocus(true);
     ui.lvwTable->setSelectionMode(QAbstractItemView::ExtendedSelection);
     ui.lvwTable->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     ui.lvwTable->header()->setSectionResizeMode(QHeaderView::Fixed);
     ui.lvwTable->header()->setStretchLastSection(false);
     ui.lvwTable->setToolTip(QStringLiteral("Left click to select: Right click to show popup menu"));
     ui.lvwTable->setAccessibleName(QStringLiteral("Graphs"));
+    ui.lvwTable->setIconSize({46, 18});
     ui.lvwTable->setFixedHeight(84);
 }
 
@@ -277,6 +281,25 @@ void StepBar::begin(double steps) {
 void StepBar::advance() {
     done_ = std::min(done_ + 1, steps_);
     setValue(static_cast<int>(done_ / steps_ * barScale));
+}
+
+void GraphTable::mouseReleaseEvent(QMouseEvent* event) {
+    QTreeWidget::mouseReleaseEvent(event);
+    if (event->button() == Qt::RightButton && onPopup) onPopup(event->globalPosition().toPoint());
+}
+
+/// The mouse's own request comes at its press and is left to the release.
+void GraphTable::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() == QContextMenuEvent::Mouse || !onPopup) return;
+    const QRect row = visualItemRect(currentItem());
+    onPopup(viewport()->mapToGlobal(row.isValid() ? row.center() : viewport()->rect().center()));
+}
+
+void GraphTable::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Delete && onDelete)
+        onDelete();
+    else
+        QTreeWidget::keyPressEvent(event);
 }
 
 void GraphTable::resizeEvent(QResizeEvent* event) {

@@ -70,7 +70,15 @@ class StepBar : public QProgressBar {
 
 /// The list of graphs. Its columns share its width anew at each resize.
 class GraphTable : public QTreeWidget {
+ public:
+    std::function<void(const QPoint& at)>
+        onPopup;                     ///< the right button was released, or the menu key pressed
+    std::function<void()> onDelete;  ///< the delete key was pressed
+
  protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 };
 
@@ -92,7 +100,7 @@ struct FrmMainControls {
     QPushButton* cmdClear = nullptr;
     QPushButton* cmdReplace = nullptr;
     QPushButton* cmdPlot = nullptr;
-    QTreeWidget* lvwTable = nullptr;
+    GraphTable* lvwTable = nullptr;
     QStatusBar* sbStatusBar = nullptr;
     std::array<QLabel*, 3> panels{};  ///< panels 1 to 3 of the status bar
     QFrame* picTray = nullptr;

@@ -88,6 +88,8 @@ std::map<std::string, std::function<void()>> frmMain::commands() {
         table[indexed("mnuViewZoomSize", i)] = [this, i] { mnuViewZoomSize_Click(i); };
         table[indexed("mnuPolarGridOption", i)] = [this, i] { pgPolarGraph().ShowGrid(i); };
     }
+    for (const int i : {0, 1, 2, 4, 6, 7, 9, 11})
+        table[indexed("mnuGraphOption", i)] = [this, i] { mnuGraphOption_Click(i); };
     for (int i = 0; i < 2; ++i)
         table[indexed("mnuViewRulerModeOption", i)] = [this, i] { pgPolarGraph().SetRulerMode(i); };
     return table;
@@ -119,12 +121,17 @@ void frmMain::mnuEdit_Open() {
         actions_.at(entry)->setEnabled(hasCommand(entry) && pgPolarGraph().ActiveSelection());
 }
 
+/// The entry that each button of tblToolbar runs.
+std::map<std::string, std::string> frmMain::toolbarEntries() {
+    return {{"new", "mnuFileOption_0"},
+            {"open", "mnuFileOption_1"},
+            {"save", "mnuFileOption_12"},
+            {"print", "mnuFileOption_16"},
+            {"copy", "mnuEditOption_0"}};
+}
+
 void frmMain::makeToolbars() {
-    const std::map<std::string, std::string> entryOf = {{"open", "mnuFileOption_1"},
-                                                        {"save", "mnuFileOption_12"},
-                                                        {"print", "mnuFileOption_16"},
-                                                        {"copy", "mnuEditOption_0"}};
-    for (const auto& [key, entry] : entryOf) {
+    for (const auto& [key, entry] : toolbarEntries()) {
         QToolButton* button = ui_.toolbarButtons.at(key);
         const auto command = commands_.find(entry);
         if (command == commands_.end())
@@ -140,7 +147,6 @@ void frmMain::makeToolbars() {
     // What the plot and the list cannot do yet is out of reach.
     for (const Tool tool : {Tool::Select, Tool::Cross, Tool::Circular, Tool::Pan})
         ui_.toolboxButtons[static_cast<std::size_t>(tool) - 1]->setEnabled(false);
-    ui_.fraHolder->setEnabled(false);
     ui_.lstAspect->onChoice = guarded(host_, [this](int row) { lstAspect_Click(row); });
     ui_.lstZoom->onChoice = guarded(host_, [this](int row) { lstZoom_Click(row); });
     customEntryOnEnter(*ui_.lstAspect, [this] { showAspectDialog(); });

@@ -26,6 +26,8 @@ class RefusalHost : public zg::Host {
     std::string pickFileToSave(const zg::FilePick&) override { std::abort(); }
     std::vector<std::string> pickFilesToOpen(const zg::FilePick&) override { std::abort(); }
     std::string pickFolder(const zg::FolderPick&) override { std::abort(); }
+    std::optional<zg::Colour> pickColour(zg::Colour) override { return {}; }
+    std::optional<zg::FontRecord> pickFont(const zg::FontRecord&) override { return {}; }
     std::int64_t tickCount() override { return 0; }
     void pumpEvents(int) override {}
 

@@ -54,6 +54,16 @@ std::string TestHost::pickFolder(const zg::FolderPick& pick) {
     return take(folderAnswers, pick.title);
 }
 
+std::optional<zg::Colour> TestHost::pickColour(zg::Colour current) {
+    colourPicks.push_back(current);
+    return take(colourAnswers, "a colour");
+}
+
+std::optional<zg::FontRecord> TestHost::pickFont(const zg::FontRecord& current) {
+    fontPicks.push_back(current);
+    return take(fontAnswers, "a font");
+}
+
 void TestHost::pumpEvents(int idleMs) {
     ++pumps;
     now += idleMs > 0 ? idleMs : 1;

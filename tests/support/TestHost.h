@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,8 @@ class TestHost : public zg::Host {
     std::string pickFileToSave(const zg::FilePick& pick) override;
     std::vector<std::string> pickFilesToOpen(const zg::FilePick& pick) override;
     std::string pickFolder(const zg::FolderPick& pick) override;
+    std::optional<zg::Colour> pickColour(zg::Colour current) override;
+    std::optional<zg::FontRecord> pickFont(const zg::FontRecord& current) override;
     std::int64_t tickCount() override { return now; }
     void pumpEvents(int idleMs) override;
 
@@ -26,6 +29,8 @@ class TestHost : public zg::Host {
     std::deque<std::string> saveAnswers;
     std::deque<std::vector<std::string>> filesAnswers;
     std::deque<std::string> folderAnswers;
+    std::deque<std::optional<zg::Colour>> colourAnswers;
+    std::deque<std::optional<zg::FontRecord>> fontAnswers;
     std::function<void()> onPump;  ///< runs at each pump, as the events that arrive meanwhile
 
     std::vector<zg::MessageBox> boxes;
@@ -33,6 +38,8 @@ class TestHost : public zg::Host {
     std::vector<zg::FilePick> savePicks;
     std::vector<zg::FilePick> filesPicks;
     std::vector<zg::FolderPick> folderPicks;
+    std::vector<zg::Colour> colourPicks;
+    std::vector<zg::FontRecord> fontPicks;
     std::int64_t now = 0;
     int pumps = 0;
 };

@@ -1,0 +1,47 @@
+#include "graph/control/EquationCheck.h"
+
+#include "base/MathLibrary.h"
+#include "base/RunTimeError.h"
+#include "base/Text.h"
+
+namespace zg {
+
+namespace {
+
+void prepare(ScriptEngine& engine) {
+    engine.Language("VBScript");
+    engine.AddObject("MathLib", MathLibrary{});
+}
+
+}  // namespace
+
+std::optional<EquationFault> checkEquation(const std::string& coefficient, const std::string& equation,
+                                           ScriptEngine::Clock clock) {
+    ScriptEngine engine(std::move(clock));
+    prepare(engine);
+    auto where = EquationFault::Where::Coefficient;
+    try {
+        engine.AddCode(trim(coefficient));
+        where = EquationFault::Where::Equation;
+        engine.Eval(trim(equation));
+    } catch (const ScriptError& error) {
+        const bool forgiven = where == EquationFault::Where::Equation &&
+                              error.number == static_cast<int>(ErrorNumber::DivisionByZero);
+        if (!forgiven) return EquationFault{where, error.description, error.column};
+    }
+    return std::nullopt;
+}
+
+std::string expressionFault(const std::string& expression, ScriptEngine::Clock clock) {
+    ScriptEngine engine(std::move(clock));
+    prepare(engine);
+    engine.Timeout(-1);
+    try {
+        engine.Eval(trim(expression));
+    } catch (const ScriptError& error) {
+        return error.description;
+    }
+    return {};
+}
+
+}  // namespace zg

@@ -1,0 +1,117 @@
+// What the main window does at the events of its plot.
+
+#include <QCursor>
+#include <QMenu>
+#include <QSignalBlocker>
+
+#include "base/Numbers.h"
+#include "base/RunTimeError.h"
+#include "platform/Errors.h"
+#include "platform/QtText.h"
+#include "shell/FrmMain.h"
+#include "shell/MenuTree.h"
+
+namespace zg {
+
+namespace {
+
+QString twoDecimals(double value) { return shown(doubleText(roundHalfEven(value, 2))); }
+
+bool startsWith(const std::string& text, const char* start) { return text.rfind(start, 0) == 0; }
+
+/// The entries that a curve being painted locks.
+bool isLockedByDrawing(const MenuEntry& entry) {
+    if (entry.kind == EntryKind::Separator) return false;
+    const std::string name = entry.name;
+    if (startsWith(name, "mnuPolarOption_")) return !entry.hidden;
+    for (const char* array : {"mnuFileOption_", "mnuViewAspectOption_", "mnuViewZoomSize_",
+                              "mnuPolarGridOption_", "mnuEditOption_"})
+        if (startsWith(name, array)) return true;
+    return name == "mnuViewRefresh";
+}
+
+}  // namespace
+
+void frmMain::followPlot() {
+    PolarGraphEvents& events = pgPolarGraph().events;
+    events.DrawBegin = [this](bool& value) { lockWhileDrawing(value); };
+    events.Click = [this] { pgPolarGraph_Click(); };
+    events.BeforeGraph = [this](std::int16_t& index) {
+        beginProgress(pgPolarGraph().Plot().Item(std::int64_t{index}));
+    };
+    events.TrackPosition = [this](float, float, float bearing, float, float, float, float radial) {
+        trackPosition(bearing, radial);
+    };
+    events.MouseDown = [this](std::int16_t button, std::int16_t, float, float) {
+        if (button != leftButton || activeToolButton_ != Tool::Pan) return;
+        panDragging_ = true;
+        LoadToolCursor(ToolCursor::PanDragging);
+    };
+    events.MouseMove = [this](std::int16_t button, std::int16_t, float, float) {
+        if (button == leftButton && activeToolButton_ == Tool::Pan && !panDragging_)
+            LoadToolCursor(ToolCursor::PanDragging);
+        followSelection();
+    };
+    events.MouseUp = [this](std::int16_t button, std::int16_t, float, float) {
+        if (button == leftButton && activeToolButton_ == Tool::Pan) {
+            panDragging_ = false;
+            LoadToolCursor(ToolCursor::Pan);
+        }
+        if (button == rightButton) actions_.at("mnuEdit")->menu()->popup(QCursor::pos());
+    };
+    events.DrawProgress = [this](float, float, float, float, float) { ui_.pgbProgressBar->advance(); };
+    connect(ui_.pgPolarGraph, &PolarGraphWidget::aboutRequested, this,
+            guarded(host_, [this] { showAbout(); }));
+}
+
+/// False at the start of a curve and true at its end: what could disturb it is out of reach meanwhile. An
+/// entry without a command stays disabled.
+void frmMain::lockWhileDrawing(bool value) {
+    const std::map<std::string, std::string> entryOf = toolbarEntries();
+    for (const auto& [key, button] : ui_.toolbarButtons) {
+        const auto entry = entryOf.find(key);
+        button->setEnabled(value && entry != entryOf.end() && hasCommand(entry->second));
+    }
+    for (const MenuEntry& entry : menuTree())
+        if (isLockedByDrawing(entry)) actions_.at(entry.name)->setEnabled(value && hasCommand(entry.name));
+    ui_.cmbFunction->setEnabled(value);
+    ui_.cmdReplace->setEnabled(value && ui_.cmbFunction->count() > 0);
+    for (const Tool tool : {Tool::Select, Tool::Aspect, Tool::Zoom}) toolButton(tool).setEnabled(value);
+    if (value) ui_.pgbProgressBar->hide();
+}
+
+/// With its tool a click on the plot steps through the list's rows; each step acts as a click on the row.
+void frmMain::pgPolarGraph_Click() {
+    const auto step = [](ChoiceList& list, int lastToStepFrom) {
+        const int row = list.currentRow();
+        list.setCurrentRow(row >= 0 && row <= lastToStepFrom ? row + 1 : 0);
+    };
+    constexpr int lastAspectStep = 2;
+    constexpr int lastZoomStep = 12;
+    if (activeToolButton_ == Tool::Aspect) step(*ui_.lstAspect, lastAspectStep);
+    if (activeToolButton_ == Tool::Zoom) step(*ui_.lstZoom, lastZoomStep);
+}
+
+void frmMain::trackPosition(float bearing, float radial) {
+    ui_.panels[1]->setText(QStringLiteral("Angle = ") + twoDecimals(static_cast<double>(bearing)) +
+                           QChar(176));
+    ui_.panels[2]->setText(QStringLiteral("Percent = ") + twoDecimals(10.0 * static_cast<double>(radial)) +
+                           QLatin1Char('%'));
+}
+
+/// The bar counts the steps of the graph that is about to be drawn.
+void frmMain::beginProgress(const GrapInfo& graph) {
+    if (graph.Step == 0) zg::raise(ErrorNumber::DivisionByZero);
+    const double steps =
+        static_cast<double>(graph.EndingAngle - graph.StartingAngle) / static_cast<double>(graph.Step);
+    ui_.pgbProgressBar->begin(steps + 1);
+}
+
+/// The edit entries keep step with the button, so that their keys do too.
+void frmMain::followSelection() {
+    const bool selected = pgPolarGraph().ActiveSelection();
+    ui_.toolbarButtons.at("copy")->setEnabled(hasCommand("mnuEditOption_0") && selected);
+    mnuEdit_Open();
+}
+
+}  // namespace zg

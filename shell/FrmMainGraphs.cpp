@@ -1,0 +1,352 @@
+// The list of graphs, the row that edits one of them, and the list's pop-up.
+
+#include <QHeaderView>
+#include <QMenu>
+#include <QSignalBlocker>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "graph/control/EquationCheck.h"
+#include "platform/Errors.h"
+#include "platform/QtText.h"
+#include "shell/FrmExpr.h"
+#include "shell/FrmMain.h"
+#include "shell/FrmProperties.h"
+#include "shell/FrmTable.h"
+#include "shell/LegendSwatch.h"
+#include "shell/MenuTree.h"
+
+namespace zg {
+
+namespace {
+
+constexpr int coefficientColumn = 1;
+constexpr int equationColumn = 2;
+constexpr int ghostRole = Qt::UserRole;
+constexpr int swatchRole = Qt::UserRole + 1;
+
+bool isGhosted(const QTreeWidgetItem& row) { return row.data(0, ghostRole).toBool(); }
+
+/// A hidden graph's row has a faded picture and grey texts.
+void ghost(QTreeWidgetItem& row, bool hidden) {
+    const QPixmap swatch = row.data(0, swatchRole).value<QPixmap>();
+    row.setData(0, ghostRole, hidden);
+    row.setIcon(0, QIcon(hidden ? ghosted(swatch) : swatch));
+    for (const int column : {coefficientColumn, equationColumn})
+        row.setData(column, Qt::ForegroundRole, hidden ? QVariant(QBrush(Qt::gray)) : QVariant());
+}
+
+void selectFrom(QLineEdit& box, const std::string& text, int column) {
+    // The column counts in the trimmed text.
+    const auto blanks =
+        static_cast<int>(text.find_first_not_of(' ') == std::string::npos ? 0 : text.find_first_not_of(' '));
+    const int start = std::min(blanks + column - 1, static_cast<int>(box.text().length()));
+    box.setFocus();
+    box.setSelection(start, static_cast<int>(box.text().length()) - start);
+}
+
+}  // namespace
+
+void frmMain::connectGraphList() {
+    QComboBox& functions = *ui_.cmbFunction;
+    // Leaving the box with a text that the list has too is no click in the list.
+    disconnect(functions.lineEdit(), &QLineEdit::editingFinished, &functions, nullptr);
+    connect(&functions, &QComboBox::editTextChanged, this, guarded(host_, [this] { cmbFunction_Change(); }));
+    connect(&functions, &QComboBox::activated, this, guarded(host_, [this](int i) { cmbFunction_Click(i); }));
+    connect(functions.lineEdit(), &QLineEdit::returnPressed, this, guarded(host_, [this] {
+                if (ui_.lvwTable->topLevelItemCount() > 0) cmdPlot_Click();
+            }));
+    connect(ui_.txtCoefficient, &QLineEdit::returnPressed, this, [this] { ui_.cmbFunction->setFocus(); });
+    for (ColourBox* box : ui_.picColor)
+        connect(box, &QPushButton::clicked, this, guarded(host_, [this, box] {
+                    if (const auto colour = host_.pickColour(box->colour())) box->setColour(*colour);
+                }));
+    connect(ui_.cmdPlot, &QPushButton::clicked, this, guarded(host_, [this] { cmdPlot_Click(); }));
+    connect(ui_.cmdReplace, &QPushButton::clicked, this, guarded(host_, [this] { cmdReplace_Click(); }));
+    connect(ui_.cmdClear, &QPushButton::clicked, this, [this] {
+        ui_.cmbFunction->setEditText(QString());
+        ui_.cmbFunction->setFocus();
+    });
+    connect(ui_.cmdExpr, &QPushButton::clicked, this, guarded(host_, [this] { cmdExpr_Click(); }));
+    connect(ui_.lvwTable, &QTreeWidget::itemSelectionChanged, this,
+            guarded(host_, [this] { lvwTable_ItemClick(); }));
+    // A click on the one row that is selected already shows it too.
+    connect(ui_.lvwTable, &QTreeWidget::itemClicked, this, guarded(host_, [this] { lvwTable_ItemClick(); }));
+    ui_.lvwTable->onPopup = guarded(host_, [this](const QPoint& at) { popUpGraphMenu(at); });
+    ui_.lvwTable->onDelete = guarded(host_, [this] { mnuGraphOption_Click(2); });
+    connect(actions_.at("mnuGraph")->menu(), &QMenu::aboutToShow, this,
+            guarded(host_, [this] { mnuGraph_Open(); }));
+    ui_.cmdPlot->setEnabled(false);
+    ui_.cmdReplace->setEnabled(false);
+}
+
+std::vector<int> frmMain::selectedRows() const {
+    std::vector<int> rows;
+    for (const QModelIndex& index : ui_.lvwTable->selectionModel()->selectedRows())
+        rows.push_back(index.row());
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+GrapInfo& frmMain::graphOfRow(int row) { return pgPolarGraph().Plot().Item(std::int64_t{row} + 1); }
+
+void frmMain::AddGraph(std::int16_t Index) {
+    const GrapInfo& graph = pgPolarGraph().Plot().Item(std::int64_t{Index});
+    const QPixmap swatch = legendSwatch(graph.Series, picTemp_, devicePixelRatioF());
+    auto* row = new QTreeWidgetItem;
+    row->setData(0, swatchRole, swatch);
+    row->setText(coefficientColumn, shown(graph.Coefficient));
+    row->setText(equationColumn, shown(graph.Equation));
+    ghost(*row, !graph.Visible);
+    ui_.lvwTable->addTopLevelItem(row);
+    ui_.lvwTable->scrollToItem(row);
+    if (ui_.lvwTable->topLevelItemCount() == 1) selectOnly(0);
+}
+
+/// Rows, pictures and the box's list are made anew; what is typed in the row of boxes stays.
+void frmMain::rebuildGraphList() {
+    const QSignalBlocker quietTable(ui_.lvwTable);
+    const QSignalBlocker quietBox(ui_.cmbFunction);
+    const QString typedText = ui_.cmbFunction->currentText();
+    ui_.lvwTable->clear();
+    ui_.cmbFunction->clear();
+    const std::int32_t count = pgPolarGraph().Plot().Count();
+    QStringList equations;
+    for (std::int32_t i = 1; i <= count; ++i) {
+        AddGraph(static_cast<std::int16_t>(i));
+        equations.append(shown(graphOfRow(i - 1).Equation));
+    }
+    ui_.cmbFunction->addItems(equations);
+    ui_.cmbFunction->setEditText(typedText);
+}
+
+/// As code selects: nothing of the row goes to the boxes.
+void frmMain::selectOnly(int row) {
+    const QSignalBlocker quiet(ui_.lvwTable);
+    QTreeWidgetItem* item = ui_.lvwTable->topLevelItem(row);
+    if (item == nullptr) {
+        ui_.lvwTable->clearSelection();
+        return;
+    }
+    ui_.lvwTable->setCurrentItem(item, 0, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    ui_.lvwTable->viewport()->update();
+}
+
+void frmMain::listPlot() {
+    rebuildGraphList();
+    const bool hasRow = ui_.lvwTable->topLevelItemCount() > 0;
+    if (hasRow) {
+        QTreeWidgetItem* first = ui_.lvwTable->topLevelItem(0);
+        ui_.lvwTable->scrollToItem(first);
+        ui_.cmbFunction->setEditText(first->text(equationColumn));
+        ui_.txtCoefficient->setText(first->text(coefficientColumn));
+    }
+    ui_.cmdPlot->setEnabled(hasRow);
+    ui_.cmdReplace->setEnabled(hasRow);
+}
+
+/// The texts of the two boxes; nothing where one of them is at fault, which is then told and selected.
+std::optional<frmMain::CurveTexts> frmMain::checkedTexts() {
+    const std::string coefficient = typed(ui_.txtCoefficient->text());
+    const std::string equation = typed(ui_.cmbFunction->currentText());
+    const auto fault = checkEquation(coefficient, equation, [this] { return host_.tickCount(); });
+    if (!fault) return CurveTexts{trim(coefficient), trim(equation)};
+    const bool inCoefficient = fault->where == EquationFault::Where::Coefficient;
+    const std::string& text = inCoefficient ? coefficient : equation;
+    QLineEdit& box = inCoefficient ? *ui_.txtCoefficient : *ui_.cmbFunction->lineEdit();
+    selectFrom(box, text, fault->column);
+    host_.showBox({fault->description + " : '" + text + "'", "Equation", BoxIcon::Warning, BoxButtons::Ok});
+    selectFrom(box, text, fault->column);  // the box took the focus, and the selection may go with it
+    return std::nullopt;
+}
+
+void frmMain::cmdPlot_Click() {
+    pressTool(Tool::Arrow);
+    const auto texts = checkedTexts();
+    if (!texts) return;
+    Plot& plot = pgPolarGraph().Plot();
+    plot.Add(texts->coefficient, texts->equation, ui_.picColor[0]->colour(), ui_.picColor[1]->colour());
+    const std::int16_t index = toInt16(static_cast<double>(plot.Count()));
+    std::exception_ptr failed;
+    try {
+        pgPolarGraph().DrawGraph(index);
+    } catch (...) {
+        failed = std::current_exception();  // the list shows what the plot holds all the same
+    }
+    AddGraph(index);
+    const QSignalBlocker quiet(ui_.cmbFunction);
+    const QString text = ui_.cmbFunction->currentText();
+    ui_.cmbFunction->addItem(shown(texts->equation));
+    ui_.cmbFunction->setEditText(text);
+    ui_.cmdReplace->setEnabled(true);
+    if (failed) std::rethrow_exception(failed);
+}
+
+void frmMain::cmdReplace_Click() {
+    const std::vector<int> rows = selectedRows();
+    if (rows.empty()) return;
+    const auto texts = checkedTexts();
+    if (!texts) return;
+    const int row = rows.front();
+    GrapInfo& graph = graphOfRow(row);
+    graph.Coefficient = texts->coefficient;
+    graph.Equation = texts->equation;
+    graph.Series.Pen.FillColor = ui_.picColor[0]->colour();
+    graph.Series.Marker.FillColor = ui_.picColor[1]->colour();
+    rebuildGraphList();
+    selectOnly(row);
+    ui_.txtCoefficient->setText(shown(texts->coefficient));
+    pgPolarGraph().DrawGraph();  // last: an equation that fails at some angle must not keep the list from it
+}
+
+void frmMain::cmdExpr_Click() {
+    frmExpr dialog(host_, this);
+    dialog.exec();
+    if (dialog.SelectedExpression.empty()) return;
+    ui_.cmbFunction->setEditText(shown(dialog.SelectedExpression));
+    ui_.cmbFunction->setFocus();
+}
+
+void frmMain::cmbFunction_Change() {
+    if (!pgPolarGraph().StopAni()) return;
+    ui_.cmdPlot->setEnabled(!ui_.cmbFunction->currentText().isEmpty());
+    if (ui_.lvwTable->topLevelItemCount() > 0) ui_.cmdReplace->setEnabled(ui_.cmdPlot->isEnabled());
+}
+
+void frmMain::cmbFunction_Click(int index) {
+    selectOnly(index);
+    if (const QTreeWidgetItem* row = ui_.lvwTable->topLevelItem(index))
+        ui_.txtCoefficient->setText(row->text(coefficientColumn));
+}
+
+void frmMain::lvwTable_ItemClick() {
+    const std::vector<int> rows = selectedRows();
+    if (rows.size() == 1) showInEditRow(rows.front());
+}
+
+void frmMain::showInEditRow(int row) {
+    const QTreeWidgetItem* item = ui_.lvwTable->topLevelItem(row);
+    const Series& series = graphOfRow(row).Series;
+    ui_.txtCoefficient->setText(item->text(coefficientColumn));
+    ui_.cmbFunction->setEditText(item->text(equationColumn));
+    ui_.picColor[0]->setColour(series.Pen.FillColor);
+    ui_.picColor[1]->setColour(series.Marker.FillColor);
+}
+
+void frmMain::popUpGraphMenu(const QPoint& at) {
+    if (ui_.lvwTable->topLevelItemCount() > 0) actions_.at("mnuGraph")->menu()->popup(at);
+}
+
+void frmMain::mnuGraph_Open() {
+    const auto enable = [this](int index, bool enabled) {
+        actions_.at("mnuGraphOption_" + std::to_string(index))->setEnabled(enabled);
+    };
+    for (const int index : {0, 1, 2, 4, 6, 7, 9, 11}) enable(index, false);
+    const bool animates = !pgPolarGraph().StopAni();
+    const std::vector<int> rows = selectedRows();
+    if (!animates && !rows.empty()) {
+        const bool hidden = isGhosted(*ui_.lvwTable->topLevelItem(rows.front()));
+        enable(0, !hidden);
+        enable(1, hidden);
+        enable(2, true);
+    }
+    if (rows.size() == 1) {
+        enable(6, graphOfRow(rows.front()).Delay >= 1 && !animates);
+        enable(7, animates);
+        enable(9, !animates);
+        enable(11, !animates);
+    }
+    enable(4, ui_.lvwTable->topLevelItemCount() > 0);
+}
+
+void frmMain::mnuGraphOption_Click(int Index) {
+    switch (Index) {
+        case 0:
+            return hideSelected(true);
+        case 1:
+            return hideSelected(false);
+        case 2:
+            return deleteSelected();
+        case 4:
+            return ui_.lvwTable->selectAll();
+        case 6:
+            return playSelected();
+        case 7:
+            return pgPolarGraph().StopAni(true);
+        case 9:
+            return showTable();
+        case 11:
+            return showProperties();
+        default:
+            return;
+    }
+}
+
+void frmMain::hideSelected(bool hide) {
+    bool changed = false;
+    for (const int row : selectedRows()) {
+        QTreeWidgetItem& item = *ui_.lvwTable->topLevelItem(row);
+        if (isGhosted(item) == hide) continue;
+        ghost(item, hide);
+        graphOfRow(row).Visible = !hide;
+        changed = true;
+    }
+    if (changed) pgPolarGraph().DrawGraph();
+}
+
+void frmMain::deleteSelected() {
+    const std::vector<int> rows = selectedRows();
+    // The keyboard gets here without the menu: while an animation runs its curve must stay.
+    if (rows.empty() || !pgPolarGraph().StopAni()) return;
+    for (auto row = rows.rbegin(); row != rows.rend(); ++row)
+        pgPolarGraph().Plot().Remove(std::int64_t{*row} + 1);
+    ui_.lvwTable->setSelectionMode(QAbstractItemView::SingleSelection);
+    rebuildGraphList();
+    ui_.lvwTable->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    selectOnly(0);
+    if (ui_.lvwTable->topLevelItemCount() > 0) {
+        ui_.lvwTable->scrollToItem(ui_.lvwTable->topLevelItem(0));
+        showInEditRow(0);
+    } else {
+        ui_.cmdReplace->setEnabled(false);
+        ui_.txtCoefficient->clear();
+    }
+    pgPolarGraph().DrawGraph();
+}
+
+void frmMain::playSelected() {
+    const std::vector<int> rows = selectedRows();
+    if (rows.empty()) return;
+    pressTool(Tool::Arrow);
+    pgPolarGraph().ClearGraph();
+    for (int row = 0; row < pgPolarGraph().Plot().Count(); ++row)
+        pgPolarGraph().DrawGraph(toInt16(row + 1.0), row == rows.front());
+}
+
+void frmMain::showTable() {
+    const std::vector<int> rows = selectedRows();
+    if (rows.empty()) return;
+    const GrapInfo& graph = graphOfRow(rows.front());
+    const QPixmap swatch = ui_.lvwTable->topLevelItem(rows.front())->data(0, swatchRole).value<QPixmap>();
+    beginProgress(graph);
+    const auto hideBar = [](StepBar* bar) { bar->hide(); };
+    const std::unique_ptr<StepBar, decltype(hideBar)> atEnd(ui_.pgbProgressBar, hideBar);
+    frmTable dialog(
+        host_, graph, swatch, [this] { ui_.pgbProgressBar->advance(); }, this);
+    ui_.pgbProgressBar->hide();
+    dialog.exec();
+}
+
+void frmMain::showProperties() {
+    const std::vector<int> rows = selectedRows();
+    if (rows.empty()) return;
+    const int row = rows.front();
+    const auto applied = [this, row] {
+        rebuildGraphList();
+        selectOnly(row);
+        pgPolarGraph().DrawGraph();
+    };
+    frmProperties(host_, graphOfRow(row), applied, this).exec();
+}
+
+}  // namespace zg

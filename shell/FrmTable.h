@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QDialog>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTreeView>
+
+#include "base/Host.h"
+#include "graph/model/Plot.h"
+
+namespace zg {
+
+class CurveTableModel;
+
+/// The sampled points of one curve, to be read or copied into a spreadsheet.
+class frmTable : public QDialog {
+    Q_OBJECT
+
+ public:
+    /// Samples the curve at once and tells of each row; raises what its scripts raise.
+    frmTable(Host& host, const GrapInfo& graph, const QPixmap& legend, const std::function<void()>& onRow,
+             QWidget* parent = nullptr);
+
+ protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+ private:
+    QLayout* makeHead(const GrapInfo& graph, const QPixmap& legend);
+    QLayout* makeButtons();
+    void shareColumns();
+    void cmdCopy_Click();
+    void cmdSelectAll_Click();
+
+    Host& host_;
+    CurveTableModel* rows_;
+    QGroupBox* fraTable;
+    QLabel* picLegend;
+    QLabel* lblCoefficient;
+    QLabel* lblFunction;
+    QTreeView* lvwData;
+    QPushButton* cmdCopy;
+    QPushButton* cmdSelectAll;
+    QPushButton* cmdExit;
+};
+
+}  // namespace zg
