@@ -56,6 +56,24 @@ void selectAllAndDelete(benchmark::State& state, bool timeDelete) {
     }
 }
 
+/// A page of 3000 x 3000 pixels in a window: drawn anew and shown, or only scrolled and shown.
+void largePage(benchmark::State& state, bool scrolled) {
+    zg::QtHost host;
+    zg::frmMain window(host);
+    window.show();
+    window.PlotFrqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
+    window.pgPolarGraph().Zoom(500);
+    int place = 0;
+    for (auto _ : state) {
+        place = (place + 40) % 1200;
+        if (scrolled)
+            window.pgPolarGraph().scrollTo(place, place);
+        else
+            window.pgPolarGraph().Refresh();
+        QApplication::processEvents();
+    }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -66,6 +84,8 @@ int main(int argc, char** argv) {
         ->Unit(benchmark::kMillisecond);
     benchmark::RegisterBenchmark("delete all of 1000", selectAllAndDelete, true)
         ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("redraw at 500 percent", largePage, false)->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("scroll at 500 percent", largePage, true)->Unit(benchmark::kMillisecond);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

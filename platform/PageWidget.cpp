@@ -90,7 +90,53 @@ void PageWidget::showPointer(std::int16_t pointer, const PicturePointer& icon) {
     setCursor(QCursor(QPixmap::fromImage(picture.image()), picture.hotSpot().x(), picture.hotSpot().y()));
 }
 
-void PageWidget::paintEvent(QPaintEvent*) { QPainter(this).drawImage(QPointF(0, 0), owner_.pageImage()); }
+void PageWidget::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    const QImage& page = owner_.pageImage();
+    const QRectF shownPart = event->rect();
+    const double scale = page.devicePixelRatio();
+    painter.drawImage(shownPart, page, QRectF(shownPart.topLeft() * scale, shownPart.size() * scale));
+    paintShapes(painter);
+}
+
+void PageWidget::showShapes(const ChildSurfaces& surfaces) {
+    const auto exchange = [this](ChildSurface& old, const ChildSurface& fresh) {
+        if (old == fresh) return;
+        for (const ChildSurface& at : {old, fresh})
+            if (at.visible) update(at.left - 1, at.top - 1, at.width + 3, at.height + 3);
+        old = fresh;
+    };
+    exchange(shapes_.circle, surfaces.shpCircle);
+    exchange(shapes_.select, surfaces.shpSelect);
+    exchange(shapes_.rubber, surfaces.shpRubber);
+    exchange(shapes_.crossH, surfaces.linCrossH);
+    exchange(shapes_.crossV, surfaces.linCrossV);
+}
+
+void PageWidget::paintShapes(QPainter& painter) const {
+    const auto box = [](const ChildSurface& at) {
+        return QRect(at.left, at.top, at.width - 1, at.height - 1);
+    };
+    const QColor shapeColour(90, 90, 90);
+    for (const ChildSurface* line : {&shapes_.crossH, &shapes_.crossV})
+        if (line->visible) painter.fillRect(line->left, line->top, line->width, line->height, shapeColour);
+    if (shapes_.circle.visible) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(shapeColour);
+        painter.drawEllipse(QRectF(box(shapes_.circle)).translated(0.5, 0.5));
+        painter.setRenderHint(QPainter::Antialiasing, false);
+    }
+    for (const ChildSurface* rectangle : {&shapes_.select, &shapes_.rubber}) {
+        if (!rectangle->visible) continue;
+        // Dashes on white are seen over any colour.
+        painter.setPen(Qt::white);
+        painter.drawRect(box(*rectangle));
+        painter.setPen(QPen(Qt::black, 1, rectangle == &shapes_.rubber ? Qt::DotLine : Qt::DashLine));
+        painter.drawRect(box(*rectangle));
+    }
+}
+
+void PageWidget::leaveEvent(QEvent*) { owner_.graph_->pointerLeft(); }
 
 void PageWidget::mousePressEvent(QMouseEvent* event) {
     guarded(owner_.host_, [this, event] {
@@ -129,6 +175,8 @@ void PageWidget::keyPressEvent(QKeyEvent* event) {
         const PolarGraphEvents& events = owner_.graph_->events;
         std::int16_t code = keyCodeOf(event->key());
         if (events.KeyDown) events.KeyDown(code, shiftState(event->modifiers()));
+        constexpr std::int16_t escape = 27;
+        if (code == escape) owner_.graph_->cancelTool();  // unless the host has made use of the key
         const QByteArray characters = event->text().toLatin1();
         for (const char character : characters) {
             std::int16_t ascii = static_cast<unsigned char>(character);

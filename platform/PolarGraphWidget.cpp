@@ -128,6 +128,14 @@ void PolarGraphWidget::pagePainted() {
     picGraph_->update();
 }
 
+void PolarGraphWidget::shapesChanged() {
+    if (!graph_) return;
+    const ChildSurfaces& surfaces = graph_->surfaces();
+    picGraph_->showShapes(surfaces);
+    picRulerH_->showTrackingLine(surfaces.linRulerH);
+    picRulerV_->showTrackingLine(surfaces.linRulerV);
+}
+
 void PolarGraphWidget::rulersChanged() {
     for (RulerWidget* ruler : {picRulerH_, picRulerV_, picRulerJ_}) ruler->update();
 }

@@ -45,6 +45,7 @@ class PolarGraphWidget : public QWidget, private ControlWindow {
     Canvas& pageCanvas() override;
     void pageResized(int width, int height) override;
     void layoutChanged() override;
+    void shapesChanged() override;
     void rulersChanged() override;
     void keepPicture() override;
     bool restorePicture() override;

@@ -28,6 +28,15 @@ RulerWidget::RulerWidget(PolarGraphWidget& owner, RulerPart part, QWidget* paren
     : QWidget(parent), owner_(owner), part_(part) {
     setObjectName(nameOf(part));
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setCursor(part == RulerPart::Corner ? Qt::PointingHandCursor : Qt::SizeAllCursor);
+}
+
+void RulerWidget::showTrackingLine(const ChildSurface& line) {
+    if (line == line_) return;
+    const auto area = [](const ChildSurface& at) { return QRect(at.left, at.top, at.width, at.height); };
+    update(area(line_));
+    line_ = line;
+    update(area(line_));
 }
 
 void RulerWidget::paintEvent(QPaintEvent*) {
@@ -38,13 +47,28 @@ void RulerWidget::paintEvent(QPaintEvent*) {
     else
         paintRuler(canvas,
                    owner_.graph().rulerView(part_ == RulerPart::Top ? RulerSide::Top : RulerSide::Left));
+    if (line_.visible)
+        painter.fillRect(QRect(line_.left, line_.top, line_.width, line_.height), QColor(200, 0, 0));
 }
 
 void RulerWidget::mousePressEvent(QMouseEvent* event) {
-    if (part_ != RulerPart::Corner) return;
     const bool left = event->button() == Qt::LeftButton;
+    if (part_ != RulerPart::Corner) {
+        if (left)
+            owner_.graph().rulerPressed(static_cast<float>(event->position().x()),
+                                        static_cast<float>(event->position().y()));
+        return;
+    }
     if (!left && event->button() != Qt::RightButton) return;
     guarded(owner_.host_, [this, left] { owner_.graph().cornerPressed(left ? leftButton : rightButton); })();
+}
+
+void RulerWidget::mouseMoveEvent(QMouseEvent* event) {
+    if (part_ == RulerPart::Corner || !event->buttons().testFlag(Qt::LeftButton)) return;
+    guarded(owner_.host_, [this, event] {
+        owner_.graph().rulerDragged(static_cast<float>(event->position().x()),
+                                    static_cast<float>(event->position().y()));
+    })();
 }
 
 }  // namespace zg

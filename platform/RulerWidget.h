@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include "graph/control/PageLayout.h"
+
 namespace zg {
 
 class PolarGraphWidget;
@@ -9,18 +11,22 @@ class PolarGraphWidget;
 enum class RulerPart { Top, Left, Corner };
 
 /// picRulerH, picRulerV and the corner picRulerJ, which resets the drawing area on a left click and changes
-/// the ruler mode on a right one.
+/// the ruler mode on a right one. Dragging a ruler moves the page.
 class RulerWidget : public QWidget {
  public:
     RulerWidget(PolarGraphWidget& owner, RulerPart part, QWidget* parent);
 
+    void showTrackingLine(const ChildSurface& line);
+
  protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
     PolarGraphWidget& owner_;
     RulerPart part_;
+    ChildSurface line_;
 };
 
 }  // namespace zg

@@ -15,6 +15,8 @@ namespace zg {
 
 namespace {
 
+constexpr std::int16_t escapeKey = 27;
+
 QString twoDecimals(double value) { return shown(doubleText(roundHalfEven(value, 2))); }
 
 bool startsWith(const std::string& text, const char* start) { return text.rfind(start, 0) == 0; }
@@ -58,6 +60,15 @@ void frmMain::followPlot() {
             LoadToolCursor(ToolCursor::Pan);
         }
         if (button == rightButton) actions_.at("mnuEdit")->menu()->popup(QCursor::pos());
+    };
+    events.KeyDown = [this](std::int16_t& keyCode, std::int16_t) {
+        if (keyCode != escapeKey) return;
+        keyCode = 0;
+        if (!pgPolarGraph().StopAni())
+            pgPolarGraph().StopAni(true);
+        else if (!pgPolarGraph().cancelTool() && activeToolButton_ != Tool::Arrow)
+            pressTool(Tool::Arrow);
+        followSelection();
     };
     events.DrawProgress = [this](float, float, float, float, float) { ui_.pgbProgressBar->advance(); };
     connect(ui_.pgPolarGraph, &PolarGraphWidget::aboutRequested, this,

@@ -14,8 +14,14 @@
 #include "platform/QtText.h"
 #include "processing/TextViewer.h"
 #include "shell/FrmAboutZephyrgraph.h"
+#include "shell/FrmAddLabel.h"
 #include "shell/FrmAspect.h"
+#include "shell/FrmChangeRadius.h"
+#include "shell/FrmGridFonts.h"
 #include "shell/FrmMain.h"
+#include "shell/FrmOptions.h"
+#include "shell/FrmOptionsLegend.h"
+#include "shell/FrmSelectWindRose.h"
 #include "shell/FrmSetSeasons.h"
 #include "shell/FrmSetWindSpeedClasses.h"
 #include "shell/FrmZoom.h"
@@ -68,6 +74,12 @@ std::map<std::string, std::function<void()>> frmMain::commands() {
         {"mnuViewRefresh", [this] { pgPolarGraph().Refresh(); }},
         {"mnuSetSeasons", [this] { frmSetSeasons(host_, this).exec(); }},
         {"mnuSetWindSpeedClasses", [this] { frmSetWindSpeedClasses(host_, this).exec(); }},
+        {"mnuAvePeriod", [this] { frmSelectWindRose(host_, pgPolarGraph(), this).exec(); }},
+        {"mnuChangeRadius", [this] { frmChangeRadius(host_, pgPolarGraph(), this).exec(); }},
+        {"mnuAddLabel", [this] { frmAddLabel(host_, pgPolarGraph(), this).exec(); }},
+        {"mnuEditLegend", [this] { frmOptionsLegend(host_, pgPolarGraph(), this).exec(); }},
+        {"mnuGridFonts", [this] { frmGridFonts(host_, pgPolarGraph(), this).exec(); }},
+        {"mnuPolarOption_6", [this] { frmOptions(host_, pgPolarGraph(), this).exec(); }},
         {"mnuPolarOption_1",
          [this] {
              pgPolarGraph().ShowLabel(actions_.at("mnuPolarOption_1")->isChecked());
@@ -144,9 +156,6 @@ void frmMain::makeToolbars() {
     for (std::size_t i = 0; i < ui_.toolboxButtons.size(); ++i)
         connect(ui_.toolboxButtons[i], &QToolButton::clicked, this,
                 guarded(host_, [this, i] { pressTool(static_cast<Tool>(i + 1)); }));
-    // What the plot and the list cannot do yet is out of reach.
-    for (const Tool tool : {Tool::Select, Tool::Cross, Tool::Circular, Tool::Pan})
-        ui_.toolboxButtons[static_cast<std::size_t>(tool) - 1]->setEnabled(false);
     ui_.lstAspect->onChoice = guarded(host_, [this](int row) { lstAspect_Click(row); });
     ui_.lstZoom->onChoice = guarded(host_, [this](int row) { lstZoom_Click(row); });
     customEntryOnEnter(*ui_.lstAspect, [this] { showAspectDialog(); });

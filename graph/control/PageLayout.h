@@ -8,7 +8,8 @@
 namespace zg {
 
 /// Place and visibility of a child surface, in pixels. The rulers lie within their holders; shpSelect,
-/// shpCircle and the crosshair lie within the page; all others within the control.
+/// shpCircle, shpRubber and the crosshair lie within the page, the tracking lines within their rulers; all
+/// others within the control.
 struct ChildSurface {
     int left = 0;
     int top = 0;
@@ -33,8 +34,11 @@ struct ChildSurfaces {
     ChildSurface lblTrackAngle;
     ChildSurface shpSelect;
     ChildSurface shpCircle;
-    ChildSurface linCrossH;
+    ChildSurface shpRubber;  ///< the rectangle while it is being dragged
+    ChildSurface linCrossH;  ///< along x through the pointer
     ChildSurface linCrossV;
+    ChildSurface linRulerH;  ///< tracking line across picRulerH, at the pointer's x
+    ChildSurface linRulerV;  ///< across picRulerV, at its y
 };
 
 /// A scroll bar's range and position, in pixels of the work area. The range always holds 0.

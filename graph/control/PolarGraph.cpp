@@ -86,6 +86,7 @@ void PolarGraph::SetActiveTool(std::int32_t value) {
     endTool();
     own_.SetActiveTool = value;
     changed();
+    beginTool();
 }
 
 void PolarGraph::SetRulerMode(std::int32_t value) {
@@ -159,12 +160,6 @@ void PolarGraph::RedrawGraph(std::int16_t mode) {
 void PolarGraph::changedOnPage() {
     changed();
     RedrawGraph(curvesAndRulers);
-}
-
-void PolarGraph::endTool() {
-    for (ChildSurface* shape : {&surfaces_.shpCircle, &surfaces_.shpSelect}) shape->visible = false;
-    for (ChildSurface* cross : {&surfaces_.linCrossH, &surfaces_.linCrossV}) *cross = {};
-    window_.layoutChanged();
 }
 
 }  // namespace zg

@@ -36,6 +36,9 @@ class ControlWindow {
     /// Places, sizes or visibility of child surfaces changed.
     virtual void layoutChanged() = 0;
 
+    /// Shapes of the tools, or the tracking lines of the rulers, changed.
+    virtual void shapesChanged() = 0;
+
     /// The rulers are to be painted again.
     virtual void rulersChanged() = 0;
 
@@ -151,7 +154,8 @@ class PolarGraph {
     void ScrollBars(std::int32_t value);
 
     std::int32_t SetActiveTool() const { return own_.SetActiveTool; }
-    /// A new value ends the old tool: its shapes and the selection are hidden.
+    /// What the mouse does on the page: 0 nothing, 1 a circle about the centre, 2 a crosshair, 3 pans, 4
+    /// selects. A new value ends the old tool: its shapes and the selection are hidden.
     void SetActiveTool(std::int32_t value);
 
     std::int32_t SetRulerMode() const { return own_.SetRulerMode; }
@@ -217,8 +221,22 @@ class PolarGraph {
     /// picRulerJ was pressed: left resets the drawing area, right changes the ruler mode.
     void cornerPressed(std::int16_t button);
 
-    /// The pointer on the page, in its pixels. Each is passed on to the host first; every move then tells the
-    /// tracked position.
+    /// A ruler is dragged: the pointer's place in it, in pixels. Either ruler moves the page along both axes.
+    void rulerPressed(float x, float y);
+    void rulerDragged(float x, float y);
+
+    /// Ends a drag and puts back what it moved; without one, drops the selection. False where there was
+    /// neither.
+    bool cancelTool();
+
+    /// The pointer has left the page: the rulers' tracking lines go.
+    void pointerLeft();
+
+    /// The selection takes the whole page, unless there is one already.
+    void EditSelectAll();
+
+    /// The pointer on the page, in its pixels. Each is passed on to the host first, then the tool acts; every
+    /// move then tells the tracked position.
     void mouseDown(std::int16_t button, std::int16_t shift, float x, float y);
     void mouseMove(std::int16_t button, std::int16_t shift, float x, float y);
     void mouseUp(std::int16_t button, std::int16_t shift, float x, float y);
@@ -248,6 +266,15 @@ class PolarGraph {
     void movePage();
     void arrangeChildren();
     void endTool();
+    void beginTool();
+    void showCross(float x, float y);
+    void showRulerLines(float x, float y);
+    void showCircle(float x, float y);
+    void followPan(float x, float y);
+    void showRubber(float x, float y);
+    void endRubber();
+    void moveTo(double x, double y);
+    float withinPage(float place) const;
     void raiseTrackPosition(float x, float y);
 
     ControlWindow& window_;
@@ -262,6 +289,22 @@ class PolarGraph {
     ScrollRange horizontalScroll_;
     ScrollRange verticalScroll_;
     PolarGeometry geometry_;
+
+    struct Place {
+        std::int16_t x = 0;
+        std::int16_t y = 0;
+    };
+    std::int32_t PanStartX_ = 0;
+    std::int32_t PanStartY_ = 0;
+    float RubberStartX_ = 0;
+    float RubberStartY_ = 0;
+    float RubberEndX_ = 0;
+    float RubberEndY_ = 0;
+    float circleWidth_ = 0;
+    bool dragging_ = false;  ///< the button went down with the tool pan or select
+    Place dragFrom_;         ///< of the page, when a drag began
+    float rulerX_ = 0;
+    float rulerY_ = 0;
 
     bool suspended_ = false;
     FreqFileOutcome lastOpenOutcome_ = FreqFileOutcome::Refused;

@@ -1,7 +1,11 @@
 #include "shell/settings/StartSequence.h"
 
+#include <algorithm>
+#include <filesystem>
+#include <vector>
 #include "base/Numbers.h"
 #include "base/Paths.h"
+#include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "graph/frq/ModPolarGraph.h"
 #include "shell/settings/CfgFile.h"
@@ -46,6 +50,22 @@ std::optional<BackgroundPicture> findBackgroundPicture() {
         if (!path.empty()) return BackgroundPicture{path, style};
     }
     return std::nullopt;
+}
+
+void removeBackgroundPictures() {
+    std::error_code ignored;  // a directory that is not there holds none
+    std::vector<std::filesystem::path> pictures;
+    for (const auto& entry : std::filesystem::directory_iterator(inApplicationDirectory("Bitmap"), ignored))
+        if (lcase(entry.path().extension().string()) == ".pgw") pictures.push_back(entry.path());
+    for (const auto& picture : pictures) std::filesystem::remove(picture, ignored);
+}
+
+std::string newBackgroundPicturePath(std::int32_t style) {
+    const std::string directory = inApplicationDirectory("Bitmap");
+    std::error_code failed;
+    std::filesystem::create_directories(directory, failed);
+    if (failed) raise(ErrorNumber::PathFileAccessError);
+    return directory + pathSeparator + "WP" + std::to_string(std::clamp(style, 0, 3) + 1) + ".pgw";
 }
 
 }  // namespace zg

@@ -41,4 +41,11 @@ struct BackgroundPicture {
 /// The first of the pictures WP1.pgw to WP4.pgw that is there.
 std::optional<BackgroundPicture> findBackgroundPicture();
 
+/// Removes every .pgw file of the Bitmap directory.
+void removeBackgroundPictures();
+
+/// Where a picture of that style is kept, the directory being made if it is missing. Raises 75 or 76 where it
+/// cannot be.
+std::string newBackgroundPicturePath(std::int32_t style);
+
 }  // namespace zg

@@ -36,6 +36,7 @@ class FakeWindow : public zg::ControlWindow {
         canvas.resize(width, height);
     }
     void layoutChanged() override { calls.emplace_back("layoutChanged"); }
+    void shapesChanged() override { calls.emplace_back("shapesChanged"); }
     void rulersChanged() override { calls.emplace_back("rulersChanged"); }
     void keepPicture() override { hasPicture = true; }
     bool restorePicture() override {

@@ -215,11 +215,11 @@ TEST_F(PolarGraphProperties, SurviveStoringAndReloading) {
     graph.OffsetDrawingAreaX(-32768);
     graph.OffsetDrawingAreaY(123);
     graph.MouseIcon(icon);
+    graph.SetActiveTool(4);  // sets a pointer of its own
     graph.MousePointer(99);
     graph.Picture(picture);
     graph.PictureStyle(3);
     graph.ScrollBars(1);
-    graph.SetActiveTool(4);
     graph.SetRulerMode(0);
     graph.ShowCoordinateSystem(false);
     graph.ShowGrid(-2000000000);

@@ -1,0 +1,44 @@
+#include "shell/ApplyDialog.h"
+
+#include <QPushButton>
+
+#include "platform/Errors.h"
+#include "shell/settings/CfgFile.h"
+#include "shell/settings/Settings.h"
+
+namespace zg {
+
+ApplyDialog::ApplyDialog(Host& host, const char* name, const char* title, QWidget* parent)
+    : QDialog(parent), host_(host) {
+    setObjectName(QString::fromLatin1(name));
+    setWindowTitle(QString::fromLatin1(title));
+}
+
+void ApplyDialog::addButtons(QBoxLayout& layout, QWidget* atLeft) {
+    const auto button = [](const char* caption, const char* name) {
+        auto* made = new QPushButton(QString::fromLatin1(caption));
+        made->setObjectName(QString::fromLatin1(name));
+        made->setAutoDefault(false);
+        return made;
+    };
+    QPushButton* cmdOk = button("OK", "cmdOk");
+    QPushButton* cmdCancel = button("&Cancel", "cmdCancel");
+    QPushButton* cmdApply = button("&Apply", "cmdApply");
+    cmdOk->setDefault(true);
+    connect(cmdOk, &QPushButton::clicked, this, guarded(host_, [this] { cmdOk_Click(); }));
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(cmdApply, &QPushButton::clicked, this, guarded(host_, [this] { apply(); }));
+    auto* row = new QHBoxLayout;
+    if (atLeft != nullptr) row->addWidget(atLeft);
+    row->addStretch();
+    for (QPushButton* each : {cmdOk, cmdCancel, cmdApply}) row->addWidget(each);
+    layout.addLayout(row);
+}
+
+void ApplyDialog::cmdOk_Click() {
+    apply();
+    WriteCfgFile(settings.CfgFilePath);
+    accept();
+}
+
+}  // namespace zg

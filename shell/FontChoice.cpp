@@ -1,0 +1,70 @@
+#include "shell/FontChoice.h"
+
+#include <QHBoxLayout>
+
+#include "platform/Errors.h"
+#include "platform/QtText.h"
+
+namespace zg {
+
+namespace {
+
+QPushButton* button(const char* caption, const std::string& name) {
+    auto* made = new QPushButton(QString::fromLatin1(caption));
+    made->setObjectName(QString::fromStdString(name));
+    made->setAutoDefault(false);
+    return made;
+}
+
+}  // namespace
+
+FontChoice::FontChoice(Host& host, const FontRecord& font, const FontRecord& factory,
+                       const std::string& suffix)
+    : font_(font), sample_(new QLabel) {
+    QPushButton* cmdSelectFont = button("Font...", "cmdSelectFont" + suffix);
+    QPushButton* cmdSelectColor = button("Color...", "cmdSelectColor" + suffix);
+    QPushButton* cmdReset = button("Default", "cmdResetToDefaults" + suffix);
+    sample_->setObjectName(QString::fromStdString("lblSample" + suffix));
+    sample_->setAutoFillBackground(true);
+    sample_->setAlignment(Qt::AlignCenter);
+    sample_->setMinimumSize(150, 30);
+    sample_->setFrameShape(QFrame::StyledPanel);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    for (QPushButton* each : {cmdSelectFont, cmdSelectColor, cmdReset}) row->addWidget(each);
+    row->addWidget(sample_, 1);
+    QObject::connect(cmdSelectFont, &QPushButton::clicked, this, guarded(host, [this, &host] {
+                         const auto picked = host.pickFont(font_);
+                         if (!picked) return;
+                         const float colour = font_.colour;
+                         font_ = *picked;
+                         font_.colour = colour;
+                         showSample();
+                     }));
+    QObject::connect(cmdSelectColor, &QPushButton::clicked, this, guarded(host, [this, &host] {
+                         const auto picked = host.pickColour(paintedColour(font_.colour));
+                         if (!picked) return;
+                         font_.colour = static_cast<float>(*picked);
+                         showSample();
+                     }));
+    QObject::connect(cmdReset, &QPushButton::clicked, this, [this, factory] {
+        font_ = factory;
+        showSample();
+    });
+    showSample();
+}
+
+void FontChoice::showSample() {
+    QFont face(shown(font_.name));
+    if (font_.size > 0) face.setPointSize(font_.size);
+    face.setBold(font_.bold);
+    face.setItalic(font_.italic);
+    sample_->setFont(face);
+    QPalette colours(Qt::white);
+    colours.setColor(QPalette::Window, Qt::white);
+    colours.setColor(QPalette::WindowText, toQColor(paintedColour(font_.colour)));
+    sample_->setPalette(colours);
+    sample_->setText(shown(font_.name) + QLatin1Char(' ') + QString::number(font_.size));
+}
+
+}  // namespace zg

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <string>
+
+#include "base/Host.h"
+#include "base/Style.h"
+
+namespace zg {
+
+/// Three buttons that edit a font and its colour, and a sample that shows them. Buttons are named
+/// cmdSelectFont, cmdSelectColor and cmdResetToDefaults with a suffix.
+class FontChoice : public QWidget {
+ public:
+    FontChoice(Host& host, const FontRecord& font, const FontRecord& factory, const std::string& suffix);
+
+    const FontRecord& font() const { return font_; }
+
+ private:
+    void showSample();
+
+    FontRecord font_;
+    QLabel* sample_;
+};
+
+}  // namespace zg

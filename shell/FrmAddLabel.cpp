@@ -1,0 +1,51 @@
+#include "shell/FrmAddLabel.h"
+
+#include <QVBoxLayout>
+
+#include "graph/frq/ModPolarGraph.h"
+#include "platform/QtText.h"
+
+namespace zg {
+
+namespace {
+
+/// The three lines from the top.
+std::array<std::string*, 3> labelLines() {
+    return {&modPolarGraph.GraphTitle, &modPolarGraph.GraphSubTitle, &modPolarGraph.GraphCaption};
+}
+
+}  // namespace
+
+frmAddLabel::frmAddLabel(Host& host, PolarGraph& graph, QWidget* parent)
+    : ApplyDialog(host, "frmAddLabel", "Edit Label", parent), graph_(graph) {
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(new QLabel(QStringLiteral("Up to three lines of labeling may be added below:")));
+    const auto lines = labelLines();
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        txtLabelLine[i] = new QLineEdit(shown(*lines[i]));
+        txtLabelLine[i]->setObjectName(QStringLiteral("txtLabelLine%1").arg(i + 1));
+        txtLabelLine[i]->setAccessibleName(QStringLiteral("Line %1").arg(i + 1));
+        layout->addWidget(txtLabelLine[i]);
+    }
+    font_ = new FontChoice(host, modPolarGraph.LabelFont, factoryLabelFont(), "");
+    layout->addWidget(font_);
+    auto* cmdClear = new QPushButton(QStringLiteral("C&lear"));
+    cmdClear->setObjectName(QStringLiteral("cmdClear"));
+    cmdClear->setAutoDefault(false);
+    connect(cmdClear, &QPushButton::clicked, this, [this] {
+        for (QLineEdit* line : txtLabelLine) line->clear();
+        txtLabelLine[0]->setFocus();
+    });
+    layout->addStretch();
+    addButtons(*layout, cmdClear);
+    resize(620, sizeHint().height());
+}
+
+void frmAddLabel::apply() {
+    const auto lines = labelLines();
+    for (std::size_t i = 0; i < lines.size(); ++i) *lines[i] = typed(txtLabelLine[i]->text());
+    modPolarGraph.LabelFont = font_->font();
+    graph_.Refresh();
+}
+
+}  // namespace zg

@@ -1,0 +1,65 @@
+#include "shell/FrmChangeRadius.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "base/Numbers.h"
+#include "platform/Errors.h"
+#include "platform/QtText.h"
+#include "shell/DialogButtons.h"
+#include "shell/settings/CfgFile.h"
+#include "shell/settings/Settings.h"
+
+namespace zg {
+
+namespace {
+
+constexpr double percentPerUnit = 5;
+
+}  // namespace
+
+frmChangeRadius::frmChangeRadius(Host& host, PolarGraph& graph, QWidget* parent)
+    : QDialog(parent), host_(host), graph_(graph), oldRadius_(graph.Polar().Radius) {
+    setObjectName(QStringLiteral("frmChangeRadius"));
+    setWindowTitle(QStringLiteral("Change Radius"));
+    cboRadiusPercent = new QComboBox;
+    cboRadiusPercent->setObjectName(QStringLiteral("cboRadiusPercent"));
+    for (int percent = 5; percent <= 100; percent += 5)
+        cboRadiusPercent->addItem(QString::number(percent) + QLatin1Char('%'));
+    const double percent = static_cast<double>(oldRadius_) * percentPerUnit;
+    oldRow_ = cboRadiusPercent->findText(shown(doubleText(percent)) + QLatin1Char('%'));
+    cboRadiusPercent->setCurrentIndex(oldRow_);
+    auto* label = new QLabel(QStringLiteral("&Radius of the outer ring:"));
+    label->setBuddy(cboRadiusPercent);
+    auto* row = new QHBoxLayout;
+    row->addWidget(label);
+    row->addWidget(cboRadiusPercent, 1);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(row);
+    const DialogButtons buttons = addOkCancel(*layout);
+    connect(cboRadiusPercent, &QComboBox::currentIndexChanged, this,
+            guarded(host_, [this] { cboRadiusPercent_Click(); }));
+    connect(buttons.ok, &QPushButton::clicked, this, guarded(host_, [this] { cmdOk_Click(); }));
+    connect(buttons.cancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void frmChangeRadius::cboRadiusPercent_Click() {
+    // A radius that no row has comes back by its value.
+    const bool ofARow = cboRadiusPercent->currentIndex() >= 0;
+    graph_.Polar().Radius =
+        ofARow ? toSingle(val(typed(cboRadiusPercent->currentText())) / percentPerUnit) : oldRadius_;
+    graph_.Refresh();
+}
+
+void frmChangeRadius::cmdOk_Click() {
+    settings.RadiusText = typed(cboRadiusPercent->currentText());
+    WriteCfgFile(settings.CfgFilePath);
+    accept();
+}
+
+void frmChangeRadius::reject() {
+    cboRadiusPercent->setCurrentIndex(oldRow_);
+    QDialog::reject();
+}
+
+}  // namespace zg

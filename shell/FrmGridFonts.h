@@ -1,0 +1,31 @@
+#pragma once
+
+#include "graph/control/PolarGraph.h"
+#include "shell/ApplyDialog.h"
+#include "shell/FontChoice.h"
+#include "shell/FrmMainControls.h"
+
+namespace zg {
+
+/// Edits the fonts of direction labels, percentages and legend, and the grid's colour.
+class frmGridFonts : public ApplyDialog {
+    Q_OBJECT
+
+ public:
+    frmGridFonts(Host& host, PolarGraph& graph, QWidget* parent = nullptr);
+
+ private:
+    void apply() override;
+    QGroupBox* makeGridColour();
+    void setGridColour(float colour);
+
+    PolarGraph& graph_;
+    FontRecord labelFont_;  ///< passes through unchanged
+    FontChoice* directions_;
+    FontChoice* percents_;
+    FontChoice* legend_;
+    float gridColour_;
+    ColourBox* picGridColor;
+};
+
+}  // namespace zg

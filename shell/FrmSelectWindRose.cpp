@@ -1,0 +1,59 @@
+#include "shell/FrmSelectWindRose.h"
+
+#include <QVBoxLayout>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "graph/frq/ModPolarGraph.h"
+#include "platform/Errors.h"
+#include "platform/FieldMarks.h"
+#include "platform/QtText.h"
+#include "shell/DialogButtons.h"
+
+namespace zg {
+
+namespace {
+
+QString entryOf(int rose) {
+    return QString::number(rose) + QStringLiteral(" - ") + shown(modPolarGraph.FrqRoseTitle(rose));
+}
+
+}  // namespace
+
+frmSelectWindRose::frmSelectWindRose(Host& host, PolarGraph& graph, QWidget* parent)
+    : QDialog(parent), graph_(graph) {
+    setObjectName(QStringLiteral("frmSelectWindRose"));
+    setWindowTitle(QStringLiteral("Select Wind Rose to Plot"));
+    cboWindRoseNumber = new QComboBox;
+    cboWindRoseNumber->setObjectName(QStringLiteral("cboWindRoseNumber"));
+    cboWindRoseNumber->setAccessibleName(windowTitle());
+    cboWindRoseNumber->setMinimumContentsLength(28);
+    cboWindRoseNumber->setMaxVisibleItems(20);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(cboWindRoseNumber);
+    const DialogButtons buttons = addOkCancel(*layout);
+    cmdOk = buttons.ok;
+    fillList();
+    connect(cmdOk, &QPushButton::clicked, this, guarded(host, [this] { cmdOk_Click(); }));
+    connect(buttons.cancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void frmSelectWindRose::fillList() {
+    if (modPolarGraph.FrqRoseCount == 1) {
+        DisableField(*cboWindRoseNumber);
+        cmdOk->setEnabled(false);
+        return;
+    }
+    for (int rose = 1; rose <= modPolarGraph.FrqRoseCount; ++rose) cboWindRoseNumber->addItem(entryOf(rose));
+    cboWindRoseNumber->setCurrentText(entryOf(modPolarGraph.CurrentRose));
+}
+
+void frmSelectWindRose::cmdOk_Click() {
+    const std::string entry = typed(cboWindRoseNumber->currentText());
+    modPolarGraph.CurrentRose = toInt16(split(entry, "-")[0]);
+    modPolarGraph.GraphCaption = modPolarGraph.FrqRoseCaption(modPolarGraph.CurrentRose);
+    graph_.Refresh();
+    accept();
+}
+
+}  // namespace zg
