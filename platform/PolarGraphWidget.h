@@ -3,10 +3,15 @@
 #include <QLabel>
 #include <QScrollBar>
 #include <QWidget>
+#include <functional>
 #include <memory>
 
 #include "graph/control/PolarGraph.h"
 #include "platform/QtCanvas.h"
+
+namespace zg {}  // namespace zg
+
+class QPrinter;
 
 namespace zg {
 
@@ -26,6 +31,9 @@ class PolarGraphWidget : public QWidget, private ControlWindow {
 
     /// What was painted on the page, at the screen's resolution.
     const QImage& pageImage();
+
+    /// Asks for a printer; false is a cancel. Stands for the desktop's dialog where it is replaced.
+    std::function<bool(QPrinter& printer)> askPrinter;
 
     /// Small enough for any window; the page scrolls.
     QSize minimumSizeHint() const override { return {200, 160}; }
@@ -52,6 +60,10 @@ class PolarGraphWidget : public QWidget, private ControlWindow {
     void pagePainted() override;
     void propertyChanged() override {}
     void pointerChanged() override;
+    PicturePointer copyPage(const Rect& part) override;
+    void pictureToClipboard(const Picture& picture) override;
+    void saveBitmap(const Picture& picture, const std::string& path) override;
+    void print(double side, const std::function<void(Canvas&)>& paint) override;
     void showAbout(const std::string& title) override;
     void trackAngleChanged(const std::string& text) override;
     PicturePointer loadPicture(const std::string& path) override;

@@ -35,8 +35,10 @@ class frmMain : public QMainWindow {
     /// picture, and puts zoom, radius and labels at their start. An error ends it where it happens.
     void Form_Load();
 
-    /// Runs the File entry of that index, as a click would: 1 opens an FRQ file.
+    /// Runs the File entry of that index, as a click would: 1 opens an FRQ file, 12 saves the page as a
+    /// bitmap. In batch mode neither asks for a file.
     void mnuFileOption_Click(int Index);
+    void mnuEditOption_Click(int Index);
     void mnuViewAspectOption_Click(int Index);
     void mnuViewZoomSize_Click(int Index);
 
@@ -82,6 +84,7 @@ class frmMain : public QMainWindow {
 
     void openFrqFile();
     void mnuEdit_Open();
+    void showBatchMode();
     void toggleShown(const char* entry, QWidget& bar);
     void viewFrqFile();
     void showAbout();

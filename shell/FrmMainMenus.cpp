@@ -9,6 +9,8 @@
 
 #include "base/Numbers.h"
 #include "base/Paths.h"
+#include "batch/FrmBatchMode.h"
+#include "batch/FrmCreateReport.h"
 #include "platform/BatchStarter.h"
 #include "platform/Errors.h"
 #include "platform/QtText.h"
@@ -26,6 +28,7 @@
 #include "shell/FrmSetWindSpeedClasses.h"
 #include "shell/FrmZoom.h"
 #include "shell/MenuTree.h"
+#include "shell/settings/BatchBitmap.h"
 #include "shell/settings/CfgFile.h"
 #include "shell/settings/Settings.h"
 
@@ -64,6 +67,13 @@ std::map<std::string, std::function<void()>> frmMain::commands() {
     std::map<std::string, std::function<void()>> table = {
         {"mnuFileOption_1", [this] { mnuFileOption_Click(1); }},
         {"mnuFileOption_18", [this] { mnuFileOption_Click(18); }},
+        {"mnuFileOption_12", [this] { mnuFileOption_Click(12); }},
+        {"mnuFileOption_13", [this] { mnuFileOption_Click(13); }},
+        {"mnuFileOption_15", [this] { mnuFileOption_Click(15); }},
+        {"mnuFileOption_16", [this] { mnuFileOption_Click(16); }},
+        {"mnuEditOption_0", [this] { mnuEditOption_Click(0); }},
+        {"mnuEditOption_1", [this] { mnuEditOption_Click(1); }},
+        {"mnuEditOption_3", [this] { mnuEditOption_Click(3); }},
         {"mnuViewFRQFile", [this] { viewFrqFile(); }},
         {"mnuViewToolbar", [this] { toggleShown("mnuViewToolbar", *ui_.tblToolbar); }},
         {"mnuViewToolbox", [this] { toggleShown("mnuViewToolbox", *ui_.fraToolbox); }},
@@ -197,8 +207,47 @@ void frmMain::pressTool(Tool tool) {
 }
 
 void frmMain::mnuFileOption_Click(int Index) {
-    if (Index == 1) openFrqFile();
-    if (Index == 18) QCoreApplication::exit();
+    switch (Index) {
+        case 1:
+            return openFrqFile();
+        case 12:
+            mnuEditOption_Click(1);
+            return mnuEditOption_Click(3);
+        case 13:
+            return showBatchMode();
+        case 15:
+            frmCreateReport(host_, this).exec();
+            return;
+        case 16:
+            return pgPolarGraph().SentToPrinter();
+        case 18:
+            return QCoreApplication::exit();
+        default:
+            return;
+    }
+}
+
+void frmMain::mnuEditOption_Click(int Index) {
+    if (Index == 0) pgPolarGraph().EditCopy();
+    if (Index == 1) {
+        pressTool(Tool::Select);
+        pgPolarGraph().EditSelectAll();
+        followSelection();
+    }
+    if (Index != 3) return;
+    if (settings.BatchMode)
+        pgPolarGraph().EditCopyTo(batchBitmapPath());
+    else
+        pgPolarGraph().EditCopyTo();
+}
+
+void frmMain::showBatchMode() {
+    const BatchHooks hooks{[this] { mnuFileOption_Click(1); },
+                           [this] {
+                               pgPolarGraph().Refresh();
+                               mnuFileOption_Click(12);
+                           }};
+    frmBatchMode(host_, hooks, this).exec();
 }
 
 void frmMain::toggleShown(const char* entry, QWidget& bar) {

@@ -16,6 +16,7 @@
 #include "graph/model/Plot.h"
 #include "graph/model/Polar.h"
 #include "graph/render/Canvas.h"
+#include "graph/render/Curve.h"
 #include "graph/render/PlotSettings.h"
 #include "graph/render/PolarGeometry.h"
 #include "graph/script/ScriptEngine.h"
@@ -56,6 +57,21 @@ class ControlWindow {
 
     /// MousePointer or MouseIcon changed.
     virtual void pointerChanged() = 0;
+
+    /// A copy of that part of what was painted on the page, one pixel a scale unit, without the tools'
+    /// shapes; null for an empty part.
+    virtual PicturePointer copyPage(const Rect& part) = 0;
+
+    /// The clipboard holds nothing but the picture.
+    virtual void pictureToClipboard(const Picture& picture) = 0;
+
+    /// Replaces the file by the picture as an uncompressed bitmap; raises the error of the file, which then
+    /// is what it was.
+    virtual void saveBitmap(const Picture& picture, const std::string& path) = 0;
+
+    /// Asks for a printer and, unless that is cancelled, has one page painted on it: a square of that many
+    /// scale units, as large as the paper takes and centred. Raises 482, "Printer error".
+    virtual void print(double side, const std::function<void(Canvas&)>& paint) = 0;
 
     virtual void showAbout(const std::string& title) = 0;
 
@@ -191,6 +207,21 @@ class PolarGraph {
     /// stays.
     void DrawGraph(std::optional<std::int16_t> index = std::nullopt, bool instantly = false);
 
+    /// The selection, or the whole page without one, goes to the clipboard.
+    void EditCopy();
+
+    /// The whole page becomes a bitmap file: one that is asked for (cancelling ends it silently), or that
+    /// one. Raises the error of the file, which then is what it was.
+    void EditCopyTo();
+    void EditCopyTo(const std::string& path);
+
+    /// Asks for a printer and prints the page, drawn anew at its resolution.
+    void SentToPrinter();
+
+    /// Writes the curves as a text file; an error is told in a box, and the file stays as far as it was
+    /// written.
+    void SaveGraph(const std::string& path);
+
     /// Loads the file into the tables and, if it was accepted, refreshes. The result is always 0; see
     /// lastOpenOutcome. Errors of a broken file reach the caller with the tables partly filled.
     std::int16_t OpenFreqFile(const std::string& path);
@@ -265,6 +296,10 @@ class PolarGraph {
     void resizePage();
     void movePage();
     void arrangeChildren();
+    Rect onPage(const ChildSurface& shape) const;
+    PicturePointer FillBuffer(bool selectionOnly);
+    void paintOn(Canvas& canvas);
+    MarkerPictures markerPictures(const Series& series);
     void endTool();
     void beginTool();
     void showCross(float x, float y);

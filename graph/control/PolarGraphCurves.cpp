@@ -91,11 +91,7 @@ void PolarGraph::sweep(const GrapInfo& graph) {
     // it began with.
     const GrapInfo curve = graph;
     CurveSampler sampler(engine_, curve);
-    MarkerPictures pictures;
-    if (curve.Series.AllowMarker && curve.Series.Marker.UsePicture)
-        pictures = {window_.loadPicture(curve.Series.Marker.PicturePath),
-                    window_.loadPicture(curve.Series.Marker.MaskPicturePath)};
-    CurvePainter painter(curve.Series, pictures, geometry_);
+    CurvePainter painter(curve.Series, markerPictures(curve.Series), geometry_);
     const bool yields = curve.Delay > 0 || curve.Step == 0;
     for (SweepAngles angles(curve); !angles.done(); angles.advance()) {
         const CurvePoint point = sampler.at(angles.angle(), geometry_);

@@ -36,8 +36,10 @@ struct Settings {
     std::string CurrentFrqPath;  ///< file on show, "" before the first
     bool DebugFlag = false;      ///< the tick of the About box; nothing else reads it
 
-    bool BatchMode = false;        ///< the open command takes BatchFRQFilename and asks nothing
-    std::string BatchFRQFilename;  ///< full path
+    bool BatchMode = false;         ///< the open command takes BatchFRQFilename and asks nothing
+    std::string BatchFRQFilename;   ///< full path
+    std::string BatchRootFilename;  ///< in front of the bitmaps' names
+    std::string BatchDirectory;     ///< where the bitmaps go, with its final separator
 };
 
 extern Settings settings;

@@ -9,6 +9,17 @@
 #include "graph/control/PolarGraph.h"
 #include "tests/support/RecordingCanvas.h"
 
+/// A part of a page of which only the size counts.
+class CopiedPage : public zg::Picture {
+ public:
+    explicit CopiedPage(const zg::Rect& part) : part_(part) {}
+    int width() const override { return static_cast<int>(part_.right - part_.left); }
+    int height() const override { return static_cast<int>(part_.bottom - part_.top); }
+
+ private:
+    zg::Rect part_;
+};
+
 /// A window without a toolkit: it keeps what the control asked of it, in order, and its page records.
 class FakeWindow : public zg::ControlWindow {
  public:
@@ -47,6 +58,20 @@ class FakeWindow : public zg::ControlWindow {
     void pagePainted() override { calls.emplace_back("pagePainted"); }
     void propertyChanged() override { calls.emplace_back("propertyChanged"); }
     void pointerChanged() override { calls.emplace_back("pointerChanged"); }
+    zg::PicturePointer copyPage(const zg::Rect& part) override {
+        copied.push_back(part);
+        return std::make_shared<CopiedPage>(part);
+    }
+    void pictureToClipboard(const zg::Picture& picture) override {
+        clipboard.emplace_back(picture.width(), picture.height());
+    }
+    void saveBitmap(const zg::Picture& picture, const std::string& path) override {
+        saved.emplace_back(path, picture.width());
+    }
+    void print(double side, const std::function<void(zg::Canvas&)>& paint) override {
+        printed.resize(side, side);
+        paint(printed);
+    }
     void showAbout(const std::string& title) override { aboutTitle = title; }
     void trackAngleChanged(const std::string& text) override { trackAngles.push_back(text); }
     zg::PicturePointer loadPicture(const std::string& path) override {
@@ -54,6 +79,10 @@ class FakeWindow : public zg::ControlWindow {
         return found == pictures.end() ? nullptr : found->second;
     }
 
+    std::vector<zg::Rect> copied;
+    std::vector<std::pair<int, int>> clipboard;
+    std::vector<std::pair<std::string, int>> saved;
+    RecordingCanvas printed{1, 1};
     std::vector<std::string> trackAngles;
     std::map<std::string, zg::PicturePointer> pictures;
 };

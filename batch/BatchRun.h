@@ -1,0 +1,33 @@
+#pragma once
+
+// The export of every rose of one FRQ file, or of every FRQ file of a directory, as bitmaps. It draws and
+// parses nothing: it drives the commands that the user drives by hand.
+
+#include <functional>
+#include <string>
+
+#include "base/Host.h"
+
+namespace zg {
+
+/// What the run is to do; directories end in their separator.
+struct BatchRequest {
+    bool ofDirectory = false;
+    std::string file;       ///< of a single file's run
+    std::string root;       ///< in front of its bitmaps' names
+    std::string directory;  ///< of FRQ files
+    std::string workDirectory;
+    float percentValidLimit = 0;  ///< lowest percent of valid hours of a rose that is exported
+};
+
+/// The commands of the main window that a run drives.
+struct BatchHooks {
+    std::function<void()> openFrqFile;  ///< takes the run's file without asking
+    std::function<void()> exportRose;   ///< redraws and saves under batchBitmapPath without asking
+};
+
+/// Runs with BatchMode set, which is off again at the end however the end comes about; events are served
+/// after each rose, so that it is seen. Raises what the commands raise.
+void runBatch(Host& host, const BatchRequest& request, const BatchHooks& hooks);
+
+}  // namespace zg

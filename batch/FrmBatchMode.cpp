@@ -1,0 +1,282 @@
+#include "batch/FrmBatchMode.h"
+
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+#include "base/Numbers.h"
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
+#include "base/Text.h"
+#include "graph/frq/ModPolarGraph.h"
+#include "platform/Errors.h"
+#include "platform/FieldMarks.h"
+#include "platform/KeyFilter.h"
+#include "platform/Pickers.h"
+#include "platform/QtText.h"
+#include "processing/Directories.h"
+
+namespace zg {
+
+namespace {
+
+template <typename Control>
+Control* named(Control* control, const char* name) {
+    control->setObjectName(QString::fromLatin1(name));
+    return control;
+}
+
+QPushButton* browseButton(const char* name, const char* what) {
+    auto* button = named(new QPushButton(QStringLiteral("Browse...")), name);
+    button->setAutoDefault(false);
+    button->setAccessibleName(QString::fromLatin1(what));
+    return button;
+}
+
+std::string pathIn(const QLineEdit& field) { return filePath(field.text()); }
+
+void enable(QLineEdit& field, bool enabled) {
+    field.setEnabled(enabled);
+    setFieldMark(field, enabled ? cleanMark : buttonFaceColour);
+}
+
+/// Whole numbers with their sign, and the control keys.
+std::int16_t keyOfLimit(std::int16_t key) {
+    const bool swallowed = (key >= 32 && key <= 44) || key == 46 || key == 47 || (key >= 58 && key <= 127);
+    return swallowed ? std::int16_t{0} : key;
+}
+
+/// Enter goes on to the next field, as Tab does.
+class EnterIsTab : public QObject {
+ public:
+    explicit EnterIsTab(QWidget& field) : QObject(&field), field_(field) { field.installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) return false;
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+        if (QWidget* next = field_.nextInFocusChain()) next->setFocus(Qt::TabFocusReason);
+        return true;
+    }
+
+ private:
+    QWidget& field_;
+};
+
+bool isPercent(const std::string& text) {
+    try {
+        const float value = toSingle(trim(text));
+        return value >= 0 && value <= 100;
+    } catch (const RunTimeError&) {
+        return false;
+    }
+}
+
+}  // namespace
+
+frmBatchMode::frmBatchMode(Host& host, BatchHooks hooks, QWidget* parent)
+    : RunningDialog(host, "frmBatchMode", "Batch Mode", parent), hooks_(std::move(hooks)) {
+    optSingleFRQFile = named(new QRadioButton(QStringLiteral("Single FRQ File")), "optSingleFRQFile");
+    optDirectory = named(new QRadioButton(QStringLiteral("Directory")), "optDirectory");
+    txtSingleFRQFile = named(new QLineEdit, "txtSingleFRQFile");
+    cmdBrowseSingleFRQFile = browseButton("cmdBrowseSingleFRQFile", "Browse for an FRQ file");
+    txtDirectory = named(new QLineEdit, "txtDirectory");
+    cmdBrowseDirectory = browseButton("cmdBrowseDirectory", "Browse for a directory of FRQ files");
+    txtRootFilename = named(new QLineEdit, "txtRootFilename");
+    txtWorkDirectory = named(new QLineEdit, "txtWorkDirectory");
+    cmdBrowseWorkDirectory = browseButton("cmdBrowseWorkDirectory", "Browse for a working directory");
+    txtPercentValidLimit = named(new QLineEdit, "txtPercentValidLimit");
+    cmdBeginBatchMode = named(new QPushButton(QStringLiteral("BEGIN")), "cmdBeginBatchMode");
+    cmdBeginBatchMode->setDefault(true);
+    layOut();
+    followFields();
+    optSingleFRQFile->setChecked(true);
+    txtWorkDirectory->setText(fileName(modPolarGraph.WorkDir));
+    txtSingleFRQFile->setFocus();
+}
+
+void frmBatchMode::layOut() {
+    auto* from = new QGroupBox(QStringLiteral("Export all wind roses in a:"));
+    auto* fromGrid = new QGridLayout(from);
+    fromGrid->addWidget(optSingleFRQFile, 0, 0);
+    fromGrid->addWidget(txtSingleFRQFile, 0, 1);
+    fromGrid->addWidget(cmdBrowseSingleFRQFile, 0, 2);
+    fromGrid->addWidget(optDirectory, 1, 0);
+    fromGrid->addWidget(txtDirectory, 1, 1);
+    fromGrid->addWidget(cmdBrowseDirectory, 1, 2);
+    txtSingleFRQFile->setAccessibleName(optSingleFRQFile->text());
+    txtDirectory->setAccessibleName(optDirectory->text());
+
+    auto* to = new QGroupBox(QStringLiteral("to the following:"));
+    auto* toGrid = new QGridLayout(to);
+    const auto label = [](const char* text, QWidget* buddy) {
+        auto* made = new QLabel(QString::fromLatin1(text));
+        made->setBuddy(buddy);
+        return made;
+    };
+    toGrid->addWidget(label("Working Directory", txtWorkDirectory), 0, 0);
+    toGrid->addWidget(txtWorkDirectory, 0, 1, 1, 2);
+    toGrid->addWidget(cmdBrowseWorkDirectory, 0, 3);
+    toGrid->addWidget(label("Root Filename", txtRootFilename), 1, 0);
+    toGrid->addWidget(txtRootFilename, 1, 1, 1, 2);
+    toGrid->addWidget(label("with Percent Valid Hours Greater Than:", txtPercentValidLimit), 2, 0, 1, 2);
+    txtPercentValidLimit->setMaximumWidth(80);
+    toGrid->addWidget(txtPercentValidLimit, 2, 2);
+    toGrid->addWidget(
+        new QLabel(QStringLiteral("(Note: This option is only enabled for FRQ Data Format 2.1+)")), 3, 0, 1,
+        4);
+    toGrid->setColumnStretch(1, 1);
+    toGrid->setColumnStretch(2, 1);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(lblStatus, 1);
+    buttons->addWidget(cmdBeginBatchMode);
+    buttons->addWidget(cmdCancel);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(from);
+    layout->addWidget(to);
+    layout->addLayout(buttons);
+    resize(600, sizeHint().height());
+}
+
+void frmBatchMode::followFields() {
+    connect(optSingleFRQFile, &QRadioButton::toggled, this, [this](bool chosen) {
+        if (chosen) optSingleFRQFile_Click();
+    });
+    connect(optDirectory, &QRadioButton::toggled, this, [this](bool chosen) {
+        if (chosen) optDirectory_Click();
+    });
+    connect(cmdBrowseSingleFRQFile, &QPushButton::clicked, this,
+            guarded(host_, [this] { cmdBrowseSingleFRQFile_Click(); }));
+    connect(cmdBrowseDirectory, &QPushButton::clicked, this,
+            guarded(host_, [this] { browse(*txtDirectory, "Select a Directory of FRQ Files:"); }));
+    connect(cmdBrowseWorkDirectory, &QPushButton::clicked, this,
+            guarded(host_, [this] { browse(*txtWorkDirectory, "Select a Working Directory:"); }));
+    connect(cmdBeginBatchMode, &QPushButton::clicked, this,
+            guarded(host_, [this] { cmdBeginBatchMode_Click(); }));
+    whenLeft(*txtSingleFRQFile,
+             [this] { clearMark(*txtSingleFRQFile, !txtSingleFRQFile->text().isEmpty()); });
+    whenLeft(*txtDirectory, [this] { leftDirectory(*txtDirectory); });
+    whenLeft(*txtWorkDirectory, [this] { leftDirectory(*txtWorkDirectory); });
+    whenLeft(*txtPercentValidLimit, [this] { leftLimit(); });
+    whenLeft(*cmdBeginBatchMode, [this] {
+        if (lblStatus->text() == QLatin1String("Finished")) lblStatus->clear();
+    });
+    filterKeys(*txtPercentValidLimit, keyOfLimit);
+    new EnterIsTab(*txtPercentValidLimit);
+}
+
+void frmBatchMode::optSingleFRQFile_Click() {
+    enable(*txtSingleFRQFile, true);
+    cmdBrowseSingleFRQFile->setEnabled(true);
+    enable(*txtDirectory, false);
+    cmdBrowseDirectory->setEnabled(false);
+    txtRootFilename->clear();
+    enable(*txtRootFilename, true);
+    lblStatus->clear();
+}
+
+void frmBatchMode::optDirectory_Click() {
+    enable(*txtSingleFRQFile, false);
+    cmdBrowseSingleFRQFile->setEnabled(false);
+    enable(*txtDirectory, true);
+    cmdBrowseDirectory->setEnabled(true);
+    txtRootFilename->setText(QStringLiteral("Root Filename generated from FRQ Filename"));
+    enable(*txtRootFilename, false);
+    lblStatus->clear();
+}
+
+void frmBatchMode::cmdBrowseSingleFRQFile_Click() {
+    const std::string path = ShowFileOpen(host_, "Frequency File (*.frq) | *.frq; |All Files (*.*) | *.*", 1,
+                                          modPolarGraph.WorkDir);
+    if (path.empty()) return;
+    txtSingleFRQFile->setText(fileName(path));
+    clearMark(*txtSingleFRQFile, true);
+    modPolarGraph.WorkDir = DirOf(path);
+    // Only the first character is looked at: nearly every directory gets its final separator this way.
+    if (modPolarGraph.WorkDir.substr(0, 1) != "\\") modPolarGraph.WorkDir += pathSeparator;
+}
+
+void frmBatchMode::browse(QLineEdit& field, const char* prompt) {
+    field.setText(fileName(BrowseForFolder(host_, trim(pathIn(field)), prompt, -1)));
+    leftDirectory(field);
+}
+
+void frmBatchMode::leftDirectory(QLineEdit& field) {
+    if (const std::string path = pathIn(field); !path.empty()) field.setText(fileName(withSeparator(path)));
+    clearMark(field, !field.text().isEmpty());
+}
+
+void frmBatchMode::leftLimit() {
+    clearMark(*txtPercentValidLimit, isPercent(typed(txtPercentValidLimit->text())));
+}
+
+bool frmBatchMode::checkInput() {
+    if (optSingleFRQFile->isChecked()) {
+        if (txtSingleFRQFile->text().isEmpty()) {
+            refuse(*txtSingleFRQFile, "ERROR:  Please select an FRQ File.");
+            return false;
+        }
+        if (!fileExists(pathIn(*txtSingleFRQFile))) {
+            refuse(*txtSingleFRQFile, "ERROR:  FRQ File not found.");
+            return false;
+        }
+        return true;
+    }
+    if (txtDirectory->text().isEmpty()) {
+        refuse(*txtDirectory, "ERROR:  Please select a Directory of FRQ Files.");
+        return false;
+    }
+    if (!IsDirectory(pathIn(*txtDirectory))) {
+        refuse(*txtDirectory, "ERROR:  The selected Directory of FRQ Files does not exist.");
+        return false;
+    }
+    return true;
+}
+
+bool frmBatchMode::checkWorkDirectory() {
+    if (txtWorkDirectory->text().isEmpty()) {
+        refuse(*txtWorkDirectory, "ERROR:  Please select a Working Directory.");
+        return false;
+    }
+    if (IsDirectory(pathIn(*txtWorkDirectory))) return true;
+    MarkInvalid(*txtWorkDirectory);
+    AskCreateWorkDir(host_,
+                     {[this] { ClearInvalid(*txtWorkDirectory); }, [this] { cmdBeginBatchMode_Click(); }},
+                     pathIn(*txtWorkDirectory));
+    return false;
+}
+
+bool frmBatchMode::checkLimit() {
+    if (txtPercentValidLimit->text().isEmpty()) {
+        txtPercentValidLimit->setText(QStringLiteral("0"));
+        return true;
+    }
+    const float limit = toSingle(trim(typed(txtPercentValidLimit->text())));
+    if (limit >= 0 && limit <= 100) return true;
+    refuse(*txtPercentValidLimit, "ERROR: The % Valid Hours Limit value must be between 0% and 100%.");
+    return false;
+}
+
+void frmBatchMode::cmdBeginBatchMode_Click() {
+    // A start by the keyboard leaves no field: the directories get their final separator all the same.
+    leftDirectory(*txtDirectory);
+    leftDirectory(*txtWorkDirectory);
+    if (checkInput() && checkWorkDirectory() && checkLimit()) run([this] { begin(); });
+}
+
+void frmBatchMode::begin() {
+    BatchRequest request;
+    request.ofDirectory = optDirectory->isChecked();
+    request.file = pathIn(*txtSingleFRQFile);
+    request.root = typed(txtRootFilename->text());
+    request.directory = pathIn(*txtDirectory);
+    request.workDirectory = pathIn(*txtWorkDirectory);
+    request.percentValidLimit = toSingle(trim(typed(txtPercentValidLimit->text())));
+    say("Running...");
+    runBatch(host_, request, hooks_);
+    lblStatus->setText(QStringLiteral("Finished"));
+    cmdCancel->setText(QStringLiteral("Exit"));
+}
+
+}  // namespace zg

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QRadioButton>
+
+#include "batch/BatchRun.h"
+#include "batch/RunningDialog.h"
+
+namespace zg {
+
+/// Asks for what a batch export is to do and runs it.
+class frmBatchMode : public RunningDialog {
+    Q_OBJECT
+
+ public:
+    frmBatchMode(Host& host, BatchHooks hooks, QWidget* parent = nullptr);
+
+ private:
+    void layOut();
+    void followFields();
+    void optSingleFRQFile_Click();
+    void optDirectory_Click();
+    void cmdBrowseSingleFRQFile_Click();
+    void browse(QLineEdit& field, const char* prompt);
+    void leftDirectory(QLineEdit& field);
+    void leftLimit();
+    void cmdBeginBatchMode_Click();
+    bool checkInput();
+    bool checkWorkDirectory();
+    bool checkLimit();
+    void begin();
+
+    BatchHooks hooks_;
+    QRadioButton* optSingleFRQFile;
+    QRadioButton* optDirectory;
+    QLineEdit* txtSingleFRQFile;
+    QPushButton* cmdBrowseSingleFRQFile;
+    QLineEdit* txtDirectory;
+    QPushButton* cmdBrowseDirectory;
+    QLineEdit* txtRootFilename;
+    QLineEdit* txtWorkDirectory;
+    QPushButton* cmdBrowseWorkDirectory;
+    QLineEdit* txtPercentValidLimit;
+    QPushButton* cmdBeginBatchMode;
+};
+
+}  // namespace zg

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+#include <QTemporaryDir>
+
+#include "base/Host.h"
+#include "batch/ReportWriter.h"
+
+namespace zg {
+
+/// Writes the report as a flat document, which LibreOffice turns into the binary file without showing itself
+/// and without touching the user's own profile. Events are served meanwhile.
+class OfficeReportWriter : public ReportWriter {
+ public:
+    explicit OfficeReportWriter(Host& host) : host_(host) {}
+
+    void beginPresentation() override;
+    void addSlide(const std::string& picture, float left, float top, float width, float height) override;
+    void savePresentation(const std::string& path) override;
+    void beginDocument() override;
+    void addPicture(const std::string& picture) override;
+    void addPageBreak() override;
+    void saveDocument(const std::string& path) override;
+
+    /// The office program; "" looks for it on the machine.
+    QString program;
+    /// Milliseconds that it may take.
+    int patience = 600'000;
+
+ private:
+    void begin(const char* head);
+    void write(const QByteArray& part);
+    void save(const std::string& path, const char* tail, const char* filter, const char* extension);
+    void runOffice(const QStringList& arguments);
+
+    Host& host_;
+    std::unique_ptr<QTemporaryDir> scratch_;
+    bool breakBefore_ = false;
+};
+
+}  // namespace zg

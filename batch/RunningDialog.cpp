@@ -1,0 +1,71 @@
+#include "batch/RunningDialog.h"
+
+#include <QEvent>
+
+#include "platform/Errors.h"
+#include "platform/FieldMarks.h"
+#include "platform/QtText.h"
+#include "processing/Wait.h"
+
+namespace zg {
+
+RunningDialog::RunningDialog(Host& host, const char* name, const char* title, QWidget* parent)
+    : QDialog(parent), host_(host), lblStatus(new QLabel), cmdCancel(new QPushButton) {
+    setObjectName(QString::fromLatin1(name));
+    setWindowTitle(QString::fromLatin1(title));
+    lblStatus->setObjectName(QStringLiteral("lblStatus"));
+    lblStatus->setTextFormat(Qt::PlainText);
+    lblStatus->setWordWrap(true);
+    lblStatus->setMinimumHeight(2 * lblStatus->fontMetrics().height());
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    cmdCancel->setText(QStringLiteral("Cancel"));
+    cmdCancel->setAutoDefault(false);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void RunningDialog::reject() {
+    if (!running_) QDialog::reject();
+}
+
+void RunningDialog::run(const std::function<void()>& work) {
+    if (running_) return;
+    running_ = true;
+    const QString before = lblStatus->text();
+    try {
+        work();
+    } catch (...) {
+        lblStatus->setText(before);
+        showError(host_, std::current_exception());
+    }
+    running_ = false;
+}
+
+void RunningDialog::refuse(QWidget& field, const char* text) {
+    lblStatus->setText(QString::fromLatin1(text));
+    MarkInvalid(field);
+}
+
+void RunningDialog::whenLeft(QWidget& field, std::function<void()> action) {
+    leaving_.emplace_back(&field, std::move(action));
+    field.installEventFilter(this);
+}
+
+bool RunningDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusOut)
+        for (const auto& [field, action] : leaving_)
+            if (field == watched) guarded(host_, action)();
+    return QDialog::eventFilter(watched, event);
+}
+
+void RunningDialog::clearMark(QWidget& field, bool filled) {
+    if (fieldMark(field) != yellowMark || !filled) return;
+    ClearInvalid(field);
+    lblStatus->clear();
+}
+
+void RunningDialog::say(const char* status) {
+    lblStatus->setText(QString::fromLatin1(status));
+    WaitMs(host_, 1);
+}
+
+}  // namespace zg

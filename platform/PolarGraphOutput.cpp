@@ -1,0 +1,71 @@
+// Copies of the page: clipboard, bitmap file, printer.
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QSaveFile>
+
+#include "base/RunTimeError.h"
+#include "platform/PolarGraphWidget.h"
+#include "platform/QtPicture.h"
+#include "platform/QtText.h"
+
+namespace zg {
+
+namespace {
+
+constexpr int printerError = 482;
+
+const QImage& imageOf(const Picture& picture) { return static_cast<const QtPicture&>(picture).image(); }
+
+}  // namespace
+
+PicturePointer PolarGraphWidget::copyPage(const Rect& part) {
+    const QRect area(
+        QPoint(static_cast<int>(part.left), static_cast<int>(part.top)),
+        QSize(static_cast<int>(part.right - part.left), static_cast<int>(part.bottom - part.top)));
+    if (area.isEmpty()) return nullptr;
+    QImage page = pageImage();
+    if (page.devicePixelRatio() != 1) {
+        // A screen of higher resolution has more pixels a unit than the picture.
+        page = page.scaled(page.deviceIndependentSize().toSize(), Qt::IgnoreAspectRatio,
+                           Qt::SmoothTransformation);
+        page.setDevicePixelRatio(1);
+    }
+    return std::make_shared<QtPicture>(area == page.rect() ? page : page.copy(area));
+}
+
+void PolarGraphWidget::pictureToClipboard(const Picture& picture) {
+    QGuiApplication::clipboard()->clear();
+    QGuiApplication::clipboard()->setImage(imageOf(picture));
+}
+
+void PolarGraphWidget::saveBitmap(const Picture& picture, const std::string& path) {
+    QSaveFile file(fileName(path));
+    if (file.open(QIODevice::WriteOnly) && imageOf(picture).save(&file, "BMP") && file.commit()) return;
+    const bool full = file.error() == QFileDevice::ResourceError || file.error() == QFileDevice::WriteError;
+    const auto number = full ? ErrorNumber::DiskFull : ErrorNumber::PathFileAccessError;
+    throw RunTimeError(static_cast<int>(number), std::string(errorDescription(number)) + ": " + path + " (" +
+                                                     file.errorString().toStdString() + ")");
+}
+
+void PolarGraphWidget::print(double side, const std::function<void(Canvas&)>& paint) {
+    QPrinter printer(QPrinter::HighResolution);
+    const bool agreed =
+        askPrinter ? askPrinter(printer) : QPrintDialog(&printer, window()).exec() == QDialog::Accepted;
+    if (!agreed) return;
+    QPainter painter;
+    if (!painter.begin(&printer)) throw RunTimeError(printerError, "Printer error");
+    const QRectF paper = printer.pageLayout().paintRectPixels(printer.resolution());
+    const double scale = std::min(paper.width(), paper.height()) / side;
+    painter.translate((paper.width() - scale * side) / 2, (paper.height() - scale * side) / 2);
+    painter.scale(scale, scale);
+    {
+        QtCanvas canvas(painter, side, side);
+        paint(canvas);
+    }
+    if (!painter.end()) throw RunTimeError(printerError, "Printer error");
+}
+
+}  // namespace zg

@@ -1,0 +1,169 @@
+#include "batch/BatchRun.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "base/RunTimeError.h"
+#include "graph/frq/ModPolarGraph.h"
+#include "shell/settings/BatchBitmap.h"
+#include "shell/settings/Settings.h"
+#include "tests/support/TempDirectory.h"
+#include "tests/support/TestHost.h"
+
+namespace zg {
+namespace {
+
+/// Stands in for the main window's commands: a load gives tables by the file's name.
+class BatchRun : public ::testing::Test {
+ protected:
+    void SetUp() override {
+        modPolarGraph = ModPolarGraph();
+        settings = Settings();
+        request_.workDirectory = directory_.path() + "/out/";
+        request_.file = "/data/one.frq";
+    }
+
+    void roses(const char* version, std::vector<float> percentValid) {
+        modPolarGraph.FrqVersion = version;
+        modPolarGraph.FrqRoseCount = static_cast<std::int16_t>(percentValid.size());
+        modPolarGraph.FrqRoseTitle.redim(percentValid.size());
+        modPolarGraph.FrqRoseCaption.redim(percentValid.size());
+        modPolarGraph.FrqPercentValid.clear();
+        const bool known = std::string(version) != "2.0";
+        if (known) modPolarGraph.FrqPercentValid.redim(percentValid.size());
+        for (std::size_t i = 0; i < percentValid.size(); ++i) {
+            const auto rose = static_cast<std::int64_t>(i + 1);
+            modPolarGraph.FrqRoseTitle(rose) = "Rose" + std::to_string(rose);
+            modPolarGraph.FrqRoseCaption(rose) = "Caption" + std::to_string(rose);
+            if (known) modPolarGraph.FrqPercentValid(rose) = percentValid[i];
+        }
+    }
+    void run() {
+        runBatch(host_, request_,
+                 {[this] {
+                      EXPECT_TRUE(settings.BatchMode);
+                      opened_.push_back(settings.BatchFRQFilename);
+                      if (load_) load_();
+                  },
+                  [this] {
+                      saved_.push_back(batchBitmapPath());
+                      captions_.push_back(modPolarGraph.GraphCaption);
+                  }});
+    }
+    std::vector<std::string> names() const {
+        std::vector<std::string> out;
+        for (const std::string& path : saved_) out.push_back(path.substr(request_.workDirectory.size()));
+        return out;
+    }
+
+    TempDirectory directory_;
+    TestHost host_;
+    BatchRequest request_;
+    std::function<void()> load_;
+    std::vector<std::string> opened_;
+    std::vector<std::string> saved_;
+    std::vector<std::string> captions_;
+};
+
+using Names = std::vector<std::string>;
+
+TEST_F(BatchRun, EveryRoseOfAFileIsExportedInOrderUnderItsRoot) {
+    load_ = [this] { roses("2.2", {90, 80}); };
+    request_.root = "Run1_";
+    run();
+    EXPECT_EQ(opened_, Names{"/data/one.frq"});
+    EXPECT_EQ(names(), (Names{"Run1_Rose1.bmp", "Run1_Rose2.bmp"}));
+    EXPECT_EQ(captions_, (Names{"Caption1", "Caption2"}));
+    EXPECT_FALSE(settings.BatchMode);
+    EXPECT_EQ(modPolarGraph.WorkDir, request_.workDirectory);
+    EXPECT_EQ(host_.pumps, 2) << "each rose is seen";
+}
+
+TEST_F(BatchRun, ARoseAtTheLimitIsExportedOneBelowIsNot) {
+    load_ = [this] { roses("2.1", {50, 49.9F, 100}); };
+    request_.percentValidLimit = 50;
+    run();
+    EXPECT_EQ(names(), (Names{"Rose1.bmp", "Rose3.bmp"}));
+    EXPECT_EQ(modPolarGraph.CurrentRose, 3);
+}
+
+TEST_F(BatchRun, TheLastIndexTriedStays) {
+    load_ = [this] { roses("2.3", {100, 10}); };
+    request_.percentValidLimit = 50;
+    run();
+    EXPECT_EQ(modPolarGraph.CurrentRose, 2) << "whether or not it was exported";
+}
+
+TEST_F(BatchRun, Version20IgnoresTheLimitAndOlderOnesAreNotExported) {
+    load_ = [this] { roses("2.0", {0, 0}); };
+    request_.percentValidLimit = 50;
+    run();
+    EXPECT_EQ(saved_.size(), 2U);
+    saved_.clear();
+    load_ = [this] { roses("1.9", {100}); };
+    run();
+    EXPECT_TRUE(saved_.empty());
+}
+
+TEST_F(BatchRun, ALimitOf100TakesOnlyFullRoses) {
+    load_ = [this] { roses("2.2", {99.9F, 100}); };
+    request_.percentValidLimit = 100;
+    run();
+    EXPECT_EQ(names(), Names{"Rose2.bmp"});
+}
+
+TEST_F(BatchRun, ADirectoryIsTakenFileByFileUnderTheirNames) {
+    for (const char* name : {"B.FRQ", "A.frq", "other.txt"}) directory_.write(name, "");
+    request_.ofDirectory = true;
+    request_.directory = directory_.path() + "/";
+    load_ = [this] { roses("2.2", {100}); };
+    run();
+    EXPECT_EQ(opened_, (Names{directory_.file("A.frq"), directory_.file("B.FRQ")}));
+    EXPECT_EQ(names(), (Names{"A_Rose1.bmp", "B_Rose1.bmp"}));
+    EXPECT_EQ(settings.BatchFRQFilename, "");
+    EXPECT_EQ(settings.BatchRootFilename, "");
+}
+
+TEST_F(BatchRun, AnEmptyDirectoryExportsNothing) {
+    std::filesystem::create_directory(directory_.file("empty"));
+    request_.ofDirectory = true;
+    request_.directory = directory_.file("empty") + "/";
+    run();
+    EXPECT_TRUE(opened_.empty());
+    EXPECT_TRUE(saved_.empty());
+}
+
+TEST_F(BatchRun, ARefusedFileExportsTheRosesInMemoryUnderItsRoot) {
+    roses("2.2", {100});
+    request_.root = "New_";
+    run();
+    EXPECT_EQ(names(), Names{"New_Rose1.bmp"});
+}
+
+TEST_F(BatchRun, AnErrorEndsTheRunAndBatchModeIsOff) {
+    modPolarGraph.FrqRoseCount = 1;
+    modPolarGraph.FrqVersion = "";
+    EXPECT_THROW(run(), RunTimeError) << "nothing was loaded before the first file was refused";
+    EXPECT_FALSE(settings.BatchMode);
+}
+
+TEST_F(BatchRun, TitlesThatAreNoFileNamesStayWithinTheDirectory) {
+    load_ = [this] {
+        roses("2.2", {100, 100, 100, 100});
+        modPolarGraph.FrqRoseTitle(1) = "Hours 01/06";
+        modPolarGraph.FrqRoseTitle(2) = "..";
+        modPolarGraph.FrqRoseTitle(3) = "../../up  ";
+        modPolarGraph.FrqRoseTitle(4) = "Hours 01/06";
+    };
+    run();
+    EXPECT_EQ(names(), (Names{"Hours 01_06.bmp", "...bmp", ".._.._up  .bmp", "Hours 01_06.bmp"}))
+        << "trailing blanks stay, and titles that repeat replace each other";
+}
+
+TEST_F(BatchRun, NamesLoseOnlyWhatFilesCannotBeCalled) {
+    EXPECT_EQ(asFileName(std::string_view("a/b\\c\0d e.f", 11)), "a_b_c_d e.f");
+}
+
+}  // namespace
+}  // namespace zg

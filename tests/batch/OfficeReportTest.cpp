@@ -1,0 +1,177 @@
+// Reports made by the real office, opened again.
+
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QProcess>
+#include <filesystem>
+
+#include "base/RunTimeError.h"
+#include "batch/OfficeReportWriter.h"
+#include "tests/support/TempDirectory.h"
+#include "tests/support/TestHost.h"
+
+namespace zg {
+namespace {
+
+class OfficeReport : public ::testing::Test {
+ protected:
+    /// A picture of its own colours.
+    std::string picture(const char* name, QSize size, QRgb colour) {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(colour);
+        for (int i = 0; i < 40; ++i)
+            image.setPixel(i * 3 % size.width(), i * 7 % size.height(), qRgb(i, 255 - i, 9));
+        const std::string path = directory_.file(name);
+        EXPECT_TRUE(image.save(QString::fromStdString(path), "BMP"));
+        return path;
+    }
+    /// The report in a form that can be read, beside it.
+    std::string opened(const std::string& report, const char* kind) {
+        QProcess office;
+        office.start("soffice",
+                     {QString::fromStdString("-env:UserInstallation=file://" + directory_.file("profile")),
+                      "--headless", "--convert-to", kind, "--outdir",
+                      QString::fromStdString(directory_.path()), QString::fromStdString(report)});
+        EXPECT_TRUE(office.waitForFinished(120'000));
+        return std::filesystem::path(report).stem().string() + "." + kind;
+    }
+    static int count(const std::string& text, const std::string& part) {
+        int found = 0;
+        for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++found;
+        return found;
+    }
+    /// The value of an attribute at its n-th appearance behind a place in points.
+    static double points(const std::string& text, const std::string& attribute, std::size_t from = 0) {
+        const std::size_t at = text.find(attribute + "=\"", from) + attribute.size() + 2;
+        const double value = std::stod(text.substr(at));
+        const std::string unit = text.substr(text.find_first_not_of("0123456789.-", at), 2);
+        return unit == "in" ? value * 72 : (unit == "cm" ? value * 72 / 2.54 : value);
+    }
+    static std::vector<QImage> pictures(const std::string& text) {
+        std::vector<QImage> images;
+        const std::string start = "<office:binary-data>";
+        for (std::size_t at = text.find(start); at != std::string::npos; at = text.find(start, at + 1)) {
+            const std::size_t from = at + start.size();
+            const std::string data = text.substr(from, text.find('<', from) - from);
+            images.push_back(QImage::fromData(QByteArray::fromBase64(QByteArray::fromStdString(data))));
+        }
+        return images;
+    }
+
+    TempDirectory directory_;
+    TestHost host_;
+    OfficeReportWriter writer_{host_};
+};
+
+TEST_F(OfficeReport, ASlideShowIsRealAndHasItsPicturesInPlace) {
+    const std::string first = picture("a.bmp", {60, 60}, qRgb(200, 10, 20));
+    const std::string second = picture("b.bmp", {80, 40}, qRgb(10, 200, 20));
+    writer_.beginPresentation();
+    for (const std::string& each : {first, second}) writer_.addSlide(each, 102.12F, 0, 539.88F, 539.88F);
+    writer_.savePresentation(directory_.file("show.ppt"));
+    EXPECT_GT(host_.pumps, 0) << "the window stays alive";
+    const std::string bytes = directory_.read("show.ppt");
+    EXPECT_EQ(bytes.substr(0, 4), "\xD0\xCF\x11\xE0");
+    std::string stream;
+    for (const char letter : std::string("PowerPoint Document")) stream += std::string{letter, '\0'};
+    EXPECT_NE(bytes.find(stream), std::string::npos);
+    const std::string text = directory_.read(opened(directory_.file("show.ppt"), "fodp"));
+    EXPECT_EQ(count(text, "<draw:page "), 2);
+    const std::size_t master = text.find("<style:master-page ");
+    const std::size_t nameAt = text.find("style:page-layout-name=\"", master) + 24;
+    const std::string layoutName = text.substr(nameAt, text.find('"', nameAt) - nameAt);
+    const std::size_t layout = text.find("<style:page-layout style:name=\"" + layoutName + "\"");
+    EXPECT_NEAR(points(text, "fo:page-width", layout), 720, 0.1);
+    EXPECT_NEAR(points(text, "fo:page-height", layout), 540, 0.1);
+    std::size_t at = 0;
+    for (int slide = 0; slide < 2; ++slide) {
+        at = text.find("<draw:page ", at + 1);
+        const std::size_t frame = text.find("<draw:frame ", at);
+        EXPECT_NEAR(points(text, "svg:x", frame), 102.12, 0.2);
+        EXPECT_NEAR(points(text, "svg:y", frame), 0, 0.1);
+        EXPECT_NEAR(points(text, "svg:width", frame), 539.88, 0.2);
+        EXPECT_NEAR(points(text, "svg:height", frame), 539.88, 0.2);
+    }
+    const auto images = pictures(text);
+    ASSERT_EQ(images.size(), 2U);
+    EXPECT_EQ(images[0].convertToFormat(QImage::Format_RGB32),
+              QImage(QString::fromStdString(first)).convertToFormat(QImage::Format_RGB32));
+    EXPECT_EQ(images[1].convertToFormat(QImage::Format_RGB32),
+              QImage(QString::fromStdString(second)).convertToFormat(QImage::Format_RGB32));
+}
+
+TEST_F(OfficeReport, ADocumentHasAsManyPagesAsPicturesInTheirOwnSize) {
+    const std::string first = picture("a.bmp", {600, 600}, qRgb(200, 10, 20));
+    const std::string second = picture("b.bmp", {96, 48}, qRgb(10, 200, 20));
+    writer_.beginDocument();
+    writer_.addPicture(first);
+    writer_.addPageBreak();
+    writer_.addPicture(second);
+    writer_.saveDocument(directory_.file("pages.doc"));
+    const std::string bytes = directory_.read("pages.doc");
+    std::string stream;
+    for (const char letter : std::string("WordDocument")) stream += std::string{letter, '\0'};
+    EXPECT_NE(bytes.find(stream), std::string::npos);
+    EXPECT_EQ(count(directory_.read(opened(directory_.file("pages.doc"), "pdf")), "/Type/Page/"), 2);
+    const std::string text = directory_.read(opened(directory_.file("pages.doc"), "fodt"));
+    const std::size_t frame = text.find("<draw:frame ");
+    EXPECT_NEAR(points(text, "svg:width", frame), 450, 0.5);
+    EXPECT_NEAR(points(text, "svg:height", text.find("<draw:frame ", frame + 1)), 36, 0.5);
+    EXPECT_EQ(count(text, "text:anchor-type=\"as-char\""), 2);
+    const auto images = pictures(text);
+    ASSERT_EQ(images.size(), 2U);
+    EXPECT_EQ(images[0].convertToFormat(QImage::Format_RGB32),
+              QImage(QString::fromStdString(first)).convertToFormat(QImage::Format_RGB32));
+}
+
+TEST_F(OfficeReport, AMissingOfficeIsToldAndNothingIsLeft) {
+    writer_.program = "/nowhere/soffice";
+    writer_.beginPresentation();
+    EXPECT_THROW(writer_.savePresentation(directory_.file("show.ppt")), RunTimeError);
+    EXPECT_TRUE(std::filesystem::is_empty(directory_.path()));
+}
+
+TEST_F(OfficeReport, AnOfficeThatFailsOrHangsIsToldAndTheOldReportStays) {
+    directory_.write("show.ppt", "old");
+    const std::string crash = directory_.write("crash", "#!/bin/sh\nkill -SEGV $$\n");
+    const std::string hang = directory_.write("hang", "#!/bin/sh\nexec sleep 60\n");
+    const std::string idle = directory_.write("idle", "#!/bin/sh\nexit 0\n");
+    for (const std::string& program : {crash, hang, idle}) {
+        std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+        writer_.program = QString::fromStdString(program);
+        writer_.patience = 200;
+        writer_.beginPresentation();
+        EXPECT_THROW(writer_.savePresentation(directory_.file("show.ppt")), RunTimeError) << program;
+        EXPECT_EQ(directory_.read("show.ppt"), "old");
+    }
+}
+
+TEST_F(OfficeReport, AFileThatIsNoPictureIsNamed) {
+    writer_.beginPresentation();
+    const std::string bad = directory_.write("bad.bmp", "no");
+    try {
+        writer_.addSlide(bad, 0, 0, 1, 1);
+        FAIL();
+    } catch (const RunTimeError& error) {
+        EXPECT_NE(error.description.find(bad), std::string::npos);
+    }
+}
+
+TEST_F(OfficeReport, ATargetThatCannotBeWrittenIsNamed) {
+    writer_.program =
+        QString::fromStdString(directory_.write("office",
+                                                "#!/bin/sh\nwhile [ $# -gt 1 ]; do [ \"$1\" = --outdir ] && "
+                                                "out=$2; shift; done\necho x > \"$out/report.ppt\"\n"));
+    std::filesystem::permissions(directory_.file("office"), std::filesystem::perms::owner_all);
+    writer_.beginPresentation();
+    try {
+        writer_.savePresentation(directory_.file("no/such/show.ppt"));
+        FAIL();
+    } catch (const RunTimeError& error) {
+        EXPECT_NE(error.description.find("no/such/show.ppt"), std::string::npos);
+    }
+}
+
+}  // namespace
+}  // namespace zg
