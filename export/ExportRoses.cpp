@@ -1,23 +1,26 @@
 #include "export/ExportRoses.h"
 
-#include <QCoreApplication>
-#include <QSaveFile>
+#include <atomic>
 #include <filesystem>
+#include <map>
+#include <memory>
 #include <ostream>
 
+#include "base/Host.h"
 #include "base/Numbers.h"
 #include "base/Paths.h"
-#include "base/RunTimeError.h"
+#include "export/ProgressBar.h"
+#include "export/RosePicture.h"
 #include "export/TablesJson.h"
+#include "export/WorkQueue.h"
 #include "graph/control/CreatePolar.h"
 #include "graph/frq/OpenFreqFile.h"
-#include "graph/render/RedrawGraph.h"
-#include "platform/QtCanvas.h"
-#include "platform/QtText.h"
 
 namespace zg {
 
 namespace {
+
+std::atomic<bool> stopped = false;
 
 /// There is nobody to ask: what a box would say goes to the error stream.
 class StreamHost : public Host {
@@ -47,14 +50,36 @@ struct ExportFailure {
     int status = exportFailed;
 };
 
-struct RoseRange {
-    int first = 1;
-    int last = 0;
-};
+std::string stemOf(const std::string& file) { return std::filesystem::path(file).stem().string(); }
 
-RoseRange askedRoses(const ExportJob& job, int roseCount) {
-    if (roseCount == 0) throw ExportFailure{job.file + ": the file holds no rose, all data are missing"};
-    if (job.rose == "all") return {1, roseCount};
+/// The files of the inputs; those of a directory in the order of their names.
+std::vector<std::string> filesOf(const ExportJob& job) {
+    std::vector<std::string> files;
+    for (const std::string& input : job.inputs) {
+        if (!IsDirectory(input)) {
+            files.push_back(input);
+            continue;
+        }
+        const std::filesystem::path directory(input);
+        const auto names = filesMatching((directory / "*.frq").string());
+        if (names.empty()) throw ExportFailure{input + ": the directory holds no FRQ file"};
+        for (const std::string& name : names) files.push_back((directory / name).string());
+    }
+    std::map<std::string, std::string> fileOfStem;
+    for (const std::string& file : files)
+        if (const auto [other, fresh] = fileOfStem.try_emplace(stemOf(file), file); !fresh)
+            throw ExportFailure{file + ": its pictures would have the names of those of " + other->second,
+                                exportWrongUsage};
+    return files;
+}
+
+std::vector<int> askedRoses(const ExportJob& job, const std::string& file, int roseCount) {
+    if (roseCount == 0) throw ExportFailure{file + ": the file holds no rose, all data are missing"};
+    std::vector<int> roses;
+    if (job.rose == "all") {
+        for (int rose = 1; rose <= roseCount; ++rose) roses.push_back(rose);
+        return roses;
+    }
     int rose = 0;
     try {
         rose = toInt32(job.rose);
@@ -62,34 +87,23 @@ RoseRange askedRoses(const ExportJob& job, int roseCount) {
         throw ExportFailure{"--rose: " + job.rose + " is neither a number nor all", exportWrongUsage};
     }
     if (rose < 1 || rose > roseCount)
-        throw ExportFailure{"--rose: " + job.file + " has the roses 1 to " + std::to_string(roseCount) +
+        throw ExportFailure{"--rose: " + file + " has the roses 1 to " + std::to_string(roseCount) +
                                 ", there is no rose " + std::to_string(rose),
                             exportWrongUsage};
-    return {rose, rose};
+    return {rose};
 }
 
-std::string pictureName(const ExportJob& job, int rose, int roseCount) {
+/// As the batch export of the window decides it: version 2.0 knows no percentage of valid hours.
+bool isValidEnough(const ModPolarGraph& tables, int rose, float limit) {
+    if (tables.FrqVersion == "2.0") return true;
+    return toSingle(tables.FrqVersion) >= 2.1F && !(tables.FrqPercentValid(rose) < limit);
+}
+
+std::string pictureName(const ExportJob& job, const std::string& file, int rose, int roseCount) {
     std::string number = format00(rose);
     const std::size_t digits = std::to_string(roseCount).size();
     if (number.size() < digits) number.insert(0, digits - number.size(), '0');
-    return std::filesystem::path(job.file).stem().string() + "_" + number + "." + job.format;
-}
-
-QImage drawRose(const ExportJob& job, int rose, Polar& polar, ModPolarGraph& tables) {
-    tables.CurrentRose = static_cast<std::int16_t>(rose);
-    tables.GraphCaption = tables.FrqRoseCaption(rose);
-    QImage page = makePageImage(job.sizePixels, job.sizePixels);
-    QtCanvas canvas(page, job.sizePixels, job.sizePixels);
-    PolarGeometry geometry;
-    redrawFrame(PlotSettings{}, polar, tables, canvas, geometry);
-    return page;
-}
-
-void savePicture(const QImage& page, const std::string& path, const std::string& format) {
-    QSaveFile file(fileName(path));
-    if (!file.open(QIODevice::WriteOnly) || !page.save(&file, format == "png" ? "PNG" : "BMP") ||
-        !file.commit())
-        throw ExportFailure{path + ": " + file.errorString().toStdString()};
+    return stemOf(file) + "_" + number + "." + job.format;
 }
 
 void makeDirectory(const std::string& directory) {
@@ -98,42 +112,121 @@ void makeDirectory(const std::string& directory) {
     if (error && !IsDirectory(directory)) throw ExportFailure{directory + ": " + error.message()};
 }
 
-void drawRoses(const ExportJob& job, Polar& polar, ModPolarGraph& tables, std::ostream& out) {
-    const RoseRange roses = askedRoses(job, tables.FrqRoseCount);
-    makeDirectory(job.directory);
-    for (int rose = roses.first; rose <= roses.last; ++rose) {
-        const std::string path =
-            (std::filesystem::path(job.directory) / pictureName(job, rose, tables.FrqRoseCount)).string();
-        savePicture(drawRose(job, rose, polar, tables), path, job.format);
-        out << path << '\n';
+/// One run: loads file after file and hands their roses to the workers.
+class Export {
+ public:
+    Export(const ExportJob& job, std::ostream& out, std::ostream& errors)
+        : job_(job),
+          out_(out),
+          errors_(errors),
+          host_(errors),
+          bar_(errors, job.progress),
+          queue_(job.jobs, [this](const WorkQueue::Result& result) { tell(result); }) {}
+
+    int run() {
+        const std::vector<std::string> files = filesOf(job_);
+        for (std::size_t i = 0; i < files.size() && !stopped; ++i) {
+            bar_.show(i, files.size(), drawn_);
+            exportFile(files[i], files.size() == 1);
+        }
+        queue_.finish();
+        bar_.clear();
+        if (stopped) throw ExportFailure{"the run was stopped after " + std::to_string(drawn_) + " pictures"};
+        return failed_ ? exportFailed : exportDone;
     }
-}
+
+ private:
+    /// The only file of a run fails with it; one of several is told, and the others go on.
+    void exportFile(const std::string& file, bool only) {
+        try {
+            loadAndDraw(file);
+        } catch (const ExportFailure& failure) {
+            if (only || failure.status == exportWrongUsage) throw;
+            fail(failure.text);
+        } catch (const RunTimeError& error) {
+            fail(file + (error.where.empty() ? "" : ":") + error.where + ": " + error.description +
+                 " (error " + std::to_string(error.number) + ")");
+        }
+    }
+
+    void loadAndDraw(const std::string& file) {
+        auto tables = std::make_shared<ModPolarGraph>();
+        const auto polar = std::make_shared<const Polar>(createPolar(*tables));
+        bar_.clear();
+        if (loadFreqFile(file, *tables, host_) == FreqFileOutcome::Refused) {
+            failed_ = true;
+            return;
+        }
+        if (job_.tables) {
+            out_ << tablesAsJson(*tables) << '\n';
+            return;
+        }
+        const std::vector<int> roses = askedRoses(job_, file, tables->FrqRoseCount);
+        makeDirectory(job_.directory);
+        for (const int rose : roses)
+            if (!stopped && isValidEnough(*tables, rose, job_.minValid)) addRose(tables, polar, file, rose);
+    }
+
+    void addRose(const std::shared_ptr<const ModPolarGraph>& tables,
+                 const std::shared_ptr<const Polar>& polar, const std::string& file, int rose) {
+        const std::string path =
+            (std::filesystem::path(job_.directory) / pictureName(job_, file, rose, tables->FrqRoseCount))
+                .string();
+        queue_.add([this, tables, polar, path, rose]() -> WorkQueue::Result {
+            if (stopped) return {};
+            try {
+                ModPolarGraph own = *tables;  // drawing turns to a rose and rebuilds the legend's limits
+                std::string fault = drawRosePicture(own, *polar, rose, path, job_.format, job_.sizePixels);
+                return fault.empty() ? WorkQueue::Result{path, {}} : WorkQueue::Result{{}, std::move(fault)};
+            } catch (const RunTimeError& error) {
+                return {{},
+                        path + ": " + error.description + " (error " + std::to_string(error.number) + ")"};
+            }
+        });
+    }
+
+    void tell(const WorkQueue::Result& result) {
+        if (!result.failed.empty()) fail(result.failed);
+        if (result.done.empty()) return;
+        ++drawn_;
+        bar_.clear();
+        out_ << result.done << '\n';
+    }
+
+    void fail(const std::string& text) {
+        bar_.clear();
+        errors_ << text << '\n';
+        failed_ = true;
+    }
+
+    const ExportJob& job_;
+    std::ostream& out_;
+    std::ostream& errors_;
+    StreamHost host_;
+    ProgressBar bar_;
+    std::size_t drawn_ = 0;
+    bool failed_ = false;
+    WorkQueue queue_;
+};
 
 }  // namespace
 
+void stopExport() { stopped = true; }
+
 int runExport(const ExportJob& job, std::ostream& out, std::ostream& errors) {
-    StreamHost host(errors);
-    ModPolarGraph& tables = modPolarGraph;
+    stopped = false;
+    int status = exportDone;
     try {
-        Polar polar = createPolar(tables);
-        if (loadFreqFile(job.file, tables, host) == FreqFileOutcome::Refused) return exportFailed;
-        if (job.tables)
-            out << tablesAsJson(tables) << '\n';
-        else
-            drawRoses(job, polar, tables, out);
+        status = Export(job, out, errors).run();
     } catch (const ExportFailure& failure) {
         errors << failure.text << '\n';
         return failure.status;
-    } catch (const RunTimeError& error) {
-        errors << job.file << (error.where.empty() ? "" : ":") << error.where << ": " << error.description
-               << " (error " << error.number << ")\n";
-        return exportFailed;
     }
     if (!out.flush()) {
         errors << "standard output: the result could not be written\n";
         return exportFailed;
     }
-    return exportDone;
+    return status;
 }
 
 }  // namespace zg

@@ -2,6 +2,7 @@
 
 #include <iosfwd>
 #include <string>
+#include <vector>
 
 namespace zg {
 
@@ -11,19 +12,28 @@ constexpr int exportWrongUsage = 2;
 
 constexpr int smallestExport = 16;
 constexpr int largestExport = 16384;
+constexpr int mostJobs = 256;
 
 struct ExportJob {
-    std::string file;
-    std::string rose = "all";    ///< a number from 1, or "all"
-    int sizePixels = 600;        ///< smallestExport to largestExport
-    std::string format = "png";  ///< "png" or "bmp"
+    std::vector<std::string> inputs;  ///< FRQ files, and directories of them
+    std::string rose = "all";         ///< a number from 1, or "all"
+    int sizePixels = 600;             ///< smallestExport to largestExport
+    std::string format = "png";       ///< "png", "bmp", "svg" or "pdf"
     std::string directory = ".";
-    bool tables = false;  ///< write the tables as JSON instead of pictures
+    float minValid = 0;     ///< lowest percent of valid hours, 0 to 100
+    int jobs = 1;           ///< roses that are drawn side by side, 1 to mostJobs
+    bool tables = false;    ///< write the tables as JSON instead of pictures
+    bool progress = false;  ///< a bar on errors while roses are drawn
 };
 
 /// Draws the asked roses as DIR/STEM_NN.EXT, NN the rose's number in two digits (more where the file holds
-/// over 99 roses), and names each file on out. Gives the exit status; messages of failures go to errors, and
-/// no half-written picture stays.
+/// over 99 roses), and names each file on out, in the order of the inputs and of the roses whatever the
+/// number of jobs. Roses of version 2.1 and later with fewer valid hours than asked are left out, and so are
+/// those of versions before that know no percentage, 2.0 aside. A file that fails is told on errors, and the
+/// others go on. Gives the exit status; no half-written picture stays.
 int runExport(const ExportJob& job, std::ostream& out, std::ostream& errors);
+
+/// Ends a run after the roses that are being drawn; may be called from a signal handler.
+void stopExport();
 
 }  // namespace zg

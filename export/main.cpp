@@ -1,13 +1,27 @@
-// zephyrgraph-export: draws the roses of an FRQ file without a window, or writes its tables as JSON.
+// zephyrgraph-export: draws the roses of FRQ files without a window, or writes their tables as JSON.
 
 #include <CLI/CLI.hpp>
 #include <QGuiApplication>
+#include <csignal>
 #include <iostream>
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
 
 #include "base/Paths.h"
 #include "export/ExportRoses.h"
 
 namespace {
+
+bool isTerminal() {
+#ifdef _WIN32
+    return _isatty(_fileno(stderr)) != 0;
+#else
+    return isatty(STDERR_FILENO) != 0;
+#endif
+}
 
 /// The toolkit's own remarks are nothing that a user of the companion could act on.
 void ignoreRemarks(QtMsgType, const QMessageLogContext&, const QString&) {}
@@ -16,8 +30,10 @@ void ignoreRemarks(QtMsgType, const QMessageLogContext&, const QString&) {}
 
 int main(int argc, char** argv) {
     zg::ExportJob job;
-    CLI::App app{"Draws the wind roses of an FRQ file as pictures.", "zephyrgraph-export"};
-    app.add_option("file", job.file, "FRQ file (versions 2.0 to 2.3)")->required()->type_name("FILE.frq");
+    CLI::App app{"Draws the wind roses of FRQ files as pictures.", "zephyrgraph-export"};
+    app.add_option("inputs", job.inputs, "FRQ files (versions 2.0 to 2.3), or directories of them")
+        ->required()
+        ->type_name("FILE.frq|DIR");
     app.add_option("--rose", job.rose, "Number of the rose to draw, or all")
         ->capture_default_str()
         ->type_name("N|all");
@@ -26,10 +42,20 @@ int main(int argc, char** argv) {
         ->check(CLI::Range(zg::smallestExport, zg::largestExport));
     app.add_option("--format", job.format, "Kind of picture")
         ->capture_default_str()
-        ->check(CLI::IsMember({"png", "bmp"}));
+        ->check(CLI::IsMember({"png", "bmp", "svg", "pdf"}));
     app.add_option("--out", job.directory, "Directory for the pictures; made where it is missing")
         ->capture_default_str()
         ->type_name("DIR");
+    app.add_option("--min-valid", job.minValid, "Leave out roses with fewer percent of valid hours")
+        ->capture_default_str()
+        ->check(CLI::Range(0, 100))
+        ->type_name("PERCENT");
+    app.add_option("--jobs", job.jobs, "Roses to draw side by side")
+        ->capture_default_str()
+        ->check(CLI::Range(1, zg::mostJobs))
+        ->type_name("N");
+    bool quiet = false;
+    app.add_flag("--quiet", quiet, "Show no progress bar on a terminal");
     app.add_flag("--tables", job.tables,
                  "Write every loaded table to standard output as JSON and draw nothing");
     try {
@@ -38,6 +64,8 @@ int main(int argc, char** argv) {
         return app.exit(error) == 0 ? zg::exportDone : zg::exportWrongUsage;
     }
 
+    job.progress = !quiet && isTerminal();
+    for (const int signal : {SIGINT, SIGTERM}) std::signal(signal, [](int) { zg::stopExport(); });
     // No window is opened: the toolkit only lends its fonts and its rasteriser.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(ignoreRemarks);

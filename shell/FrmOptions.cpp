@@ -31,6 +31,7 @@ Control* named(Control* control, const char* name) {
 QLineEdit* box(const char* name, bool readOnly = false) {
     auto* made = named(new QLineEdit, name);
     made->setReadOnly(readOnly);
+    made->setMinimumWidth(110);
     made->setMaximumWidth(140);
     return made;
 }

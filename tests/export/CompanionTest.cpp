@@ -37,7 +37,8 @@ TEST(Companion, NamesThePicturesThatItDrew) {
 TEST(Companion, HelpTellsItsWords) {
     const Result result = runCompanion({"--help"});
     EXPECT_EQ(result.status, 0);
-    for (const char* word : {"--rose", "--size", "--format", "--out", "--tables"})
+    for (const char* word :
+         {"--rose", "--size", "--format", "--out", "--tables", "--min-valid", "--jobs", "--quiet"})
         EXPECT_TRUE(result.out.contains(word)) << word;
 }
 
@@ -48,6 +49,8 @@ TEST(Companion, WrongUsageIsStatusTwo) {
     EXPECT_EQ(runCompanion({sample, "--size", "1000000"}).status, 2);
     EXPECT_EQ(runCompanion({sample, "--size", "x"}).status, 2);
     EXPECT_EQ(runCompanion({sample, "--unknown"}).status, 2);
+    EXPECT_EQ(runCompanion({sample, "--jobs", "0"}).status, 2);
+    EXPECT_EQ(runCompanion({sample, "--min-valid", "101"}).status, 2);
     EXPECT_EQ(runCompanion({sample, sample}).status, 2);
 }
 

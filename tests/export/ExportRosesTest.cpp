@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <algorithm>
 #include <filesystem>
+#include <map>
 #include <sstream>
 
 #include "base/Paths.h"
@@ -18,11 +20,15 @@ class ExportRoses : public ::testing::Test {
     void SetUp() override {
         modPolarGraph = ModPolarGraph();
         applicationDirectory = directory_.path();
-        job_.file = ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq";
+        job_.inputs = {ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq"};
         job_.directory = directory_.file("pictures");
     }
 
     int run() { return runExport(job_, out_, errors_); }
+    long lines() const {
+        const std::string text = out_.str();
+        return std::count(text.begin(), text.end(), '\n');
+    }
     std::string picture(const char* name) const { return directory_.file(std::string("pictures/") + name); }
 
     TempDirectory directory_;
@@ -75,9 +81,9 @@ TEST_F(ExportRoses, ARoseThatIsNotThereIsWrongUsage) {
 }
 
 TEST_F(ExportRoses, ARefusedFileIsTold) {
-    job_.file = directory_.write("x.frq", "nothing of the kind\n");
+    job_.inputs = {directory_.write("x.frq", "nothing of the kind\n")};
     EXPECT_EQ(run(), exportFailed);
-    EXPECT_EQ(errors_.str(), "The FRQ File " + job_.file + " is not in the correct data format.\n");
+    EXPECT_EQ(errors_.str(), "The FRQ File " + job_.inputs[0] + " is not in the correct data format.\n");
 }
 
 TEST_F(ExportRoses, ABrokenFileIsToldWithItsLine) {
@@ -85,19 +91,19 @@ TEST_F(ExportRoses, ABrokenFileIsToldWithItsLine) {
     bytes =
         "WIND.FRQ        2.2             Zephyrgraph FRQ File Format\n0 -\n5 -\nA\nB\nx:y\nc:1,2,3,4,5,6,7\n"
         "2001 13 1 1 0 2001 12 31 24 0\n";
-    job_.file = directory_.write("b.frq", bytes);
+    job_.inputs = {directory_.write("b.frq", bytes)};
     EXPECT_EQ(run(), exportFailed);
-    EXPECT_EQ(errors_.str(), job_.file + ":8: Type mismatch (error 13)\n");
+    EXPECT_EQ(errors_.str(), job_.inputs[0] + ":8: Type mismatch (error 13)\n");
 }
 
 TEST_F(ExportRoses, AMissingFileIsTold) {
-    job_.file = directory_.file("nowhere.frq");
+    job_.inputs = {directory_.file("nowhere.frq")};
     EXPECT_EQ(run(), exportFailed);
-    EXPECT_EQ(errors_.str(), job_.file + ": File not found (error 53)\n");
+    EXPECT_EQ(errors_.str(), job_.inputs[0] + ": File not found (error 53)\n");
 }
 
 TEST_F(ExportRoses, AFileWithoutRosesDrawsNothing) {
-    job_.file = ZG_SOURCE_DIR "/tests/graph/frq/data/header_only.frq";
+    job_.inputs = {ZG_SOURCE_DIR "/tests/graph/frq/data/header_only.frq"};
     EXPECT_EQ(run(), exportFailed);
     EXPECT_NE(errors_.str().find("the file holds no rose, all data are missing"), std::string::npos);
 }
@@ -107,6 +113,95 @@ TEST_F(ExportRoses, ADirectoryThatCannotBeMadeIsTold) {
     EXPECT_EQ(run(), exportFailed);
     EXPECT_FALSE(errors_.str().empty());
     EXPECT_EQ(directory_.read("taken"), "a file");
+}
+
+TEST_F(ExportRoses, VectorPicturesAreDrawnByStrokes) {
+    job_.rose = "1";
+    job_.format = "svg";
+    EXPECT_EQ(run(), exportDone) << errors_.str();
+    const std::string svg = directory_.read("pictures/LOVETT_1988_01.svg");
+    EXPECT_NE(svg.find("viewBox=\"0 0 600 600\""), std::string::npos);
+    EXPECT_NE(svg.find("Lovett, New York - Hourly surface winds"), std::string::npos) << "texts stay texts";
+    EXPECT_EQ(svg.find("<image"), std::string::npos);
+    job_.format = "pdf";
+    EXPECT_EQ(run(), exportDone) << errors_.str();
+    const std::string pdf = directory_.read("pictures/LOVETT_1988_01.pdf");
+    EXPECT_EQ(pdf.substr(0, 5), "%PDF-");
+    EXPECT_NE(pdf.find("/MediaBox [0 0 450.000000 450.000000]"), std::string::npos);
+    EXPECT_EQ(pdf.find("/Subtype /Image"), std::string::npos);
+}
+
+TEST_F(ExportRoses, AnyNumberOfJobsGivesTheSameNamesAndBytes) {
+    job_.inputs = {ZG_SOURCE_DIR "/data/samples"};
+    EXPECT_EQ(run(), exportDone) << errors_.str();
+    const std::string names = out_.str();
+    std::map<std::string, std::string> alone;
+    for (const auto& entry : std::filesystem::directory_iterator(job_.directory))
+        alone[entry.path().filename().string()] =
+            directory_.read("pictures/" + entry.path().filename().string());
+    EXPECT_GT(alone.size(), 9U);
+    for (const int jobs : {2, 7}) {
+        out_.str("");
+        job_.jobs = jobs;
+        EXPECT_EQ(run(), exportDone);
+        EXPECT_EQ(out_.str(), names) << jobs;
+        for (const auto& [name, bytes] : alone) EXPECT_EQ(directory_.read("pictures/" + name), bytes) << name;
+    }
+}
+
+TEST_F(ExportRoses, OneBrokenFileOfADirectoryIsToldAndTheOthersAreDrawn) {
+    std::filesystem::create_directory(directory_.file("in"));
+    directory_.write("in/a.frq", "nothing of the kind\n");
+    std::filesystem::copy(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq", directory_.file("in/b.frq"));
+    directory_.write("in/c.frq", "");
+    job_.inputs = {directory_.file("in")};
+    job_.rose = "1";
+    EXPECT_EQ(run(), exportFailed);
+    EXPECT_EQ(out_.str(), picture("b_01.png") + "\n");
+    EXPECT_NE(errors_.str().find("in/a.frq is not in the correct data format."), std::string::npos);
+    EXPECT_NE(errors_.str().find("in/c.frq: Input past end of file (error 62)"), std::string::npos);
+}
+
+TEST_F(ExportRoses, ADirectoryWithoutFilesIsTold) {
+    std::filesystem::create_directory(directory_.file("in"));
+    job_.inputs = {directory_.file("in")};
+    EXPECT_EQ(run(), exportFailed);
+    EXPECT_EQ(errors_.str(), directory_.file("in") + ": the directory holds no FRQ file\n");
+}
+
+TEST_F(ExportRoses, FilesWhosePicturesWouldTakeEachOthersNamesAreRefused) {
+    std::filesystem::create_directory(directory_.file("in"));
+    std::filesystem::copy(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq",
+                          directory_.file("in/LOVETT_1988.frq"));
+    job_.inputs.push_back(directory_.file("in"));
+    EXPECT_EQ(run(), exportWrongUsage);
+    EXPECT_FALSE(IsDirectory(job_.directory));
+}
+
+TEST_F(ExportRoses, RosesWithFewerValidHoursThanAskedAreLeftOut) {
+    job_.minValid = 100;
+    EXPECT_EQ(run(), exportDone);
+    EXPECT_LT(lines(), 9);
+    job_.minValid = 0;
+    out_.str("");
+    run();
+    EXPECT_EQ(lines(), 9);
+}
+
+TEST_F(ExportRoses, AStoppedRunLeavesNoHalfPicture) {
+    class StopAtFirst : public std::stringbuf {
+        int sync() override { return 0; }
+        std::streamsize xsputn(const char* text, std::streamsize size) override {
+            stopExport();
+            return std::stringbuf::xsputn(text, size);
+        }
+    } buffer;
+    std::ostream out(&buffer);
+    job_.inputs = {ZG_SOURCE_DIR "/data/samples"};
+    EXPECT_EQ(runExport(job_, out, errors_), exportFailed);
+    EXPECT_NE(errors_.str().find("the run was stopped after "), std::string::npos);
+    for (const auto& entry : std::filesystem::directory_iterator(job_.directory))
+        EXPECT_EQ(entry.path().extension(), ".png");
 }
 
 TEST_F(ExportRoses, TablesAreWrittenAndNothingIsDrawn) {

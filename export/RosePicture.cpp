@@ -1,0 +1,87 @@
+#include "export/RosePicture.h"
+
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <QSvgGenerator>
+
+#include "graph/render/RedrawGraph.h"
+#include "platform/QtCanvas.h"
+#include "platform/QtText.h"
+
+namespace zg {
+
+namespace {
+
+constexpr int layoutDotsPerInch = 96;
+constexpr int vectorDotsPerInch = 1200;
+constexpr double pointsPerInch = 72;
+
+void draw(ModPolarGraph& tables, const Polar& polar, QtCanvas& canvas) {
+    PolarGeometry geometry;
+    Polar own = polar;
+    redrawFrame(PlotSettings{}, own, tables, canvas, geometry);
+}
+
+bool saveRaster(ModPolarGraph& tables, const Polar& polar, QSaveFile& file, const char* kind, int side) {
+    QImage page = makePageImage(side, side);
+    {
+        QtCanvas canvas(page, side, side);
+        draw(tables, polar, canvas);
+    }
+    return page.save(&file, kind);
+}
+
+bool saveSvg(ModPolarGraph& tables, const Polar& polar, QSaveFile& file, int side) {
+    QSvgGenerator svg;
+    svg.setOutputDevice(&file);
+    svg.setSize({side, side});
+    svg.setViewBox(QRect(0, 0, side, side));
+    svg.setResolution(layoutDotsPerInch);
+    svg.setTitle(shown(tables.GraphTitle));
+    QPainter painter;
+    if (!painter.begin(&svg)) return false;
+    {
+        QtCanvas canvas(painter, side, side);
+        draw(tables, polar, canvas);
+    }
+    return painter.end();
+}
+
+bool savePdf(ModPolarGraph& tables, const Polar& polar, QSaveFile& file, int side) {
+    QPdfWriter pdf(&file);
+    const double points = side * pointsPerInch / layoutDotsPerInch;
+    pdf.setResolution(vectorDotsPerInch);
+    pdf.setPageSize(QPageSize(QSizeF(points, points), QPageSize::Point, QString(), QPageSize::ExactMatch));
+    pdf.setPageMargins(QMarginsF(0, 0, 0, 0));
+    pdf.setTitle(shown(tables.GraphTitle));
+    pdf.setCreator(QStringLiteral("Zephyrgraph"));
+    QPainter painter;
+    if (!painter.begin(&pdf)) return false;
+    const double scale = static_cast<double>(vectorDotsPerInch) / layoutDotsPerInch;
+    painter.scale(scale, scale);
+    {
+        QtCanvas canvas(painter, side, side);
+        draw(tables, polar, canvas);
+    }
+    return painter.end();
+}
+
+bool save(ModPolarGraph& tables, const Polar& polar, QSaveFile& file, const std::string& format, int side) {
+    if (format == "svg") return saveSvg(tables, polar, file, side);
+    if (format == "pdf") return savePdf(tables, polar, file, side);
+    return saveRaster(tables, polar, file, format == "png" ? "PNG" : "BMP", side);
+}
+
+}  // namespace
+
+std::string drawRosePicture(ModPolarGraph& tables, const Polar& polar, int rose, const std::string& path,
+                            const std::string& format, int side) {
+    tables.CurrentRose = static_cast<std::int16_t>(rose);
+    tables.GraphCaption = tables.FrqRoseCaption(rose);
+    QSaveFile file(fileName(path));
+    const bool written = file.open(QIODevice::WriteOnly) && save(tables, polar, file, format, side) &&
+                         file.error() == QFileDevice::NoError && file.commit();
+    return written ? std::string() : path + ": " + file.errorString().toStdString();
+}
+
+}  // namespace zg

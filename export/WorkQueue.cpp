@@ -1,0 +1,81 @@
+#include "export/WorkQueue.h"
+
+namespace zg {
+
+namespace {
+
+constexpr std::size_t piecesPerWorker = 4;
+
+}  // namespace
+
+WorkQueue::WorkQueue(int workers, std::function<void(const Result&)> tell)
+    : tell_(std::move(tell)), capacity_(static_cast<std::size_t>(workers) * piecesPerWorker) {
+    for (int i = 0; i < workers; ++i) workers_.emplace_back([this] { workOn(); });
+}
+
+WorkQueue::~WorkQueue() {
+    {
+        const std::lock_guard lock(mutex_);
+        closed_ = true;
+    }
+    changed_.notify_all();
+    for (std::thread& worker : workers_) worker.join();
+}
+
+WorkQueue::Piece* WorkQueue::nextPiece() {
+    for (Piece& piece : pieces_)
+        if (!piece.begun) return &piece;
+    return nullptr;
+}
+
+void WorkQueue::workOn() {
+    std::unique_lock lock(mutex_);
+    for (;;) {
+        changed_.wait(lock, [this] { return closed_ || nextPiece() != nullptr; });
+        Piece* piece = nextPiece();
+        if (piece == nullptr) return;
+        piece->begun = true;
+        lock.unlock();
+        Result result = piece->work();  // a piece stays in its place until it is told
+        lock.lock();
+        piece->result = std::move(result);
+        piece->work = nullptr;
+        piece->ready = true;
+        changed_.notify_all();
+    }
+}
+
+void WorkQueue::tellReady(std::unique_lock<std::mutex>& lock) {
+    while (!pieces_.empty() && pieces_.front().ready) {
+        const Result result = std::move(pieces_.front().result);
+        pieces_.pop_front();
+        lock.unlock();
+        tell_(result);
+        lock.lock();
+    }
+}
+
+void WorkQueue::add(std::function<Result()> work) {
+    std::unique_lock lock(mutex_);
+    tellReady(lock);
+    while (pieces_.size() >= capacity_) {
+        changed_.wait(lock, [this] { return pieces_.front().ready; });
+        tellReady(lock);
+    }
+    Piece piece;
+    piece.work = std::move(work);
+    pieces_.push_back(std::move(piece));
+    lock.unlock();
+    changed_.notify_all();
+}
+
+void WorkQueue::finish() {
+    std::unique_lock lock(mutex_);
+    tellReady(lock);
+    while (!pieces_.empty()) {
+        changed_.wait(lock, [this] { return pieces_.front().ready; });
+        tellReady(lock);
+    }
+}
+
+}  // namespace zg
