@@ -2,6 +2,7 @@
 
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QVariant>
@@ -40,12 +41,13 @@ Colour fieldMark(const QWidget& field) {
 
 void setFieldMark(QWidget& field, Colour mark) {
     field.setProperty(markProperty, mark);
+    if (qobject_cast<QGroupBox*>(&field) != nullptr) field.setAutoFillBackground(mark == yellowMark);
     if (mark != yellowMark && mark != darkYellowMark) {
         field.setPalette(QPalette());
         return;
     }
     QPalette palette = field.palette();
-    for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Button})
+    for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Button, QPalette::Window})
         palette.setColor(role, toQColor(mark));
     for (const QPalette::ColorRole role : {QPalette::Text, QPalette::ButtonText})
         palette.setColor(role, Qt::black);

@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QMessageBox>
+#include <QThread>
 #include <QTimer>
 
 #include "base/Numbers.h"
@@ -153,7 +154,8 @@ void QtHost::pumpEvents(int idleMs) {
     }
     QEventLoop loop;
     QTimer::singleShot(idleMs, &loop, &QEventLoop::quit);
-    loop.exec();
+    // A program that is ending serves no loop any more: waiting must not become a race of empty rounds.
+    if (loop.exec() != 0) QThread::msleep(1);
 }
 
 QStringList nameFilters(const std::string& filter) {

@@ -86,6 +86,7 @@ void frmMain::LoadToolCursor(ToolCursor id) {
 
 void frmMain::closeEvent(QCloseEvent* event) {
     if (!pgPolarGraph().StopAni()) pgPolarGraph().StopAni(true);
+    ending_ = true;  // a run that waits for its processor is abandoned
     event->accept();
 }
 

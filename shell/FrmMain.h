@@ -8,6 +8,8 @@
 #include <vector>
 
 #include "base/Host.h"
+#include "dialogs/point/PointDialog.h"
+#include "platform/BatchStarter.h"
 #include "shell/FrmMainControls.h"
 
 namespace zg {
@@ -85,6 +87,7 @@ class frmMain : public QMainWindow {
     void openFrqFile();
     void mnuEdit_Open();
     void showBatchMode();
+    ProcessingWindow processingWindow();
     void toggleShown(const char* entry, QWidget& bar);
     void viewFrqFile();
     void showAbout();
@@ -136,6 +139,8 @@ class frmMain : public QMainWindow {
     std::map<std::string, std::function<void()>> commands_;
     Tool activeToolButton_ = Tool::Arrow;
     bool panDragging_ = false;
+    bool ending_ = false;  ///< closed, or Exit was chosen
+    BatchStarter starter_;
     QSize picTemp_;
 };
 

@@ -11,7 +11,7 @@
 #include "base/Paths.h"
 #include "batch/FrmBatchMode.h"
 #include "batch/FrmCreateReport.h"
-#include "platform/BatchStarter.h"
+#include "dialogs/point/FrmOpenSURFDATFile.h"
 #include "platform/Errors.h"
 #include "platform/QtText.h"
 #include "processing/TextViewer.h"
@@ -67,6 +67,7 @@ std::map<std::string, std::function<void()>> frmMain::commands() {
     std::map<std::string, std::function<void()>> table = {
         {"mnuFileOption_1", [this] { mnuFileOption_Click(1); }},
         {"mnuFileOption_18", [this] { mnuFileOption_Click(18); }},
+        {"mnuFileOption_8", [this] { mnuFileOption_Click(8); }},
         {"mnuFileOption_12", [this] { mnuFileOption_Click(12); }},
         {"mnuFileOption_13", [this] { mnuFileOption_Click(13); }},
         {"mnuFileOption_15", [this] { mnuFileOption_Click(15); }},
@@ -210,6 +211,9 @@ void frmMain::mnuFileOption_Click(int Index) {
     switch (Index) {
         case 1:
             return openFrqFile();
+        case 8:
+            frmOpenSURFDATFile(host_, starter_, processingWindow(), this).exec();
+            return;
         case 12:
             mnuEditOption_Click(1);
             return mnuEditOption_Click(3);
@@ -221,6 +225,7 @@ void frmMain::mnuFileOption_Click(int Index) {
         case 16:
             return pgPolarGraph().SentToPrinter();
         case 18:
+            ending_ = true;
             return QCoreApplication::exit();
         default:
             return;
@@ -241,6 +246,12 @@ void frmMain::mnuEditOption_Click(int Index) {
         pgPolarGraph().EditCopyTo();
 }
 
+ProcessingWindow frmMain::processingWindow() {
+    return {[this](const std::string& path) { PlotFrqFile(path); }, [this] { return ending_; },
+            [this] { frmSetSeasons(host_, this).exec(); },
+            [this] { frmSetWindSpeedClasses(host_, this).exec(); }};
+}
+
 void frmMain::showBatchMode() {
     const BatchHooks hooks{[this] { mnuFileOption_Click(1); },
                            [this] {
@@ -256,8 +267,7 @@ void frmMain::toggleShown(const char* entry, QWidget& bar) {
 
 void frmMain::viewFrqFile() {
     if (settings.CurrentFrqPath.empty()) return;
-    BatchStarter starter;
-    ViewTextFile(host_, starter, settings.CurrentFrqPath, applicationDirectory);
+    ViewTextFile(host_, starter_, settings.CurrentFrqPath, applicationDirectory);
 }
 
 void frmMain::showAbout() { frmAboutZephyrgraph(this).exec(); }

@@ -15,6 +15,7 @@ declare -A allowed=(
     [processing]="base processing"
     [shell/settings]="base graph/frq graph/model graph/script graph/render graph/control shell/settings"
     [platform]="base graph/frq graph/model graph/script graph/render graph/control processing shell/settings platform"
+    [dialogs/point]="base processing graph/frq graph/model graph/render graph/control shell/settings platform dialogs/point"
     [batch]="base graph/frq graph/model graph/script graph/render graph/control processing shell/settings platform batch"
     [export]="base graph/frq graph/model graph/script graph/render graph/control platform export"
 )

@@ -1,0 +1,191 @@
+#include "dialogs/point/FrmOpenSURFDATFile.h"
+
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+#include "base/Paths.h"
+#include "base/Text.h"
+#include "dialogs/point/SurfHeader.h"
+#include "dialogs/point/SurfNames.h"
+#include "platform/Errors.h"
+#include "platform/FieldMarks.h"
+#include "platform/KeyFilter.h"
+#include "platform/Pickers.h"
+#include "platform/QtText.h"
+
+namespace zg {
+
+namespace {
+
+QDate toQDate(DateTime moment) {
+    const CalendarDate date = dateOf(moment);
+    return {date.year, date.month, date.day};
+}
+
+QTime toQTime(DateTime moment) {
+    const TimeOfDay time = timeOf(moment);
+    return {time.hour, time.minute, time.second};
+}
+
+/// Whole metres: the point is dropped too.
+std::int16_t KeyNumericReal(std::int16_t key) {
+    const bool dropped = (key >= 32 && key <= 47) || (key >= 58 && key <= 127);
+    return dropped ? std::int16_t{0} : key;
+}
+
+/// Enter goes on to the next control.
+class EnterIsTab : public QObject {
+ public:
+    explicit EnterIsTab(QWidget& field) : QObject(&field), field_(field) { field.installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) return false;
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+        if (QWidget* next = field_.nextInFocusChain()) next->setFocus(Qt::TabFocusReason);
+        return true;
+    }
+
+ private:
+    QWidget& field_;
+};
+
+}  // namespace
+
+frmOpenSURFDATFile::frmOpenSURFDATFile(Host& host, ProcessStarter& starter, ProcessingWindow window,
+                                       QWidget* parent)
+    : PointDialog(host, starter, std::move(window), "frmOpenSURFDATFile",
+                  "Generate Wind Rose Plots from a SURF.DAT File:", parent) {
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(makeInput());
+    layout->addWidget(makePeriod());
+    layout->addWidget(makeOutput());
+    layout->addLayout(makeButtons());
+    connect(cmdView, &QPushButton::clicked, this, guarded(host_, [this] { cmdView_Click(); }));
+    Form_Load();
+    resize(620, sizeHint().height());
+    cmdBrowseFile->setFocus();
+}
+
+QGroupBox* frmOpenSURFDATFile::makeInput() {
+    auto* frame = new QGroupBox(QStringLiteral("SURF.DAT File:"));
+    txtSURFDATFile = new QLineEdit;
+    txtSURFDATFile->setObjectName(QStringLiteral("txtSURFDATFile"));
+    txtSURFDATFile->setAccessibleName(frame->title());
+    cmdBrowseFile = button("Browse", "cmdBrowseFile");
+    cmdBrowseFile->setAccessibleName(QStringLiteral("Browse for a SURF.DAT file"));
+    lstSURFDATStationIDs = new QListWidget;
+    lstSURFDATStationIDs->setObjectName(QStringLiteral("lstSURFDATStationIDs"));
+    lstSURFDATStationIDs->setSelectionMode(QAbstractItemView::MultiSelection);
+    lstSURFDATStationIDs->setMinimumHeight(90);
+    cmdSelectAll = button("Select &All", "cmdSelectAll");
+    cmdDeselectAll = button("&Deselect All", "cmdDeselectAll");
+    txtAnemometerHeight = new QLineEdit(QStringLiteral("10"));
+    txtAnemometerHeight->setObjectName(QStringLiteral("txtAnemometerHeight"));
+    txtAnemometerHeight->setMaximumWidth(80);
+    filterKeys(*txtAnemometerHeight, KeyNumericReal);
+    new EnterIsTab(*txtAnemometerHeight);
+    auto* grid = new QGridLayout(frame);
+    grid->addWidget(txtSURFDATFile, 0, 0, 1, 3);
+    grid->addWidget(cmdBrowseFile, 0, 3);
+    grid->addWidget(labelFor("Station IDs:", lstSURFDATStationIDs), 1, 0);
+    grid->addWidget(lstSURFDATStationIDs, 2, 0, 3, 3);
+    grid->addWidget(cmdSelectAll, 2, 3);
+    grid->addWidget(cmdDeselectAll, 3, 3);
+    grid->addWidget(labelFor("Wind Height:", txtAnemometerHeight), 5, 0);
+    grid->addWidget(txtAnemometerHeight, 5, 1);
+    grid->addWidget(new QLabel(QStringLiteral("m")), 5, 2);
+    grid->setColumnStretch(2, 1);
+    connect(cmdBrowseFile, &QPushButton::clicked, this, guarded(host_, [this] { cmdBrowseFile_Click(); }));
+    connect(cmdSelectAll, &QPushButton::clicked, this, [this] { selectAll(true); });
+    connect(cmdDeselectAll, &QPushButton::clicked, this, [this] { selectAll(false); });
+    connect(lstSURFDATStationIDs, &QListWidget::itemSelectionChanged, this, [this] { lblStatus->clear(); });
+    return frame;
+}
+
+void frmOpenSURFDATFile::selectAll(bool selected) {
+    lstSURFDATStationIDs->clearSelection();
+    if (selected) lstSURFDATStationIDs->selectAll();
+}
+
+void frmOpenSURFDATFile::cmdBrowseFile_Click() {
+    const std::string path =
+        ShowFileOpen(host_, "SURF.DAT Files (*.dat) | *.dat; |All Files (*.*) | *.*", 1, remembered_);
+    if (path.empty()) return;
+    txtSURFDATFile->setText(fileName(path));
+    remembered_ = DirOf(path);
+    // Only the first character is looked at: a path to another machine alone gets no separator.
+    if (remembered_.substr(0, 1) != "\\") remembered_ += pathSeparator;
+    txtOutputDirectory->setText(fileName(remembered_));
+    ReadSURFDATHeader(path);
+    selectAll(true);
+}
+
+void frmOpenSURFDATFile::ReadSURFDATHeader(const std::string& path) {
+    const SurfHeader header = readSurfHeader(host_, path);
+    if (header.outcome == SurfOutcome::NotSurf) {
+        refuse(*txtSURFDATFile, "The selected file is not a valid SURF.DAT file.");
+        return;
+    }
+    ClearInvalid(*txtSURFDATFile);
+    if (header.outcome == SurfOutcome::UnknownVersion) return;
+    lstSURFDATStationIDs->clear();
+    for (const std::string& station : header.stations) lstSURFDATStationIDs->addItem(shown(station));
+    DTPicker_BeginDate->setDate(toQDate(header.begin));
+    DTPicker_BeginTime->setTime(toQTime(header.begin));
+    DTPicker_EndDate->setDate(toQDate(header.end));
+    DTPicker_EndTime->setTime(toQTime(header.end));
+    DTPicker_TimeStep->setTime(QTime(1, 0));
+    chooseTimeZone(header.timeZone);
+}
+
+bool frmOpenSURFDATFile::checkFields() {
+    const std::string path = filePath(txtSURFDATFile->text());
+    return check(!path.empty(), *txtSURFDATFile, "Please select a SURF.DAT file.") &&
+           check(fileExists(path), *txtSURFDATFile, "The selected SURF.DAT file does not exist.") &&
+           checkPeriod() && checkTimeZone() && checkTimeStep() &&
+           check(!txtAnemometerHeight->text().isEmpty(), *txtAnemometerHeight,
+                 "Please enter a valid Anemometer Height in meters.") &&
+           check(!lstSURFDATStationIDs->selectedItems().isEmpty(), *lstSURFDATStationIDs,
+                 "Please select at least one station.") &&
+           checkOutput();
+}
+
+void frmOpenSURFDATFile::readValues() {
+    const std::string path = filePath(txtSURFDATFile->text());
+    const std::string height = typed(txtAnemometerHeight->text());
+    const std::string title = trim(typed(txtTitleLine->text()));
+    const std::string base = fileBaseOf(path);
+    values_ = sharedValues(InputType::Surf);
+    values_.inputFiles = {path};
+    values_.base = base + "_SURF_" + periodText();
+    rows_.clear();
+    OutputNames_.clear();
+    outputs_.clear();
+    for (int row = 0; row < lstSURFDATStationIDs->count(); ++row) {
+        const QListWidgetItem& item = *lstSURFDATStationIDs->item(row);
+        rows_.push_back(typed(item.text()));
+        OutputNames_.emplace_back();
+        if (!item.isSelected()) continue;
+        const std::string station = stationNameOf(rowText(row));
+        OutputNames_.back() = surfOutputName(base, rowText(row), station, periodText(), height);
+        outputs_.push_back({OutputNames_.back(), rowText(row)});
+        values_.outputs.push_back(
+            {std::to_string(row + 1), OutputNames_.back(), title + station, rowText(row) + ", 0, 0", height});
+    }
+}
+
+void frmOpenSURFDATFile::cmdView_Click() {
+    leftOutputDirectory();
+    if (!checkFields()) return;
+    RunHooks hooks = sharedHooks();
+    hooks.readValues = [this] { readValues(); };
+    hooks.base = [this] { return values_.base; };
+    // A second start meanwhile has values of its own: each run goes on with those it began with.
+    hooks.outputs = [this] { return outputs_; };
+    hooks.firstName = [this] { return OutputNames_.empty() ? std::string() : OutputNames_.front(); };
+    hooks.writeControlFile = [this] { WriteControlFile(outputDirectory(), values_); };
+    runProcessor(host_, starter_, RunForm::Stations, hooks);
+}
+
+}  // namespace zg

@@ -1,0 +1,285 @@
+#include "dialogs/point/PointDialog.h"
+
+#include <QEvent>
+#include <QVBoxLayout>
+
+#include "base/Paths.h"
+#include "base/Text.h"
+#include "dialogs/point/SurfNames.h"
+#include "platform/Combos.h"
+#include "platform/Errors.h"
+#include "platform/FieldMarks.h"
+#include "platform/Pickers.h"
+#include "platform/QtText.h"
+#include "processing/Directories.h"
+#include "processing/Zones.h"
+#include "shell/settings/CfgFile.h"
+#include "shell/settings/Settings.h"
+
+namespace zg {
+
+namespace {
+
+template <typename Control>
+Control* named(Control* control, const char* name) {
+    control->setObjectName(QString::fromLatin1(name));
+    return control;
+}
+
+QDateEdit* datePicker(const char* name) {
+    auto* picker = named(new QDateEdit, name);
+    picker->setCalendarPopup(true);
+    picker->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
+    return picker;
+}
+
+QTimeEdit* timePicker(const char* name) {
+    auto* picker = named(new QTimeEdit, name);
+    picker->setDisplayFormat(QStringLiteral("HH:mm:ss"));
+    return picker;
+}
+
+std::string number(int value) { return std::to_string(value); }
+
+}  // namespace
+
+PointDialog::PointDialog(Host& host, ProcessStarter& starter, ProcessingWindow window, const char* name,
+                         const char* title, QWidget* parent)
+    : QDialog(parent), host_(host), starter_(starter), window_(std::move(window)) {
+    setObjectName(QString::fromLatin1(name));
+    setWindowTitle(QString::fromLatin1(title));
+}
+
+QPushButton* PointDialog::button(const char* caption, const char* name) {
+    auto* made = named(new QPushButton(QString::fromLatin1(caption)), name);
+    made->setAutoDefault(false);
+    return made;
+}
+
+QLabel* PointDialog::labelFor(const char* text, QWidget* buddy) {
+    auto* label = new QLabel(QString::fromLatin1(text));
+    label->setBuddy(buddy);
+    return label;
+}
+
+QGroupBox* PointDialog::makePeriod() {
+    framePeriod = named(new QGroupBox(QStringLiteral("Period:")), "framePeriod");
+    DTPicker_BeginDate = datePicker("DTPicker_BeginDate");
+    DTPicker_BeginTime = timePicker("DTPicker_BeginTime");
+    DTPicker_EndDate = datePicker("DTPicker_EndDate");
+    DTPicker_EndTime = timePicker("DTPicker_EndTime");
+    cboTimeZone = named(new QComboBox, "cboTimeZone");
+    cboTimeZone->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    cboTimeZone->setMinimumContentsLength(30);
+    frameTimeStep = named(new QGroupBox(QStringLiteral("Time Step:")), "frameTimeStep");
+    DTPicker_TimeStep = timePicker("DTPicker_TimeStep");
+    (new QVBoxLayout(frameTimeStep))->addWidget(DTPicker_TimeStep);
+    DTPicker_TimeStep->setAccessibleName(frameTimeStep->title());
+    DTPicker_BeginTime->setAccessibleName(QStringLiteral("Starting time"));
+    DTPicker_EndTime->setAccessibleName(QStringLiteral("Ending time"));
+    auto* grid = new QGridLayout(framePeriod);
+    grid->addWidget(labelFor("Starting:", DTPicker_BeginDate), 0, 0);
+    grid->addWidget(DTPicker_BeginDate, 0, 1);
+    grid->addWidget(DTPicker_BeginTime, 0, 2);
+    grid->addWidget(labelFor("Ending:", DTPicker_EndDate), 1, 0);
+    grid->addWidget(DTPicker_EndDate, 1, 1);
+    grid->addWidget(DTPicker_EndTime, 1, 2);
+    grid->addWidget(frameTimeStep, 0, 3, 2, 1);
+    grid->addWidget(labelFor("Base Time Zone:", cboTimeZone), 2, 0);
+    grid->addWidget(cboTimeZone, 2, 1, 1, 3);
+    return framePeriod;
+}
+
+QGroupBox* PointDialog::makeOutput() {
+    auto* frame = new QGroupBox(QStringLiteral("Output:"));
+    txtTitleLine = named(new QLineEdit, "txtTitleLine");
+    txtFRQOutputFilename = named(new QLineEdit, "txtFRQOutputFilename");
+    txtOutputDirectory = named(new QLineEdit, "txtOutputDirectory");
+    cmdBrowseDirectory = button("Browse", "cmdBrowseDirectory");
+    cmdBrowseDirectory->setAccessibleName(QStringLiteral("Browse for the output directory"));
+    auto* grid = new QGridLayout(frame);
+    grid->addWidget(labelFor("Title Line (Optional):", txtTitleLine), 0, 0);
+    grid->addWidget(txtTitleLine, 0, 1, 1, 2);
+    grid->addWidget(labelFor("Output FRQ Filename:", txtFRQOutputFilename), 1, 0);
+    grid->addWidget(txtFRQOutputFilename, 1, 1);
+    grid->addWidget(new QLabel(QStringLiteral(".frq")), 1, 2);
+    grid->addWidget(labelFor("Output Directory:", txtOutputDirectory), 2, 0);
+    grid->addWidget(txtOutputDirectory, 2, 1);
+    grid->addWidget(cmdBrowseDirectory, 2, 2);
+    connect(cmdBrowseDirectory, &QPushButton::clicked, this,
+            guarded(host_, [this] { browseOutputDirectory(); }));
+    whenLeft(*txtOutputDirectory, [this] { leftOutputDirectory(); });
+    whenLeft(*txtFRQOutputFilename,
+             [this] { clearMark(*txtFRQOutputFilename, !txtFRQOutputFilename->text().isEmpty()); });
+    return frame;
+}
+
+QLayout* PointDialog::makeButtons() {
+    cmdSetSeasons = button("Set Seasons", "cmdSetSeasons");
+    cmdSetWindSpeedClasses = button("Set Wind Speed Classes", "cmdSetWindSpeedClasses");
+    cmdView = button("RUN", "cmdView");
+    cmdView->setDefault(true);
+    cmdExit = button("Cancel", "cmdExit");
+    lblStatus = named(new QLabel, "lblStatus");
+    lblStatus->setTextFormat(Qt::PlainText);
+    connect(cmdSetSeasons, &QPushButton::clicked, this, guarded(host_, [this] { window_.setSeasons(); }));
+    connect(cmdSetWindSpeedClasses, &QPushButton::clicked, this,
+            guarded(host_, [this] { window_.setWindSpeedClasses(); }));
+    connect(cmdExit, &QPushButton::clicked, this, &QDialog::reject);
+    whenLeft(*cmdView, [this] { lblStatus->clear(); });
+    auto* rows = new QVBoxLayout;
+    rows->addWidget(lblStatus);
+    auto* row = new QHBoxLayout;
+    row->addWidget(cmdSetSeasons);
+    row->addWidget(cmdSetWindSpeedClasses);
+    row->addStretch();
+    row->addWidget(cmdView);
+    row->addWidget(cmdExit);
+    rows->addLayout(row);
+    return rows;
+}
+
+void PointDialog::Form_Load() {
+    FillTimeZones(*cboTimeZone);
+    DTPicker_BeginDate->setDate(QDate::currentDate());
+    DTPicker_EndDate->setDate(QDate::currentDate());
+    ReadCfgFile(settings.CfgFilePath);
+    cboTimeZone->setCurrentIndex(cboTimeZone->findText(shown(settings.DefaultTimeZone)));
+    DTPicker_TimeStep->setTime(QTime(1, 0));
+}
+
+bool PointDialog::refuse(QWidget& field, const char* text) {
+    MarkInvalid(field);
+    host_.showBox({text, "Error", BoxIcon::None, BoxButtons::Ok});
+    field.setFocus();
+    return false;
+}
+
+bool PointDialog::check(bool passed, QWidget& field, const char* text) {
+    if (!passed) return refuse(field, text);
+    ClearInvalid(field);
+    return true;
+}
+
+bool PointDialog::checkPeriod() {
+    const QDate begin = DTPicker_BeginDate->date();
+    const QDate end = DTPicker_EndDate->date();
+    return check(begin <= end, *framePeriod, "Error: The Starting Date is later than the Ending Date.") &&
+           check(begin != end || DTPicker_BeginTime->time() < DTPicker_EndTime->time(), *framePeriod,
+                 "Error: The Ending Date/Time must be later than the Starting Date/Time.");
+}
+
+bool PointDialog::checkTimeZone() {
+    return check(!cboTimeZone->currentText().isEmpty(), *cboTimeZone,
+                 "Please select a Base Time Zone from the pull-down menu.");
+}
+
+bool PointDialog::checkTimeStep() {
+    return check(DTPicker_TimeStep->time() != QTime(0, 0), *frameTimeStep, "Please enter a valid time step.");
+}
+
+bool PointDialog::checkOutput() {
+    return check(!txtOutputDirectory->text().isEmpty(), *txtOutputDirectory,
+                 "Please select an Output Directory.") &&
+           check(IsDirectory(outputDirectory()), *txtOutputDirectory,
+                 "Selected Output Directory does not exist.") &&
+           check(!txtFRQOutputFilename->text().isEmpty() || !txtFRQOutputFilename->isEnabled(),
+                 *txtFRQOutputFilename, "Please enter an output filename.");
+}
+
+void PointDialog::whenLeft(QWidget& field, std::function<void()> action) {
+    leaving_.emplace_back(&field, std::move(action));
+    field.installEventFilter(this);
+}
+
+bool PointDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusOut)
+        for (const auto& [field, action] : leaving_)
+            if (field == watched) guarded(host_, action)();
+    return QDialog::eventFilter(watched, event);
+}
+
+void PointDialog::clearMark(QWidget& field, bool filled) {
+    if (fieldMark(field) != yellowMark || !filled) return;
+    ClearInvalid(field);
+    lblStatus->clear();
+}
+
+void PointDialog::leftOutputDirectory() {
+    const std::string path = filePath(txtOutputDirectory->text());
+    if (!path.empty()) txtOutputDirectory->setText(fileName(withSeparator(path)));
+    clearMark(*txtOutputDirectory, !path.empty());
+}
+
+void PointDialog::browseOutputDirectory() {
+    const std::string start = trim(filePath(txtOutputDirectory->text()));
+    txtOutputDirectory->setText(fileName(BrowseForFolder(host_, start, "Select a Working Directory:", -1)));
+    leftOutputDirectory();
+}
+
+/// Of several rows with one key the last is shown; a key that no row has changes nothing.
+void PointDialog::chooseTimeZone(const std::string& key) {
+    const std::string wanted = ucase(trim(key));
+    for (std::size_t i = 0; i < timeZones.gsTimeZoneKeys.size(); ++i)
+        if (timeZones.gsTimeZoneKeys[i] == wanted) cboTimeZone->setCurrentIndex(static_cast<int>(i));
+}
+
+std::string PointDialog::outputDirectory() const { return trim(filePath(txtOutputDirectory->text())); }
+
+ControlFile PointDialog::sharedValues(InputType type) const {
+    ControlFile v;
+    v.type = type;
+    v.title = typed(txtTitleLine->text());
+    const QDate begin = DTPicker_BeginDate->date();
+    const QTime beginTime = DTPicker_BeginTime->time();
+    const QDate end = DTPicker_EndDate->date();
+    const QTime endTime = DTPicker_EndTime->time();
+    const QTime step = DTPicker_TimeStep->time();
+    v.IBYR = number(begin.year());
+    v.IBMO = number(begin.month());
+    v.IBDY = number(begin.day());
+    v.IBHR = number(beginTime.hour());
+    v.IBSEC = number(60 * beginTime.minute() + beginTime.second());
+    v.IEYR = number(end.year());
+    v.IEMO = number(end.month());
+    v.IEDY = number(end.day());
+    v.IEHR = number(endTime.hour());
+    v.IESEC = number(60 * endTime.minute() + endTime.second());
+    v.ABTZ = timeZones.gsTimeZoneKeys.at(static_cast<std::size_t>(cboTimeZone->currentIndex()));
+    v.NSECDT = number(3600 * step.hour() + 60 * step.minute() + step.second());
+    v.WSBIN = settings.WindClassString;
+    v.seasonNames.assign(settings.SeasonNames.begin(), settings.SeasonNames.begin() + settings.SeasonCount);
+    v.MSN = settings.MonthSeasonString;
+    return v;
+}
+
+std::string PointDialog::periodText() const {
+    const ControlFile v = sharedValues(InputType::Surf);
+    return periodInName(v.IBYR, v.IBMO, v.IBDY, v.IEYR, v.IEMO, v.IEDY);
+}
+
+RunHooks PointDialog::sharedHooks() {
+    RunHooks hooks;
+    hooks.outputDirectory = [this] { return outputDirectory(); };
+    hooks.showName = [this](const std::string& name) { txtFRQOutputFilename->setText(fileName(name)); };
+    hooks.setStatus = [this](const std::string& text) { lblStatus->setText(shown(text)); };
+    hooks.setBusy = [this](bool busy) {
+        if (busy)
+            setCursor(Qt::WaitCursor);
+        else
+            unsetCursor();
+    };
+    hooks.load = window_.plotFrqFile;
+    hooks.showExit = [this] {
+        cmdExit->setText(QStringLiteral("Exit"));
+        cmdExit->setEnabled(true);
+    };
+    hooks.keepTimeZone = [this] {
+        settings.DefaultTimeZone = trim(typed(cboTimeZone->currentText()));
+        WriteCfgFile(settings.CfgFilePath);
+    };
+    hooks.abandoned = window_.ending;
+    return hooks;
+}
+
+}  // namespace zg

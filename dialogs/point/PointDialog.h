@@ -1,0 +1,99 @@
+#pragma once
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QDialog>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimeEdit>
+#include <functional>
+#include <optional>
+
+#include "base/Host.h"
+#include "processing/ControlFile.h"
+#include "processing/ProcessorRun.h"
+
+namespace zg {
+
+/// What a processing dialog needs of the main window.
+struct ProcessingWindow {
+    std::function<void(const std::string&)> plotFrqFile;
+    std::function<bool()> ending;  ///< the program is being closed
+    std::function<void()> setSeasons;
+    std::function<void()> setWindSpeedClasses;
+};
+
+/// What the dialogs for point data share: period, time zone, step, title, output, and the way to a run. The
+/// dialog may be closed while a run waits; it is then only hidden, and the run goes on.
+class PointDialog : public QDialog {
+    Q_OBJECT
+
+ public:
+    PointDialog(Host& host, ProcessStarter& starter, ProcessingWindow window, const char* name,
+                const char* title, QWidget* parent);
+
+ protected:
+    /// Rows of the shared frames, to be laid out by the dialog.
+    QGroupBox* makePeriod();
+    QGroupBox* makeOutput();
+    QLayout* makeButtons();
+    static QPushButton* button(const char* caption, const char* name);
+    static QLabel* labelFor(const char* text, QWidget* buddy);
+
+    /// Today, the settings, the base time zone, one hour.
+    void Form_Load();
+
+    /// Shows an "Error" box and marks the field; false for the check that failed.
+    bool refuse(QWidget& field, const char* text);
+    /// Clears the field's mark where the check passed.
+    bool check(bool passed, QWidget& field, const char* text);
+    bool checkPeriod();
+    bool checkTimeZone();
+    bool checkTimeStep();
+    bool checkOutput();
+
+    void whenLeft(QWidget& field, std::function<void()> action);
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void leftOutputDirectory();
+    void clearMark(QWidget& field, bool filled);
+    void chooseTimeZone(const std::string& key);
+    void browseOutputDirectory();
+
+    /// The values of the shared fields, as texts.
+    ControlFile sharedValues(InputType type) const;
+    std::string periodText() const;
+    std::string outputDirectory() const;
+
+    /// The hooks that all dialogs have in common.
+    RunHooks sharedHooks();
+
+    Host& host_;
+    ProcessStarter& starter_;
+    ProcessingWindow window_;
+    std::string remembered_;  ///< directory where the next picker starts
+
+    QGroupBox* framePeriod = nullptr;
+    QGroupBox* frameTimeStep = nullptr;
+    QDateEdit* DTPicker_BeginDate = nullptr;
+    QTimeEdit* DTPicker_BeginTime = nullptr;
+    QDateEdit* DTPicker_EndDate = nullptr;
+    QTimeEdit* DTPicker_EndTime = nullptr;
+    QTimeEdit* DTPicker_TimeStep = nullptr;
+    QComboBox* cboTimeZone = nullptr;
+    QLineEdit* txtTitleLine = nullptr;
+    QLineEdit* txtFRQOutputFilename = nullptr;
+    QLineEdit* txtOutputDirectory = nullptr;
+    QPushButton* cmdBrowseDirectory = nullptr;
+    QPushButton* cmdSetSeasons = nullptr;
+    QPushButton* cmdSetWindSpeedClasses = nullptr;
+    QPushButton* cmdView = nullptr;
+    QPushButton* cmdExit = nullptr;
+    QLabel* lblStatus = nullptr;
+
+ private:
+    std::vector<std::pair<QObject*, std::function<void()>>> leaving_;
+};
+
+}  // namespace zg

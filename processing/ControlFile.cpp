@@ -1,0 +1,237 @@
+#include "processing/ControlFile.h"
+
+#include <map>
+#include <string_view>
+
+#include "base/Lines.h"
+#include "base/Text.h"
+#include "processing/ControlFileText.h"
+
+namespace zg {
+
+namespace {
+
+/// What differs between the dialogs.
+struct Variation {
+    const char* mdata;
+    bool blankBeforeIdOfGroup2;  ///< its TSFID line has the two blanks that the other one always has
+    bool hasOutputs;
+    bool capitalSurface;
+    bool gridded;
+};
+
+const Variation& variationOf(InputType type) {
+    static const std::map<InputType, Variation> rows = {
+        {InputType::Surf, {"SURF", true, true, false, false}},
+        {InputType::Up, {"UP", false, true, false, false}},
+        {InputType::MonitorW, {"MONITORW", false, true, false, false}},
+        {InputType::AermSfc, {"AERMSFC", false, true, false, false}},
+        {InputType::AermPfl, {"AERMPFL", false, true, true, false}},
+        {InputType::Tsf, {"TSF", false, false, false, false}},
+        {InputType::Ventos, {"VENTOS", false, true, false, true}},
+        {InputType::M3d, {"M3D", false, true, false, true}}};
+    return rows.at(type);
+}
+
+using Fields = std::map<std::string, std::string, std::less<>>;
+
+Fields fieldsOf(const ControlFile& v) {
+    return {{"TITLE", trim(v.title)},
+            {"BASE", v.base},
+            {"NTSFOUT", std::to_string(v.outputs.size())},
+            {"MDATA", mdataOf(v.type)},
+            {"IBYR", v.IBYR},
+            {"IBMO", v.IBMO},
+            {"IBDY", v.IBDY},
+            {"IBHR", v.IBHR},
+            {"IBSEC", v.IBSEC},
+            {"IEYR", v.IEYR},
+            {"IEMO", v.IEMO},
+            {"IEDY", v.IEDY},
+            {"IEHR", v.IEHR},
+            {"IESEC", v.IESEC},
+            {"ABTZ", v.ABTZ},
+            {"NSECDT", v.NSECDT},
+            {"WSBIN", v.WSBIN},
+            {"NSEASN", std::to_string(v.seasonNames.size())},
+            {"MSN", v.MSN}};
+}
+
+std::string filled(std::string_view line, const Fields& fields) {
+    std::string out;
+    while (true) {
+        const std::size_t open = line.find('{');
+        const std::size_t close = line.find('}', open);
+        out += line.substr(0, open);
+        if (open == std::string_view::npos || close == std::string_view::npos) return out;
+        const auto field = fields.find(line.substr(open + 1, close - open - 1));
+        if (field != fields.end()) out += field->second;
+        line.remove_prefix(close + 1);
+    }
+}
+
+/// "(KEY) ... * KEY  = default *" made active: the same columns, "!" for "*", the value for the default.
+std::string activated(std::string_view line, std::string_view key, const std::string& value) {
+    const std::size_t star = line.rfind("* " + std::string(key));
+    const std::size_t equals = line.find('=', star);
+    return std::string(line.substr(0, star)) + "!" + std::string(line.substr(star + 1, equals - star)) + " " +
+           value + " !";
+}
+
+/// The inert assignments that this run makes active, with their values.
+std::vector<std::pair<std::string, std::string>> activeKeys(const ControlFile& v) {
+    std::vector<std::pair<std::string, std::string>> keys;
+    if (v.type == InputType::Tsf) keys.emplace_back("ROSEPLT", v.roseName);
+    if (!variationOf(v.type).gridded) return keys;
+    keys.emplace_back("METSIM", v.METSIM);
+    const ProjectionRecord& p = v.projection;
+    const auto isOne = [&p](std::initializer_list<std::string_view> maps) {
+        for (const std::string_view map : maps)
+            if (p.PMAP == map) return true;
+        return false;
+    };
+    const auto add = [&keys](const char* key, const std::string& value, bool applies) {
+        if (applies) keys.emplace_back(key, value);
+    };
+    add("FEAST", p.FEAST, isOne({"LCC", "TTM", "LAZA"}));
+    add("FNORTH", p.FNORTH, isOne({"LCC", "TTM", "LAZA"}));
+    add("IUTMZN", p.IUTMZN, isOne({"UTM"}));
+    add("UTMHEM", p.UTMHEM, isOne({"UTM"}));
+    add("RLAT0", p.RLAT0, isOne({"LCC", "TTM", "PS", "EM", "LAZA"}));
+    add("RLON0", p.RLON0, isOne({"LCC", "TTM", "PS", "EM", "LAZA"}));
+    add("XLAT1", p.XLAT1, isOne({"PS", "LCC"}));
+    add("XLAT2", p.XLAT2, isOne({"LCC"}));
+    add("DATUM", p.DATUM, !p.DATUM.empty());
+    if (v.type != InputType::M3d) return keys;
+    add("MPROF", v.MPROF, true);
+    add("MCELL", v.MCELL, true);
+    add("NLU3D", "25", true);
+    add("XYCELL1", "0.,0.", true);
+    add("DXYCELL", "0.,0.", true);
+    return keys;
+}
+
+class Builder {
+ public:
+    explicit Builder(const ControlFile& values)
+        : v_(values),
+          variation_(variationOf(values.type)),
+          fields_(fieldsOf(values)),
+          active_(activeKeys(values)) {}
+
+    std::string bytes() {
+        std::string_view text = controlFileText;
+        while (!text.empty()) {
+            const std::size_t end = text.find('\n');
+            take(text.substr(0, end));
+            text.remove_prefix(end + 1);
+        }
+        return std::move(out_);
+    }
+
+ private:
+    void write(const std::string& line) { out_ += line + "\r\n"; }
+
+    void take(std::string_view line) {
+        if (line == "[per output]" || line == "[per season]") {
+            block_.emplace();
+        } else if (line == "[end per output]") {
+            repeatForOutputs();
+        } else if (line == "[end per season]") {
+            repeatForSeasons();
+        } else if (block_) {
+            block_->emplace_back(line);
+        } else {
+            takeSingle(line);
+        }
+    }
+
+    void takeSingle(std::string_view line) {
+        if (line.find("{INPUTFILE}") != std::string_view::npos) return repeatForInputs(line);
+        if (line.find("! NMETINP = 1 !") != std::string_view::npos)
+            return write(replaced(line, "NMETINP = 1", "NMETINP = " + std::to_string(v_.inputFiles.size())));
+        if (variation_.gridded && line.find("! PMAP = NONE !") != std::string_view::npos)
+            return write(replaced(line, "PMAP = NONE", "PMAP = " + v_.projection.PMAP));
+        if (variation_.capitalSurface && line == "     Profile Method near surface")
+            return write("     Profile Method near Surface");
+        for (const auto& [key, value] : active_)
+            if (line.find("* " + key + " ") != std::string_view::npos)
+                return write(activated(line, key, value));
+        write(filled(line, fields_));
+    }
+
+    static std::string replaced(std::string_view line, std::string_view old, const std::string& fresh) {
+        const std::size_t at = line.find(old);
+        return std::string(line.substr(0, at)) + fresh + std::string(line.substr(at + old.size()));
+    }
+
+    void repeatForInputs(std::string_view line) {
+        for (const std::string& file : v_.inputFiles) {
+            Fields fields = fields_;
+            fields["INPUTFILE"] = file;
+            write(filled(line, fields));
+        }
+    }
+
+    void repeatForOutputs() {
+        for (const ControlOutput& output : v_.outputs) {
+            Fields fields = fields_;
+            fields["ID"] = output.id;
+            fields["OUTNAME"] = output.name;
+            fields["LOCATION"] = output.location;
+            fields["STATION"] = output.place;
+            fields["HEIGHT"] = output.height;
+            const bool group2 = block_->size() > 3;
+            for (const std::string& line : *block_) writeOfOutput(line, output, fields, group2);
+        }
+        block_.reset();
+    }
+
+    void writeOfOutput(std::string_view line, const ControlOutput& output, const Fields& fields,
+                       bool group2) {
+        constexpr std::string_view otherForm = "   or ";
+        if (line.starts_with(otherForm)) {  // the inert form of the line before it
+            if (output.location.empty()) write("     " + std::string(trimmed(line.substr(otherForm.size()))));
+        } else if (line.find("{LOCATION}") != std::string_view::npos) {
+            if (!output.location.empty()) write(filled(line, fields));
+        } else if (group2 && !variation_.blankBeforeIdOfGroup2 &&
+                   line.find("TSFID  =") != std::string_view::npos) {
+            write(filled(replaced(line, "TSFID  =", "TSFID ="), fields));
+        } else if (line.find("{STATION}, 0, 0") != std::string_view::npos) {
+            write(filled(replaced(line, "{STATION}, 0, 0", "{STATION}"), fields));
+        } else {
+            write(filled(line, fields));
+        }
+    }
+
+    void repeatForSeasons() {
+        for (std::size_t i = 0; i < v_.seasonNames.size(); ++i) {
+            Fields fields = fields_;
+            fields["SEASONID"] = std::to_string(i + 1);
+            fields["SEASONNAME"] = v_.seasonNames[i];
+            for (const std::string& line : *block_) write(filled(line, fields));
+        }
+        block_.reset();
+    }
+
+    const ControlFile& v_;
+    const Variation& variation_;
+    Fields fields_;
+    std::vector<std::pair<std::string, std::string>> active_;
+    std::optional<std::vector<std::string>> block_;
+    std::string out_;
+};
+
+}  // namespace
+
+const char* mdataOf(InputType type) { return variationOf(type).mdata; }
+
+std::string controlFileBytes(const ControlFile& values) { return Builder(values).bytes(); }
+
+void WriteControlFile(const std::string& directory, const ControlFile& values) {
+    LineWriter file(directory + values.base + "_tempoline.inp");
+    file.write(controlFileBytes(values));
+    file.close();
+}
+
+}  // namespace zg

@@ -1,0 +1,73 @@
+#pragma once
+
+// The control file, the one channel to the processor: always written whole, with every line of comment.
+// Values are written exactly as they are held.
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zg {
+
+/// The eight dialogs that write one.
+enum class InputType { Surf, Up, MonitorW, AermSfc, AermPfl, Tsf, Ventos, M3d };
+
+/// The keyword of a type, as "SURF".
+const char* mdataOf(InputType type);
+
+/// One series that the processor makes.
+struct ControlOutput {
+    std::string id;        ///< "1"
+    std::string name;      ///< of the files, without directory and extension
+    std::string location;  ///< "" leaves the line inert
+    std::string place;     ///< "72503, 0, 0" of a station, "3.2, 15.88" of a grid's location
+    std::string height;    ///< metres above ground
+};
+
+/// Map projection and datum, all texts, named as the file names them.
+struct ProjectionRecord {
+    std::string PMAP;  ///< "LL", "UTM", "LCC", "TTM", "PS", "EM", "LAZA"; "NONE" and "" leave all inert
+    std::string FEAST;
+    std::string FNORTH;
+    std::string IUTMZN;
+    std::string UTMHEM;
+    std::string RLAT0;
+    std::string RLON0;
+    std::string XLAT1;
+    std::string XLAT2;
+    std::string DATUM;  ///< "" leaves the line inert
+};
+
+struct ControlFile {
+    InputType type = InputType::Surf;
+    std::string title;
+    std::string base;                     ///< of the run's files
+    std::vector<std::string> inputFiles;  ///< as they stand in the dialog; gridded dialogs may give several
+    std::string roseName;                 ///< of TSF input
+    std::vector<ControlOutput> outputs;   ///< none for TSF input
+
+    std::string IBYR, IBMO, IBDY, IBHR, IBSEC;
+    std::string IEYR, IEMO, IEDY, IEHR, IESEC;
+    std::string ABTZ;
+    std::string NSECDT;
+
+    std::string WSBIN;
+    std::vector<std::string> seasonNames;
+    std::string MSN;
+
+    // Of the gridded dialogs:
+    std::string METSIM;
+    ProjectionRecord projection;
+    std::string MPROF;  ///< of 3D.DAT input, as the next
+    std::string MCELL;
+};
+
+/// The file's bytes, each line ended by CR LF.
+std::string controlFileBytes(const ControlFile& values);
+
+/// Writes them to "{directory}{base}_tempoline.inp"; raises the error of the file.
+void WriteControlFile(const std::string& directory, const ControlFile& values);
+
+}  // namespace zg

@@ -1,0 +1,147 @@
+#include "processing/ProcessorRun.h"
+
+#include <cerrno>
+#include <cstdio>
+
+#include "base/Lines.h"
+#include "base/RunTimeError.h"
+#include "base/Text.h"
+#include "processing/Wait.h"
+
+namespace zg {
+
+namespace {
+
+constexpr const char* batchName = "run_tempoline.bat";
+constexpr const char* markerName = "finished.txt";
+constexpr std::int32_t animationMs = 300;
+constexpr std::int32_t sliceMs = 50;  // between looks at whether the program is being closed
+
+/// The user chose Cancel, or the program is being closed.
+struct RunEnded {};
+
+class Run {
+ public:
+    Run(Host& host, ProcessStarter& starter, RunForm form, const RunHooks& hooks)
+        : host_(host), starter_(starter), form_(form), hooks_(hooks) {}
+
+    void all() {
+        try {
+            prepare();
+            for (const RunOutput& output : outputs_) await(output);
+            finish();
+        } catch (const RunEnded&) {
+            return;
+        }
+    }
+
+ private:
+    /// A step that fails is told; Retry does it again, Cancel ends the run.
+    void step(const std::function<void()>& action) {
+        for (;;) {
+            try {
+                return action();
+            } catch (const RunTimeError& error) {
+                const MessageBox box{"The following error has occurred: \"" + error.description +
+                                         "\".  (Error Number = " + std::to_string(error.number) + ")",
+                                     "ERROR:", BoxIcon::None, BoxButtons::RetryCancel};
+                if (host_.showBox(box) == BoxAnswer::Retry) continue;
+                hooks_.setStatus("");
+                hooks_.setBusy(false);
+                throw RunEnded{};
+            }
+        }
+    }
+
+    void prepare() {
+        if (form_ != RunForm::Stations) {
+            hooks_.setBusy(true);
+            hooks_.setStatus("Running...");
+        }
+        step([this] {
+            hooks_.readValues();
+            directory_ = hooks_.outputDirectory();
+            base_ = hooks_.base();
+            outputs_ = hooks_.outputs();
+        });
+        hooks_.showName(hooks_.firstName());
+        step([this] { hooks_.writeControlFile(); });
+        step([this] { writeBatchFile(); });
+        step([this] { removeMarker(); });
+        step([this] { starter_.start(directory_ + batchName, WindowStyle::NormalFocus); });
+    }
+
+    void writeBatchFile() {
+        LineWriter file(directory_ + batchName);
+        for (const std::string& line : batchLines(directory_, base_, applicationDirectory))
+            file.writeLine(line);
+        file.close();
+    }
+
+    void removeMarker() {
+        const std::string marker = existingFile(directory_ + markerName);
+        if (!marker.empty() && std::remove(marker.c_str()) != 0) raiseFileError(errno);
+    }
+
+    void await(const RunOutput& output) {
+        while (!fileExists(directory_ + markerName)) animate();
+        hooks_.showName(output.name);
+        const std::string result = existingFile(directory_ + output.name + ".frq");
+        made_ = !result.empty();
+        if (made_) {
+            step([&] { hooks_.load(result); });
+            animate();
+            if (form_ == RunForm::Heights) hooks_.setStatus("Finished");
+        } else {
+            hooks_.setStatus(form_ == RunForm::Stations ? "Error processing Station " + output.station
+                                                        : "Error has occurred.");
+        }
+    }
+
+    void animate() {
+        if (hooks_.abandoned()) throw RunEnded{};
+        AnimateRunning(host_, hooks_.setStatus, hooks_.abandoned);
+        if (hooks_.abandoned()) throw RunEnded{};
+    }
+
+    void finish() {
+        if (form_ == RunForm::Stations || (form_ == RunForm::Single && made_)) hooks_.setStatus("Finished");
+        hooks_.showExit();
+        hooks_.setBusy(false);
+        step([this] { hooks_.keepTimeZone(); });
+    }
+
+    Host& host_;
+    ProcessStarter& starter_;
+    RunForm form_;
+    const RunHooks& hooks_;
+    std::string directory_;
+    std::string base_;
+    std::vector<RunOutput> outputs_;
+    bool made_ = false;
+};
+
+}  // namespace
+
+std::vector<std::string> batchLines(const std::string& outputDirectory, const std::string& base,
+                                    const std::string& programDirectory, char separator) {
+    const std::string quote = "\"";
+    return {DriveOf(trim(outputDirectory)), "cd " + quote + outputDirectory + quote,
+            quote + programDirectory + separator + "tempoline.exe" + quote + " " + base + "_tempoline.inp",
+            "copy " + base + "_tempoline.lst finished.txt", "pause"};
+}
+
+void AnimateRunning(Host& host, const std::function<void(const std::string&)>& setStatus,
+                    const std::function<bool()>& abandoned) {
+    for (const char* text : {"Running.  ", "Running.. ", "Running..."}) {
+        setStatus(text);
+        for (std::int32_t waited = 0; waited < animationMs && !abandoned(); waited += sliceMs)
+            WaitMs(host, sliceMs);
+    }
+}
+
+void runProcessor(Host& host, ProcessStarter& starter, RunForm form, const RunHooks& hooks) {
+    Run(host, starter, form, hooks).all();
+}
+
+}  // namespace zg

@@ -1,0 +1,355 @@
+#include "dialogs/point/FrmOpenSURFDATFile.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTest>
+#include <QTimer>
+#include <algorithm>
+#include <filesystem>
+
+#include "base/Paths.h"
+#include "base/Text.h"
+#include "graph/frq/ModPolarGraph.h"
+#include "platform/FieldMarks.h"
+#include "platform/QtHost.h"
+#include "processing/Stations.h"
+#include "processing/Zones.h"
+#include "shell/FrmMain.h"
+#include "shell/settings/Settings.h"
+#include "shell/settings/StartSequence.h"
+#include "tests/support/TempDirectory.h"
+#include "tests/support/TestHost.h"
+
+namespace zg {
+namespace {
+
+const std::string surf21 =
+    "SURF.DAT        2.1             Hour Start and End Times with Seconds\r\n1\r\nmade for a "
+    "test\r\nNONE\r\n"
+    "UTC-0500\r\n  1990   8  6 1815  1990  15 23  0   3\r\n  1001\r\n  1002\r\n  1003\r\n";
+
+class FakeStarter : public ProcessStarter {
+ public:
+    void start(const std::string&, WindowStyle) override {
+        ++starts;
+        if (onStart) onStart();
+    }
+    int starts = 0;
+    std::function<void()> onStart;
+};
+
+class FrmOpenSURFDATFile : public ::testing::Test {
+ protected:
+    void SetUp() override {
+        modPolarGraph = ModPolarGraph();
+        settings = Settings();
+        timeZones = TimeZoneTable();
+        stations = StationTable();
+        applicationDirectory = directory_.path();
+        std::filesystem::copy(ZG_SOURCE_DIR "/data/TimeZones.txt", directory_.file("TimeZones.txt"));
+        startSettings();
+        std::filesystem::create_directory(directory_.file("out"));
+        input_ = directory_.write("my data.dat", surf21);
+        form_ = std::make_unique<frmOpenSURFDATFile>(
+            host_, starter_,
+            ProcessingWindow{[this](const std::string& path) { plotted_.push_back(FileNameOf(path)); },
+                             [this] { return ending_; }, [this] { ++seasons_; }, [this] { ++classes_; }});
+        form_->show();
+        form_->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(form_.get()));
+    }
+    template <typename Control = QWidget>
+    Control* child(const char* name) {
+        return form_->findChild<Control*>(QString::fromLatin1(name));
+    }
+    QLineEdit& box(const char* name) { return *child<QLineEdit>(name); }
+    void click(const char* name) { QTest::mouseClick(child(name), Qt::LeftButton); }
+    std::string status() { return child<QLabel>("lblStatus")->text().toStdString(); }
+    void browse() {
+        host_.openAnswers.push_back(input_);
+        click("cmdBrowseFile");
+        box("txtFRQOutputFilename").setText("x");
+        box("txtOutputDirectory").setText(QString::fromStdString(directory_.file("out/")));
+    }
+    /// Presses RUN and gives the one box that it shows.
+    std::string refusal() {
+        host_.boxes.clear();
+        host_.boxAnswers = {BoxAnswer::Ok};
+        click("cmdView");
+        EXPECT_EQ(starter_.starts, 0);
+        if (host_.boxes.size() != 1) return "boxes: " + std::to_string(host_.boxes.size());
+        EXPECT_EQ(host_.boxes[0].title, "Error");
+        return host_.boxes[0].text;
+    }
+    bool marked(const char* name) { return fieldMark(*child(name)) == yellowMark; }
+
+    TempDirectory directory_;
+    TestHost host_;
+    FakeStarter starter_;
+    std::string input_;
+    std::vector<std::string> plotted_;
+    bool ending_ = false;
+    int seasons_ = 0;
+    int classes_ = 0;
+    std::unique_ptr<frmOpenSURFDATFile> form_;
+};
+
+TEST_F(FrmOpenSURFDATFile, OpensWithItsDefaults) {
+    EXPECT_EQ(form_->windowTitle(), "Generate Wind Rose Plots from a SURF.DAT File:");
+    EXPECT_EQ(child<QDateEdit>("DTPicker_BeginDate")->date(), QDate::currentDate());
+    EXPECT_EQ(child<QTimeEdit>("DTPicker_TimeStep")->time(), QTime(1, 0));
+    EXPECT_EQ(child<QComboBox>("cboTimeZone")->currentText(), "(UTC-05:00) Eastern Time (US & Canada)");
+    EXPECT_EQ(child<QComboBox>("cboTimeZone")->count(), 63);
+    EXPECT_EQ(box("txtAnemometerHeight").text(), "10");
+    EXPECT_EQ(child<QPushButton>("cmdExit")->text(), "Cancel");
+    EXPECT_EQ(child<QPushButton>("cmdView")->text(), "RUN");
+}
+
+TEST_F(FrmOpenSURFDATFile, BrowsingReadsTheHeaderAndSelectsAllStations) {
+    host_.openAnswers = {""};
+    click("cmdBrowseFile");
+    EXPECT_EQ(box("txtSURFDATFile").text(), "");
+    browse();
+    EXPECT_EQ(host_.openPicks[0].filter, "SURF.DAT Files (*.dat) | *.dat; |All Files (*.*) | *.*");
+    EXPECT_EQ(box("txtSURFDATFile").text().toStdString(), input_);
+    EXPECT_EQ(child<QListWidget>("lstSURFDATStationIDs")->count(), 3);
+    EXPECT_EQ(child<QListWidget>("lstSURFDATStationIDs")->selectedItems().size(), 3);
+    EXPECT_EQ(child<QDateEdit>("DTPicker_BeginDate")->date(), QDate(1990, 1, 8));
+    EXPECT_EQ(child<QTimeEdit>("DTPicker_BeginTime")->time(), QTime(6, 30, 15));
+    EXPECT_EQ(child<QDateEdit>("DTPicker_EndDate")->date(), QDate(1990, 1, 15));
+    EXPECT_EQ(child<QComboBox>("cboTimeZone")->currentText(), "(UTC-05:00) Indiana (East)")
+        << "of several rows with one key the last";
+    click("cmdDeselectAll");
+    EXPECT_TRUE(child<QListWidget>("lstSURFDATStationIDs")->selectedItems().isEmpty());
+    click("cmdSelectAll");
+    EXPECT_EQ(child<QListWidget>("lstSURFDATStationIDs")->selectedItems().size(), 3);
+}
+
+TEST_F(FrmOpenSURFDATFile, AnUnknownZoneLeavesTheListAndAnotherKindIsTold) {
+    std::string text = surf21;
+    text.replace(text.find("UTC-0500"), 8, "UTC+1400");
+    input_ = directory_.write("zone.dat", text);
+    browse();
+    EXPECT_EQ(child<QComboBox>("cboTimeZone")->currentText(), "(UTC-05:00) Eastern Time (US & Canada)");
+    input_ = directory_.write("bad.dat", "UP.DAT\r\n");
+    host_.boxAnswers = {BoxAnswer::Ok};
+    browse();
+    EXPECT_EQ(host_.boxes[0].text, "The selected file is not a valid SURF.DAT file.");
+    EXPECT_EQ(host_.boxes[0].title, "Error");
+    EXPECT_TRUE(marked("txtSURFDATFile"));
+    input_ = directory_.write("wrong.dat", "SURF.DAT        9.9\r\n");
+    browse();
+    EXPECT_FALSE(marked("txtSURFDATFile")) << "a wrong version is silent";
+    EXPECT_EQ(host_.boxes.size(), 1U);
+}
+
+TEST_F(FrmOpenSURFDATFile, ChecksInOrder) {
+    EXPECT_EQ(refusal(), "Please select a SURF.DAT file.");
+    EXPECT_TRUE(marked("txtSURFDATFile"));
+    browse();
+    box("txtSURFDATFile").setText("/nowhere.dat");
+    EXPECT_EQ(refusal(), "The selected SURF.DAT file does not exist.");
+    box("txtSURFDATFile").setText(QString::fromStdString(input_));
+    auto* beginDate = child<QDateEdit>("DTPicker_BeginDate");
+    beginDate->setDate(QDate(1990, 1, 16));
+    EXPECT_EQ(refusal(), "Error: The Starting Date is later than the Ending Date.");
+    EXPECT_TRUE(marked("framePeriod"));
+    beginDate->setDate(QDate(1990, 1, 15));
+    child<QTimeEdit>("DTPicker_BeginTime")->setTime(QTime(23, 0));
+    EXPECT_EQ(refusal(), "Error: The Ending Date/Time must be later than the Starting Date/Time.");
+    child<QTimeEdit>("DTPicker_BeginTime")->setTime(QTime(22, 59, 59));
+    child<QComboBox>("cboTimeZone")->setCurrentIndex(-1);
+    EXPECT_EQ(refusal(), "Please select a Base Time Zone from the pull-down menu.");
+    EXPECT_FALSE(marked("framePeriod"));
+    child<QComboBox>("cboTimeZone")->setCurrentIndex(3);
+    child<QTimeEdit>("DTPicker_TimeStep")->setTime(QTime(0, 0));
+    EXPECT_EQ(refusal(), "Please enter a valid time step.");
+    child<QTimeEdit>("DTPicker_TimeStep")->setTime(QTime(0, 30));
+    box("txtAnemometerHeight").clear();
+    EXPECT_EQ(refusal(), "Please enter a valid Anemometer Height in meters.");
+    box("txtAnemometerHeight").setText("10");
+    click("cmdDeselectAll");
+    EXPECT_EQ(refusal(), "Please select at least one station.");
+    click("cmdSelectAll");
+    box("txtOutputDirectory").clear();
+    EXPECT_EQ(refusal(), "Please select an Output Directory.");
+    box("txtOutputDirectory").setText("/nowhere/at/all");
+    EXPECT_EQ(refusal(), "Selected Output Directory does not exist.");
+    box("txtOutputDirectory").setText(QString::fromStdString(directory_.file("out")));
+    box("txtFRQOutputFilename").clear();
+    EXPECT_EQ(refusal(), "Please enter an output filename.");
+    EXPECT_TRUE(marked("txtFRQOutputFilename"));
+}
+
+TEST_F(FrmOpenSURFDATFile, TwoOfThreeStationsAreMadeAndTheLastIsShown) {
+    stations.gsStationCol0 = {"Albany", "", ""};
+    stations.gsStationCol1 = {" 1002 ", "", ""};
+    browse();
+    box("txtTitleLine").setText(" Winds ");
+    std::vector<std::string> texts;
+    std::string names[3] = {"my data-1001_SURF_19900108-19900115_10m", "Albany_SURF_19900108-19900115_10m",
+                            "my data-1003_SURF_19900108-19900115_10m"};
+    starter_.onStart = [&] {
+        EXPECT_EQ(box("txtFRQOutputFilename").text().toStdString(), names[0]);
+        const std::string control = directory_.read("out/my data_SURF_19900108-19900115_tempoline.inp");
+        EXPECT_NE(control.find("\r\nWinds\r\n"), std::string::npos);
+        EXPECT_NE(control.find("! NTSFOUT = 3 !"), std::string::npos);
+        EXPECT_NE(control.find("! METINP = " + input_ + " !"), std::string::npos);
+        EXPECT_NE(control.find("! LOCMET = WindsAlbany !"), std::string::npos);
+        EXPECT_NE(control.find("! MET = 1003, 0, 0, 10, -1., -1., -1. !"), std::string::npos);
+        EXPECT_NE(control.find("! IBMO  = 1 !"), std::string::npos);
+        EXPECT_NE(control.find("! IBSEC = 1815 !"), std::string::npos);
+        directory_.write("out/" + names[1] + ".FRQ", "");
+        directory_.write("out/" + names[2] + ".frq", "");
+        directory_.write("out/finished.txt", "");
+    };
+    host_.onPump = [&] {
+        if (texts.empty() || texts.back() != status()) texts.push_back(status());
+    };
+    click("cmdView");
+    EXPECT_EQ(plotted_, (std::vector<std::string>{names[1] + ".FRQ", names[2] + ".frq"}));
+    EXPECT_EQ(box("txtFRQOutputFilename").text().toStdString(), names[2]);
+    EXPECT_EQ(status(), "Finished");
+    EXPECT_EQ(texts, (std::vector<std::string>{"Running.  ", "Running.. ", "Running...", "Running.  ",
+                                               "Running.. ", "Running..."}));
+    EXPECT_EQ(child<QPushButton>("cmdExit")->text(), "Exit");
+    EXPECT_EQ(settings.DefaultTimeZone, "(UTC-05:00) Indiana (East)");
+    EXPECT_NE(directory_.read("Zephyrgraph.cfg").find("Indiana"), std::string::npos);
+}
+
+TEST_F(FrmOpenSURFDATFile, AFirstRowLeftOutEmptiesTheNameAtTheStart) {
+    browse();
+    child<QListWidget>("lstSURFDATStationIDs")->item(0)->setSelected(false);
+    starter_.onStart = [this] {
+        EXPECT_EQ(box("txtFRQOutputFilename").text(), "");
+        const std::string control = directory_.read("out/my data_SURF_19900108-19900115_tempoline.inp");
+        EXPECT_NE(control.find("! TSFID  = 2 !"), std::string::npos);
+        EXPECT_EQ(control.find("! TSFID  = 1 !"), std::string::npos);
+        directory_.write("out/finished.txt", "");
+    };
+    click("cmdView");
+    EXPECT_TRUE(plotted_.empty());
+    EXPECT_EQ(status(), "Finished") << "even if every output failed";
+}
+
+TEST_F(FrmOpenSURFDATFile, ClosingDuringTheWaitHidesItAndTheResultIsStillPlotted) {
+    browse();
+    int pumps = 0;
+    host_.onPump = [&] {
+        if (++pumps == 10) click("cmdExit");
+        if (pumps == 40) {
+            EXPECT_FALSE(form_->isVisible());
+            directory_.write("out/my data-1001_SURF_19900108-19900115_10m.frq", "");
+            directory_.write("out/finished.txt", "");
+        }
+    };
+    click("cmdView");
+    EXPECT_EQ(plotted_.size(), 1U);
+}
+
+TEST_F(FrmOpenSURFDATFile, ASecondStartDuringTheWaitRunsWithoutACrash) {
+    browse();
+    int pumps = 0;
+    host_.onPump = [&] {
+        if (++pumps == 5) click("cmdView");
+        if (pumps == 30) directory_.write("out/finished.txt", "");
+    };
+    click("cmdView");
+    EXPECT_EQ(starter_.starts, 2);
+    EXPECT_EQ(status(), "Finished");
+}
+
+TEST_F(FrmOpenSURFDATFile, TheEndOfTheProgramEndsTheWaitAtOnce) {
+    browse();
+    int pumps = 0;
+    host_.onPump = [&] {
+        if (++pumps == 7) ending_ = true;
+    };
+    click("cmdView");
+    EXPECT_EQ(pumps, 7);
+    EXPECT_TRUE(host_.boxes.empty());
+}
+
+TEST_F(FrmOpenSURFDATFile, AnUnwritableDirectoryIsToldWithRetry) {
+    browse();
+    std::filesystem::create_directory(directory_.file("out/run_tempoline.bat"));
+    host_.boxAnswers = {BoxAnswer::Cancel};
+    click("cmdView");
+    EXPECT_EQ(host_.boxes[0].title, "ERROR:");
+    EXPECT_NE(host_.boxes[0].text.find("(Error Number = 75)"), std::string::npos);
+    EXPECT_EQ(status(), "");
+}
+
+TEST_F(FrmOpenSURFDATFile, OnlyWholeMetresAreTypedAndEnterGoesOn) {
+    QLineEdit& height = box("txtAnemometerHeight");
+    height.setFocus();
+    height.clear();
+    QTest::keyClicks(&height, "1.5-x0");
+    EXPECT_EQ(height.text(), "150");
+    QTest::keyClick(&height, Qt::Key_Return);
+    EXPECT_FALSE(height.hasFocus());
+    EXPECT_EQ(starter_.starts, 0);
+}
+
+TEST_F(FrmOpenSURFDATFile, LeavingTheDirectoryCompletesIt) {
+    box("txtOutputDirectory").setFocus();
+    QTest::keyClicks(&box("txtOutputDirectory"), "/a b");
+    box("txtTitleLine").setFocus();
+    EXPECT_EQ(box("txtOutputDirectory").text(), "/a b/");
+    host_.folderAnswers = {"/picked"};
+    click("cmdBrowseDirectory");
+    EXPECT_EQ(host_.folderPicks[0].start, "/a b/");
+    EXPECT_EQ(host_.folderPicks[0].title, "Select a Working Directory:");
+    EXPECT_EQ(box("txtOutputDirectory").text(), "/picked/");
+}
+
+TEST_F(FrmOpenSURFDATFile, ItsButtonsOpenSeasonsAndClasses) {
+    click("cmdSetSeasons");
+    click("cmdSetWindSpeedClasses");
+    EXPECT_EQ(seasons_, 1);
+    EXPECT_EQ(classes_, 1);
+}
+
+/// The whole road in the window, with a processor that copies a rose.
+TEST(SurfRoad, ASurfFileBecomesTheRoseInTheWindow) {
+    TempDirectory directory;
+    modPolarGraph = ModPolarGraph();
+    settings = Settings();
+    timeZones = TimeZoneTable();
+    stations = StationTable();
+    applicationDirectory = directory.path();
+    std::filesystem::copy(ZG_SOURCE_DIR "/data/TimeZones.txt", directory.file("TimeZones.txt"));
+    const std::string processor = directory.write(
+        "tempoline.exe",
+        "#!/bin/sh\nfor name in $(sed -n 's/.*TSFOUT = \\(.*\\) !   !END!.*/\\1/p' \"$1\"); do\n"
+        "cp " ZG_SOURCE_DIR
+        "/data/samples/LOVETT_1988.frq \"$name.FRQ\"; done\n"
+        "echo done > \"${1%.inp}.lst\"\n");
+    std::filesystem::permissions(processor, std::filesystem::perms::owner_all);
+    startSettings();
+    const std::string input = directory.write("wind.dat", surf21);
+    TestHost host;
+    frmMain window(host);
+    window.Form_Load();
+    window.show();
+    host.openAnswers = {input};
+    host.onPump = [] { QTest::qWait(5); };
+    QTimer::singleShot(0, [&] {
+        auto* dialog = QApplication::activeModalWidget();
+        ASSERT_NE(dialog, nullptr);
+        ASSERT_EQ(dialog->objectName(), "frmOpenSURFDATFile");
+        QTest::mouseClick(dialog->findChild<QWidget*>("cmdBrowseFile"), Qt::LeftButton);
+        dialog->findChild<QLineEdit*>("txtFRQOutputFilename")->setText("x");
+        QTest::mouseClick(dialog->findChild<QWidget*>("cmdView"), Qt::LeftButton);
+        EXPECT_EQ(dialog->findChild<QLabel*>("lblStatus")->text(), "Finished");
+        QTest::mouseClick(dialog->findChild<QWidget*>("cmdExit"), Qt::LeftButton);
+    });
+    window.menuAction("mnuFileOption_8")->trigger();
+    EXPECT_EQ(window.windowTitle(), "Zephyrgraph - wind-1003_SURF_19900108-19900115_10m.FRQ");
+    EXPECT_TRUE(modPolarGraph.FrqLoaded);
+    EXPECT_EQ(modPolarGraph.FrqRoseCount, 9);
+}
+
+}  // namespace
+}  // namespace zg

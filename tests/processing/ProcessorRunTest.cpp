@@ -1,0 +1,175 @@
+#include "processing/ProcessorRun.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+
+#include "base/RunTimeError.h"
+#include "tests/support/TempDirectory.h"
+#include "tests/support/TestHost.h"
+
+namespace zg {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class FakeStarter : public ProcessStarter {
+ public:
+    void start(const std::string& batchFile, WindowStyle style) override {
+        started.push_back(batchFile);
+        EXPECT_EQ(style, WindowStyle::NormalFocus);
+        if (onStart) onStart();
+    }
+    Texts started;
+    std::function<void()> onStart;
+};
+
+class ProcessorRun : public ::testing::Test {
+ protected:
+    void SetUp() override {
+        applicationDirectory = "/opt/my programs";
+        hooks_.readValues = [this] { log("values"); };
+        hooks_.base = [] { return std::string("BASE"); };
+        hooks_.outputDirectory = [this] { return directory_.path() + "/"; };
+        hooks_.outputs = [this] { return outputs_; };
+        hooks_.firstName = [this] { return outputs_.empty() ? std::string() : outputs_[0].name; };
+        hooks_.writeControlFile = [this] { log("control"); };
+        hooks_.showName = [this](const std::string& name) { log("name " + name); };
+        hooks_.setStatus = [this](const std::string& text) {
+            status_ = text;
+            if (text.rfind("Running.", 0) != 0) log("status " + text);
+        };
+        hooks_.setBusy = [this](bool busy) { log(busy ? "busy" : "idle"); };
+        hooks_.load = [this](const std::string& path) {
+            log("load " + path.substr(directory_.path().size() + 1));
+        };
+        hooks_.showExit = [this] { log("exit"); };
+        hooks_.keepTimeZone = [this] { log("zone"); };
+        hooks_.abandoned = [this] { return abandoned_; };
+    }
+    void log(const std::string& text) { log_.push_back(text); }
+    void finish(const Texts& made) {
+        for (const std::string& name : made) directory_.write(name + ".frq", "");
+        directory_.write("finished.txt", "");
+    }
+    void run(RunForm form) { runProcessor(host_, starter_, form, hooks_); }
+
+    TempDirectory directory_;
+    TestHost host_;
+    FakeStarter starter_;
+    RunHooks hooks_;
+    std::vector<RunOutput> outputs_ = {{"one", "1001"}, {"two", "1002"}, {"three", "1003"}};
+    Texts log_;
+    std::string status_;
+    bool abandoned_ = false;
+};
+
+TEST_F(ProcessorRun, TheBatchFileHasItsFiveLines) {
+    EXPECT_EQ(batchLines("D:\\my data\\", "B", "C:\\prog dir", '\\'),
+              (Texts{"D:", "cd \"D:\\my data\\\"", "\"C:\\prog dir\\tempoline.exe\" B_tempoline.inp",
+                     "copy B_tempoline.lst finished.txt", "pause"}));
+    EXPECT_EQ(batchLines("/data/", "B", "/opt", '/')[0], "/data/:") << "a path without a drive";
+    starter_.onStart = [this] {
+        EXPECT_EQ(directory_.read("run_tempoline.bat"),
+                  directory_.path() + "/:\r\ncd \"" + directory_.path() +
+                      "/\"\r\n\"/opt/my programs/tempoline.exe\" BASE_tempoline.inp\r\n"
+                      "copy BASE_tempoline.lst finished.txt\r\npause\r\n");
+        finish({});
+    };
+    run(RunForm::Single);
+    EXPECT_EQ(starter_.started, Texts{directory_.file("run_tempoline.bat")});
+}
+
+TEST_F(ProcessorRun, StationsArePlottedInOrderAndEndFinishedWhateverHappened) {
+    starter_.onStart = [this] { finish({"one", "three"}); };
+    run(RunForm::Stations);
+    EXPECT_EQ(log_, (Texts{"values", "name one", "control", "name one", "load one.frq", "name two",
+                           "status Error processing Station 1002", "name three", "load three.frq",
+                           "status Finished", "exit", "idle", "zone"}));
+}
+
+TEST_F(ProcessorRun, HeightsKeepTheLastResult) {
+    starter_.onStart = [this] { finish({"one", "two"}); };
+    run(RunForm::Heights);
+    EXPECT_EQ(log_.front(), "busy");
+    EXPECT_EQ(status_, "Error has occurred.");
+}
+
+TEST_F(ProcessorRun, ASingleOutputTellsItsOwnResult) {
+    outputs_ = {{"one", ""}};
+    starter_.onStart = [this] { finish({"one"}); };
+    run(RunForm::Single);
+    EXPECT_EQ(status_, "Finished");
+    std::remove(directory_.file("one.frq").c_str());
+    starter_.onStart = [this] { finish({}); };
+    run(RunForm::Single);
+    EXPECT_EQ(status_, "Error has occurred.");
+    EXPECT_EQ(log_.back(), "zone") << "a failed run saves it too";
+}
+
+TEST_F(ProcessorRun, AStaleMarkerIsRemovedAndTheWaitLooksEvery900Milliseconds) {
+    directory_.write("finished.txt", "stale");
+    int polls = 0;
+    Texts texts;
+    hooks_.setStatus = [&](const std::string& text) { texts.push_back(text); };
+    host_.onPump = [&] {
+        if (host_.now >= 1900 && polls++ == 0) finish({"one"});
+    };
+    outputs_ = {{"one", ""}};
+    run(RunForm::Single);
+    ASSERT_EQ(texts.size(), 1U + 3 * 3 + 3 + 1);
+    EXPECT_EQ(texts[0], "Running...");
+    EXPECT_EQ(texts[1], "Running.  ");
+    EXPECT_EQ(texts[2], "Running.. ");
+    EXPECT_EQ(texts[3], "Running...");
+    EXPECT_EQ(host_.now, 3 * 900 + 900);
+}
+
+TEST_F(ProcessorRun, AnErrorIsToldAndRetryResumesAtTheStep) {
+    int attempts = 0;
+    hooks_.writeControlFile = [&] {
+        log("control");
+        if (++attempts < 3) throw RunTimeError(70, "Permission denied");
+    };
+    starter_.onStart = [this] { finish({"one", "two", "three"}); };
+    host_.boxAnswers = {BoxAnswer::Retry, BoxAnswer::Retry};
+    run(RunForm::Stations);
+    EXPECT_EQ(host_.boxes[0].title, "ERROR:");
+    EXPECT_EQ(host_.boxes[0].text,
+              "The following error has occurred: \"Permission denied\".  (Error Number = 70)");
+    EXPECT_EQ(host_.boxes[0].buttons, BoxButtons::RetryCancel);
+    EXPECT_EQ(std::count(log_.begin(), log_.end(), "values"), 1);
+    EXPECT_EQ(std::count(log_.begin(), log_.end(), "control"), 3);
+    EXPECT_EQ(status_, "Finished");
+}
+
+TEST_F(ProcessorRun, CancelEndsTheRunWithAnEmptyStatus) {
+    starter_.onStart = [this] { finish({"one", "two", "three"}); };
+    hooks_.load = [](const std::string&) { throw RunTimeError(13, "Type mismatch"); };
+    host_.boxAnswers = {BoxAnswer::Cancel};
+    run(RunForm::Single);
+    EXPECT_EQ(status_, "");
+    EXPECT_EQ(log_.back(), "idle");
+    EXPECT_EQ(std::count(log_.begin(), log_.end(), "zone"), 0);
+}
+
+TEST_F(ProcessorRun, ADirectoryRemovedMeanwhileIsToldByNumber) {
+    hooks_.outputDirectory = [this] { return directory_.file("gone/"); };
+    host_.boxAnswers = {BoxAnswer::Cancel};
+    run(RunForm::Single);
+    EXPECT_EQ(host_.boxes[0].text,
+              "The following error has occurred: \"Path not found\".  (Error Number = 76)");
+}
+
+TEST_F(ProcessorRun, AWaitThatIsAbandonedEndsQuietly) {
+    host_.onPump = [this] {
+        if (host_.pumps == 200) abandoned_ = true;
+        ASSERT_LT(host_.pumps, 210) << "the wait goes on";
+    };
+    run(RunForm::Stations);
+    EXPECT_TRUE(host_.boxes.empty());
+    EXPECT_EQ(std::count(log_.begin(), log_.end(), "zone"), 0);
+}
+
+}  // namespace
+}  // namespace zg
