@@ -3,6 +3,9 @@
 #include "processing/ControlFile.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <csignal>
 
 #include "base/Lines.h"
 #include "tests/support/Raises.h"
@@ -131,6 +134,17 @@ TEST(ControlFile, IsWrittenUnderItsBaseAndReplacesAnOldOne) {
     EXPECT_EQ(directory.read("base_20050307-20051231_tempoline.inp"), controlFileBytes(v));
     EXPECT_NE(controlFileBytes(v).find("METINP = t\xE9.tsf !"), std::string::npos) << "one byte a character";
     EXPECT_RAISES(76, "Path not found", WriteControlFile(directory.file("no/"), v));
+}
+
+TEST(ControlFile, AFullDiskIsAnErrorOfItsOwn) {
+    const TempDirectory directory;
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit small{5'000, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    EXPECT_THROW(WriteControlFile(directory.path() + "/", common(InputType::Tsf, {"t.tsf"})), RunTimeError);
+    setrlimit(RLIMIT_FSIZE, &before);
 }
 
 }  // namespace

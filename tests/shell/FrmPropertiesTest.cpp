@@ -267,6 +267,20 @@ TEST_F(FrmProperties, APictureIsDrawnThroughItsMaskAndAMissingOneIsNot) {
     EXPECT_TRUE(host_.boxes.empty());
 }
 
+TEST_F(FrmProperties, AGifIsAPictureToo) {
+    // One red pixel.
+    const QByteArray gif = QByteArray::fromBase64("R0lGODlhAQABAPAAAP8AAAAAACwAAAAAAQABAAACAkQBADs=");
+    graph_.Series.AllowPen = false;
+    graph_.Series.AllowMarker = true;
+    graph_.Series.Marker.UsePicture = true;
+    graph_.Series.Marker.AutoSize = 0;
+    graph_.Series.Marker.SetPictureSize(6, 6);
+    graph_.Series.Marker.Transparent = false;
+    graph_.Series.Marker.PicturePath = directory_.write("red.gif", gif.toStdString());
+    open();
+    EXPECT_EQ(inked(), 36);
+}
+
 TEST_F(FrmProperties, TheFilePickerHasTheFiltersInOrder) {
     graph_.Series.AllowMarker = true;
     graph_.Series.Marker.UsePicture = true;
