@@ -11,7 +11,11 @@
 #include "base/Paths.h"
 #include "batch/FrmBatchMode.h"
 #include "batch/FrmCreateReport.h"
+#include "dialogs/point/FrmOpenAERMETFile.h"
+#include "dialogs/point/FrmOpenAMMNETDataFile.h"
 #include "dialogs/point/FrmOpenSURFDATFile.h"
+#include "dialogs/point/FrmOpenTSFDataFile.h"
+#include "dialogs/point/FrmOpenUPDATFile.h"
 #include "platform/Errors.h"
 #include "platform/QtText.h"
 #include "processing/TextViewer.h"
@@ -67,7 +71,6 @@ std::map<std::string, std::function<void()>> frmMain::commands() {
     std::map<std::string, std::function<void()>> table = {
         {"mnuFileOption_1", [this] { mnuFileOption_Click(1); }},
         {"mnuFileOption_18", [this] { mnuFileOption_Click(18); }},
-        {"mnuFileOption_8", [this] { mnuFileOption_Click(8); }},
         {"mnuFileOption_12", [this] { mnuFileOption_Click(12); }},
         {"mnuFileOption_13", [this] { mnuFileOption_Click(13); }},
         {"mnuFileOption_15", [this] { mnuFileOption_Click(15); }},
@@ -105,6 +108,8 @@ std::map<std::string, std::function<void()>> frmMain::commands() {
          [this] { pgPolarGraph().ShowCoordinateSystem(actions_.at("mnuPolarOption_4")->isChecked()); }},
         {"mnuHelpAbout", [this] { showAbout(); }},
     };
+    for (const int i : {4, 5, 6, 8, 9, 10})
+        table[indexed("mnuFileOption", i)] = [this, i] { mnuFileOption_Click(i); };
     for (int i = 0; i < aspectEntries; ++i)
         table[indexed("mnuViewAspectOption", i)] = [this, i] { mnuViewAspectOption_Click(i); };
     for (int i = 0; i < 3; ++i) {
@@ -211,6 +216,21 @@ void frmMain::mnuFileOption_Click(int Index) {
     switch (Index) {
         case 1:
             return openFrqFile();
+        case 4:
+            frmOpenAERMETFile(host_, starter_, processingWindow(), AermetKind::Surface, this).exec();
+            return;
+        case 5:
+            frmOpenAERMETFile(host_, starter_, processingWindow(), AermetKind::Profile, this).exec();
+            return;
+        case 6:
+            frmOpenAMMNETDataFile(host_, starter_, processingWindow(), this).exec();
+            return;
+        case 9:
+            frmOpenUPDATFile(host_, starter_, processingWindow(), this).exec();
+            return;
+        case 10:
+            frmOpenTSFDataFile(host_, starter_, processingWindow(), this).exec();
+            return;
         case 8:
             frmOpenSURFDATFile(host_, starter_, processingWindow(), this).exec();
             return;

@@ -1,6 +1,5 @@
 #include "dialogs/point/FrmOpenSURFDATFile.h"
 
-#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include "base/Paths.h"
@@ -10,7 +9,6 @@
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
 #include "platform/KeyFilter.h"
-#include "platform/Pickers.h"
 #include "platform/QtText.h"
 
 namespace zg {
@@ -33,23 +31,6 @@ std::int16_t KeyNumericReal(std::int16_t key) {
     return dropped ? std::int16_t{0} : key;
 }
 
-/// Enter goes on to the next control.
-class EnterIsTab : public QObject {
- public:
-    explicit EnterIsTab(QWidget& field) : QObject(&field), field_(field) { field.installEventFilter(this); }
-
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() != QEvent::KeyPress) return false;
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
-        if (QWidget* next = field_.nextInFocusChain()) next->setFocus(Qt::TabFocusReason);
-        return true;
-    }
-
- private:
-    QWidget& field_;
-};
-
 }  // namespace
 
 frmOpenSURFDATFile::frmOpenSURFDATFile(Host& host, ProcessStarter& starter, ProcessingWindow window,
@@ -62,6 +43,7 @@ frmOpenSURFDATFile::frmOpenSURFDATFile(Host& host, ProcessStarter& starter, Proc
     layout->addWidget(makeOutput());
     layout->addLayout(makeButtons());
     connect(cmdView, &QPushButton::clicked, this, guarded(host_, [this] { cmdView_Click(); }));
+    folderPrompt_ = "Select a Working Directory:";
     Form_Load();
     resize(620, sizeHint().height());
     cmdBrowseFile->setFocus();
@@ -84,7 +66,7 @@ QGroupBox* frmOpenSURFDATFile::makeInput() {
     txtAnemometerHeight->setObjectName(QStringLiteral("txtAnemometerHeight"));
     txtAnemometerHeight->setMaximumWidth(80);
     filterKeys(*txtAnemometerHeight, KeyNumericReal);
-    new EnterIsTab(*txtAnemometerHeight);
+    enterIsTab(*txtAnemometerHeight);
     auto* grid = new QGridLayout(frame);
     grid->addWidget(txtSURFDATFile, 0, 0, 1, 3);
     grid->addWidget(cmdBrowseFile, 0, 3);
@@ -109,15 +91,8 @@ void frmOpenSURFDATFile::selectAll(bool selected) {
 }
 
 void frmOpenSURFDATFile::cmdBrowseFile_Click() {
-    const std::string path =
-        ShowFileOpen(host_, "SURF.DAT Files (*.dat) | *.dat; |All Files (*.*) | *.*", 1, remembered_);
-    if (path.empty()) return;
-    txtSURFDATFile->setText(fileName(path));
-    remembered_ = DirOf(path);
-    // Only the first character is looked at: a path to another machine alone gets no separator.
-    if (remembered_.substr(0, 1) != "\\") remembered_ += pathSeparator;
-    txtOutputDirectory->setText(fileName(remembered_));
-    ReadSURFDATHeader(path);
+    if (!browseInput(*txtSURFDATFile, "SURF.DAT Files (*.dat) | *.dat; |All Files (*.*) | *.*")) return;
+    ReadSURFDATHeader(filePath(txtSURFDATFile->text()));
     selectAll(true);
 }
 
@@ -148,7 +123,7 @@ bool frmOpenSURFDATFile::checkFields() {
                  "Please enter a valid Anemometer Height in meters.") &&
            check(!lstSURFDATStationIDs->selectedItems().isEmpty(), *lstSURFDATStationIDs,
                  "Please select at least one station.") &&
-           checkOutput();
+           checkOutputDirectory() && checkOutputName();
 }
 
 void frmOpenSURFDATFile::readValues() {

@@ -1,6 +1,7 @@
 #include "dialogs/point/PointDialog.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include "base/Paths.h"
@@ -39,6 +40,22 @@ QTimeEdit* timePicker(const char* name) {
     return picker;
 }
 
+class EnterIsTab : public QObject {
+ public:
+    explicit EnterIsTab(QWidget& field) : QObject(&field), field_(field) { field.installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) return false;
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+        if (QWidget* next = field_.nextInFocusChain()) next->setFocus(Qt::TabFocusReason);
+        return true;
+    }
+
+ private:
+    QWidget& field_;
+};
+
 std::string number(int value) { return std::to_string(value); }
 
 }  // namespace
@@ -62,7 +79,7 @@ QLabel* PointDialog::labelFor(const char* text, QWidget* buddy) {
     return label;
 }
 
-QGroupBox* PointDialog::makePeriod() {
+QGroupBox* PointDialog::makePeriod(bool withHeadings) {
     framePeriod = named(new QGroupBox(QStringLiteral("Period:")), "framePeriod");
     DTPicker_BeginDate = datePicker("DTPicker_BeginDate");
     DTPicker_BeginTime = timePicker("DTPicker_BeginTime");
@@ -78,15 +95,19 @@ QGroupBox* PointDialog::makePeriod() {
     DTPicker_BeginTime->setAccessibleName(QStringLiteral("Starting time"));
     DTPicker_EndTime->setAccessibleName(QStringLiteral("Ending time"));
     auto* grid = new QGridLayout(framePeriod);
-    grid->addWidget(labelFor("Starting:", DTPicker_BeginDate), 0, 0);
-    grid->addWidget(DTPicker_BeginDate, 0, 1);
-    grid->addWidget(DTPicker_BeginTime, 0, 2);
-    grid->addWidget(labelFor("Ending:", DTPicker_EndDate), 1, 0);
-    grid->addWidget(DTPicker_EndDate, 1, 1);
-    grid->addWidget(DTPicker_EndTime, 1, 2);
-    grid->addWidget(frameTimeStep, 0, 3, 2, 1);
-    grid->addWidget(labelFor("Base Time Zone:", cboTimeZone), 2, 0);
-    grid->addWidget(cboTimeZone, 2, 1, 1, 3);
+    if (withHeadings) {
+        grid->addWidget(new QLabel(QStringLiteral("DATE:")), 0, 1);
+        grid->addWidget(new QLabel(QStringLiteral("HOUR:")), 0, 2);
+    }
+    grid->addWidget(labelFor("Starting:", DTPicker_BeginDate), 1, 0);
+    grid->addWidget(DTPicker_BeginDate, 1, 1);
+    grid->addWidget(DTPicker_BeginTime, 1, 2);
+    grid->addWidget(labelFor("Ending:", DTPicker_EndDate), 2, 0);
+    grid->addWidget(DTPicker_EndDate, 2, 1);
+    grid->addWidget(DTPicker_EndTime, 2, 2);
+    grid->addWidget(frameTimeStep, 0, 3, 3, 1);
+    grid->addWidget(labelFor("Base Time Zone:", cboTimeZone), 3, 0);
+    grid->addWidget(cboTimeZone, 3, 1, 1, 3);
     return framePeriod;
 }
 
@@ -178,12 +199,15 @@ bool PointDialog::checkTimeStep() {
     return check(DTPicker_TimeStep->time() != QTime(0, 0), *frameTimeStep, "Please enter a valid time step.");
 }
 
-bool PointDialog::checkOutput() {
+bool PointDialog::checkOutputDirectory() {
     return check(!txtOutputDirectory->text().isEmpty(), *txtOutputDirectory,
                  "Please select an Output Directory.") &&
            check(IsDirectory(outputDirectory()), *txtOutputDirectory,
-                 "Selected Output Directory does not exist.") &&
-           check(!txtFRQOutputFilename->text().isEmpty() || !txtFRQOutputFilename->isEnabled(),
+                 "Selected Output Directory does not exist.");
+}
+
+bool PointDialog::checkOutputName() {
+    return check(!txtFRQOutputFilename->text().isEmpty() || !txtFRQOutputFilename->isEnabled(),
                  *txtFRQOutputFilename, "Please enter an output filename.");
 }
 
@@ -213,7 +237,7 @@ void PointDialog::leftOutputDirectory() {
 
 void PointDialog::browseOutputDirectory() {
     const std::string start = trim(filePath(txtOutputDirectory->text()));
-    txtOutputDirectory->setText(fileName(BrowseForFolder(host_, start, "Select a Working Directory:", -1)));
+    txtOutputDirectory->setText(fileName(BrowseForFolder(host_, start, folderPrompt_, -1)));
     leftOutputDirectory();
 }
 
@@ -256,6 +280,45 @@ ControlFile PointDialog::sharedValues(InputType type) const {
 std::string PointDialog::periodText() const {
     const ControlFile v = sharedValues(InputType::Surf);
     return periodInName(v.IBYR, v.IBMO, v.IBDY, v.IEYR, v.IEMO, v.IEDY);
+}
+
+bool PointDialog::browseInput(QLineEdit& box, const char* filter) {
+    const std::string path = ShowFileOpen(host_, filter, 1, remembered_);
+    if (path.empty()) return false;
+    box.setText(fileName(path));
+    remembered_ = DirOf(path);
+    // Only the first character is looked at: a path to another machine alone gets no separator.
+    if (remembered_.substr(0, 1) != "\\") remembered_ += pathSeparator;
+    txtOutputDirectory->setText(fileName(remembered_));
+    return true;
+}
+
+void PointDialog::enterIsTab(QWidget& field) { new EnterIsTab(field); }
+
+void PointDialog::readLargeFile(const std::function<void(const std::function<void()>&)>& read) {
+    constexpr std::int64_t secondMs = 1000;
+    const std::int64_t start = host_.tickCount();
+    bool told = false;
+    const auto progress = [&] {
+        if (!told && host_.tickCount() - start >= secondMs) {
+            lblStatus->setText(QStringLiteral("Reading..."));
+            setEnabled(false);
+            told = true;
+        }
+        host_.pumpEvents(0);
+    };
+    const auto done = [&] {
+        if (!told) return;
+        lblStatus->clear();
+        setEnabled(true);
+    };
+    try {
+        read(progress);
+    } catch (...) {
+        done();
+        throw;
+    }
+    done();
 }
 
 RunHooks PointDialog::sharedHooks() {

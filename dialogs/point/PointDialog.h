@@ -36,7 +36,7 @@ class PointDialog : public QDialog {
 
  protected:
     /// Rows of the shared frames, to be laid out by the dialog.
-    QGroupBox* makePeriod();
+    QGroupBox* makePeriod(bool withHeadings = false);
     QGroupBox* makeOutput();
     QLayout* makeButtons();
     static QPushButton* button(const char* caption, const char* name);
@@ -52,7 +52,8 @@ class PointDialog : public QDialog {
     bool checkPeriod();
     bool checkTimeZone();
     bool checkTimeStep();
-    bool checkOutput();
+    bool checkOutputDirectory();
+    bool checkOutputName();
 
     void whenLeft(QWidget& field, std::function<void()> action);
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -69,9 +70,20 @@ class PointDialog : public QDialog {
     /// The hooks that all dialogs have in common.
     RunHooks sharedHooks();
 
+    /// Asks for the input file; takes it, and its directory for the output. False when cancelled.
+    bool browseInput(QLineEdit& box, const char* filter);
+
+    /// Enter goes on to the next control, as Tab does.
+    static void enterIsTab(QWidget& field);
+
+    /// While a large file is read the window stays alive, the fields are out of reach, and after a second the
+    /// status line says so.
+    void readLargeFile(const std::function<void(const std::function<void()>&)>& read);
+
     Host& host_;
     ProcessStarter& starter_;
     ProcessingWindow window_;
+    const char* folderPrompt_ = "Select a Output Directory:";
     std::string remembered_;  ///< directory where the next picker starts
 
     QGroupBox* framePeriod = nullptr;

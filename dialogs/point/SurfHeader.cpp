@@ -2,9 +2,8 @@
 
 #include "base/Lines.h"
 #include "base/Numbers.h"
-#include "base/RunTimeError.h"
 #include "base/Text.h"
-#include "processing/DateHelpers.h"
+#include "dialogs/point/HeaderDates.h"
 #include "processing/Zones.h"
 
 namespace zg {
@@ -15,39 +14,12 @@ constexpr std::string_view fileKind = "SURF.DAT";
 constexpr std::size_t versionEnd = 19;
 constexpr std::size_t versionLength = 3;
 
-/// A moment of the header, as its fields give it.
-struct Stamp {
-    std::int16_t year = 0;
-    std::int16_t julianDay = 0;
-    std::int16_t hour = 0;
-    std::int16_t seconds = 0;
-};
-
-DateTime momentOf(Host& host, Stamp stamp) {
-    const MonthAndDay day = VBGRDAY(host, stamp.year, stamp.julianDay);
-    DateTime date =
-        DateFromParts(std::to_string(stamp.year), std::to_string(day.month()), std::to_string(day.day()));
-    if (stamp.hour == 24) {
-        stamp.hour = 0;
-        date = addDays(date, 1);
-    }
-    std::int16_t forMinutes = stamp.seconds;  // the routine changes what it is given
-    const std::string time = std::to_string(stamp.hour) + ":" + std::to_string(MinutesOf(forMinutes)) + ":" +
-                             std::to_string(SecondsOf(stamp.seconds));
-    return AddTimeToDate(date, time);
-}
-
 class SurfReader {
  public:
     SurfReader(Host& host, const std::string& path) : host_(host), lines_(path) {}
 
     SurfHeader read() {
-        try {
-            return readLines();
-        } catch (RunTimeError& error) {
-            if (error.where.empty()) error.where = std::to_string(lines_.lineNumber());
-            throw;
-        }
+        return withLineNumbers(lines_, [this] { return readLines(); });
     }
 
  private:
@@ -89,8 +61,8 @@ class SurfReader {
 
     Host& host_;
     LineReader lines_;
-    Stamp begin_;
-    Stamp end_;
+    JulianStamp begin_;
+    JulianStamp end_;
 };
 
 }  // namespace

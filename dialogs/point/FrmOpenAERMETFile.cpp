@@ -1,0 +1,65 @@
+#include "dialogs/point/FrmOpenAERMETFile.h"
+
+#include "platform/KeyFilter.h"
+#include "platform/QtText.h"
+#include "processing/KeyFilters.h"
+
+namespace zg {
+
+namespace {
+
+bool isSurface(AermetKind kind) { return kind == AermetKind::Surface; }
+
+}  // namespace
+
+frmOpenAERMETFile::frmOpenAERMETFile(Host& host, ProcessStarter& starter, ProcessingWindow window,
+                                     AermetKind kind, QWidget* parent)
+    : StationDialog(host, starter, std::move(window),
+                    isSurface(kind) ? "frmOpenAERMETSFCFile" : "frmOpenAERMETPFLFile",
+                    isSurface(kind) ? "Generate Wind Rose Plots from AERMET Surface Data"
+                                    : "Generate Wind Rose Plots from AERMET Profile Data",
+                    parent),
+      kind_(kind) {
+    txtStationID = new QLineEdit;
+    txtStationID->setObjectName(QStringLiteral("txtStationID"));
+    filterKeys(*txtStationID, KeyNumericInteger);
+    enterIsTab(*txtStationID);
+    build({"txtAERMETDataFile", isSurface(kind) ? "AERMET Surface Data File:" : "AERMET Profile Data File:",
+           isSurface(kind) ? "AERMET Data Files (*.sfc) | *.sfc|All Files (*.*) | *.*; |"
+                           : "AERMET Profile Data Files (*.pfl) | *.pfl|All Files (*.*) | *.*; |",
+           "Please select an AERMET Met Data file.", "The selected AERMET Met Data file does not exist.",
+           isSurface(kind) ? "_AERMETSFC_" : "_AERMETPFL_"},
+          *txtStationID);
+}
+
+InputType frmOpenAERMETFile::inputType() const {
+    return isSurface(kind_) ? InputType::AermSfc : InputType::AermPfl;
+}
+
+std::string frmOpenAERMETFile::stationText() const { return typed(txtStationID->text()); }
+
+/// Without an identifier it is "0", and nothing is looked up.
+std::string frmOpenAERMETFile::stationToLookUp() {
+    if (!txtStationID->text().isEmpty()) return stationText();
+    txtStationID->setText(QStringLiteral("0"));
+    return {};
+}
+
+bool frmOpenAERMETFile::checkPlace() {
+    const bool hasX = !txtXLoc->text().isEmpty();
+    const bool hasY = !txtYLoc->text().isEmpty();
+    if (!check(hasX || !hasY, *txtXLoc, "Please enter an X location.")) return false;
+    if (!check(hasY || !hasX, *txtYLoc, "Please enter a Y location.")) return false;
+    fillEmptyPlace();
+    return true;
+}
+
+void frmOpenAERMETFile::ReadAERMETFile(const std::string& path) {
+    AermetPeriod period;
+    readLargeFile(
+        [&](const std::function<void()>& progress) { period = readAermetPeriod(path, kind_, progress); });
+    showPeriod(period.begin, period.end);
+    if (isSurface(kind_)) txtStationID->setText(shown(period.station));
+}
+
+}  // namespace zg

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "dialogs/point/AermetPeriod.h"
+#include "dialogs/point/StationDialog.h"
+
+namespace zg {
+
+/// Makes a rose of an AERMET surface or profile file: frmOpenAERMETSFCFile and frmOpenAERMETPFLFile.
+class frmOpenAERMETFile : public StationDialog {
+    Q_OBJECT
+
+ public:
+    frmOpenAERMETFile(Host& host, ProcessStarter& starter, ProcessingWindow window, AermetKind kind,
+                      QWidget* parent = nullptr);
+
+    void ReadAERMETFile(const std::string& path);
+
+ private:
+    void readFile(const std::string& path) override { ReadAERMETFile(path); }
+    InputType inputType() const override;
+    std::string stationText() const override;
+    std::string stationToLookUp() override;
+    bool checkPlace() override;
+
+    AermetKind kind_;
+    QLineEdit* txtStationID;
+};
+
+}  // namespace zg

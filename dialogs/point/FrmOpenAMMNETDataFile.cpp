@@ -1,0 +1,59 @@
+#include "dialogs/point/FrmOpenAMMNETDataFile.h"
+
+#include "base/Text.h"
+#include "dialogs/point/MonitorHeader.h"
+#include "platform/Errors.h"
+#include "platform/FieldMarks.h"
+#include "platform/QtText.h"
+#include "processing/Stations.h"
+
+namespace zg {
+
+frmOpenAMMNETDataFile::frmOpenAMMNETDataFile(Host& host, ProcessStarter& starter, ProcessingWindow window,
+                                             QWidget* parent)
+    : StationDialog(host, starter, std::move(window), "frmOpenAMMNETDataFile",
+                    "  Generate Wind Rose Plots from Monitor Meteorological Data", parent) {
+    cboStationID = new QComboBox;
+    cboStationID->setObjectName(QStringLiteral("cboStationID"));
+    cboStationID->setEditable(true);
+    cboStationID->setInsertPolicy(QComboBox::NoInsert);
+    build({"txtAMMNETDataFile", "Monitor Meteorological Data File:",
+           "AMMNET Met Data Files (*.csv) | *.csv|All Files (*.*) | *.*; |",
+           "Please select an AMMNET Met Data file.", "The selected AMMNET Met Data file does not exist.",
+           "_AMMNETW_"},
+          *cboStationID);
+    connect(cboStationID, &QComboBox::activated, this, guarded(host_, [this] { cboStationID_Click(); }));
+}
+
+std::string frmOpenAMMNETDataFile::stationText() const { return typed(cboStationID->currentText()); }
+
+void frmOpenAMMNETDataFile::ReadMonitorHeader(const std::string& path) {
+    MonitorHeader header;
+    readLargeFile([&](const std::function<void()>& progress) { header = readMonitorHeader(path, progress); });
+    if (!header.isMonitor) {
+        refuse(*fileBox_, "The selected air quality data file is not in the expected format.");
+        return;
+    }
+    ClearInvalid(*fileBox_);
+    cboStationID->clear();
+    for (const std::string& station : header.stations) cboStationID->addItem(shown(station));
+    cboStationID->setCurrentIndex(0);
+    showPeriod(header.begin, header.end);
+    DTPicker_TimeStep->setTime(QTime(0, 0).addSecs(60 * header.averagingMinutes));
+    cboStationID_Click();
+}
+
+/// The place of the station by the table of stations, letter case counting; one that it does not have leaves
+/// the place as it is.
+void frmOpenAMMNETDataFile::cboStationID_Click() {
+    const std::string station = trim(stationText());
+    if (station.empty()) return;
+    for (std::size_t i = 0; i < stations.gsStationCol1.size(); ++i) {
+        if (trim(stations.gsStationCol1[i]) != station) continue;
+        txtXLoc->setText(shown(stations.gsStationCol2[i]));
+        txtYLoc->setText(shown(stations.gsStationCol3[i]));
+        return;
+    }
+}
+
+}  // namespace zg

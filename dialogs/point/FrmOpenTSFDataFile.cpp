@@ -1,0 +1,56 @@
+#include "dialogs/point/FrmOpenTSFDataFile.h"
+
+#include "dialogs/point/TsfHeader.h"
+#include "platform/FieldMarks.h"
+#include "platform/QtText.h"
+#include "processing/Zones.h"
+
+namespace zg {
+
+namespace {
+
+constexpr std::int32_t secondsADay = 86400;
+
+}  // namespace
+
+frmOpenTSFDataFile::frmOpenTSFDataFile(Host& host, ProcessStarter& starter, ProcessingWindow window,
+                                       QWidget* parent)
+    : StationDialog(host, starter, std::move(window), "frmOpenTSFDataFile",
+                    "Generate Wind Rose Plots from Time Series File (TSF)", parent) {
+    txtStationID = new QLineEdit;
+    txtStationID->setObjectName(QStringLiteral("txtStationID"));
+    build({"txtTSFDataFile",
+           "Time Series File (TSF):", "TSF Data Files (*.tsf) | *.tsf|All Files (*.*) | *.*; |",
+           "Please select a TSF Data file.", "The selected TSF Data file does not exist.", "_TSFMET_"},
+          *txtStationID);
+}
+
+std::string frmOpenTSFDataFile::stationText() const { return typed(txtStationID->text()); }
+
+void frmOpenTSFDataFile::ReadTSFHeader(const std::string& path) {
+    const TsfHeader header = readTsfHeader(path);
+    switch (header.outcome) {
+        case TsfOutcome::NotTsf:
+            refuse(*fileBox_, "The selected file is not a valid Time Series File (*.TSF).");
+            return;
+        case TsfOutcome::NotMeteorological:
+            refuse(*fileBox_, "The selected file is not a valid meteorological Time Series File (*.TSF).");
+            return;
+        case TsfOutcome::Refused:
+            return;
+        case TsfOutcome::Read:
+            break;
+    }
+    ClearInvalid(*fileBox_);
+    stationInFile_ = header.station;
+    txtStationID->setText(shown(header.station));
+    showPeriod(header.begin, header.end);
+    // A picker holds a time of day: whole days of the step are gone.
+    DTPicker_TimeStep->setTime(QTime(0, 0).addSecs(header.stepSeconds % secondsADay));
+    int row = 0;
+    for (std::size_t i = 0; i < timeZones.gsTimeZoneKeys.size(); ++i)
+        if (timeZones.gsTimeZoneKeys[i] == header.timeZone) row = static_cast<int>(i);
+    cboTimeZone->setCurrentIndex(row);
+}
+
+}  // namespace zg

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "dialogs/point/StationDialog.h"
+
+namespace zg {
+
+/// Makes a rose of a time-series file that the processor wrote earlier.
+class frmOpenTSFDataFile : public StationDialog {
+    Q_OBJECT
+
+ public:
+    frmOpenTSFDataFile(Host& host, ProcessStarter& starter, ProcessingWindow window,
+                       QWidget* parent = nullptr);
+
+    void ReadTSFHeader(const std::string& path);
+
+ private:
+    void readFile(const std::string& path) override { ReadTSFHeader(path); }
+    InputType inputType() const override { return InputType::Tsf; }
+    std::string stationText() const override;
+    std::string stationToLookUp() override { return stationInFile_; }
+    bool hasHeightInName() const override { return false; }
+
+    QLineEdit* txtStationID;
+    std::string stationInFile_;
+};
+
+}  // namespace zg

@@ -1,0 +1,199 @@
+#include "dialogs/point/FrmOpenUPDATFile.h"
+
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
+#include "base/Text.h"
+#include "dialogs/point/SurfNames.h"
+#include "platform/Errors.h"
+#include "platform/FieldMarks.h"
+#include "platform/KeyFilter.h"
+#include "platform/QtText.h"
+#include "processing/Directories.h"
+#include "processing/KeyFilters.h"
+#include "processing/Zones.h"
+
+namespace zg {
+
+namespace {
+
+DateTime momentIn(const QDateEdit& date, const QTimeEdit& time) {
+    const QDate day = date.date();
+    const QTime clock = time.time();
+    return addSeconds(makeDate(day.year(), day.month(), day.day()),
+                      timeSerial(clock.hour(), clock.minute(), clock.second()));
+}
+
+}  // namespace
+
+frmOpenUPDATFile::frmOpenUPDATFile(Host& host, ProcessStarter& starter, ProcessingWindow window,
+                                   QWidget* parent)
+    : PointDialog(host, starter, std::move(window), "frmOpenUPDATFile",
+                  "Generate Wind Rose Plots from an UP.DAT File:", parent) {
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(makeInput());
+    layout->addWidget(makePeriod(true));
+    layout->addWidget(makeOutput());
+    layout->addStretch();
+    layout->addLayout(makeButtons());
+    connect(cmdView, &QPushButton::clicked, this, guarded(host_, [this] { cmdView_Click(); }));
+    connect(cboTimeZone, &QComboBox::activated, this, guarded(host_, [this] { cboTimeZone_Click(); }));
+    Form_Load();
+    resize(620, sizeHint().height());
+    cmdBrowseFile->setFocus();
+}
+
+QGroupBox* frmOpenUPDATFile::makeInput() {
+    auto* frame = new QGroupBox(QStringLiteral("UP.DAT File:"));
+    const auto box = [](const char* name) {
+        auto* made = new QLineEdit;
+        made->setObjectName(QString::fromLatin1(name));
+        return made;
+    };
+    txtUPDATFile = box("txtUPDATFile");
+    txtUPDATFile->setAccessibleName(frame->title());
+    cmdBrowseFile = button("Browse", "cmdBrowseFile");
+    cmdBrowseFile->setAccessibleName(QStringLiteral("Browse for an UP.DAT file"));
+    txtStationID = box("txtStationID");
+    txtExtractionHeights = box("txtExtractionHeights");
+    txtExtractionHeights->setText(QStringLiteral("10"));
+    filterKeys(*txtStationID, KeyNumericInteger);
+    filterKeys(*txtExtractionHeights, KeyNumericHeights);
+    enterIsTab(*txtStationID);
+    enterIsTab(*txtExtractionHeights);
+    auto* grid = new QGridLayout(frame);
+    grid->addWidget(txtUPDATFile, 0, 0, 1, 2);
+    grid->addWidget(cmdBrowseFile, 0, 2);
+    grid->addWidget(labelFor("Station ID:", txtStationID), 1, 0);
+    grid->addWidget(txtStationID, 1, 1);
+    grid->addWidget(labelFor("Extraction Height(s):", txtExtractionHeights), 2, 0);
+    grid->addWidget(txtExtractionHeights, 2, 1);
+    grid->addWidget(new QLabel(QStringLiteral("meters")), 2, 2);
+    auto* note =
+        new QLabel(QStringLiteral("Multiple extraction heights may be entered separated by commas."));
+    grid->addWidget(note, 3, 0, 1, 3);
+    grid->setColumnStretch(1, 1);
+    connect(cmdBrowseFile, &QPushButton::clicked, this, guarded(host_, [this] {
+                if (browseInput(*txtUPDATFile, "UP.DAT Data Files (*.dat) | *.dat|All Files (*.*) | *.*; |"))
+                    ReadUPDATHeader(filePath(txtUPDATFile->text()));
+            }));
+    return frame;
+}
+
+float frmOpenUPDATFile::comboHours() const {
+    const int row = cboTimeZone->currentIndex();
+    if (row < 0) zg::raise(ErrorNumber::SubscriptOutOfRange);
+    return HoursFromTimeZone(timeZones.gsTimeZoneKeys.at(static_cast<std::size_t>(row)));
+}
+
+/// Of a shifted moment only the date and the hour are shown.
+void frmOpenUPDATFile::showShifted(DateTime moment, QDateEdit& date, QTimeEdit& time, int minute,
+                                   int second) {
+    const CalendarDate day = dateOf(moment);
+    date.setDate(QDate(day.year, day.month, day.day));
+    time.setTime(QTime(timeOf(moment).hour, minute, second));
+}
+
+void frmOpenUPDATFile::ReadUPDATHeader(const std::string& path) {
+    const UpHeader header = readUpHeader(host_, path);
+    if (!header.isUp) {
+        refuse(*txtUPDATFile, "The selected file is not a valid UP.DAT file.");
+        return;
+    }
+    ClearInvalid(*txtUPDATFile);
+    if (header.version.empty()) return;
+    msFileTimeZone = header.timeZone;
+    mdBeginInFile = header.begin;
+    mdEndInFile = header.end;
+    mfComboHours = comboHours();
+    const float difference = HoursFromTimeZone(msFileTimeZone) - mfComboHours;
+    const auto shifted = [difference](DateTime moment) {
+        return addHours(moment, static_cast<double>(difference));
+    };
+    showShifted(shifted(header.begin), *DTPicker_BeginDate, *DTPicker_BeginTime, header.beginFields.minute,
+                header.beginFields.second);
+    showShifted(shifted(header.end), *DTPicker_EndDate, *DTPicker_EndTime, header.endFields.minute,
+                header.endFields.second);
+    const int before = cboTimeZone->currentIndex();
+    cboTimeZone->setCurrentIndex(-1);
+    chooseTimeZone(msFileTimeZone);
+    if (cboTimeZone->currentIndex() < 0)
+        cboTimeZone->setCurrentIndex(before);
+    else
+        cboTimeZone_Click();
+    txtStationID->setText(shown(header.station));
+}
+
+/// Another zone moves the period on show, which never begins before the file does.
+void frmOpenUPDATFile::cboTimeZone_Click() {
+    if (!mdBeginInFile || !mdEndInFile) return;
+    const auto back = [this](const QDateEdit& date, const QTimeEdit& time) {
+        return std::max(addHours(momentIn(date, time), static_cast<double>(mfComboHours)), *mdBeginInFile);
+    };
+    const DateTime begin = back(*DTPicker_BeginDate, *DTPicker_BeginTime);
+    const DateTime end = back(*DTPicker_EndDate, *DTPicker_EndTime);
+    mfComboHours = comboHours();
+    const auto difference = static_cast<double>(HoursFromTimeZone(msFileTimeZone) - mfComboHours);
+    const auto show = [&](DateTime moment, QDateEdit& date, QTimeEdit& time) {
+        showShifted(addHours(moment, difference), date, time, time.time().minute(), time.time().second());
+    };
+    show(begin, *DTPicker_BeginDate, *DTPicker_BeginTime);
+    show(end, *DTPicker_EndDate, *DTPicker_EndTime);
+}
+
+bool frmOpenUPDATFile::checkFields() {
+    const std::string path = filePath(txtUPDATFile->text());
+    return checkPeriod() && check(!path.empty(), *txtUPDATFile, "Please select an UP.DAT file.") &&
+           check(fileExists(path), *txtUPDATFile, "The selected UP.DAT file does not exist.") &&
+           checkTimeZone() &&
+           check(!txtExtractionHeights->text().isEmpty(), *txtExtractionHeights,
+                 "Please enter one or more extraction heights in meters separated by commas.") &&
+           check(!txtOutputDirectory->text().isEmpty(), *txtOutputDirectory,
+                 "Please select a Directory For Output.") &&
+           check(IsDirectory(outputDirectory()), *txtOutputDirectory,
+                 "Selected Directory For Output does not exist.");
+}
+
+void frmOpenUPDATFile::readValues() {
+    const std::string path = filePath(txtUPDATFile->text());
+    const std::string station = typed(txtStationID->text());
+    const std::string name = trim(station).empty() ? std::string() : stationNameOf(station);
+    runName_ = (name.empty() ? fileBaseOf(path) : name) + "_UP_" + periodText();
+    values_ = sharedValues(InputType::Up);
+    values_.inputFiles = {path};
+    values_.base = runName_;
+    outputs_.clear();
+    const std::string text = typed(txtExtractionHeights->text());
+    const Pieces heights = split(text, ",");
+    // Each empty item makes one output fewer, but stays where it is: the last heights are lost.
+    std::size_t count = heights.size();
+    for (std::size_t i = 0; i < heights.size(); ++i)
+        if (heights[i].empty()) --count;
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::string height(heights[i]);
+        outputs_.push_back({runName_ + "_" + height + "m", {}});
+        values_.outputs.push_back(
+            {std::to_string(i + 1), outputs_.back().name, trim(values_.title), station + ", 0, 0", height});
+    }
+}
+
+void frmOpenUPDATFile::cmdView_Click() {
+    leftOutputDirectory();
+    if (!checkFields()) return;
+    RunHooks hooks = sharedHooks();
+    hooks.readValues = [this] { readValues(); };
+    hooks.base = [this] { return values_.base; };
+    hooks.outputs = [this] { return outputs_; };
+    hooks.firstName = [this] { return outputs_.empty() ? std::string() : outputs_.front().name; };
+    hooks.writeControlFile = [this] { WriteControlFile(outputDirectory(), values_); };
+    const auto showExit = hooks.showExit;
+    hooks.showExit = [this, showExit] {
+        txtFRQOutputFilename->setText(fileName(runName_));
+        showExit();
+    };
+    runProcessor(host_, starter_, RunForm::Heights, hooks);
+}
+
+}  // namespace zg

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "dialogs/point/PointDialog.h"
+#include "dialogs/point/UpHeader.h"
+
+namespace zg {
+
+/// Makes a rose a height of an upper-air sounding file. Its period is shown in the zone that is picked.
+class frmOpenUPDATFile : public PointDialog {
+    Q_OBJECT
+
+ public:
+    frmOpenUPDATFile(Host& host, ProcessStarter& starter, ProcessingWindow window, QWidget* parent = nullptr);
+
+    void ReadUPDATHeader(const std::string& path);
+
+ private:
+    QGroupBox* makeInput();
+    void cboTimeZone_Click();
+    float comboHours() const;
+    void showShifted(DateTime moment, QDateEdit& date, QTimeEdit& time, int minute, int second);
+    bool checkFields();
+    void cmdView_Click();
+    void readValues();
+
+    QLineEdit* txtUPDATFile;
+    QPushButton* cmdBrowseFile;
+    QLineEdit* txtStationID;
+    QLineEdit* txtExtractionHeights;
+
+    std::string msFileTimeZone;
+    std::optional<DateTime> mdBeginInFile;
+    std::optional<DateTime> mdEndInFile;
+    float mfComboHours = 0;
+
+    ControlFile values_;
+    std::string runName_;
+    std::vector<RunOutput> outputs_;
+};
+
+}  // namespace zg

@@ -1,0 +1,23 @@
+#include "dialogs/point/HeaderDates.h"
+
+#include "processing/DateHelpers.h"
+
+namespace zg {
+
+std::string timeTextOf(const std::string& hour, std::int16_t seconds) {
+    std::int16_t forMinutes = seconds;  // the routine changes what it is given
+    return hour + ":" + std::to_string(MinutesOf(forMinutes)) + ":" + std::to_string(SecondsOf(seconds));
+}
+
+DateTime momentOf(Host& host, JulianStamp stamp) {
+    const MonthAndDay day = VBGRDAY(host, stamp.year, stamp.julianDay);
+    DateTime date =
+        DateFromParts(std::to_string(stamp.year), std::to_string(day.month()), std::to_string(day.day()));
+    if (stamp.hour == 24) {
+        stamp.hour = 0;
+        date = addDays(date, 1);
+    }
+    return AddTimeToDate(date, timeTextOf(std::to_string(stamp.hour), stamp.seconds));
+}
+
+}  // namespace zg

@@ -1,0 +1,40 @@
+#pragma once
+
+// What the readers of point data's headers share.
+
+#include <cstdint>
+#include <string>
+
+#include "base/Dates.h"
+#include "base/Host.h"
+#include "base/Lines.h"
+#include "base/RunTimeError.h"
+
+namespace zg {
+
+/// A moment by year and day of the year, as a header gives it.
+struct JulianStamp {
+    std::int16_t year = 0;
+    std::int16_t julianDay = 0;
+    std::int16_t hour = 0;     ///< 24 is midnight of the next day
+    std::int16_t seconds = 0;  ///< within the hour
+};
+
+/// A day out of its year shows its message; raises 13 for what is no date or time.
+DateTime momentOf(Host& host, JulianStamp stamp);
+
+/// "h:m:s" of an hour's text and the seconds within the hour.
+std::string timeTextOf(const std::string& hour, std::int16_t seconds);
+
+/// Reads by the function; an error gets the number of the line that it happened at.
+template <typename Read>
+auto withLineNumbers(LineReader& lines, Read read) {
+    try {
+        return read();
+    } catch (RunTimeError& error) {
+        if (error.where.empty()) error.where = std::to_string(lines.lineNumber());
+        throw;
+    }
+}
+
+}  // namespace zg
