@@ -1,9 +1,8 @@
 #include "batch/RunningDialog.h"
 
-#include <QEvent>
-
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
+#include "platform/FocusMoves.h"
 #include "platform/QtText.h"
 #include "processing/Wait.h"
 
@@ -46,15 +45,7 @@ void RunningDialog::refuse(QWidget& field, const char* text) {
 }
 
 void RunningDialog::whenLeft(QWidget& field, std::function<void()> action) {
-    leaving_.emplace_back(&field, std::move(action));
-    field.installEventFilter(this);
-}
-
-bool RunningDialog::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusOut)
-        for (const auto& [field, action] : leaving_)
-            if (field == watched) guarded(host_, action)();
-    return QDialog::eventFilter(watched, event);
+    zg::whenLeft(host_, field, std::move(action));
 }
 
 void RunningDialog::clearMark(QWidget& field, bool filled) {
