@@ -1,8 +1,9 @@
 #include "batch/RunningDialog.h"
 
+#include <QEvent>
+
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
-#include "platform/FocusMoves.h"
 #include "platform/QtText.h"
 #include "processing/Wait.h"
 
@@ -45,7 +46,15 @@ void RunningDialog::refuse(QWidget& field, const char* text) {
 }
 
 void RunningDialog::whenLeft(QWidget& field, std::function<void()> action) {
-    zg::whenLeft(host_, field, std::move(action));
+    leaving_.emplace_back(&field, std::move(action));
+    field.installEventFilter(this);
+}
+
+bool RunningDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusOut)
+        for (const auto& [field, action] : leaving_)
+            if (field == watched) guarded(host_, action)();
+    return QDialog::eventFilter(watched, event);
 }
 
 void RunningDialog::clearMark(QWidget& field, bool filled) {

@@ -30,6 +30,7 @@ class RunningDialog : public QDialog {
 
     /// What follows when the focus leaves a box.
     void whenLeft(QWidget& field, std::function<void()> action);
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
     /// A marked box that is filled becomes clean, and the status line empty.
     void clearMark(QWidget& field, bool filled);
@@ -43,6 +44,7 @@ class RunningDialog : public QDialog {
 
  private:
     bool running_ = false;
+    std::vector<std::pair<QObject*, std::function<void()>>> leaving_;
 };
 
 }  // namespace zg

@@ -1,6 +1,5 @@
 #include "dialogs/point/FrmOpenAERMETFile.h"
 
-#include "platform/FocusMoves.h"
 #include "platform/KeyFilter.h"
 #include "platform/QtText.h"
 #include "processing/KeyFilters.h"

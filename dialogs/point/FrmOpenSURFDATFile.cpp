@@ -8,7 +8,6 @@
 #include "dialogs/point/SurfNames.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
-#include "platform/FocusMoves.h"
 #include "platform/KeyFilter.h"
 #include "platform/QtText.h"
 

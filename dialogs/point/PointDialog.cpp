@@ -1,5 +1,7 @@
 #include "dialogs/point/PointDialog.h"
 
+#include <QEvent>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include "base/Paths.h"
@@ -8,7 +10,6 @@
 #include "platform/Combos.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
-#include "platform/FocusMoves.h"
 #include "platform/Pickers.h"
 #include "platform/QtText.h"
 #include "processing/Directories.h"
@@ -38,6 +39,22 @@ QTimeEdit* timePicker(const char* name) {
     picker->setDisplayFormat(QStringLiteral("HH:mm:ss"));
     return picker;
 }
+
+class EnterIsTab : public QObject {
+ public:
+    explicit EnterIsTab(QWidget& field) : QObject(&field), field_(field) { field.installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) return false;
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+        if (QWidget* next = field_.nextInFocusChain()) next->setFocus(Qt::TabFocusReason);
+        return true;
+    }
+
+ private:
+    QWidget& field_;
+};
 
 std::string number(int value) { return std::to_string(value); }
 
@@ -195,7 +212,15 @@ bool PointDialog::checkOutputName() {
 }
 
 void PointDialog::whenLeft(QWidget& field, std::function<void()> action) {
-    zg::whenLeft(host_, field, std::move(action));
+    leaving_.emplace_back(&field, std::move(action));
+    field.installEventFilter(this);
+}
+
+bool PointDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusOut)
+        for (const auto& [field, action] : leaving_)
+            if (field == watched) guarded(host_, action)();
+    return QDialog::eventFilter(watched, event);
 }
 
 void PointDialog::clearMark(QWidget& field, bool filled) {
@@ -267,6 +292,8 @@ bool PointDialog::browseInput(QLineEdit& box, const char* filter) {
     txtOutputDirectory->setText(fileName(remembered_));
     return true;
 }
+
+void PointDialog::enterIsTab(QWidget& field) { new EnterIsTab(field); }
 
 void PointDialog::readLargeFile(const std::function<void(const std::function<void()>&)>& read) {
     constexpr std::int64_t secondMs = 1000;

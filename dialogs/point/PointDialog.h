@@ -56,6 +56,7 @@ class PointDialog : public QDialog {
     bool checkOutputName();
 
     void whenLeft(QWidget& field, std::function<void()> action);
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void leftOutputDirectory();
     void clearMark(QWidget& field, bool filled);
     void chooseTimeZone(const std::string& key);
@@ -71,6 +72,9 @@ class PointDialog : public QDialog {
 
     /// Asks for the input file; takes it, and its directory for the output. False when cancelled.
     bool browseInput(QLineEdit& box, const char* filter);
+
+    /// Enter goes on to the next control, as Tab does.
+    static void enterIsTab(QWidget& field);
 
     /// While a large file is read the window stays alive, the fields are out of reach, and after a second the
     /// status line says so.
@@ -99,6 +103,9 @@ class PointDialog : public QDialog {
     QPushButton* cmdView = nullptr;
     QPushButton* cmdExit = nullptr;
     QLabel* lblStatus = nullptr;
+
+ private:
+    std::vector<std::pair<QObject*, std::function<void()>>> leaving_;
 };
 
 }  // namespace zg
