@@ -79,8 +79,9 @@ class Run {
     }
 
     void removeMarker() {
-        const std::string marker = existingFile(directory_ + markerName);
-        if (!marker.empty() && std::remove(marker.c_str()) != 0) raiseFileError(errno);
+        // It may lie there in several spellings, and each of them would end the wait.
+        for (std::string marker; !(marker = existingFile(directory_ + markerName)).empty();)
+            if (std::remove(marker.c_str()) != 0) raiseFileError(errno);
     }
 
     void await(const RunOutput& output) {

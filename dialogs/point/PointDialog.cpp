@@ -1,6 +1,7 @@
 #include "dialogs/point/PointDialog.h"
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
@@ -327,10 +328,11 @@ RunHooks PointDialog::sharedHooks() {
     hooks.showName = [this](const std::string& name) { txtFRQOutputFilename->setText(fileName(name)); };
     hooks.setStatus = [this](const std::string& text) { lblStatus->setText(shown(text)); };
     hooks.setBusy = [this](bool busy) {
+        // The whole screen shows it, also once the dialog is hidden.
         if (busy)
-            setCursor(Qt::WaitCursor);
+            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
         else
-            unsetCursor();
+            QGuiApplication::restoreOverrideCursor();
     };
     hooks.load = window_.plotFrqFile;
     hooks.showExit = [this] {

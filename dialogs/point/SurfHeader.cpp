@@ -31,7 +31,8 @@ class SurfReader {
         header.outcome = SurfOutcome::UnknownVersion;
         if (version != "2.0" && version != "2.1") return header;
         const std::int16_t comments = toInt16(trim(lines_.readLine()));
-        for (int i = 0; i <= comments; ++i) lines_.readLine();
+        for (int i = 0; i < comments; ++i) lines_.readLine();
+        lines_.readLine();  // one line follows the comments, however many there are
         if (version == "2.1") header.timeZone = trim(lines_.readLine());
         const int stationCount = version == "2.1" ? readPeriod21(header) : readPeriod20(header);
         for (int i = 0; i < stationCount; ++i) header.stations.push_back(trim(lines_.readLine()));

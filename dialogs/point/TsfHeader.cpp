@@ -57,7 +57,8 @@ TsfHeader readLines(LineReader& lines) {
     if (kind[1] != "1.3") return header;
     const std::string countLine(lines.readLine());
     const std::int16_t comments = toInt16(trim(split(countLine, "-")[0]));
-    for (int i = 0; i <= comments; ++i) lines.readLine();
+    for (int i = 0; i < comments; ++i) lines.readLine();
+    lines.readLine();  // one line follows the comments, however many there are
     lines.readLine();  // the kind of data, which nothing here asks for
     header.station = stationOf(squeezed(lines));
     header.timeZone = zoneOf(lines);

@@ -109,6 +109,7 @@ TEST_F(ProcessorRun, ASingleOutputTellsItsOwnResult) {
 
 TEST_F(ProcessorRun, AStaleMarkerIsRemovedAndTheWaitLooksEvery900Milliseconds) {
     directory_.write("finished.txt", "stale");
+    directory_.write("FINISHED.TXT", "stale in another spelling");
     int polls = 0;
     Texts texts;
     hooks_.setStatus = [&](const std::string& text) { texts.push_back(text); };

@@ -112,6 +112,12 @@ TEST_F(SurfHeaderTest, ANegativeNumberOfStationsIsNone) {
         read(head21 + "0\r\nNONE\r\nUTC-0500\r\n1990 8 0 0 1990 15 23 0 -1\r\n14606\r\n").stations.empty());
 }
 
+TEST_F(SurfHeaderTest, ANegativeNumberOfCommentsIsNone) {
+    EXPECT_EQ(
+        read(head21 + "-3\r\nNONE\r\nUTC-0500\r\n1990 8 0 0 1990 15 23 0 1\r\n14606\r\n").stations.size(),
+        1U);
+}
+
 TEST_F(SurfHeaderTest, AMissingFileIsAnError) {
     EXPECT_THROW(readSurfHeader(host_, directory_.file("no.dat")), RunTimeError);
 }
