@@ -1,5 +1,6 @@
 #include "processing/ProcessorRun.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 
@@ -14,8 +15,9 @@ namespace {
 
 constexpr const char* batchName = "run_tempoline.bat";
 constexpr const char* markerName = "finished.txt";
-constexpr std::int32_t animationMs = 300;
-constexpr std::int32_t sliceMs = 50;  // between looks at whether the program is being closed
+constexpr std::int64_t animationMs = 300;
+constexpr std::int64_t sliceMs = 50;  // between looks at whether the program is being closed
+constexpr int badFileName = 52;
 
 /// The user chose Cancel, or the program is being closed.
 struct RunEnded {};
@@ -31,7 +33,10 @@ class Run {
             for (const RunOutput& output : outputs_) await(output);
             finish();
         } catch (const RunEnded&) {
-            return;
+            hooks_.setBusy(false);
+        } catch (...) {
+            hooks_.setBusy(false);
+            throw;
         }
     }
 
@@ -47,7 +52,6 @@ class Run {
                                      "ERROR:", BoxIcon::None, BoxButtons::RetryCancel};
                 if (host_.showBox(box) == BoxAnswer::Retry) continue;
                 hooks_.setStatus("");
-                hooks_.setBusy(false);
                 throw RunEnded{};
             }
         }
@@ -72,14 +76,17 @@ class Run {
     }
 
     void writeBatchFile() {
+        // A name of more than one line would put commands of its own into the file.
+        if ((directory_ + base_).find_first_of("\r\n") != std::string::npos)
+            throw RunTimeError(badFileName, "Bad file name or number");
         LineWriter file(directory_ + batchName);
         for (const std::string& line : batchLines(directory_, base_, applicationDirectory))
             file.writeLine(line);
         file.close();
     }
 
+    /// In every letter case: each of them would end the wait.
     void removeMarker() {
-        // It may lie there in several spellings, and each of them would end the wait.
         for (std::string marker; !(marker = existingFile(directory_ + markerName)).empty();)
             if (std::remove(marker.c_str()) != 0) raiseFileError(errno);
     }
@@ -136,8 +143,9 @@ void AnimateRunning(Host& host, const std::function<void(const std::string&)>& s
                     const std::function<bool()>& abandoned) {
     for (const char* text : {"Running.  ", "Running.. ", "Running..."}) {
         setStatus(text);
-        for (std::int32_t waited = 0; waited < animationMs && !abandoned(); waited += sliceMs)
-            WaitMs(host, sliceMs);
+        const std::int64_t end = host.tickCount() + animationMs;
+        for (std::int64_t left = animationMs; left > 0 && !abandoned(); left = end - host.tickCount())
+            WaitMs(host, static_cast<std::int32_t>(std::min(left, sliceMs)));
     }
 }
 

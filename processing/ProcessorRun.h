@@ -36,7 +36,7 @@ struct RunHooks {
     std::function<void()> writeControlFile;
     std::function<void(const std::string&)> showName;   ///< of the output that is being worked on
     std::function<void(const std::string&)> setStatus;  ///< lblStatus
-    std::function<void(bool)> setBusy;                  ///< the hourglass
+    std::function<void(bool)> setBusy;                  ///< the hourglass; back at every end of a run
     std::function<void(const std::string&)> load;       ///< plots an FRQ file in the main window
     std::function<void()> showExit;                     ///< cmdExit reads "Exit" and is enabled
     std::function<void()> keepTimeZone;                 ///< the zone picked is saved with the settings

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <filesystem>
 
 #include "base/RunTimeError.h"
 #include "tests/support/TempDirectory.h"
@@ -45,14 +47,17 @@ class ProcessorRun : public ::testing::Test {
         };
         hooks_.showExit = [this] { log("exit"); };
         hooks_.keepTimeZone = [this] { log("zone"); };
-        hooks_.abandoned = [this] { return abandoned_; };
+        hooks_.abandoned = [this] { return abandoned_ || host_.pumps >= pumpLimit; };
     }
+    void TearDown() override { EXPECT_LT(host_.pumps, pumpLimit) << "the wait did not end"; }
     void log(const std::string& text) { log_.push_back(text); }
     void finish(const Texts& made) {
         for (const std::string& name : made) directory_.write(name + ".frq", "");
         directory_.write("finished.txt", "");
     }
     void run(RunForm form) { runProcessor(host_, starter_, form, hooks_); }
+
+    static constexpr int pumpLimit = 10'000;
 
     TempDirectory directory_;
     TestHost host_;
@@ -144,6 +149,109 @@ TEST_F(ProcessorRun, AnErrorIsToldAndRetryResumesAtTheStep) {
     EXPECT_EQ(status_, "Finished");
 }
 
+TEST_F(ProcessorRun, EveryStepCanBeTriedAgainWithoutTheStepsBeforeIt) {
+    outputs_ = {{"one", ""}};
+    const auto failingOnce = [this](const std::string& name, auto then) {
+        return [this, name, then, failed = false](auto&&...) mutable {
+            log(name);
+            if (!std::exchange(failed, true)) throw RunTimeError(70, "Permission denied: " + name);
+            then();
+        };
+    };
+    std::filesystem::create_directory(directory_.file("run_tempoline.bat"));
+    hooks_.readValues = failingOnce("values", [] {});
+    hooks_.writeControlFile = failingOnce("control", [] {});
+    starter_.onStart = failingOnce("start", [this] { finish({"one"}); });
+    hooks_.load = failingOnce("load", [] {});
+    hooks_.keepTimeZone = failingOnce("zone", [] {});
+    host_.onBox = [this] {
+        if (host_.boxes.back().text.find("= 75)") != std::string::npos)
+            std::filesystem::remove(directory_.file("run_tempoline.bat"));
+    };
+    host_.boxAnswers.assign(6, BoxAnswer::Retry);
+    run(RunForm::Single);
+    EXPECT_EQ(log_, (Texts{"busy", "values", "values", "name one", "control", "control", "start", "start",
+                           "name one", "load", "load", "status Finished", "exit", "idle", "zone", "zone"}));
+    ASSERT_EQ(host_.boxes.size(), 6U);
+    EXPECT_EQ(host_.boxes[2].text,
+              "The following error has occurred: \"Path/File access error\".  (Error Number = 75)");
+}
+
+TEST_F(ProcessorRun, ANameOfTwoLinesAddsNoCommandsToTheBatchFile) {
+    hooks_.base = [] { return std::string("x\n\"/bin/sh\" -c evil"); };
+    host_.boxAnswers = {BoxAnswer::Cancel};
+    run(RunForm::Single);
+    ASSERT_EQ(host_.boxes.size(), 1U);
+    EXPECT_EQ(host_.boxes[0].text,
+              "The following error has occurred: \"Bad file name or number\".  (Error Number = 52)");
+    EXPECT_FALSE(std::filesystem::exists(directory_.file("run_tempoline.bat")));
+    EXPECT_TRUE(starter_.started.empty());
+}
+
+TEST_F(ProcessorRun, AStaleMarkerIsRemovedInEveryLetterCase) {
+    for (const char* name : {"finished.txt", "FINISHED.TXT", "Finished.txt"}) directory_.write(name, "stale");
+    starter_.onStart = [this] {
+        for (const char* name : {"finished.txt", "FINISHED.TXT", "Finished.txt"})
+            EXPECT_FALSE(std::filesystem::exists(directory_.file(name))) << name;
+        finish({});
+    };
+    run(RunForm::Single);
+    EXPECT_EQ(starter_.started.size(), 1U);
+}
+
+TEST_F(ProcessorRun, AnOldResultIsNotRemovedAndCounts) {
+    directory_.write("one.frq", "old");
+    outputs_ = {{"one", ""}};
+    starter_.onStart = [this] { finish({}); };
+    run(RunForm::Single);
+    EXPECT_EQ(status_, "Finished");
+}
+
+TEST_F(ProcessorRun, AResultInCapitalsIsLoadedByItsRealName) {
+    outputs_ = {{"one", ""}};
+    starter_.onStart = [this] {
+        directory_.write("ONE.FRQ", "");
+        directory_.write("FINISHED.TXT", "");
+    };
+    run(RunForm::Single);
+    EXPECT_EQ(std::count(log_.begin(), log_.end(), "load ONE.FRQ"), 1);
+}
+
+TEST_F(ProcessorRun, HeightsTellEachResultAndNoHeightLeavesTheLabel) {
+    starter_.onStart = [this] { finish({"one", "three"}); };
+    run(RunForm::Heights);
+    EXPECT_EQ(log_, (Texts{"busy", "values", "name one", "control", "name one", "load one.frq",
+                           "status Finished", "name two", "status Error has occurred.", "name three",
+                           "load three.frq", "status Finished", "exit", "idle", "zone"}));
+    outputs_.clear();
+    run(RunForm::Heights);
+    EXPECT_EQ(status_, "Running...") << "nothing is waited for";
+}
+
+TEST_F(ProcessorRun, ADirectoryRemovedDuringTheWaitOnlyMeansThatNoMarkerComes) {
+    std::filesystem::create_directory(directory_.file("out"));
+    hooks_.outputDirectory = [this] { return directory_.file("out/"); };
+    host_.onPump = [this] {
+        if (host_.pumps == 10) std::filesystem::remove_all(directory_.file("out"));
+        abandoned_ = host_.pumps >= 100;
+    };
+    run(RunForm::Single);
+    EXPECT_EQ(host_.pumps, 100);
+    EXPECT_TRUE(host_.boxes.empty());
+}
+
+TEST(AnimateRunning, TakesThreeTimes300MillisecondsHoweverLongAPumpTakes) {
+    TestHost host;
+    host.onPump = [&] { host.now += 70; };  // 120 ms a slice
+    std::vector<std::pair<std::int64_t, std::string>> texts;
+    AnimateRunning(
+        host, [&](const std::string& text) { texts.emplace_back(host.now, text); }, [] { return false; });
+    ASSERT_EQ(texts.size(), 3U);
+    EXPECT_EQ(texts[1], std::pair(std::int64_t{360}, std::string("Running.. ")));
+    EXPECT_EQ(texts[2], std::pair(std::int64_t{720}, std::string("Running...")));
+    EXPECT_EQ(host.now, 1080);
+}
+
 TEST_F(ProcessorRun, CancelEndsTheRunWithAnEmptyStatus) {
     starter_.onStart = [this] { finish({"one", "two", "three"}); };
     hooks_.load = [](const std::string&) { throw RunTimeError(13, "Type mismatch"); };
@@ -168,8 +276,10 @@ TEST_F(ProcessorRun, AWaitThatIsAbandonedEndsQuietly) {
         ASSERT_LT(host_.pumps, 210) << "the wait goes on";
     };
     run(RunForm::Stations);
+    EXPECT_EQ(host_.pumps, 200);
     EXPECT_TRUE(host_.boxes.empty());
     EXPECT_EQ(std::count(log_.begin(), log_.end(), "zone"), 0);
+    EXPECT_EQ(log_.back(), "idle") << "the pointer does not stay an hourglass";
 }
 
 }  // namespace

@@ -16,6 +16,7 @@ zg::BoxAnswer TestHost::showBox(const zg::MessageBox& box) {
     }
     const zg::BoxAnswer answer = boxAnswers.front();
     boxAnswers.pop_front();
+    if (onBox) onBox();
     return answer;
 }
 

@@ -33,6 +33,8 @@ class TestHost : public zg::Host {
     std::deque<std::optional<zg::FontRecord>> fontAnswers;
     std::function<void()> onPump;  ///< runs at each pump, as the events that arrive meanwhile
 
+    std::function<void()> onBox;  ///< runs at each box that is answered, as what is done about it meanwhile
+
     std::vector<zg::MessageBox> boxes;
     std::vector<zg::FilePick> openPicks;
     std::vector<zg::FilePick> savePicks;
