@@ -33,12 +33,18 @@ const Variation& variationOf(InputType type) {
     return rows.at(type);
 }
 
+/// None where the input is a time series already, whatever the dialog gives.
+const std::vector<ControlOutput>& outputsOf(const ControlFile& v) {
+    static const std::vector<ControlOutput> none;
+    return variationOf(v.type).hasOutputs ? v.outputs : none;
+}
+
 using Fields = std::map<std::string, std::string, std::less<>>;
 
 Fields fieldsOf(const ControlFile& v) {
     return {{"TITLE", trim(v.title)},
             {"BASE", v.base},
-            {"NTSFOUT", std::to_string(v.outputs.size())},
+            {"NTSFOUT", std::to_string(outputsOf(v).size())},
             {"MDATA", mdataOf(v.type)},
             {"IBYR", v.IBYR},
             {"IBMO", v.IBMO},
@@ -174,7 +180,7 @@ class Builder {
     }
 
     void repeatForOutputs() {
-        for (const ControlOutput& output : v_.outputs) {
+        for (const ControlOutput& output : outputsOf(v_)) {
             Fields fields = fields_;
             fields["ID"] = output.id;
             fields["OUTNAME"] = output.name;

@@ -46,7 +46,7 @@ struct ControlFile {
     std::string base;                     ///< of the run's files
     std::vector<std::string> inputFiles;  ///< as they stand in the dialog; gridded dialogs may give several
     std::string roseName;                 ///< of TSF input
-    std::vector<ControlOutput> outputs;   ///< none for TSF input
+    std::vector<ControlOutput> outputs;   ///< not written for TSF input
 
     std::string IBYR, IBMO, IBDY, IBHR, IBSEC;
     std::string IEYR, IEMO, IEDY, IEHR, IESEC;

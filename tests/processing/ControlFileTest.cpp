@@ -97,6 +97,48 @@ TEST(ControlFile, OfTsfHasNoOutputsButAName) {
     expectFile(v, "tsf.inp");
 }
 
+TEST(ControlFile, OfTsfLeavesOutTheOutputsThatADialogGives) {
+    ControlFile v = common(InputType::Tsf, {"t.tsf"});
+    v.roseName = "rose_out";
+    v.outputs = {{"1", "rose_out", "A title", "72503, 0, 0", "10"}};
+    expectFile(v, "tsf.inp");
+}
+
+TEST(ControlFile, AFieldThatLooksLikeAPlaceholderIsWrittenAsItStands) {
+    ControlFile v = common(InputType::Surf, {"{BASE}.dat"});
+    v.title = "{MSN} [per output]";
+    v.outputs = {{"1", "{ID}", "{HEIGHT}", "{STATION}, 0, 0", "{TITLE}"}};
+    const std::string bytes = controlFileBytes(v);
+    for (const char* line : {"\r\n{MSN} [per output]\r\n", "METINP = {BASE}.dat !", "TSFOUT = {ID} !",
+                             "LOCMET = {HEIGHT} !", "MET = {STATION}, 0, 0, {TITLE}, -1., -1., -1. !"})
+        EXPECT_NE(bytes.find(line), std::string::npos) << line;
+}
+
+/// The projection's keys that stand active, in the file's order.
+std::string activeProjection(const std::string& map) {
+    ControlFile v = common(InputType::Ventos, {"a.dat"});
+    v.projection = {map, "fe", "fn", "zone", "hem", "lat0", "lon0", "lat1", "lat2", "WGS-84"};
+    const std::string bytes = controlFileBytes(v);
+    std::string keys;
+    for (const std::string key : {"FEAST  = fe", "FNORTH = fn", "IUTMZN = zone", "UTMHEM = hem",
+                                  "RLAT0 = lat0", "RLON0 = lon0", "XLAT1 = lat1", "XLAT2 = lat2"})
+        if (bytes.find("! " + key + " !\r\n") != std::string::npos)
+            keys += (keys.empty() ? "" : " ") + key.substr(0, key.find(' '));
+    EXPECT_NE(bytes.find("! PMAP = " + map + " !\r\n"), std::string::npos);
+    EXPECT_NE(bytes.find("! DATUM = WGS-84 !\r\n"), std::string::npos);
+    return keys;
+}
+
+TEST(ControlFile, OfAGridActivatesTheKeysOfItsProjection) {
+    EXPECT_EQ(activeProjection("LL"), "");
+    EXPECT_EQ(activeProjection("UTM"), "IUTMZN UTMHEM");
+    EXPECT_EQ(activeProjection("LCC"), "FEAST FNORTH RLAT0 RLON0 XLAT1 XLAT2");
+    EXPECT_EQ(activeProjection("TTM"), "FEAST FNORTH RLAT0 RLON0");
+    EXPECT_EQ(activeProjection("LAZA"), "FEAST FNORTH RLAT0 RLON0");
+    EXPECT_EQ(activeProjection("PS"), "RLAT0 RLON0 XLAT1");
+    EXPECT_EQ(activeProjection("EM"), "RLAT0 RLON0");
+}
+
 TEST(ControlFile, OfAGridInLatitudeAndLongitude) {
     ControlFile v = common(InputType::Ventos, {"a.dat", "b.dat"});
     v.projection = {"LL", "1", "2", "3", "N", "4N", "5W", "6N", "7N", "WGS-84"};
