@@ -4,7 +4,6 @@
 
 #include "base/Paths.h"
 #include "base/Text.h"
-#include "dialogs/point/SurfHeader.h"
 #include "dialogs/point/SurfNames.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
@@ -96,16 +95,28 @@ void frmOpenSURFDATFile::cmdBrowseFile_Click() {
     selectAll(true);
 }
 
+/// Also of a header with a fault further on: the stations of the file before must not stay.
+void frmOpenSURFDATFile::showStations(const SurfHeader& header) {
+    if (header.outcome != SurfOutcome::NotSurf) ClearInvalid(*txtSURFDATFile);
+    if (!header.stationsReached) return;
+    lstSURFDATStationIDs->clear();
+    for (const std::string& station : header.stations) lstSURFDATStationIDs->addItem(shown(station));
+}
+
 void frmOpenSURFDATFile::ReadSURFDATHeader(const std::string& path) {
-    const SurfHeader header = readSurfHeader(host_, path);
+    SurfHeader header;
+    try {
+        readSurfHeader(host_, path, header);
+    } catch (...) {
+        showStations(header);
+        throw;
+    }
     if (header.outcome == SurfOutcome::NotSurf) {
         refuse(*txtSURFDATFile, "The selected file is not a valid SURF.DAT file.");
         return;
     }
-    ClearInvalid(*txtSURFDATFile);
+    showStations(header);
     if (header.outcome == SurfOutcome::UnknownVersion) return;
-    lstSURFDATStationIDs->clear();
-    for (const std::string& station : header.stations) lstSURFDATStationIDs->addItem(shown(station));
     DTPicker_BeginDate->setDate(toQDate(header.begin));
     DTPicker_BeginTime->setTime(toQTime(header.begin));
     DTPicker_EndDate->setDate(toQDate(header.end));

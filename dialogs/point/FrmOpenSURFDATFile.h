@@ -3,6 +3,7 @@
 #include <QListWidget>
 
 #include "dialogs/point/PointDialog.h"
+#include "dialogs/point/SurfHeader.h"
 
 namespace zg {
 
@@ -19,6 +20,7 @@ class frmOpenSURFDATFile : public PointDialog {
 
  private:
     QGroupBox* makeInput();
+    void showStations(const SurfHeader& header);
     void cmdBrowseFile_Click();
     void selectAll(bool selected);
     bool checkFields();

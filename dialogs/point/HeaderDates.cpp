@@ -1,5 +1,7 @@
 #include "dialogs/point/HeaderDates.h"
 
+#include "base/Numbers.h"
+#include "base/Text.h"
 #include "processing/DateHelpers.h"
 
 namespace zg {
@@ -7,6 +9,12 @@ namespace zg {
 std::string timeTextOf(const std::string& hour, std::int16_t seconds) {
     std::int16_t forMinutes = seconds;  // the routine changes what it is given
     return hour + ":" + std::to_string(MinutesOf(forMinutes)) + ":" + std::to_string(SecondsOf(seconds));
+}
+
+void skipComments(LineReader& lines) {
+    const std::int16_t comments = toInt16(trim(lines.readLine()));
+    for (int i = 0; i < comments; ++i) lines.readLine();
+    lines.readLine();
 }
 
 DateTime momentOf(Host& host, JulianStamp stamp) {

@@ -26,6 +26,9 @@ DateTime momentOf(Host& host, JulianStamp stamp);
 /// "h:m:s" of an hour's text and the seconds within the hour.
 std::string timeTextOf(const std::string& hour, std::int16_t seconds);
 
+/// Passes over the number of comments, the comments, and the one line that always follows them.
+void skipComments(LineReader& lines);
+
 /// Reads by the function; an error gets the number of the line that it happened at.
 template <typename Read>
 auto withLineNumbers(LineReader& lines, Read read) {

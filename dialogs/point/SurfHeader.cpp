@@ -18,29 +18,26 @@ class SurfReader {
  public:
     SurfReader(Host& host, const std::string& path) : host_(host), lines_(path) {}
 
-    SurfHeader read() {
-        return withLineNumbers(lines_, [this] { return readLines(); });
+    void read(SurfHeader& header) {
+        withLineNumbers(lines_, [&] { readLines(header); });
     }
 
  private:
-    SurfHeader readLines() {
-        SurfHeader header;
+    void readLines(SurfHeader& header) {
         const std::string first(lines_.readLine());
-        if (leftN(trim(first), fileKind.size()) != fileKind) return header;
+        if (leftN(trim(first), fileKind.size()) != fileKind) return;
         const std::string version = rightN(leftN(first, versionEnd), versionLength);
         header.outcome = SurfOutcome::UnknownVersion;
-        if (version != "2.0" && version != "2.1") return header;
-        const std::int16_t comments = toInt16(trim(lines_.readLine()));
-        for (int i = 0; i < comments; ++i) lines_.readLine();
-        lines_.readLine();  // one line follows the comments, however many there are
+        if (version != "2.0" && version != "2.1") return;
+        skipComments(lines_);
         if (version == "2.1") header.timeZone = trim(lines_.readLine());
         const int stationCount = version == "2.1" ? readPeriod21(header) : readPeriod20(header);
+        header.stationsReached = true;
         for (int i = 0; i < stationCount; ++i) header.stations.push_back(trim(lines_.readLine()));
         header.begin = momentOf(host_, begin_);
         header.end = momentOf(host_, end_);
         if (version == "2.0") header.begin = addSeconds(header.begin, -3600);
         header.outcome = SurfOutcome::Read;
-        return header;
     }
 
     int readPeriod20(SurfHeader& header) {
@@ -68,6 +65,9 @@ class SurfReader {
 
 }  // namespace
 
-SurfHeader readSurfHeader(Host& host, const std::string& path) { return SurfReader(host, path).read(); }
+void readSurfHeader(Host& host, const std::string& path, SurfHeader& header) {
+    header = SurfHeader();
+    SurfReader(host, path).read(header);
+}
 
 }  // namespace zg

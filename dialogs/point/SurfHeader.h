@@ -19,7 +19,8 @@ enum class SurfOutcome {
 
 struct SurfHeader {
     SurfOutcome outcome = SurfOutcome::NotSurf;
-    std::string timeZone;  ///< a key, as "UTC-0500"
+    bool stationsReached = false;  ///< the list begins anew
+    std::string timeZone;          ///< a key, as "UTC-0500"
     std::vector<std::string> stations;
     DateTime begin;  ///< version 2.0 stamps hours at their end: an hour earlier than written
     DateTime end;
@@ -27,7 +28,8 @@ struct SurfHeader {
 
 /// Reads it. A Julian day out of its year shows its message first. Raises 13 for what is no number or no
 /// date, 9 for a line with fields missing, 62 for a file that ends too early, 6 for a count beyond its width,
-/// and the error of a file that cannot be read, with the number of the line.
-SurfHeader readSurfHeader(Host& host, const std::string& path);
+/// and the error of a file that cannot be read, with the number of the line. What was read before an error
+/// stays in the header.
+void readSurfHeader(Host& host, const std::string& path, SurfHeader& header);
 
 }  // namespace zg

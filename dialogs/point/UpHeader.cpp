@@ -23,9 +23,7 @@ UpHeader readLines(Host& host, LineReader& lines) {
     header.isUp = true;
     if (kind[1] != "2.0" && kind[1] != "2.1") return header;
     const bool withSeconds = kind[1] == "2.1";
-    const std::int16_t comments = toInt16(trim(lines.readLine()));
-    for (int i = 0; i < comments; ++i) lines.readLine();
-    lines.readLine();  // one line follows the comments, however many there are
+    skipComments(lines);
     header.timeZone = withSeconds ? trim(lines.readLine()) : "UTC+0000";
     const std::string period = squeezeBlanks(lines.readLine());
     const Pieces f = split(period, " ");

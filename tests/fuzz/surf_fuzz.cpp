@@ -5,7 +5,8 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     readAsFile(data, size, [&]([[maybe_unused]] zg::Host& host, const std::string& path) {
-        zg::readSurfHeader(host, path);
+        zg::SurfHeader header;
+        zg::readSurfHeader(host, path, header);
     });
     return 0;
 }

@@ -233,6 +233,40 @@ TEST_F(FrmOpenSURFDATFile, AFirstRowLeftOutEmptiesTheNameAtTheStart) {
     EXPECT_EQ(status(), "Finished") << "even if every output failed";
 }
 
+TEST_F(FrmOpenSURFDATFile, RowsTwoAndFiveOfFiveKeepTheirNumbersInTheControlFile) {
+    std::string text = surf21;
+    text.replace(text.find("  3\r\n"), 5, "  5\r\n");
+    input_ = directory_.write("five.dat", text + "  1004\r\n  1005\r\n");
+    browse();
+    for (const int row : {0, 2, 3}) child<QListWidget>("lstSURFDATStationIDs")->item(row)->setSelected(false);
+    starter_.onStart = [this] { directory_.write("out/finished.txt", ""); };
+    click("cmdView");
+    const std::string control = directory_.read("out/five_SURF_19900108-19900115_tempoline.inp");
+    EXPECT_NE(control.find("! NTSFOUT = 2 !"), std::string::npos);
+    const auto times = [&control](const std::string& part) {
+        int count = 0;
+        for (std::size_t at = control.find(part); at != std::string::npos; at = control.find(part, at + 1))
+            ++count;
+        return count;
+    };
+    EXPECT_EQ(times("! TSFID  = 2 !"), 2);
+    EXPECT_EQ(times("! TSFID  = 5 !"), 2);
+    EXPECT_EQ(times("! TSFID"), 4);
+    EXPECT_EQ(times("! MET = 1002, 0, 0, 10, "), 1);
+    EXPECT_EQ(times("! MET = 1005, 0, 0, 10, "), 1);
+}
+
+TEST_F(FrmOpenSURFDATFile, AFaultInTheHeaderLeavesNoStationsOfTheFileBefore) {
+    browse();
+    input_ = directory_.write("cut.dat", surf21.substr(0, surf21.find("  1002")));
+    host_.boxAnswers = {BoxAnswer::Ok};
+    browse();
+    EXPECT_NE(host_.boxes.back().text.find("62"), std::string::npos) << host_.boxes.back().text;
+    ASSERT_EQ(child<QListWidget>("lstSURFDATStationIDs")->count(), 1);
+    EXPECT_EQ(child<QListWidget>("lstSURFDATStationIDs")->item(0)->text(), "1001");
+    EXPECT_EQ(box("txtSURFDATFile").text().toStdString(), input_);
+}
+
 TEST_F(FrmOpenSURFDATFile, ClosingDuringTheWaitHidesItAndTheResultIsStillPlotted) {
     browse();
     int pumps = 0;
@@ -311,7 +345,7 @@ TEST_F(FrmOpenSURFDATFile, ItsButtonsOpenSeasonsAndClasses) {
     EXPECT_EQ(classes_, 1);
 }
 
-/// The whole road in the window, with a processor that copies a rose.
+/// The whole road in the window, with a processor that copies a rose for two of the three stations.
 TEST(SurfRoad, ASurfFileBecomesTheRoseInTheWindow) {
     TempDirectory directory;
     modPolarGraph = ModPolarGraph();
@@ -320,12 +354,12 @@ TEST(SurfRoad, ASurfFileBecomesTheRoseInTheWindow) {
     stations = StationTable();
     applicationDirectory = directory.path();
     std::filesystem::copy(ZG_SOURCE_DIR "/data/TimeZones.txt", directory.file("TimeZones.txt"));
-    const std::string processor = directory.write(
-        "tempoline.exe",
-        "#!/bin/sh\nfor name in $(sed -n 's/.*TSFOUT = \\(.*\\) !   !END!.*/\\1/p' \"$1\"); do\n"
-        "cp " ZG_SOURCE_DIR
-        "/data/samples/LOVETT_1988.frq \"$name.FRQ\"; done\n"
-        "echo done > \"${1%.inp}.lst\"\n");
+    const std::string processor = directory.write("tempoline.exe",
+                                                  "#!/bin/sh\nfor name in $(grep -v 'wind-1002_' \"$1\" | "
+                                                  "sed -n 's/.*TSFOUT = \\(.*\\) !   !END!.*/\\1/p'); do\n"
+                                                  "cp " ZG_SOURCE_DIR
+                                                  "/data/samples/LOVETT_1988.frq \"$name.FRQ\"; done\n"
+                                                  "echo done > \"${1%.inp}.lst\"\n");
     std::filesystem::permissions(processor, std::filesystem::perms::owner_all);
     startSettings();
     const std::string input = directory.write("wind.dat", surf21);
@@ -334,7 +368,14 @@ TEST(SurfRoad, ASurfFileBecomesTheRoseInTheWindow) {
     window.Form_Load();
     window.show();
     host.openAnswers = {input};
-    host.onPump = [] { QTest::qWait(5); };
+    std::vector<std::string> statuses;
+    host.onPump = [&] {
+        QTest::qWait(5);
+        const auto* dialog = QApplication::activeModalWidget();
+        const auto* label = dialog == nullptr ? nullptr : dialog->findChild<QLabel*>("lblStatus");
+        if (label != nullptr && (statuses.empty() || statuses.back() != label->text().toStdString()))
+            statuses.push_back(label->text().toStdString());
+    };
     QTimer::singleShot(0, [&] {
         auto* dialog = QApplication::activeModalWidget();
         ASSERT_NE(dialog, nullptr);
@@ -346,6 +387,14 @@ TEST(SurfRoad, ASurfFileBecomesTheRoseInTheWindow) {
         QTest::mouseClick(dialog->findChild<QWidget*>("cmdExit"), Qt::LeftButton);
     });
     window.menuAction("mnuFileOption_8")->trigger();
+    ASSERT_GE(statuses.size(), 6U);
+    EXPECT_EQ(statuses.size() % 3, 0U) << "whole steps";
+    for (std::size_t i = 0; i < statuses.size(); i += 3) {
+        EXPECT_EQ(statuses[i], "Running.  ");
+        EXPECT_EQ(statuses[i + 1], "Running.. ");
+        EXPECT_EQ(statuses[i + 2], "Running...");
+    }
+    EXPECT_FALSE(fileExists(directory.file("wind-1002_SURF_19900108-19900115_10m.frq")));
     EXPECT_EQ(window.windowTitle(), "Zephyrgraph - wind-1003_SURF_19900108-19900115_10m.FRQ");
     EXPECT_TRUE(modPolarGraph.FrqLoaded);
     EXPECT_EQ(modPolarGraph.FrqRoseCount, 9);

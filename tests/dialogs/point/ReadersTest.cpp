@@ -64,6 +64,10 @@ TEST_F(PointReaders, UpOfAnotherKindOrVersion) {
     EXPECT_FALSE(readUpHeader(host_, file("\n")).isUp);
     EXPECT_EQ(readUpHeader(host_, file("UP.DAT 2.2\n")).version, "");
     EXPECT_EQ(errorOf([&] { readUpHeader(host_, file("UP.DAT\n")); }), 9);
+    EXPECT_EQ(
+        readUpHeader(host_, file("UP.DAT 2.0\n-1\nNONE\n1990 8 1 1990 15 23\nskipped\n x 77 y\n")).station,
+        "77")
+        << "one line follows the comments, even of a negative count";
 }
 
 TEST_F(PointReaders, UpCutAnywhereIsTheEndOfTheFile) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/RunTimeError.h"
+#include "tests/support/Raises.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 
@@ -17,7 +18,9 @@ std::string textOf(DateTime moment) { return formatDate(moment) + " " + longTime
 class SurfHeaderTest : public ::testing::Test {
  protected:
     SurfHeader read(const std::string& text) {
-        return readSurfHeader(host_, directory_.write("s.dat", text));
+        SurfHeader header;
+        readSurfHeader(host_, directory_.write("s.dat", text), header);
+        return header;
     }
     int errorOf(const std::string& text) {
         try {
@@ -119,7 +122,34 @@ TEST_F(SurfHeaderTest, ANegativeNumberOfCommentsIsNone) {
 }
 
 TEST_F(SurfHeaderTest, AMissingFileIsAnError) {
-    EXPECT_THROW(readSurfHeader(host_, directory_.file("no.dat")), RunTimeError);
+    SurfHeader header;
+    EXPECT_RAISES(53, "File not found", (readSurfHeader(host_, directory_.file("no.dat"), header), 0));
+}
+
+TEST_F(SurfHeaderTest, OneLineFollowsTheCommentsEvenOfANegativeCount) {
+    for (const char* count : {"0", "-1", "-5"}) {
+        const SurfHeader header =
+            read(head21 + count + "\r\nNONE\r\nUTC-0500\r\n1990 8 0 0 1990 15 23 0 1\r\n14606\r\n");
+        EXPECT_EQ(header.timeZone, "UTC-0500") << count;
+        EXPECT_EQ(header.stations, std::vector<std::string>{"14606"});
+    }
+}
+
+TEST_F(SurfHeaderTest, WhatWasReadBeforeAnErrorStays) {
+    const std::string upToPeriod = head21 + "0\r\nNONE\r\nUTC-0500\r\n";
+    SurfHeader header;
+    const auto readInto = [&](const std::string& text) {
+        readSurfHeader(host_, directory_.write("s.dat", text), header);
+        return 0;
+    };
+    EXPECT_RAISES(62, "Input past end of file",
+                  readInto(upToPeriod + "1990 8 0 0 1990 15 23 0 3\r\n14606\r\n"));
+    EXPECT_TRUE(header.stationsReached);
+    EXPECT_EQ(header.stations, std::vector<std::string>{"14606"});
+    EXPECT_EQ(header.outcome, SurfOutcome::UnknownVersion);
+    EXPECT_RAISES(13, "Type mismatch", readInto(upToPeriod + "1990 8 0 0 1990 15 23 0 x\r\n14606\r\n"));
+    EXPECT_FALSE(header.stationsReached) << "each reading begins anew";
+    EXPECT_TRUE(header.stations.empty());
 }
 
 }  // namespace
