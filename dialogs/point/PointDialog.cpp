@@ -325,14 +325,12 @@ void PointDialog::readLargeFile(const std::function<void(const std::function<voi
 RunHooks PointDialog::sharedHooks() {
     RunHooks hooks;
     hooks.outputDirectory = [this] { return outputDirectory(); };
-    hooks.showName = [this](const std::string& name) { txtFRQOutputFilename->setText(fileName(name)); };
+    hooks.showName = [this](const std::string& name) { txtFRQOutputFilename->setText(shown(name)); };
     hooks.setStatus = [this](const std::string& text) { lblStatus->setText(shown(text)); };
     hooks.setBusy = [this](bool busy) {
-        // The whole screen shows it, also once the dialog is hidden.
-        if (busy)
-            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-        else
-            QGuiApplication::restoreOverrideCursor();
+        // The pointer of the whole screen, which is set and not stacked: runs may overlap.
+        while (QGuiApplication::overrideCursor() != nullptr) QGuiApplication::restoreOverrideCursor();
+        if (busy) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     };
     hooks.load = window_.plotFrqFile;
     hooks.showExit = [this] {

@@ -8,6 +8,7 @@
 #include <filesystem>
 
 #include "base/Paths.h"
+#include "base/RunTimeError.h"
 #include "dialogs/point/FrmOpenAERMETFile.h"
 #include "dialogs/point/FrmOpenAMMNETDataFile.h"
 #include "dialogs/point/FrmOpenTSFDataFile.h"
@@ -186,6 +187,30 @@ TEST_F(PointDialogs, UpMakesARoseAHeightAndLosesTheLastForAnEmptyItem) {
     EXPECT_EQ(plotted_, (std::vector<std::string>{made_[0] + ".frq", made_[1] + ".frq"}));
     EXPECT_EQ(box("txtFRQOutputFilename").text(), "u_UP_19900108-19900115");
     EXPECT_EQ(status(), "Error has occurred.") << "the last result";
+}
+
+TEST_F(PointDialogs, TheScreensPointerIsAnHourglassDuringARunAndNormalAfterAnyEnd) {
+    const auto hourglass = [] {
+        const QCursor* pointer = QGuiApplication::overrideCursor();
+        return pointer != nullptr && pointer->shape() == Qt::WaitCursor;
+    };
+    open<frmOpenUPDATFile>();
+    browse("u.dat", up21);
+    int seen = 0;
+    starter_.onStart = [&](const std::string&) {
+        seen += hourglass() ? 1 : 0;
+        // A second start while the first waits ends before it.
+        if (starter_.starts == 1) click("cmdView");
+        if (starter_.starts == 2) directory_.write("out/finished.txt", "");
+    };
+    click("cmdView");
+    EXPECT_EQ(seen, 2);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    starter_.onStart = [](const std::string&) { raise(ErrorNumber::PermissionDenied); };
+    host_.boxAnswers = {BoxAnswer::Cancel};
+    click("cmdView");
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(status(), "");
 }
 
 TEST_F(PointDialogs, UpRefusesOtherFiles) {
