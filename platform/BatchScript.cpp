@@ -72,4 +72,10 @@ std::string asShellScript(const std::vector<std::string>& batchLines) {
     return script;
 }
 
+std::vector<std::string> scriptCommand(const std::string& script, const std::string& terminal) {
+    if (terminal.empty()) return {"setsid", "sh", "-c", script};
+    const std::string stay = "printf 'Press Enter to close this window. '; read -r key\n";
+    return {"setsid", terminal, "-e", "sh", "-c", script + stay};
+}
+
 }  // namespace zg

@@ -10,4 +10,8 @@ namespace zg {
 /// before it. Words are parted at blanks, and nothing in them means anything to the shell.
 std::string asShellScript(const std::vector<std::string>& batchLines);
 
+/// The words that start a script in a session of its own, so that what ends the program does not end the
+/// script. With a terminal program it runs in a window that stays open until a key is pressed.
+std::vector<std::string> scriptCommand(const std::string& script, const std::string& terminal);
+
 }  // namespace zg

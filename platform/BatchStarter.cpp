@@ -22,21 +22,20 @@ namespace {
     if (!QProcess::startDetached(QStringLiteral("cmd"), words)) raise(ErrorNumber::InvalidProcedureCall);
 }
 
-/// In a session of its own, so that what ends the program does not end the script. On a desktop it runs in a
-/// terminal that stays open until a key is pressed; elsewhere its output is that of the program.
-[[maybe_unused]] void startScript(const std::string& script) {
-    const QString terminal = QStandardPaths::findExecutable(QStringLiteral("x-terminal-emulator"));
+/// Path of the desktop's terminal program; "" where there is no desktop or no such program.
+[[maybe_unused]] std::string terminalProgram() {
     const QString platform = QGuiApplication::platformName();
     const bool onDesktop = platform == QLatin1String("xcb") || platform.startsWith(QLatin1String("wayland"));
-    QString text = fileName(script);
-    QStringList words = {QStringLiteral("sh"), QStringLiteral("-c")};
-    if (onDesktop && !terminal.isEmpty()) {
-        text += QStringLiteral("printf 'Press Enter to close this window. '; read -r key\n");
-        words.prepend(QStringLiteral("-e"));
-        words.prepend(terminal);
-    }
-    words.append(text);
-    if (!QProcess::startDetached(QStringLiteral("setsid"), words)) raise(ErrorNumber::InvalidProcedureCall);
+    if (!onDesktop) return {};
+    return filePath(QStandardPaths::findExecutable(QStringLiteral("x-terminal-emulator")));
+}
+
+/// Without a terminal the script's output is that of the program.
+[[maybe_unused]] void startScript(const std::string& script) {
+    QStringList words;
+    for (const std::string& word : scriptCommand(script, terminalProgram())) words.append(fileName(word));
+    const QString program = words.takeFirst();
+    if (!QProcess::startDetached(program, words)) raise(ErrorNumber::InvalidProcedureCall);
 }
 
 /// The desktop's own viewer stands for the one that the line names.
