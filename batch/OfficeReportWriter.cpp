@@ -141,8 +141,9 @@ void OfficeReportWriter::save(const std::string& path, const char* tail, const c
     const QString fresh = fileName(path) + QStringLiteral(".new");
     QFile::remove(fresh);
     std::error_code failed;
-    if (QFile::copy(made, fresh)) std::filesystem::rename(filePath(fresh), path, failed);
-    if (failed || !QFile::exists(fileName(path)) || QFile::exists(fresh)) {
+    const bool copied = QFile::copy(made, fresh);
+    if (copied) std::filesystem::rename(filePath(fresh), path, failed);
+    if (!copied || failed) {
         QFile::remove(fresh);
         fail(ErrorNumber::PathFileAccessError, "The report could not be written: " + path);
     }

@@ -158,12 +158,17 @@ TEST_F(OfficeReport, AFileThatIsNoPictureIsNamed) {
     }
 }
 
-TEST_F(OfficeReport, ATargetThatCannotBeWrittenIsNamed) {
-    writer_.program =
-        QString::fromStdString(directory_.write("office",
+/// An office that makes any report.
+std::string quickOffice(TempDirectory& directory) {
+    const std::string program = directory.write("office",
                                                 "#!/bin/sh\nwhile [ $# -gt 1 ]; do [ \"$1\" = --outdir ] && "
-                                                "out=$2; shift; done\necho x > \"$out/report.ppt\"\n"));
-    std::filesystem::permissions(directory_.file("office"), std::filesystem::perms::owner_all);
+                                                "out=$2; shift; done\necho x > \"$out/report.ppt\"\n");
+    std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+    return program;
+}
+
+TEST_F(OfficeReport, ATargetThatCannotBeWrittenIsNamed) {
+    writer_.program = QString::fromStdString(quickOffice(directory_));
     writer_.beginPresentation();
     try {
         writer_.savePresentation(directory_.file("no/such/show.ppt"));
@@ -171,6 +176,16 @@ TEST_F(OfficeReport, ATargetThatCannotBeWrittenIsNamed) {
     } catch (const RunTimeError& error) {
         EXPECT_NE(error.description.find("no/such/show.ppt"), std::string::npos);
     }
+}
+
+/// The copy beside the place has a name of its own, which may be too long where the report's is not.
+TEST_F(OfficeReport, AnOldReportIsNoProofOfANewOne) {
+    const std::string name = std::string(250, 'r') + ".ppt";
+    directory_.write(name, "old");
+    writer_.program = QString::fromStdString(quickOffice(directory_));
+    writer_.beginPresentation();
+    EXPECT_THROW(writer_.savePresentation(directory_.file(name)), RunTimeError);
+    EXPECT_EQ(directory_.read(name), "old");
 }
 
 }  // namespace
