@@ -1,7 +1,6 @@
 #include "batch/FrmBatchMode.h"
 
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include "base/Numbers.h"
@@ -45,23 +44,6 @@ std::int16_t keyOfLimit(std::int16_t key) {
     const bool swallowed = (key >= 32 && key <= 44) || key == 46 || key == 47 || (key >= 58 && key <= 127);
     return swallowed ? std::int16_t{0} : key;
 }
-
-/// Enter goes on to the next field, as Tab does.
-class EnterIsTab : public QObject {
- public:
-    explicit EnterIsTab(QWidget& field) : QObject(&field), field_(field) { field.installEventFilter(this); }
-
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() != QEvent::KeyPress) return false;
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
-        if (QWidget* next = field_.nextInFocusChain()) next->setFocus(Qt::TabFocusReason);
-        return true;
-    }
-
- private:
-    QWidget& field_;
-};
 
 bool isPercent(const std::string& text) {
     try {
@@ -163,7 +145,7 @@ void frmBatchMode::followFields() {
         if (lblStatus->text() == QLatin1String("Finished")) lblStatus->clear();
     });
     filterKeys(*txtPercentValidLimit, keyOfLimit);
-    new EnterIsTab(*txtPercentValidLimit);
+    enterIsTab(*txtPercentValidLimit);
 }
 
 void frmBatchMode::optSingleFRQFile_Click() {

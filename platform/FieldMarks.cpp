@@ -3,6 +3,7 @@
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QVariant>
@@ -43,7 +44,7 @@ void setFieldMark(QWidget& field, Colour mark) {
     field.setProperty(markProperty, mark);
     const bool marked = mark == yellowMark || mark == darkYellowMark;
     const bool frame = qobject_cast<QGroupBox*>(&field) != nullptr;
-    if (frame) field.setAutoFillBackground(marked);
+    if (frame || qobject_cast<QLabel*>(&field) != nullptr) field.setAutoFillBackground(marked);
     if (!marked) {
         field.setPalette(QPalette());
         return;

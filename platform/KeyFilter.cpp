@@ -63,6 +63,23 @@ class TypedKeys : public QObject {
     KeyFunction function_;
 };
 
+class EnterIsTab : public QObject {
+ public:
+    explicit EnterIsTab(QWidget& field) : QObject(&field), field_(field) { field.installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) return false;
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+        QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+        QCoreApplication::sendEvent(&field_, &tab);
+        return true;
+    }
+
+ private:
+    QWidget& field_;
+};
+
 }  // namespace
 
 void filterKeys(QLineEdit& box, KeyFunction function) {
@@ -70,5 +87,7 @@ void filterKeys(QLineEdit& box, KeyFunction function) {
     delete box.findChild<QObject*>(name, Qt::FindDirectChildrenOnly);
     (new TypedKeys(box, std::move(function)))->setObjectName(name);
 }
+
+void enterIsTab(QWidget& field) { new EnterIsTab(field); }
 
 }  // namespace zg

@@ -107,7 +107,7 @@ std::vector<std::pair<std::string, std::string>> activeKeys(const ControlFile& v
     add("RLON0", p.RLON0, isOne({"LCC", "TTM", "PS", "EM", "LAZA"}));
     add("XLAT1", p.XLAT1, isOne({"PS", "LCC"}));
     add("XLAT2", p.XLAT2, isOne({"LCC"}));
-    add("DATUM", p.DATUM, !p.DATUM.empty());
+    add("DATUM", p.DATUM, p.PMAP != "NONE");
     if (v.type != InputType::M3d) return keys;
     add("MPROF", v.MPROF, true);
     add("MCELL", v.MCELL, true);
@@ -193,13 +193,15 @@ class Builder {
         block_.reset();
     }
 
+    static bool isLocated(const ControlOutput& output) { return output.located || !output.location.empty(); }
+
     void writeOfOutput(std::string_view line, const ControlOutput& output, const Fields& fields,
                        bool group2) {
         constexpr std::string_view otherForm = "   or ";
         if (line.starts_with(otherForm)) {  // the inert form of the line before it
-            if (output.location.empty()) write("     " + std::string(trimmed(line.substr(otherForm.size()))));
+            if (!isLocated(output)) write("     " + std::string(trimmed(line.substr(otherForm.size()))));
         } else if (line.find("{LOCATION}") != std::string_view::npos) {
-            if (!output.location.empty()) write(filled(line, fields));
+            if (isLocated(output)) write(filled(line, fields));
         } else if (group2 && !variation_.blankBeforeIdOfGroup2 &&
                    line.find("TSFID  =") != std::string_view::npos) {
             write(filled(replaced(line, "TSFID  =", "TSFID ="), fields));

@@ -24,11 +24,12 @@ struct ControlOutput {
     std::string location;  ///< "" leaves the line inert
     std::string place;     ///< "72503, 0, 0" of a station, "3.2, 15.88" of a grid's location
     std::string height;    ///< metres above ground
+    bool located = false;  ///< the line is active also for a location of ""
 };
 
 /// Map projection and datum, all texts, named as the file names them.
 struct ProjectionRecord {
-    std::string PMAP;  ///< "LL", "UTM", "LCC", "TTM", "PS", "EM", "LAZA"; "NONE" and "" leave all inert
+    std::string PMAP;  ///< "LL", "UTM", "LCC", "TTM", "PS", "EM", "LAZA"; "NONE" leaves all inert
     std::string FEAST;
     std::string FNORTH;
     std::string IUTMZN;
@@ -37,7 +38,7 @@ struct ProjectionRecord {
     std::string RLON0;
     std::string XLAT1;
     std::string XLAT2;
-    std::string DATUM;  ///< "" leaves the line inert
+    std::string DATUM;  ///< active but for a PMAP of "NONE"
 };
 
 struct ControlFile {

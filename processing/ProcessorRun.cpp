@@ -91,15 +91,19 @@ class Run {
             if (std::remove(marker.c_str()) != 0) raiseFileError(errno);
     }
 
-    void await(const RunOutput& output) {
+    void awaitMarker() {
         while (!fileExists(directory_ + markerName)) animate();
+    }
+
+    void await(const RunOutput& output) {
+        awaitMarker();
         hooks_.showName(output.name);
         const std::string result = existingFile(directory_ + output.name + ".frq");
         made_ = !result.empty();
         if (made_) {
             step([&] { hooks_.load(result); });
-            animate();
-            if (form_ == RunForm::Heights) hooks_.setStatus("Finished");
+            if (form_ != RunForm::Locations) animate();
+            if (form_ == RunForm::Heights || form_ == RunForm::Locations) hooks_.setStatus("Finished");
         } else {
             hooks_.setStatus(form_ == RunForm::Stations ? "Error processing Station " + output.station
                                                         : "Error has occurred.");
@@ -113,6 +117,7 @@ class Run {
     }
 
     void finish() {
+        if (form_ == RunForm::Locations) awaitMarker();  // a run of no location has not waited yet
         if (form_ == RunForm::Stations || (form_ == RunForm::Single && made_)) hooks_.setStatus("Finished");
         hooks_.showExit();
         hooks_.setBusy(false);

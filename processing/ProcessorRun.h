@@ -17,7 +17,8 @@ namespace zg {
 enum class RunForm {
     Stations,  ///< "Finished" at the end whatever happened; no hourglass at the start
     Heights,   ///< the last result stays
-    Single
+    Single,
+    Locations  ///< as Heights, with one wait more at the end; a result is told as soon as it is plotted
 };
 
 struct RunOutput {

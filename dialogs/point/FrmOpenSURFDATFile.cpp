@@ -9,6 +9,7 @@
 #include "platform/FieldMarks.h"
 #include "platform/KeyFilter.h"
 #include "platform/QtText.h"
+#include "processing/RunNames.h"
 
 namespace zg {
 

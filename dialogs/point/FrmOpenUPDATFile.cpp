@@ -13,6 +13,7 @@
 #include "platform/QtText.h"
 #include "processing/Directories.h"
 #include "processing/KeyFilters.h"
+#include "processing/RunNames.h"
 #include "processing/Zones.h"
 
 namespace zg {

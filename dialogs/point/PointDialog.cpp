@@ -2,18 +2,18 @@
 
 #include <QEvent>
 #include <QGuiApplication>
-#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include "base/Paths.h"
 #include "base/Text.h"
-#include "dialogs/point/SurfNames.h"
 #include "platform/Combos.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
+#include "platform/KeyFilter.h"
 #include "platform/Pickers.h"
 #include "platform/QtText.h"
 #include "processing/Directories.h"
+#include "processing/RunNames.h"
 #include "processing/Zones.h"
 #include "shell/settings/CfgFile.h"
 #include "shell/settings/Settings.h"
@@ -40,22 +40,6 @@ QTimeEdit* timePicker(const char* name) {
     picker->setDisplayFormat(QStringLiteral("HH:mm:ss"));
     return picker;
 }
-
-class EnterIsTab : public QObject {
- public:
-    explicit EnterIsTab(QWidget& field) : QObject(&field), field_(field) { field.installEventFilter(this); }
-
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() != QEvent::KeyPress) return false;
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
-        if (QWidget* next = field_.nextInFocusChain()) next->setFocus(Qt::TabFocusReason);
-        return true;
-    }
-
- private:
-    QWidget& field_;
-};
 
 std::string number(int value) { return std::to_string(value); }
 
@@ -293,8 +277,6 @@ bool PointDialog::browseInput(QLineEdit& box, const char* filter) {
     txtOutputDirectory->setText(fileName(remembered_));
     return true;
 }
-
-void PointDialog::enterIsTab(QWidget& field) { new EnterIsTab(field); }
 
 void PointDialog::readLargeFile(const std::function<void(const std::function<void()>&)>& read) {
     constexpr std::int64_t secondMs = 1000;

@@ -13,17 +13,10 @@
 
 #include "base/Host.h"
 #include "processing/ControlFile.h"
+#include "processing/ProcessingWindow.h"
 #include "processing/ProcessorRun.h"
 
 namespace zg {
-
-/// What a processing dialog needs of the main window.
-struct ProcessingWindow {
-    std::function<void(const std::string&)> plotFrqFile;
-    std::function<bool()> ending;  ///< the program is being closed
-    std::function<void()> setSeasons;
-    std::function<void()> setWindSpeedClasses;
-};
 
 /// What the dialogs for point data share: period, time zone, step, title, output, and the way to a run. The
 /// dialog may be closed while a run waits; it is then only hidden, and the run goes on.
@@ -72,9 +65,6 @@ class PointDialog : public QDialog {
 
     /// Asks for the input file; takes it, and its directory for the output. False when cancelled.
     bool browseInput(QLineEdit& box, const char* filter);
-
-    /// Enter goes on to the next control, as Tab does.
-    static void enterIsTab(QWidget& field);
 
     /// While a large file is read the window stays alive, the fields are out of reach, and after a second the
     /// status line says so.

@@ -10,6 +10,7 @@
 #include "platform/KeyFilter.h"
 #include "platform/QtText.h"
 #include "processing/KeyFilters.h"
+#include "processing/RunNames.h"
 
 namespace zg {
 
