@@ -11,6 +11,8 @@
 #include "base/Paths.h"
 #include "batch/FrmBatchMode.h"
 #include "batch/FrmCreateReport.h"
+#include "dialogs/gridded/ClosedLibraries.h"
+#include "dialogs/gridded/GridForm.h"
 #include "dialogs/point/FrmOpenAERMETFile.h"
 #include "dialogs/point/FrmOpenAMMNETDataFile.h"
 #include "dialogs/point/FrmOpenSURFDATFile.h"
@@ -108,7 +110,7 @@ std::map<std::string, std::function<void()>> frmMain::commands() {
          [this] { pgPolarGraph().ShowCoordinateSystem(actions_.at("mnuPolarOption_4")->isChecked()); }},
         {"mnuHelpAbout", [this] { showAbout(); }},
     };
-    for (const int i : {4, 5, 6, 8, 9, 10})
+    for (const int i : {3, 4, 5, 6, 7, 8, 9, 10})
         table[indexed("mnuFileOption", i)] = [this, i] { mnuFileOption_Click(i); };
     for (int i = 0; i < aspectEntries; ++i)
         table[indexed("mnuViewAspectOption", i)] = [this, i] { mnuViewAspectOption_Click(i); };
@@ -233,6 +235,14 @@ void frmMain::mnuFileOption_Click(int Index) {
             return;
         case 8:
             frmOpenSURFDATFile(host_, starter_, processingWindow(), this).exec();
+            return;
+        case 3:
+            useLibrariesBeside(applicationDirectory);
+            frmProcess3DDATFiles(host_, starter_, processingWindow(), this).exec();
+            return;
+        case 7:
+            useLibrariesBeside(applicationDirectory);
+            frmProcessVENTOSDATFiles(host_, starter_, processingWindow(), this).exec();
             return;
         case 12:
             mnuEditOption_Click(1);

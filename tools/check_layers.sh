@@ -16,6 +16,7 @@ declare -A allowed=(
     [shell/settings]="base graph/frq graph/model graph/script graph/render graph/control shell/settings"
     [platform]="base graph/frq graph/model graph/script graph/render graph/control processing shell/settings platform"
     [dialogs/point]="base processing graph/frq graph/model graph/render graph/control shell/settings platform dialogs/point"
+    [dialogs/gridded]="base processing graph/frq graph/model graph/render graph/control shell/settings platform dialogs/gridded"
     [batch]="base graph/frq graph/model graph/script graph/render graph/control processing shell/settings platform batch"
     [export]="base graph/frq graph/model graph/script graph/render graph/control platform export"
 )

@@ -113,9 +113,9 @@ TEST_F(FrmMainCommands, GridLabelsAndLegendFollowTheirEntries) {
     EXPECT_TRUE(plot().ShowLegend());
 }
 
-TEST_F(FrmMainCommands, EntriesWithoutTheirDialogAreDisabled) {
-    for (const char* entry : {"mnuFileOption_3", "mnuFileOption_7"})
-        EXPECT_FALSE(window_->menuAction(entry)->isEnabled()) << entry;
+TEST_F(FrmMainCommands, TheEntriesForRawDataAreEnabled) {
+    for (const char* entry : {"mnuFileOption_3", "mnuFileOption_7", "mnuFileOption_8"})
+        EXPECT_TRUE(window_->menuAction(entry)->isEnabled()) << entry;
     EXPECT_FALSE(child("tblToolbar_copy")->isEnabled());
     EXPECT_TRUE(child("tblToolbar_open")->isEnabled());
 }

@@ -14,8 +14,9 @@ SEASONS = ["Winter", "Spring", "Summer", "Fall"]
 
 
 def make(name, mdata, outputs, files, seasons=SEASONS, title=None, two_blanks=False, changes=None, rose=None,
-         station_zeros=True):
-    values = dict(COMMON, MDATA=mdata, NTSFOUT=str(len(outputs)), NSEASN=str(len(seasons)))
+         station_zeros=True, **other):
+    values = dict(COMMON, **other)
+    values.update(MDATA=mdata, NTSFOUT=str(len(outputs)), NSEASN=str(len(seasons)))
     if title is not None:
         values["TITLE"] = title
     out, block, kind = [], None, None
@@ -120,3 +121,57 @@ UTM = {"     (PMAP)                     Default: UTM    ! PMAP = NONE !":
        "     (DATUM)                    Default: WGS-84    * DATUM = *":
        "     (DATUM)                    Default: WGS-84    ! DATUM = NAR-C !"}
 make("ventos_utm.inp", "VENTOS", [], ["a.dat"], changes={**METSIM, **UTM})
+
+# What the two wizards make of one file, by projection. The input's path is the test's own.
+INERT = {"FEAST": "     (FEAST)                    Default=0.0     * FEAST  = 0.0 *",
+         "FNORTH": "     (FNORTH)                   Default=0.0     * FNORTH = 0.0 *",
+         "IUTMZN": "     (IUTMZN)                   No Default      * IUTMZN = *",
+         "UTMHEM": "     (UTMHEM)                   Default: N      * UTMHEM = N *",
+         "RLAT0": "     (RLAT0)                    No Default      * RLAT0 = *",
+         "RLON0": "     (RLON0)                    No Default      * RLON0 = *",
+         "XLAT1": "     (XLAT1)                    No Default      * XLAT1 = *",
+         "XLAT2": "     (XLAT2)                    No Default      * XLAT2 = *",
+         "DATUM": "     (DATUM)                    Default: WGS-84    * DATUM = *"}
+
+
+def projected(pmap, **keys):
+    first = "     (PMAP)                     Default: UTM    ! PMAP = NONE !"
+    changes = {first: first.replace("NONE", pmap)}
+    for key, value in keys.items():
+        start = INERT[key][:INERT[key].index("*")]
+        name = INERT[key][INERT[key].index("*") + 2:INERT[key].index("=", INERT[key].index("*"))]
+        changes[INERT[key]] = f"{start}! {name}= {value} !"
+    return changes
+
+
+ORIGIN = dict(RLAT0="40.5N", RLON0="97.25W")
+SHIFT = dict(FEAST="100.5", FNORTH="-20")
+MAPS = {"ll": projected("LL", DATUM="WGS-84"),
+        "utm": projected("UTM", IUTMZN="18", UTMHEM="N", DATUM="NAR-C"),
+        "lcc": projected("LCC", **SHIFT, **ORIGIN, XLAT1="33N", XLAT2="45N", DATUM="NWS-84"),
+        "ttm": projected("TTM", **SHIFT, **ORIGIN, DATUM="WGS-84"),
+        "ps": projected("PS", **ORIGIN, XLAT1="60N", DATUM="WGS-84"),
+        "em": projected("EM", **ORIGIN, DATUM="WGS-84"),
+        "laza": projected("LAZA", **SHIFT, **ORIGIN, DATUM="WGS-84")}
+for name, changes in MAPS.items():
+    place = "-74.5, 41.25" if name == "ll" else "-3.5, 1204.25"
+    make(f"wizard_ventos_{name}.inp", "VENTOS", [output(1, "My rose", "A title", place, "10")], ["@FILE@"],
+         changes={**METSIM, **changes}, station_zeros=False, BASE="VENTOS_wind20050307-20051231")
+PERIOD = "20050307-20051231"
+STATIONS = [output(1, f"Albany_VENTOS_{PERIOD}_12.5m", "Albany", "-73.8, 42.75", "12.5"),
+            output(2, f"Burlington_VENTOS_{PERIOD}_12.5m", "Burlington", "-73.15, 44.47", "12.5")]
+make("wizard_ventos_stations.inp", "VENTOS", STATIONS, ["@FILE@"], title="", station_zeros=False,
+     changes={**METSIM, **projected("LL", DATUM="NAR-B")}, BASE="VENTOS_wind" + PERIOD)
+UTC = dict(ABTZ="UTC+0000", IBHR="6", IBSEC="0", IEMO="3", IEDY="9", IEHR="6", BASE="3DDAT_wind20050307-20050309",
+           station_zeros=False)
+NOCELL = {CELL: CELL.replace("* MCELL = 0 *", "! MCELL = 0 !")}
+make("wizard_m3d_ll.inp", "M3D",
+     [output(1, "one", "A title", "-100, -40", "10"), output(2, "two", "A title", "7.5, 41.0", "80")], ["@FILE@"],
+     changes={**METSIM, **GROUP5, **NOCELL, **projected("LL", DATUM="WGS-84")}, **UTC)
+make("wizard_m3d_cells.inp", "M3D",
+     [output(1, "one", "", "3.2, 15.88", "10"), output(2, "two", "", "1, 1", "10")], ["@FILE@"], title="",
+     changes={**METSIM, **GROUP5, CELL: CELL.replace("* MCELL = 0 *", "! MCELL = 1 !")}, **UTC)
+make("wizard_m3d_stations.inp", "M3D",
+     [dict(o, name=o["name"].replace("VENTOS", "3DDAT").replace("1231", "0309").replace("20051231", "20050309"))
+      for o in STATIONS], ["@FILE@"], title="", changes={**METSIM, **GROUP5, **NOCELL, **projected("LL", DATUM="NAR-B")},
+     **UTC)

@@ -1,0 +1,156 @@
+// Step 4 of the wizard: the values of the run, its control file, and the run itself.
+
+#include "base/Numbers.h"
+#include "base/RunTimeError.h"
+#include "base/Text.h"
+#include "dialogs/gridded/GridWizard.h"
+#include "processing/Directories.h"
+#include "processing/RunNames.h"
+#include "processing/Stations.h"
+#include "processing/Zones.h"
+#include "shell/settings/CfgFile.h"
+#include "shell/settings/Settings.h"
+
+namespace zg {
+
+namespace {
+
+std::string number(int value) { return std::to_string(value); }
+
+/// The coordinate as a plain number, negative for its letter; raises 13 for what is no number.
+std::string signedNumber(const std::string& text, const std::string& letter, const char* negative) {
+    const float value = toSingle(text);
+    return singleText(letter == negative && value != 0 ? -value : value);
+}
+
+std::string profilingNumber(const std::string& method) {
+    if (method == "STANDARD") return "1";
+    if (method == "METSTAT") return "2";
+    return method == "NEUTRAL" ? "3" : "4";
+}
+
+}  // namespace
+
+void GridWizard::cmdPROCESS_Click() {
+    const std::string directory = trim(view_.text("txtOutputDirectory"));
+    if (!check(!directory.empty(), "txtOutputDirectory", "Please select a Directory For Output.") ||
+        !check(IsDirectory(directory), "txtOutputDirectory", "Selected Directory For Output does not exist."))
+        return;
+    runProcessor(host_, starter_, RunForm::Locations, hooks());
+}
+
+RunHooks GridWizard::hooks() {
+    RunHooks hooks;
+    hooks.readValues = [this] { readValues(); };
+    hooks.base = [this] { return RunRoot; };
+    hooks.outputDirectory = [this] { return RunDirectory; };
+    // A second start meanwhile has values of its own: each run goes on with those it began with.
+    hooks.outputs = [this] { return outputs_; };
+    hooks.firstName = [] { return std::string(); };
+    hooks.writeControlFile = [this] { WriteControlFile(RunDirectory, values_); };
+    hooks.showName = [](const std::string&) {};
+    hooks.setStatus = [this](const std::string& text) { view_.setText("lblStatus", text); };
+    hooks.setBusy = [this](bool busy) { view_.setBusy(busy); };
+    hooks.load = window_.plotFrqFile;
+    hooks.showExit = [this] { view_.setText("cmdCancel", "Exit"); };
+    hooks.keepTimeZone = [this] {
+        settings.DefaultTimeZone = trim(view_.text("cboTimeZone"));
+        WriteCfgFile(settings.CfgFilePath);
+    };
+    hooks.abandoned = window_.ending;
+    return hooks;
+}
+
+void GridWizard::readValues() {
+    RunDirectory = withSeparator(trim(view_.text("txtOutputDirectory")));
+    ControlFile v;
+    v.type = variation_.type;
+    v.title = view_.text("txtTitleLine");
+    v.inputFiles = view_.rows(variation_.fileList);
+    const CalendarDate begin = dateOf(view_.begin());
+    const TimeOfDay beginTime = timeOf(view_.begin());
+    const CalendarDate end = dateOf(view_.end());
+    const TimeOfDay endTime = timeOf(view_.end());
+    v.IBYR = number(begin.year);
+    v.IBMO = number(begin.month);
+    v.IBDY = number(begin.day);
+    v.IBHR = number(beginTime.hour);
+    v.IBSEC = number(60 * beginTime.minute + beginTime.second);
+    v.IEYR = number(end.year);
+    v.IEMO = number(end.month);
+    v.IEDY = number(end.day);
+    v.IEHR = number(endTime.hour);
+    v.IESEC = number(60 * endTime.minute + endTime.second);
+    v.ABTZ = timeZones.gsTimeZoneKeys.at(static_cast<std::size_t>(view_.row("cboTimeZone")));
+    v.NSECDT = number(stepSeconds());
+    v.METSIM = view_.text("cboSpatialInterpolationMethod") == "BILINEAR" ? "1" : "2";
+    v.WSBIN = settings.WindClassString;
+    v.seasonNames.assign(settings.SeasonNames.begin(), settings.SeasonNames.begin() + settings.SeasonCount);
+    v.MSN = settings.MonthSeasonString;
+    if (variation_.asksProfiling) v.MPROF = profilingNumber(view_.text("cboVertProfilingMethod"));
+    const bool cells = UseCellCoordinates && !byStation();
+    if (variation_.offersCells) v.MCELL = cells ? "1" : "0";
+    RunRoot = variation_.rootPrefix + fileBaseOf(v.inputFiles.at(0)) +
+              periodInName(v.IBYR, v.IBMO, v.IBDY, v.IEYR, v.IEMO, v.IEDY);
+    v.base = RunRoot;
+    values_ = std::move(v);
+    if (byStation())
+        takeStations();
+    else if (usesLatitudes() && variation_.oneCoordinatePair)
+        takeCoordinatesOnShow();
+    if (cells)
+        values_.projection.PMAP = "NONE";
+    else if (!byStation())
+        values_.projection = projection;
+    outputs_.clear();
+    const std::string height = view_.text("txtExtractionHeight2");
+    for (std::int32_t i = 1; i <= NumberOfLocations; ++i) {
+        const std::string& name = slot(LocationFRQName, i);
+        outputs_.push_back({name, {}});
+        values_.outputs.push_back({std::to_string(i), name,
+                                   byStation() ? slot(LocationID, i) : trim(values_.title), placeOf(i),
+                                   byStation() ? height : slot(LocationHeight, i), byStation()});
+    }
+}
+
+/// The selected rows become the locations. All are reckoned in the datum of the table's first row.
+void GridWizard::takeStations() {
+    const std::vector<std::string> names = view_.rows("lstStations");
+    const std::vector<bool> selected = view_.selectedRows("lstStations");
+    const std::string period =
+        periodInName(values_.IBYR, values_.IBMO, values_.IBDY, values_.IEYR, values_.IEMO, values_.IEDY);
+    const std::string height = trim(view_.text("txtExtractionHeight2"));
+    NumberOfLocations = 0;
+    for (std::size_t row = 0; row < names.size(); ++row) {
+        if (!selected[row]) continue;
+        const std::int32_t i = ++NumberOfLocations;
+        slot(LocationX, i) = stations.gsStationCol8.at(row);
+        slot(LocationY, i) = stations.gsStationCol7.at(row);
+        slot(LocationID, i) = stations.gsStationCol0.at(row);
+        slot(LocationFRQName, i) = trim(names[row]) + variation_.tag + period + "_" + height + "m";
+    }
+    values_.projection.PMAP = "LL";
+    values_.projection.DATUM = stations.gsStationCol9.at(0);
+}
+
+/// Every location takes the place on show; heights and names stay its own.
+void GridWizard::takeCoordinatesOnShow() {
+    const std::string x = signedNumber(view_.text("txtLon"), view_.text("cboWE"), "W");
+    const std::string y = signedNumber(view_.text("txtLat"), view_.text("cboNS"), "S");
+    for (std::int32_t i = 1; i <= NumberOfLocations; ++i) {
+        slot(LocationX, i) = x;
+        slot(LocationY, i) = y;
+    }
+}
+
+std::string GridWizard::placeOf(std::int32_t location) {
+    if (!byStation() && UseCellCoordinates)
+        return slot(LocationI, location) + ", " + slot(LocationJ, location);
+    if (byStation() || !usesLatitudes() || variation_.oneCoordinatePair)
+        return slot(LocationX, location) + ", " + slot(LocationY, location);
+    const std::string west = slot(LocationWE, location) == "W" ? "-" : "";
+    const std::string south = slot(LocationNS, location) == "S" ? "-" : "";
+    return west + slot(LocationLon, location) + ", " + south + slot(LocationLat, location);
+}
+
+}  // namespace zg

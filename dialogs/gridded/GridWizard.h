@@ -1,0 +1,135 @@
+#pragma once
+
+// The wizard for gridded files without its window: four steps, each a frame of controls of which one is
+// active at a time, the checks on the way from one to the next, and the run at the end. Two forms share it;
+// what tells them apart stands in GridVariation.
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "base/Host.h"
+#include "dialogs/gridded/GridView.h"
+#include "dialogs/gridded/InfoView.h"
+#include "dialogs/gridded/Projection.h"
+#include "processing/ControlFile.h"
+#include "processing/ProcessingWindow.h"
+#include "processing/ProcessorRun.h"
+
+namespace zg {
+
+/// What differs between the wizards for VENTOS.DAT and 3D.DAT.
+struct GridVariation {
+    GridKind kind;
+    InputType type;
+    const char* form;  ///< objectName, as the next
+    const char* fileList;
+    const char* title;
+    const char* filesCaption;
+    const char* selectFiles;  ///< message for an empty list
+    const char* filter;
+    const char* tag;         ///< in the names of stations' outputs
+    const char* rootPrefix;  ///< of the run's files
+    const char* latitudeMissing;
+    const char* longitudeMissing;
+    std::size_t mostLocations;
+    bool siteWording;        ///< captions of locations always speak of extraction sites
+    bool isUtc;              ///< times of the data are UTC, and the period on show moves with the zone picked
+    bool asksProfiling;      ///< there is a vertical profiling method
+    bool offersCells;        ///< locations may be given as grid cells
+    bool oneCoordinatePair;  ///< of a latitude/longitude run all locations take the place last on show
+};
+
+extern const GridVariation ventosVariation;
+extern const GridVariation m3dVariation;
+
+class GridWizard : public ProjectionCaller {
+ public:
+    GridWizard(const GridVariation& variation, GridView& view, Host& host, ProcessStarter& starter,
+               ProcessingWindow window);
+
+    /// Start values of the fields, the first step enabled.
+    void Form_Load();
+
+    void cmdNext1_Click();
+    void cmdPrevious2_Click();
+    void cmdNext2_Click();
+    void cmdPrevious3_Click();
+    void cmdNext3_Click();
+    void cmdPrevious4_Click();
+    void cmdPROCESS_Click();
+    void cmdNextLocation_Click();
+    void cmdPrevLocation_Click();
+    void optByStation_Click();
+    void optByLocation_Click();
+    void cboTimeZone_Click();
+
+    /// On to step 3 by location, once the projection is known.
+    void Continue() override;
+
+    const GridVariation& variation() const { return variation_; }
+
+    // State of the form; the arrays are indexed from 1 as the locations are.
+    DateTime DataStartTime;
+    DateTime DataEndTime;
+    std::int32_t CurrentLocation = 1;
+    std::int32_t NumberOfLocations = 1;
+    bool UseCellCoordinates = false;
+    float TimeZoneShiftHours = 0;
+    std::vector<std::string> LocationX, LocationY, LocationLat, LocationLon, LocationNS, LocationWE,
+        LocationHeight, LocationFRQName, LocationID, LocationI, LocationJ;
+    std::string RunRoot;
+    std::string RunDirectory;
+
+ private:
+    bool refuse(const char* control, const std::string& text);
+    bool check(bool passed, const char* control, const char* text);
+    bool checkFilled(const char* box, const char* text);
+
+    // Steps 1 and 2.
+    bool readHeader(const std::string& path);
+    void showPeriodOfData();
+    bool checkOrder();
+    bool checkWithinData();
+    bool useLimit(bool begin, DateTime limit);
+    bool checkTimeStep();
+    std::int16_t stepSeconds() const;
+    float zoneHours() const;
+    void toStations();
+    void toLocations();
+
+    // Step 3.
+    void setStep(int from, int to);
+    /// Raises 9 for a location that the arrays do not have.
+    static std::string& slot(std::vector<std::string>& texts, std::int32_t location);
+    bool byStation() const;
+    bool usesLatitudes() const;
+    std::string siteCaption() const;
+    std::string locationCaption() const;
+    void parseCaption(std::int32_t& total);
+    void showFramesOfMode();
+    void enableMoves();
+    void disableMoves();
+    bool ValidateLocation();
+    bool checkStations();
+    void SaveLocation(std::int32_t location);
+    void ShowLocation(std::int32_t location);
+
+    // The run.
+    void readValues();
+    void takeStations();
+    void takeCoordinatesOnShow();
+    std::string placeOf(std::int32_t location);
+    RunHooks hooks();
+
+    const GridVariation& variation_;
+    GridView& view_;
+    Host& host_;
+    ProcessStarter& starter_;
+    ProcessingWindow window_;
+    ControlFile values_;
+    std::vector<RunOutput> outputs_;
+};
+
+}  // namespace zg

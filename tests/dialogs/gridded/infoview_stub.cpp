@@ -1,0 +1,68 @@
+// A library as a user may lay it beside the program: it answers with what it was asked for.
+
+#include <cstdint>
+#include <cstring>
+#include <string>
+
+namespace {
+
+void put(char* buffer, std::int32_t width, const std::string& text) {
+    std::memset(buffer, ' ', static_cast<std::size_t>(width));
+    std::memcpy(buffer, text.data(), text.size());
+}
+
+}  // namespace
+
+extern "C" void infoview(const char* path, const std::int32_t* kind, const std::int32_t* one,
+                         const std::int32_t* two, std::int32_t* IUTMZN, std::int32_t* year1, std::int32_t*,
+                         std::int32_t* month1, std::int32_t* day1, std::int32_t* hour1, std::int32_t* second1,
+                         std::int32_t* year2, std::int32_t*, std::int32_t* month2, std::int32_t* day2,
+                         std::int32_t* hour2, std::int32_t* second2, std::int32_t* flag, float* RLAT0,
+                         float* RLON0, float* XLAT1, float* XLAT2, float* FEAST, float* FNORTH, char* zone,
+                         char* pmap, char* utmhem, char* datum, char* error, std::int32_t pathLength,
+                         std::int32_t zoneLength, std::int32_t pmapLength, std::int32_t utmhemLength,
+                         std::int32_t datumLength, std::int32_t errorLength) {
+    const std::string name(path, static_cast<std::size_t>(pathLength));
+    if (name.find("bad") != std::string::npos) {
+        *flag = 7;
+        put(error, errorLength, "not mine: " + std::to_string(*kind));
+        return;
+    }
+    *IUTMZN = *kind * 10 + *one + *two;
+    *year1 = 2001;
+    *month1 = 2;
+    *day1 = 28;
+    *hour1 = 23;
+    *second1 = 3599;
+    *year2 = 2002;
+    *month2 = 1;
+    *day2 = 1;
+    *hour2 = 0;
+    *second2 = 61;
+    *RLAT0 = -40.5F;
+    *RLON0 = 97.25F;
+    *XLAT1 = 0;
+    *XLAT2 = -0.5F;
+    *FEAST = 100.5F;
+    *FNORTH = -20;
+    put(zone, zoneLength, "utc-0500");
+    put(pmap, pmapLength, " lcc");
+    put(utmhem, utmhemLength, "s");
+    put(datum, datumLength, "nas-c");
+}
+
+extern "C" void init(const std::int32_t* record, std::int32_t* count, std::int32_t* status, char* continent,
+                     char* ellipsoid, char* code, char* region1, char* region2, char* region3, char* stamp,
+                     std::int32_t continentLength, std::int32_t ellipsoidLength, std::int32_t codeLength,
+                     std::int32_t region1Length, std::int32_t region2Length, std::int32_t region3Length,
+                     std::int32_t stampLength) {
+    *count = 2;
+    *status = 0;
+    put(continent, continentLength, "MOON");
+    put(ellipsoid, ellipsoidLength, "Sphere");
+    put(code, codeLength, "MON-" + std::to_string(*record));
+    put(region1, region1Length, " Sea of ");
+    put(region2, region2Length, "-Tranquillity- ");
+    put(region3, region3Length, std::to_string(*record));
+    put(stamp, stampLength, "1969-07-20");
+}
