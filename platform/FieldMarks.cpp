@@ -41,16 +41,23 @@ Colour fieldMark(const QWidget& field) {
 
 void setFieldMark(QWidget& field, Colour mark) {
     field.setProperty(markProperty, mark);
-    if (qobject_cast<QGroupBox*>(&field) != nullptr) field.setAutoFillBackground(mark == yellowMark);
-    if (mark != yellowMark && mark != darkYellowMark) {
+    const bool marked = mark == yellowMark || mark == darkYellowMark;
+    const bool frame = qobject_cast<QGroupBox*>(&field) != nullptr;
+    if (frame) field.setAutoFillBackground(marked);
+    if (!marked) {
         field.setPalette(QPalette());
         return;
     }
     QPalette palette = field.palette();
-    for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Button, QPalette::Window})
-        palette.setColor(role, toQColor(mark));
-    for (const QPalette::ColorRole role : {QPalette::Text, QPalette::ButtonText})
-        palette.setColor(role, Qt::black);
+    palette.setColor(QPalette::Window, toQColor(mark));
+    palette.setColor(QPalette::WindowText, Qt::black);
+    if (!frame) {  // the fields in a frame keep their own ground
+        for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Button})
+            palette.setColor(role, toQColor(mark));
+        for (const QPalette::ColorRole role :
+             {QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
+            palette.setColor(role, Qt::black);
+    }
     field.setPalette(palette);
 }
 

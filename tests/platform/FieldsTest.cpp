@@ -6,7 +6,9 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDateTimeEdit>
+#include <QGroupBox>
 #include <QInputMethodEvent>
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
@@ -80,6 +82,22 @@ TEST(FieldMarks, DatesAndListsAreFilledByWhatTheyShow) {
     list.setCurrentRow(0);
     ClearInvalidIfFilled(list);
     EXPECT_EQ(fieldMark(list), cleanMark);
+}
+
+TEST(FieldMarks, AMarkedFrameHasBlackLabelsAndLeavesItsFieldsAlone) {
+    QGroupBox frame;
+    QLabel label(&frame);
+    QLineEdit box(&frame);
+    MarkInvalid(frame);
+    EXPECT_TRUE(frame.autoFillBackground());
+    EXPECT_EQ(fromQColor(frame.palette().color(QPalette::Window)), yellowMark);
+    EXPECT_EQ(label.palette().color(QPalette::WindowText), QColor(Qt::black));
+    EXPECT_EQ(box.palette().color(QPalette::Base), QApplication::palette().color(QPalette::Base));
+    DisableField(frame);
+    EXPECT_TRUE(frame.autoFillBackground()) << "the darker yellow is seen too";
+    EnableField(frame);
+    ClearInvalid(frame);
+    EXPECT_FALSE(frame.autoFillBackground());
 }
 
 TEST(FieldMarks, MarksAreSeenWithBlackTextOnADarkTheme) {
