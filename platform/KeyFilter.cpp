@@ -63,7 +63,27 @@ class TypedKeys : public QObject {
     KeyFunction function_;
 };
 
+/// The field gets a press of the Tab key in place of that of Enter, so that both go to the same control.
+class EnterIsTab : public QObject {
+ public:
+    explicit EnterIsTab(QWidget& field) : QObject(&field), field_(field) { field.installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) return false;
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+        QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+        QCoreApplication::sendEvent(&field_, &tab);
+        return true;
+    }
+
+ private:
+    QWidget& field_;
+};
+
 }  // namespace
+
+void enterIsTab(QWidget& field) { new EnterIsTab(field); }
 
 void filterKeys(QLineEdit& box, KeyFunction function) {
     static const QString name = QStringLiteral("typedKeys");

@@ -2,12 +2,12 @@
 
 #include <QEvent>
 #include <QGuiApplication>
-#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include "base/Paths.h"
 #include "base/Text.h"
 #include "dialogs/point/SurfNames.h"
+#include "platform/Captions.h"
 #include "platform/Combos.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
@@ -41,22 +41,6 @@ QTimeEdit* timePicker(const char* name) {
     return picker;
 }
 
-class EnterIsTab : public QObject {
- public:
-    explicit EnterIsTab(QWidget& field) : QObject(&field), field_(field) { field.installEventFilter(this); }
-
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() != QEvent::KeyPress) return false;
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
-        if (QWidget* next = field_.nextInFocusChain()) next->setFocus(Qt::TabFocusReason);
-        return true;
-    }
-
- private:
-    QWidget& field_;
-};
-
 std::string number(int value) { return std::to_string(value); }
 
 }  // namespace
@@ -70,7 +54,6 @@ PointDialog::PointDialog(Host& host, ProcessStarter& starter, ProcessingWindow w
 
 QPushButton* PointDialog::button(const char* caption, const char* name) {
     auto* made = named(new QPushButton(QString::fromLatin1(caption)), name);
-    made->setAutoDefault(false);
     return made;
 }
 
@@ -87,12 +70,11 @@ QGroupBox* PointDialog::makePeriod(bool withHeadings) {
     DTPicker_EndDate = datePicker("DTPicker_EndDate");
     DTPicker_EndTime = timePicker("DTPicker_EndTime");
     cboTimeZone = named(new QComboBox, "cboTimeZone");
-    cboTimeZone->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    cboTimeZone->setMinimumContentsLength(30);
-    frameTimeStep = named(new QGroupBox(QStringLiteral("Time Step:")), "frameTimeStep");
+    cboTimeZone->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    frameTimeStep = named(new QGroupBox(QStringLiteral("&Time Step:")), "frameTimeStep");
     DTPicker_TimeStep = timePicker("DTPicker_TimeStep");
     (new QVBoxLayout(frameTimeStep))->addWidget(DTPicker_TimeStep);
-    DTPicker_TimeStep->setAccessibleName(frameTimeStep->title());
+    DTPicker_TimeStep->setAccessibleName(spoken(frameTimeStep->title()));
     DTPicker_BeginTime->setAccessibleName(QStringLiteral("Starting time"));
     DTPicker_EndTime->setAccessibleName(QStringLiteral("Ending time"));
     auto* grid = new QGridLayout(framePeriod);
@@ -100,14 +82,14 @@ QGroupBox* PointDialog::makePeriod(bool withHeadings) {
         grid->addWidget(new QLabel(QStringLiteral("DATE:")), 0, 1);
         grid->addWidget(new QLabel(QStringLiteral("HOUR:")), 0, 2);
     }
-    grid->addWidget(labelFor("Starting:", DTPicker_BeginDate), 1, 0);
+    grid->addWidget(labelFor("&Starting:", DTPicker_BeginDate), 1, 0);
     grid->addWidget(DTPicker_BeginDate, 1, 1);
     grid->addWidget(DTPicker_BeginTime, 1, 2);
-    grid->addWidget(labelFor("Ending:", DTPicker_EndDate), 2, 0);
+    grid->addWidget(labelFor("&Ending:", DTPicker_EndDate), 2, 0);
     grid->addWidget(DTPicker_EndDate, 2, 1);
     grid->addWidget(DTPicker_EndTime, 2, 2);
     grid->addWidget(frameTimeStep, 0, 3, 3, 1);
-    grid->addWidget(labelFor("Base Time Zone:", cboTimeZone), 3, 0);
+    grid->addWidget(labelFor("Base Time &Zone:", cboTimeZone), 3, 0);
     grid->addWidget(cboTimeZone, 3, 1, 1, 3);
     return framePeriod;
 }
@@ -117,15 +99,15 @@ QGroupBox* PointDialog::makeOutput() {
     txtTitleLine = named(new QLineEdit, "txtTitleLine");
     txtFRQOutputFilename = named(new QLineEdit, "txtFRQOutputFilename");
     txtOutputDirectory = named(new QLineEdit, "txtOutputDirectory");
-    cmdBrowseDirectory = button("Browse", "cmdBrowseDirectory");
+    cmdBrowseDirectory = button("B&rowse", "cmdBrowseDirectory");
     cmdBrowseDirectory->setAccessibleName(QStringLiteral("Browse for the output directory"));
     auto* grid = new QGridLayout(frame);
-    grid->addWidget(labelFor("Title Line (Optional):", txtTitleLine), 0, 0);
+    grid->addWidget(labelFor("Title &Line (Optional):", txtTitleLine), 0, 0);
     grid->addWidget(txtTitleLine, 0, 1, 1, 2);
-    grid->addWidget(labelFor("Output FRQ Filename:", txtFRQOutputFilename), 1, 0);
+    grid->addWidget(labelFor("Output FR&Q Filename:", txtFRQOutputFilename), 1, 0);
     grid->addWidget(txtFRQOutputFilename, 1, 1);
     grid->addWidget(new QLabel(QStringLiteral(".frq")), 1, 2);
-    grid->addWidget(labelFor("Output Directory:", txtOutputDirectory), 2, 0);
+    grid->addWidget(labelFor("&Output Directory:", txtOutputDirectory), 2, 0);
     grid->addWidget(txtOutputDirectory, 2, 1);
     grid->addWidget(cmdBrowseDirectory, 2, 2);
     connect(cmdBrowseDirectory, &QPushButton::clicked, this,
@@ -137,8 +119,8 @@ QGroupBox* PointDialog::makeOutput() {
 }
 
 QLayout* PointDialog::makeButtons() {
-    cmdSetSeasons = button("Set Seasons", "cmdSetSeasons");
-    cmdSetWindSpeedClasses = button("Set Wind Speed Classes", "cmdSetWindSpeedClasses");
+    cmdSetSeasons = button("Set Seaso&ns", "cmdSetSeasons");
+    cmdSetWindSpeedClasses = button("Set &Wind Speed Classes", "cmdSetWindSpeedClasses");
     cmdView = button("RUN", "cmdView");
     cmdView->setDefault(true);
     cmdExit = button("Cancel", "cmdExit");
@@ -293,8 +275,6 @@ bool PointDialog::browseInput(QLineEdit& box, const char* filter) {
     txtOutputDirectory->setText(fileName(remembered_));
     return true;
 }
-
-void PointDialog::enterIsTab(QWidget& field) { new EnterIsTab(field); }
 
 void PointDialog::readLargeFile(const std::function<void(const std::function<void()>&)>& read) {
     constexpr std::int64_t secondMs = 1000;

@@ -73,9 +73,6 @@ class PointDialog : public QDialog {
     /// Asks for the input file; takes it, and its directory for the output. False when cancelled.
     bool browseInput(QLineEdit& box, const char* filter);
 
-    /// Enter goes on to the next control, as Tab does.
-    static void enterIsTab(QWidget& field);
-
     /// While a large file is read the window stays alive, the fields are out of reach, and after a second the
     /// status line says so.
     void readLargeFile(const std::function<void(const std::function<void()>&)>& read);
