@@ -1,0 +1,220 @@
+#include "tests/forms/Forms.h"
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTest>
+#include <filesystem>
+
+#include "base/Paths.h"
+#include "batch/FrmBatchMode.h"
+#include "batch/FrmCreateReport.h"
+#include "dialogs/point/FrmOpenAERMETFile.h"
+#include "dialogs/point/FrmOpenAMMNETDataFile.h"
+#include "dialogs/point/FrmOpenSURFDATFile.h"
+#include "dialogs/point/FrmOpenTSFDataFile.h"
+#include "dialogs/point/FrmOpenUPDATFile.h"
+#include "processing/Stations.h"
+#include "processing/Zones.h"
+#include "shell/FrmAboutZephyrgraph.h"
+#include "shell/FrmAddLabel.h"
+#include "shell/FrmAspect.h"
+#include "shell/FrmChangeDir.h"
+#include "shell/FrmChangeRadius.h"
+#include "shell/FrmComment.h"
+#include "shell/FrmError.h"
+#include "shell/FrmExpr.h"
+#include "shell/FrmGridFonts.h"
+#include "shell/FrmMain.h"
+#include "shell/FrmOptions.h"
+#include "shell/FrmOptionsLegend.h"
+#include "shell/FrmProperties.h"
+#include "shell/FrmSelectWindRose.h"
+#include "shell/FrmSetSeasons.h"
+#include "shell/FrmSetWindSpeedClasses.h"
+#include "shell/FrmSplashScreen.h"
+#include "shell/FrmTable.h"
+#include "shell/FrmZoom.h"
+#include "shell/settings/CfgFile.h"
+#include "shell/settings/Settings.h"
+#include "shell/settings/StartSequence.h"
+
+namespace zg {
+
+namespace {
+
+using FormPointer = std::unique_ptr<QWidget>;
+
+void startProgramIn(const TempDirectory& directory) {
+    modPolarGraph = ModPolarGraph();
+    settings = Settings();
+    timeZones = TimeZoneTable();
+    stations = StationTable();
+    applicationDirectory = directory.path();
+    std::filesystem::copy(ZG_SOURCE_DIR "/data/TimeZones.txt", directory.file("TimeZones.txt"));
+    directory.write("expr.dat", "\"Polar Graph 1.0\"\r\n\"sin(2*t)\"\r\n\"MathLib.pow(t,2)\"\r\n");
+    startSettings();
+}
+
+GrapInfo curve() {
+    GrapInfo graph;
+    graph.Equation = "a*sin(2*t)";
+    graph.Coefficient = "a=4";
+    graph.Step = 15;
+    graph.Series.AllowMarker = true;
+    return graph;
+}
+
+template <typename Form>
+FormPointer ofHost(FormWorld& world) {
+    return std::make_unique<Form>(world.host);
+}
+
+template <typename Form>
+FormPointer ofPlot(FormWorld& world) {
+    return std::make_unique<Form>(world.host, world.plot.graph());
+}
+
+ProcessingWindow idleWindow() {
+    return {[](const std::string&) {}, [] { return false; }, [] {}, [] {}};
+}
+
+template <typename Form>
+FormPointer ofInput(FormWorld& world) {
+    return std::make_unique<Form>(world.host, world.starter, idleWindow());
+}
+
+template <AermetKind Kind>
+FormPointer ofAermet(FormWorld& world) {
+    return std::make_unique<frmOpenAERMETFile>(world.host, world.starter, idleWindow(), Kind);
+}
+
+FormPointer mainWindow(FormWorld& world) {
+    auto window = std::make_unique<frmMain>(world.host);
+    window->Form_Load();
+    window->PlotFrqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
+    return window;
+}
+
+std::function<void(QWidget&)> withTool(Tool tool) {
+    return [tool](QWidget& form) { dynamic_cast<frmMain&>(form).pressTool(tool); };
+}
+
+std::function<void(QWidget&)> withClickOn(const char* control) {
+    return [control](QWidget& form) { form.findChild<QAbstractButton*>(QLatin1String(control))->click(); };
+}
+
+FormPointer customSeasons(FormWorld& world) {
+    settings.CustomSeasonOfMonth.fill("Monsoon");
+    WriteCfgFile(settings.CfgFilePath);
+    return ofHost<frmSetSeasons>(world);
+}
+
+FormPointer errorForm(FormWorld&) {
+    auto form = std::make_unique<frmError>();
+    form->findChild<QLabel*>(QStringLiteral("lblDescr"))
+        ->setText(QStringLiteral("A description that is long enough to need more than one line of the form, "
+                                 "as those of errors in a file with a long path are."));
+    return form;
+}
+
+FormPointer batchForm(FormWorld& world) {
+    return std::make_unique<frmBatchMode>(world.host, BatchHooks{[] {}, [] {}});
+}
+
+FormPointer propertiesForm(FormWorld& world) {
+    return std::make_unique<frmProperties>(world.host, world.graph, [] {});
+}
+
+FormPointer tableForm(FormWorld& world) {
+    QPixmap legend(46, 18);
+    legend.fill(Qt::blue);
+    return std::make_unique<frmTable>(world.host, world.graph, legend, [] {});
+}
+
+FormPointer directoryForm(FormWorld& world) {
+    return std::make_unique<frmChangeDir>(world.host, world.chosenDirectory, world.directory.path());
+}
+
+}  // namespace
+
+FormWorld::FormWorld() : plot((startProgramIn(directory), host), PropertyBag()), graph(curve()) {
+    plot.resize(500, 500);
+    plot.graph().OpenFreqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
+    modPolarGraph.WorkDir = directory.path() + "/";
+}
+
+const std::vector<FormRow>& forms() {
+    static const std::vector<FormRow> rows = {
+        {"frmMain", "", mainWindow},
+        {"frmMain", "Aspect", mainWindow, withTool(Tool::Aspect)},
+        {"frmMain", "Zoom", mainWindow, withTool(Tool::Zoom)},
+        {"frmSplashScreen", "",
+         [](FormWorld& world) { return std::make_unique<frmSplashScreen>(world.host, [] {}); }},
+        {"frmAboutZephyrgraph", "", [](FormWorld&) { return std::make_unique<frmAboutZephyrgraph>(); }},
+        {"frmAddLabel", "", ofPlot<frmAddLabel>},
+        {"frmAspect", "", ofPlot<frmAspect>},
+        {"frmBatchMode", "File", batchForm},
+        {"frmBatchMode", "Directory", batchForm, withClickOn("optDirectory")},
+        {"frmChangeDir", "", directoryForm},
+        {"frmChangeRadius", "", ofPlot<frmChangeRadius>},
+        {"frmComment", "", ofPlot<frmComment>},
+        {"frmCreateReport", "", ofHost<frmCreateReport>},
+        {"frmError", "", errorForm},
+        {"frmExpr", "", ofHost<frmExpr>},
+        {"frmExpr", "Add", ofHost<frmExpr>, withClickOn("cmdAdd")},
+        {"frmGridFonts", "", ofPlot<frmGridFonts>},
+        {"frmOpenAERMETPFLFile", "", ofAermet<AermetKind::Profile>},
+        {"frmOpenAERMETSFCFile", "", ofAermet<AermetKind::Surface>},
+        {"frmOpenAMMNETDataFile", "", ofInput<frmOpenAMMNETDataFile>},
+        {"frmOpenSURFDATFile", "", ofInput<frmOpenSURFDATFile>},
+        {"frmOpenTSFDataFile", "", ofInput<frmOpenTSFDataFile>},
+        {"frmOpenUPDATFile", "", ofInput<frmOpenUPDATFile>},
+        {"frmOptions", "", ofPlot<frmOptions>},
+        {"frmOptionsLegend", "", ofPlot<frmOptionsLegend>},
+        {"frmProperties", "Font", propertiesForm, withClickOn("optMtype_1")},
+        {"frmProperties", "Picture", propertiesForm, withClickOn("optMtype_0")},
+        {"frmSelectWindRose", "", ofPlot<frmSelectWindRose>},
+        {"frmSetSeasons", "", ofHost<frmSetSeasons>},
+        {"frmSetSeasons", "Custom", customSeasons},
+        {"frmSetWindSpeedClasses", "", ofHost<frmSetWindSpeedClasses>},
+        {"frmTable", "", tableForm},
+        {"frmZoom", "", ofPlot<frmZoom>},
+    };
+    return rows;
+}
+
+std::string rowName(const FormRow& row) {
+    return std::string(row.form) + (*row.state == '\0' ? "" : "_") + row.state;
+}
+
+void PrintTo(const FormRow& row, std::ostream* out) { *out << rowName(row); }
+
+std::unique_ptr<QWidget> open(const FormRow& row, FormWorld& world) {
+    FormPointer form = row.make(world);
+    EXPECT_EQ(form->objectName(), row.form);
+    form->show();
+    form->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    if (row.bring) row.bring(*form);
+    QCoreApplication::processEvents();
+    return form;
+}
+
+void forEachPage(QWidget& form, const std::function<void(const std::string& page)>& look) {
+    auto* tabs = form.findChild<QTabWidget*>();
+    if (tabs == nullptr) {
+        look("");
+        return;
+    }
+    for (int page = 0; page < tabs->count(); ++page) {
+        tabs->setCurrentIndex(page);
+        QCoreApplication::processEvents();
+        look(tabs->tabText(page).toStdString());
+    }
+}
+
+}  // namespace zg
