@@ -37,6 +37,8 @@ frmChangeDir::frmChangeDir(Host& host, std::string& directory, const std::string
     lblCurDir = new QLabel;
     lblCurDir->setObjectName(QStringLiteral("lblCurDir"));
     lblCurDir->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    lblCurDir->setTextFormat(Qt::PlainText);
+    lblCurDir->setWordWrap(true);  // a deep directory takes more lines, not a wider window
     Drive1 = new QComboBox;
     Drive1->setObjectName(QStringLiteral("Drive1"));
     Drive1->setAccessibleName(QStringLiteral("Drive"));

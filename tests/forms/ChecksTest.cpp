@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "tests/forms/Checks.h"
@@ -167,6 +168,19 @@ TEST_F(ChecksOfForms, FindFaintTexts) {
     label_->setPalette(faint);
     label_->setAutoFillBackground(true);
     EXPECT_EQ(faultsOfColours().rfind("label #969696 on #ffffff, 1 to 2.9", 0), 0U) << faultsOfColours();
+}
+
+TEST_F(ChecksOfForms, FindIconsThatAreHardlySeen) {
+    auto* tool = new QToolButton;
+    tool->setObjectName("tool");
+    rows_->addWidget(tool);
+    QPixmap icon(16, 16);
+    icon.fill(QColor(220, 220, 220));
+    tool->setIcon(icon);
+    EXPECT_EQ(faultsOfColours(), "tool has an icon that is hardly seen\n");
+    icon.fill(Qt::black);
+    tool->setIcon(icon);
+    EXPECT_EQ(faultsOfColours(), "");
 }
 
 }  // namespace

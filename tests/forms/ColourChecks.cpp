@@ -4,10 +4,12 @@
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QImage>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QToolButton>
 #include <algorithm>
 #include <cmath>
 #include <sstream>
@@ -99,6 +101,24 @@ void checkTexts(Findings& found, const QWidget& control, const std::string& when
         if (each->isVisible()) checkText(found, *each, when);
 }
 
+/// An icon is seen by its lines: enough of its pixels stand out from what it lies on.
+void checkIcon(Findings& found, const QToolButton& button) {
+    const QImage image = button.icon().pixmap(button.iconSize()).toImage();
+    const QColor ground = painterOfGround(button).palette().color(QPalette::Window);
+    constexpr int opaque = 200;
+    constexpr double leastOfLines = 3;
+    int drawn = 0;
+    int seen = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor pixel = image.pixelColor(x, y);
+            if (pixel.alpha() < opaque) continue;
+            ++drawn;
+            if (contrast(pixel, ground) >= leastOfLines) ++seen;
+        }
+    if (5 * seen < drawn || drawn == 0) found.push_back(finding(button, "has an icon that is hardly seen"));
+}
+
 bool takesMarks(const QWidget& control) {
     if (control.objectName().isEmpty() || control.objectName().startsWith(QLatin1String("qt_"))) return false;
     return control.inherits("QLineEdit") || control.inherits("QComboBox") ||
@@ -110,7 +130,10 @@ bool takesMarks(const QWidget& control) {
 
 Findings checkColours(QWidget& form) {
     Findings found;
-    for (QWidget* each : shownControls(form)) checkText(found, *each, "");
+    for (QWidget* each : shownControls(form)) {
+        checkText(found, *each, "");
+        if (const auto* button = qobject_cast<const QToolButton*>(each)) checkIcon(found, *button);
+    }
     for (QWidget* each : shownControls(form)) {
         if (!takesMarks(*each)) continue;
         const bool enabled = each->isEnabled();

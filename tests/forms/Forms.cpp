@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
@@ -107,6 +108,17 @@ std::function<void(QWidget&)> withClickOn(const char* control) {
     return [control](QWidget& form) { form.findChild<QAbstractButton*>(QLatin1String(control))->click(); };
 }
 
+/// A press of the button finds the text of the field wrong and says so in the status line.
+std::function<void(QWidget&)> withRefusal(const char* field, const char* text, const char* button) {
+    return [=](QWidget& form) {
+        auto* file = form.findChild<QLineEdit*>(QStringLiteral("txtSingleFRQFile"));
+        if (file != nullptr) file->setText(QStringLiteral(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq"));
+        form.findChild<QLineEdit*>(QLatin1String(field))->setText(QLatin1String(text));
+        form.findChild<QAbstractButton*>(QLatin1String(button))->click();
+        EXPECT_NE(form.findChild<QLabel*>(QStringLiteral("lblStatus"))->text(), QString());
+    };
+}
+
 FormPointer customSeasons(FormWorld& world) {
     settings.CustomSeasonOfMonth.fill("Monsoon");
     WriteCfgFile(settings.CfgFilePath);
@@ -139,6 +151,18 @@ FormPointer directoryForm(FormWorld& world) {
     return std::make_unique<frmChangeDir>(world.host, world.chosenDirectory, world.directory.path());
 }
 
+FormPointer deepDirectoryForm(FormWorld& world) {
+    world.chosenDirectory = world.directory.path();
+    for (int level = 0; level < 12; ++level) world.chosenDirectory += "/directory_within_directory";
+    std::filesystem::create_directories(world.chosenDirectory);
+    return directoryForm(world);
+}
+
+FormPointer longTableForm(FormWorld& world) {
+    for (int term = 0; term < 20; ++term) world.graph.Equation += "+a*sin(2*t)";
+    return tableForm(world);
+}
+
 }  // namespace
 
 FormWorld::FormWorld() : plot((startProgramIn(directory), host), PropertyBag()), graph(curve()) {
@@ -159,10 +183,15 @@ const std::vector<FormRow>& forms() {
         {"frmAspect", "", ofPlot<frmAspect>},
         {"frmBatchMode", "File", batchForm},
         {"frmBatchMode", "Directory", batchForm, withClickOn("optDirectory")},
+        {"frmBatchMode", "Refused", batchForm,
+         withRefusal("txtPercentValidLimit", "101", "cmdBeginBatchMode")},
         {"frmChangeDir", "", directoryForm},
+        {"frmChangeDir", "Deep", deepDirectoryForm},
         {"frmChangeRadius", "", ofPlot<frmChangeRadius>},
         {"frmComment", "", ofPlot<frmComment>},
         {"frmCreateReport", "", ofHost<frmCreateReport>},
+        {"frmCreateReport", "Refused", ofHost<frmCreateReport>,
+         withRefusal("txtBMPDirectory", "/nowhere/", "cmdCreateReport")},
         {"frmError", "", errorForm},
         {"frmExpr", "", ofHost<frmExpr>},
         {"frmExpr", "Add", ofHost<frmExpr>, withClickOn("cmdAdd")},
@@ -182,6 +211,7 @@ const std::vector<FormRow>& forms() {
         {"frmSetSeasons", "Custom", customSeasons},
         {"frmSetWindSpeedClasses", "", ofHost<frmSetWindSpeedClasses>},
         {"frmTable", "", tableForm},
+        {"frmTable", "Long", longTableForm},
         {"frmZoom", "", ofPlot<frmZoom>},
     };
     return rows;
