@@ -66,6 +66,7 @@ frmBatchMode::frmBatchMode(Host& host, BatchHooks hooks, QWidget* parent)
     cmdBrowseDirectory =
         browseButton("B&rowse...", "cmdBrowseDirectory", "Browse for a directory of FRQ files");
     txtRootFilename = named(new QLineEdit, "txtRootFilename");
+    txtRootFilename->setToolTip(QStringLiteral("The name of each bitmap begins with it"));
     txtWorkDirectory = named(new QLineEdit, "txtWorkDirectory");
     cmdBrowseWorkDirectory =
         browseButton("Br&owse...", "cmdBrowseWorkDirectory", "Browse for a working directory");

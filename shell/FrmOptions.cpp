@@ -108,6 +108,8 @@ QWidget* frmOptions::makeDetails() {
     txtArea = box("txtArea", true);
     txtUnitIn = box("txtUnitIn");
     txtRadiusIn = box("txtRadiusIn");
+    txtUnitIn->setToolTip(QStringLiteral("Polar units between two marks of the rulers"));
+    txtRadiusIn->setToolTip(QStringLiteral("Percent of the outer ring"));
     addRow(*grid, "&Unit :", txtUnitIn);
     addRow(*grid, "Ma&x % :", txtRadiusIn);
     addRow(*grid, "Unit in &force :", txtUnit);

@@ -186,6 +186,10 @@ QWidget* frmProperties::makeOptions() {
     txtAngle[1] = numberBox("txtAngle_1", KeyNumericInteger);
     txtStep = numberBox("txtStep", KeyNumericPositive);
     txtDelay = numberBox("txtDelay", KeyNumericInteger);
+    txtAngle[0]->setToolTip(QStringLiteral("Degrees of the first point of the curve"));
+    txtAngle[1]->setToolTip(QStringLiteral("Degrees of the last point of the curve"));
+    txtStep->setToolTip(QStringLiteral("Degrees from one point of the curve to the next"));
+    txtDelay->setToolTip(QStringLiteral("Milliseconds from one point to the next when the curve is played"));
     add("&Starting angle :", txtAngle[0], wide);
     add("&Ending angle  :", txtAngle[1], wide);
     add("S&tep               :", txtStep, "Range: 0.0001...10,000");

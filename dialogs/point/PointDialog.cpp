@@ -74,6 +74,7 @@ QGroupBox* PointDialog::makePeriod(bool withHeadings) {
     frameTimeStep = named(new QGroupBox(QStringLiteral("&Time Step:")), "frameTimeStep");
     DTPicker_TimeStep = timePicker("DTPicker_TimeStep");
     (new QVBoxLayout(frameTimeStep))->addWidget(DTPicker_TimeStep);
+    DTPicker_TimeStep->setToolTip(QStringLiteral("Hours, minutes and seconds of a step"));
     DTPicker_TimeStep->setAccessibleName(spoken(frameTimeStep->title()));
     DTPicker_BeginTime->setAccessibleName(QStringLiteral("Starting time"));
     DTPicker_EndTime->setAccessibleName(QStringLiteral("Ending time"));

@@ -151,6 +151,12 @@ FormPointer directoryForm(FormWorld& world) {
     return std::make_unique<frmChangeDir>(world.host, world.chosenDirectory, world.directory.path());
 }
 
+/// Its period ends where it begins, of which a box tells.
+FormPointer refusingUpForm(FormWorld& world) {
+    world.host.boxAnswers = {BoxAnswer::Ok};
+    return ofInput<frmOpenUPDATFile>(world);
+}
+
 FormPointer deepDirectoryForm(FormWorld& world) {
     world.chosenDirectory = world.directory.path();
     for (int level = 0; level < 12; ++level) world.chosenDirectory += "/directory_within_directory";
@@ -202,6 +208,7 @@ const std::vector<FormRow>& forms() {
         {"frmOpenSURFDATFile", "", ofInput<frmOpenSURFDATFile>},
         {"frmOpenTSFDataFile", "", ofInput<frmOpenTSFDataFile>},
         {"frmOpenUPDATFile", "", ofInput<frmOpenUPDATFile>},
+        {"frmOpenUPDATFile", "Refused", refusingUpForm, withClickOn("cmdView")},
         {"frmOptions", "", ofPlot<frmOptions>},
         {"frmOptionsLegend", "", ofPlot<frmOptionsLegend>},
         {"frmProperties", "Font", propertiesForm, withClickOn("optMtype_1")},

@@ -64,6 +64,10 @@ std::string look(const FormRow& row, Check check, const Function& walk) {
 
 class EveryForm : public ::testing::TestWithParam<FormRow> {
  protected:
+    void SetUp() override {
+        const double asked = qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1")).toDouble();
+        ASSERT_EQ(qApp->devicePixelRatio(), asked) << "the forms are not shown as densely as asked for";
+    }
     void TearDown() override { resetLooks(); }
 };
 
