@@ -65,8 +65,9 @@ std::string look(const FormRow& row, Check check, const Function& walk) {
 class EveryForm : public ::testing::TestWithParam<FormRow> {
  protected:
     void SetUp() override {
-        const double asked = qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1")).toDouble();
-        ASSERT_EQ(qApp->devicePixelRatio(), asked) << "the forms are not shown as densely as asked for";
+        const QString asked = qEnvironmentVariable("QT_SCALE_FACTOR");
+        if (asked.isEmpty()) return;
+        ASSERT_EQ(qApp->devicePixelRatio(), asked.toDouble()) << "not as dense as asked for";
     }
     void TearDown() override { resetLooks(); }
 };
