@@ -9,6 +9,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTest>
 #include <algorithm>
 #include <map>
 #include <set>
@@ -130,6 +131,21 @@ Findings checkAccelerators(const QWidget& form) {
         const QString text = plainText(label->text());
         if (text.endsWith(QLatin1Char(':')) || text.endsWith(QLatin1Char('=')))
             found.push_back(finding(*label, "is a label of no control"));
+    }
+    return found;
+}
+
+Findings checkLabelKeys(QWidget& form) {
+    Findings found;
+    for (QWidget* each : shownControls(form)) {
+        const auto* label = qobject_cast<QLabel*>(each);
+        QWidget* buddy = label == nullptr ? nullptr : label->buddy();
+        const bool pressed = qobject_cast<QAbstractButton*>(buddy) != nullptr;
+        if (buddy == nullptr || !buddy->isEnabled() || pressed || !hasKey(label->text())) continue;
+        if (QWidget* focused = form.focusWidget()) focused->clearFocus();
+        const auto letter = static_cast<Qt::Key>(QKeySequence::mnemonic(label->text())[0].key());
+        QTest::keyClick(&form, letter, Qt::AltModifier);
+        if (!buddy->hasFocus()) found.push_back(finding(*label, "does not take the keyboard to its control"));
     }
     return found;
 }

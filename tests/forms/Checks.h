@@ -15,6 +15,9 @@ Findings checkNames(const QWidget& form);
 /// none. A label that ends in a colon belongs to a control.
 Findings checkAccelerators(const QWidget& form);
 
+/// Alt with the letter of a label takes the keyboard to the label's control. Presses the keys.
+Findings checkLabelKeys(QWidget& form);
+
 /// A button whose caption has no word explains itself by a tool tip.
 Findings checkToolTips(const QWidget& form);
 

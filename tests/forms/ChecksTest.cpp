@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTest>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -92,6 +93,17 @@ TEST_F(ChecksOfForms, FindALabelOfNoControl) {
 TEST_F(ChecksOfForms, FindAnAcceleratorThatIsTaken) {
     label_->setText("&Group:");
     EXPECT_EQ(faults(checkAccelerators), "button Alt+G is already that of label: &Group: / &Go\n");
+}
+
+TEST_F(ChecksOfForms, FindALabelWhoseKeyGoesNowhere) {
+    dialog_.show();
+    dialog_.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog_));
+    EXPECT_TRUE(checkLabelKeys(dialog_).empty());
+    box_->setFocusPolicy(Qt::NoFocus);
+    const Findings found = checkLabelKeys(dialog_);
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0].control + ' ' + found[0].fault, "label does not take the keyboard to its control");
 }
 
 TEST_F(ChecksOfForms, FindAButtonWithoutWords) {

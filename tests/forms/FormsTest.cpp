@@ -75,6 +75,7 @@ class EveryForm : public ::testing::TestWithParam<FormRow> {
 TEST_P(EveryForm, IsInOrder) {
     EXPECT_EQ(look(GetParam(), Check::Names, checkNames), "");
     EXPECT_EQ(look(GetParam(), Check::Accelerators, checkAccelerators), "");
+    EXPECT_EQ(look(GetParam(), Check::Accelerators, checkLabelKeys), "");
     EXPECT_EQ(look(GetParam(), Check::ToolTips, checkToolTips), "");
     EXPECT_EQ(look(GetParam(), Check::TabOrder, checkTabOrder), "");
     EXPECT_EQ(look(GetParam(), Check::Enter, checkEnter), "");
