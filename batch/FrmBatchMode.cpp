@@ -8,6 +8,7 @@
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "graph/frq/ModPolarGraph.h"
+#include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
 #include "platform/KeyFilter.h"
@@ -25,9 +26,8 @@ Control* named(Control* control, const char* name) {
     return control;
 }
 
-QPushButton* browseButton(const char* name, const char* what) {
-    auto* button = named(new QPushButton(QStringLiteral("Browse...")), name);
-    button->setAutoDefault(false);
+QPushButton* browseButton(const char* caption, const char* name, const char* what) {
+    auto* button = named(new QPushButton(QString::fromLatin1(caption)), name);
     button->setAccessibleName(QString::fromLatin1(what));
     return button;
 }
@@ -58,15 +58,18 @@ bool isPercent(const std::string& text) {
 
 frmBatchMode::frmBatchMode(Host& host, BatchHooks hooks, QWidget* parent)
     : RunningDialog(host, "frmBatchMode", "Batch Mode", parent), hooks_(std::move(hooks)) {
-    optSingleFRQFile = named(new QRadioButton(QStringLiteral("Single FRQ File")), "optSingleFRQFile");
-    optDirectory = named(new QRadioButton(QStringLiteral("Directory")), "optDirectory");
+    optSingleFRQFile = named(new QRadioButton(QStringLiteral("&Single FRQ File")), "optSingleFRQFile");
+    optDirectory = named(new QRadioButton(QStringLiteral("&Directory")), "optDirectory");
     txtSingleFRQFile = named(new QLineEdit, "txtSingleFRQFile");
-    cmdBrowseSingleFRQFile = browseButton("cmdBrowseSingleFRQFile", "Browse for an FRQ file");
+    cmdBrowseSingleFRQFile = browseButton("&Browse...", "cmdBrowseSingleFRQFile", "Browse for an FRQ file");
     txtDirectory = named(new QLineEdit, "txtDirectory");
-    cmdBrowseDirectory = browseButton("cmdBrowseDirectory", "Browse for a directory of FRQ files");
+    cmdBrowseDirectory =
+        browseButton("B&rowse...", "cmdBrowseDirectory", "Browse for a directory of FRQ files");
     txtRootFilename = named(new QLineEdit, "txtRootFilename");
+    txtRootFilename->setToolTip(QStringLiteral("The name of each bitmap begins with it"));
     txtWorkDirectory = named(new QLineEdit, "txtWorkDirectory");
-    cmdBrowseWorkDirectory = browseButton("cmdBrowseWorkDirectory", "Browse for a working directory");
+    cmdBrowseWorkDirectory =
+        browseButton("Br&owse...", "cmdBrowseWorkDirectory", "Browse for a working directory");
     txtPercentValidLimit = named(new QLineEdit, "txtPercentValidLimit");
     cmdBeginBatchMode = named(new QPushButton(QStringLiteral("BEGIN")), "cmdBeginBatchMode");
     cmdBeginBatchMode->setDefault(true);
@@ -86,8 +89,8 @@ void frmBatchMode::layOut() {
     fromGrid->addWidget(optDirectory, 1, 0);
     fromGrid->addWidget(txtDirectory, 1, 1);
     fromGrid->addWidget(cmdBrowseDirectory, 1, 2);
-    txtSingleFRQFile->setAccessibleName(optSingleFRQFile->text());
-    txtDirectory->setAccessibleName(optDirectory->text());
+    txtSingleFRQFile->setAccessibleName(QStringLiteral("FRQ file to export"));
+    txtDirectory->setAccessibleName(QStringLiteral("Directory of FRQ files to export"));
 
     auto* to = new QGroupBox(QStringLiteral("to the following:"));
     auto* toGrid = new QGridLayout(to);
@@ -96,13 +99,13 @@ void frmBatchMode::layOut() {
         made->setBuddy(buddy);
         return made;
     };
-    toGrid->addWidget(label("Working Directory", txtWorkDirectory), 0, 0);
+    toGrid->addWidget(label("&Working Directory", txtWorkDirectory), 0, 0);
     toGrid->addWidget(txtWorkDirectory, 0, 1, 1, 2);
     toGrid->addWidget(cmdBrowseWorkDirectory, 0, 3);
-    toGrid->addWidget(label("Root Filename", txtRootFilename), 1, 0);
+    toGrid->addWidget(label("Root &Filename", txtRootFilename), 1, 0);
     toGrid->addWidget(txtRootFilename, 1, 1, 1, 2);
-    toGrid->addWidget(label("with Percent Valid Hours Greater Than:", txtPercentValidLimit), 2, 0, 1, 2);
-    txtPercentValidLimit->setMaximumWidth(80);
+    toGrid->addWidget(label("with Percent &Valid Hours Greater Than:", txtPercentValidLimit), 2, 0, 1, 2);
+    txtPercentValidLimit->setMaximumWidth(digitsWide(*txtPercentValidLimit, 8));
     toGrid->addWidget(txtPercentValidLimit, 2, 2);
     toGrid->addWidget(
         new QLabel(QStringLiteral("(Note: This option is only enabled for FRQ Data Format 2.1+)")), 3, 0, 1,
@@ -118,7 +121,7 @@ void frmBatchMode::layOut() {
     layout->addWidget(from);
     layout->addWidget(to);
     layout->addLayout(buttons);
-    resize(600, sizeHint().height());
+    resize(windowSize(*this, 72));
 }
 
 void frmBatchMode::followFields() {

@@ -7,6 +7,7 @@
 #include "base/Text.h"
 #include "batch/OfficeReportWriter.h"
 #include "graph/frq/ModPolarGraph.h"
+#include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
 #include "platform/Pickers.h"
@@ -27,9 +28,8 @@ Control* named(Control* control, const char* name) {
     return control;
 }
 
-QPushButton* browseButton(const char* name, const char* what) {
-    auto* button = named(new QPushButton(QStringLiteral("Browse...")), name);
-    button->setAutoDefault(false);
+QPushButton* browseButton(const char* caption, const char* name, const char* what) {
+    auto* button = named(new QPushButton(QString::fromLatin1(caption)), name);
     button->setAccessibleName(QString::fromLatin1(what));
     return button;
 }
@@ -48,12 +48,14 @@ frmCreateReport::frmCreateReport(Host& host, QWidget* parent, std::unique_ptr<Re
     : RunningDialog(host, "frmCreateReport", "Create Report", parent), writer_(std::move(writer)) {
     if (!writer_) writer_ = std::make_unique<OfficeReportWriter>(host);
     txtBMPDirectory = named(new QLineEdit(fileName(modPolarGraph.WorkDir)), "txtBMPDirectory");
-    cmdBrowseBMPDirectory = browseButton("cmdBrowseBMPDirectory", "Browse for a directory of bitmaps");
-    optPPT = named(new QRadioButton(QStringLiteral("PowerPoint (PPT)")), "optPPT");
-    optDOC = named(new QRadioButton(QStringLiteral("Word (DOC)")), "optDOC");
-    optBothPPTAndDOC = named(new QRadioButton(QStringLiteral("Both")), "optBothPPTAndDOC");
+    cmdBrowseBMPDirectory =
+        browseButton("&Browse...", "cmdBrowseBMPDirectory", "Browse for a directory of bitmaps");
+    optPPT = named(new QRadioButton(QStringLiteral("&PowerPoint (PPT)")), "optPPT");
+    optDOC = named(new QRadioButton(QStringLiteral("&Word (DOC)")), "optDOC");
+    optBothPPTAndDOC = named(new QRadioButton(QStringLiteral("Bo&th")), "optBothPPTAndDOC");
     txtWorkDirectory = named(new QLineEdit(fileName(modPolarGraph.WorkDir)), "txtWorkDirectory");
-    cmdBrowseWorkDirectory = browseButton("cmdBrowseWorkDirectory", "Browse for a working directory");
+    cmdBrowseWorkDirectory =
+        browseButton("B&rowse...", "cmdBrowseWorkDirectory", "Browse for a working directory");
     txtSaveFilename = named(new QLineEdit, "txtSaveFilename");
     cmdCreateReport = named(new QPushButton(QStringLiteral("CREATE")), "cmdCreateReport");
     cmdCreateReport->setDefault(true);
@@ -65,7 +67,7 @@ frmCreateReport::frmCreateReport(Host& host, QWidget* parent, std::unique_ptr<Re
 void frmCreateReport::layOut() {
     auto* from = new QGroupBox(QStringLiteral("Wind Rose BMP Files:"));
     auto* fromRow = new QHBoxLayout(from);
-    fromRow->addWidget(labelFor("Directory", txtBMPDirectory));
+    fromRow->addWidget(labelFor("&Directory", txtBMPDirectory));
     fromRow->addWidget(txtBMPDirectory, 1);
     fromRow->addWidget(cmdBrowseBMPDirectory);
     auto* kind = new QGroupBox(QStringLiteral("Report:"));
@@ -74,10 +76,10 @@ void frmCreateReport::layOut() {
     kindRow->addStretch();
     auto* to = new QGroupBox(QStringLiteral("Save To:"));
     auto* grid = new QGridLayout(to);
-    grid->addWidget(labelFor("Directory", txtWorkDirectory), 0, 0);
+    grid->addWidget(labelFor("Director&y", txtWorkDirectory), 0, 0);
     grid->addWidget(txtWorkDirectory, 0, 1);
     grid->addWidget(cmdBrowseWorkDirectory, 0, 2);
-    grid->addWidget(labelFor("Filename", txtSaveFilename), 1, 0);
+    grid->addWidget(labelFor("&Filename", txtSaveFilename), 1, 0);
     grid->addWidget(txtSaveFilename, 1, 1);
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(lblStatus, 1);
@@ -86,7 +88,7 @@ void frmCreateReport::layOut() {
     auto* layout = new QVBoxLayout(this);
     for (QWidget* frame : {from, kind, to}) layout->addWidget(frame);
     layout->addLayout(buttons);
-    resize(560, sizeHint().height());
+    resize(windowSize(*this, 67));
 }
 
 void frmCreateReport::followFields() {

@@ -19,7 +19,6 @@ RunningDialog::RunningDialog(Host& host, const char* name, const char* title, QW
     lblStatus->setMinimumHeight(2 * lblStatus->fontMetrics().height());
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
     cmdCancel->setText(QStringLiteral("Cancel"));
-    cmdCancel->setAutoDefault(false);
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 

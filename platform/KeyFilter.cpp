@@ -63,6 +63,7 @@ class TypedKeys : public QObject {
     KeyFunction function_;
 };
 
+/// The field gets a press of the Tab key in place of that of Enter, so that both go to the same control.
 class EnterIsTab : public QObject {
  public:
     explicit EnterIsTab(QWidget& field) : QObject(&field), field_(field) { field.installEventFilter(this); }
@@ -82,12 +83,12 @@ class EnterIsTab : public QObject {
 
 }  // namespace
 
+void enterIsTab(QWidget& field) { new EnterIsTab(field); }
+
 void filterKeys(QLineEdit& box, KeyFunction function) {
     static const QString name = QStringLiteral("typedKeys");
     delete box.findChild<QObject*>(name, Qt::FindDirectChildrenOnly);
     (new TypedKeys(box, std::move(function)))->setObjectName(name);
 }
-
-void enterIsTab(QWidget& field) { new EnterIsTab(field); }
 
 }  // namespace zg

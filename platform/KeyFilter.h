@@ -13,7 +13,7 @@ using KeyFunction = std::function<std::int16_t(std::int16_t keyAscii)>;
 /// not pass the keyboard and goes in as it is. The last function set counts.
 void filterKeys(QLineEdit& box, KeyFunction function);
 
-/// Enter goes on to the next control, as Tab does.
+/// Enter in the field does what the Tab key does, and no more.
 void enterIsTab(QWidget& field);
 
 }  // namespace zg

@@ -53,6 +53,7 @@ PolarGraphWidget::PolarGraphWidget(Host& host, const PropertyBag& designed, QWid
     picScroll_->setObjectName(QStringLiteral("picScroll"));
     picScroll_->setAutoFillBackground(true);
     lblTrackAngle_->setObjectName(QStringLiteral("lblTrackAngle"));
+    lblTrackAngle_->setAutoFillBackground(true);  // its text has the theme's colour, the page has its own
     lblTrackAngle_->move(6, 6);
     lblTrackAngle_->hide();
     picHolderRH_->setObjectName(QStringLiteral("picHolderRH"));

@@ -18,7 +18,6 @@ void ApplyDialog::addButtons(QBoxLayout& layout, QWidget* atLeft) {
     const auto button = [](const char* caption, const char* name) {
         auto* made = new QPushButton(QString::fromLatin1(caption));
         made->setObjectName(QString::fromLatin1(name));
-        made->setAutoDefault(false);
         return made;
     };
     QPushButton* cmdOk = button("OK", "cmdOk");

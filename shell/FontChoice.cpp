@@ -12,18 +12,17 @@ namespace {
 QPushButton* button(const char* caption, const std::string& name) {
     auto* made = new QPushButton(QString::fromLatin1(caption));
     made->setObjectName(QString::fromStdString(name));
-    made->setAutoDefault(false);
     return made;
 }
 
 }  // namespace
 
 FontChoice::FontChoice(Host& host, const FontRecord& font, const FontRecord& factory,
-                       const std::string& suffix)
+                       const std::string& suffix, const Captions& captions)
     : font_(font), sample_(new QLabel) {
-    QPushButton* cmdSelectFont = button("Font...", "cmdSelectFont" + suffix);
-    QPushButton* cmdSelectColor = button("Color...", "cmdSelectColor" + suffix);
-    QPushButton* cmdReset = button("Default", "cmdResetToDefaults" + suffix);
+    QPushButton* cmdSelectFont = button(captions.font, "cmdSelectFont" + suffix);
+    QPushButton* cmdSelectColor = button(captions.colour, "cmdSelectColor" + suffix);
+    QPushButton* cmdReset = button(captions.reset, "cmdResetToDefaults" + suffix);
     sample_->setObjectName(QString::fromStdString("lblSample" + suffix));
     sample_->setAutoFillBackground(true);
     sample_->setAlignment(Qt::AlignCenter);

@@ -14,7 +14,15 @@ namespace zg {
 /// cmdSelectFont, cmdSelectColor and cmdResetToDefaults with a suffix.
 class FontChoice : public QWidget {
  public:
-    FontChoice(Host& host, const FontRecord& font, const FontRecord& factory, const std::string& suffix);
+    /// Captions of the three buttons, each with the accelerator that the dialog has left for it.
+    struct Captions {
+        const char* font;
+        const char* colour;
+        const char* reset;
+    };
+
+    FontChoice(Host& host, const FontRecord& font, const FontRecord& factory, const std::string& suffix,
+               const Captions& captions);
 
     const FontRecord& font() const { return font_; }
 

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "platform/Captions.h"
 #include "shell/Resources.h"
 #include "shell/settings/Settings.h"
 
@@ -36,7 +37,7 @@ frmAboutZephyrgraph::frmAboutZephyrgraph(QWidget* parent) : QDialog(parent) {
     title->setFont(large);
     QLabel* text = line("lblCredits", QString::fromLatin1(credits));
     text->setWordWrap(true);
-    text->setMinimumWidth(380);
+    text->setMinimumWidth(digitsWide(*text, 45));
     chkDebug = new QCheckBox(QStringLiteral("&Debug"));
     chkDebug->setObjectName(QStringLiteral("chkDebug"));
     chkDebug->setChecked(settings.DebugFlag);

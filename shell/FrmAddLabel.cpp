@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 
 #include "graph/frq/ModPolarGraph.h"
+#include "platform/Captions.h"
 #include "platform/QtText.h"
 
 namespace zg {
@@ -19,7 +20,8 @@ std::array<std::string*, 3> labelLines() {
 frmAddLabel::frmAddLabel(Host& host, PolarGraph& graph, QWidget* parent)
     : ApplyDialog(host, "frmAddLabel", "Edit Label", parent), graph_(graph) {
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(new QLabel(QStringLiteral("Up to three lines of labeling may be added below:")));
+    auto* prompt = new QLabel(QStringLiteral("&Up to three lines of labeling may be added below:"));
+    layout->addWidget(prompt);
     const auto lines = labelLines();
     for (std::size_t i = 0; i < lines.size(); ++i) {
         txtLabelLine[i] = new QLineEdit(shown(*lines[i]));
@@ -27,18 +29,19 @@ frmAddLabel::frmAddLabel(Host& host, PolarGraph& graph, QWidget* parent)
         txtLabelLine[i]->setAccessibleName(QStringLiteral("Line %1").arg(i + 1));
         layout->addWidget(txtLabelLine[i]);
     }
-    font_ = new FontChoice(host, modPolarGraph.LabelFont, factoryLabelFont(), "");
+    prompt->setBuddy(txtLabelLine[0]);
+    font_ = new FontChoice(host, modPolarGraph.LabelFont, factoryLabelFont(), "",
+                           {"&Font...", "C&olor...", "&Default"});
     layout->addWidget(font_);
     auto* cmdClear = new QPushButton(QStringLiteral("C&lear"));
     cmdClear->setObjectName(QStringLiteral("cmdClear"));
-    cmdClear->setAutoDefault(false);
     connect(cmdClear, &QPushButton::clicked, this, [this] {
         for (QLineEdit* line : txtLabelLine) line->clear();
         txtLabelLine[0]->setFocus();
     });
     layout->addStretch();
     addButtons(*layout, cmdClear);
-    resize(620, sizeHint().height());
+    resize(windowSize(*this, 75));
 }
 
 void frmAddLabel::apply() {

@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "base/Numbers.h"
+#include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/KeyFilter.h"
 #include "platform/QtText.h"
@@ -18,12 +19,12 @@ frmAspect::frmAspect(Host& host, PolarGraph& graph, QWidget* parent)
     // The title is that of the zoom dialog: users know both by it.
     setWindowTitle(QStringLiteral("Custom Zoom"));
     const QString current = shown(singleText(graph.AspectRatio()));
-    auto* frame = new QGroupBox(QStringLiteral("Set aspect to"));
+    auto* frame = new QGroupBox(QStringLiteral("&Set aspect to"));
     lblLabel = new QLabel(QStringLiteral("Current Aspect: ") + current);
     lblLabel->setObjectName(QStringLiteral("lblLabel"));
     txtAspect = new QLineEdit(current);
     txtAspect->setObjectName(QStringLiteral("txtAspect"));
-    txtAspect->setAccessibleName(frame->title());
+    txtAspect->setAccessibleName(spoken(frame->title()));
     filterKeys(*txtAspect, [this](std::int16_t key) -> std::int16_t {
         const bool secondPoint = key == '.' && txtAspect->text().contains(QLatin1Char('.')) &&
                                  !txtAspect->selectedText().contains(QLatin1Char('.'));

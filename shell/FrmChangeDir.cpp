@@ -5,6 +5,7 @@
 
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
+#include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/QtText.h"
 #include "processing/Directories.h"
@@ -36,6 +37,8 @@ frmChangeDir::frmChangeDir(Host& host, std::string& directory, const std::string
     lblCurDir = new QLabel;
     lblCurDir->setObjectName(QStringLiteral("lblCurDir"));
     lblCurDir->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    lblCurDir->setTextFormat(Qt::PlainText);
+    lblCurDir->setWordWrap(true);  // a deep directory takes more lines, not a wider window
     Drive1 = new QComboBox;
     Drive1->setObjectName(QStringLiteral("Drive1"));
     Drive1->setAccessibleName(QStringLiteral("Drive"));
@@ -54,16 +57,23 @@ frmChangeDir::frmChangeDir(Host& host, std::string& directory, const std::string
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
 
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(new QLabel(QStringLiteral("Current Working Directory:")));
+    auto* directoryLabel = new QLabel(QStringLiteral("&Current Working Directory:"));
+    directoryLabel->setBuddy(Dir1);  // what it names is chosen there
+    auto* driveLabel = new QLabel(QStringLiteral("&Drive:"));
+    driveLabel->setBuddy(Drive1);
+    auto* driveRow = new QHBoxLayout;
+    driveRow->addWidget(driveLabel);
+    driveRow->addWidget(Drive1, 1);
+    layout->addWidget(directoryLabel);
     layout->addWidget(lblCurDir);
-    layout->addWidget(Drive1);
+    layout->addLayout(driveRow);
     layout->addWidget(Dir1, 1);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(cmdOK);
     buttons->addWidget(cmdCancel);
     layout->addLayout(buttons);
-    resize(420, 420);
+    resize(windowSize(*this, 50).expandedTo({0, 420}));
 
     showDriveOf(fileName(start_));
     goTo(fileName(start_));

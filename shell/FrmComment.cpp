@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 
 #include "base/Text.h"
+#include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/QtText.h"
 #include "shell/DialogButtons.h"
@@ -21,7 +22,7 @@ frmComment::frmComment(Host& host, PolarGraph& graph, QWidget* parent) : QDialog
     const DialogButtons buttons = addOkCancel(*layout);
     connect(buttons.ok, &QPushButton::clicked, this, guarded(host, [this] { cmdOk_Click(); }));
     connect(buttons.cancel, &QPushButton::clicked, this, &QDialog::reject);
-    resize(420, 220);
+    resize(windowSize(*this, 50));
 }
 
 void frmComment::cmdOk_Click() {

@@ -3,6 +3,8 @@
 #include <QGuiApplication>
 #include <QVBoxLayout>
 
+#include "platform/Captions.h"
+
 namespace zg {
 
 frmError::frmError(QWidget* parent) : QDialog(parent) {
@@ -12,11 +14,11 @@ frmError::frmError(QWidget* parent) : QDialog(parent) {
     lblDescr->setObjectName(QStringLiteral("lblDescr"));
     lblDescr->setWordWrap(true);
     lblDescr->setTextFormat(Qt::PlainText);
-    lblDescr->setMinimumWidth(360);
+    lblDescr->setMinimumWidth(digitsWide(*lblDescr, 42));
     cmdOK = new QPushButton(QStringLiteral("OK"));
     cmdOK->setObjectName(QStringLiteral("cmdOK"));
     cmdOK->setDefault(true);
-    cmdDisable = new QPushButton(QStringLiteral("Disable Error Checking"));
+    cmdDisable = new QPushButton(QStringLiteral("&Disable Error Checking"));
     cmdDisable->setObjectName(QStringLiteral("cmdDisable"));
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     connect(cmdDisable, &QPushButton::clicked, this, &frmError::cmdDisable_Click);

@@ -1,10 +1,12 @@
 #include "shell/FrmExpr.h"
 
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include "base/Paths.h"
 #include "base/Text.h"
 #include "graph/control/EquationCheck.h"
+#include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/QtText.h"
 #include "shell/settings/ExprFile.h"
@@ -21,7 +23,6 @@ constexpr int gapsOfTheTray = 5;
 QPushButton* button(const char* text, const char* name) {
     auto* made = new QPushButton(QString::fromLatin1(text));
     made->setObjectName(QString::fromLatin1(name));
-    made->setAutoDefault(false);
     return made;
 }
 
@@ -31,7 +32,7 @@ frmExpr::frmExpr(Host& host, QWidget* parent)
     : QDialog(parent), host_(host), ExprFilePath(inApplicationDirectory("expr.dat")) {
     setObjectName(QStringLiteral("frmExpr"));
     setWindowTitle(QStringLiteral("Expressions"));
-    lblMsg = new QLabel(QStringLiteral("Select the expression would you like to used, then click OK."));
+    lblMsg = new QLabel(QStringLiteral("Select the e&xpression would you like to used, then click OK."));
     lblMsg->setObjectName(QStringLiteral("lblMsg"));
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(gap);
@@ -39,7 +40,7 @@ frmExpr::frmExpr(Host& host, QWidget* parent)
     layout->addLayout(makeList(), 1);
     makeTray();
     layout->addWidget(fraTray);
-    resize(460, 320);
+    resize(windowSize(*this, 55).expandedTo({0, 320}));
 
     for (const std::string& expression : readExpressions(ExprFilePath)) lstExpr->addItem(shown(expression));
     enableListButtons(true);
@@ -49,7 +50,8 @@ frmExpr::frmExpr(Host& host, QWidget* parent)
 QLayout* frmExpr::makeList() {
     lstExpr = new QListWidget;
     lstExpr->setObjectName(QStringLiteral("lstExpr"));
-    lstExpr->setAccessibleName(lblMsg->text());
+    lstExpr->setAccessibleName(QStringLiteral("Expressions"));
+    lblMsg->setBuddy(lstExpr);
     cmdOk = button("OK", "cmdOk");
     cmdOk->setDefault(true);
     cmdCancel = button("&Cancel", "cmdCancel");
@@ -69,7 +71,7 @@ QLayout* frmExpr::makeList() {
     connect(lstExpr, &QListWidget::itemSelectionChanged, this, guarded(host_, [this] { lstExpr_Click(); }));
     connect(lstExpr, &QListWidget::itemDoubleClicked, this, guarded(host_, [this] { cmdOk_Click(); }));
     connect(cmdAdd, &QPushButton::clicked, this,
-            guarded(host_, [this] { openTray(addCaption, "Enter your expression:", QString()); }));
+            guarded(host_, [this] { openTray(addCaption, "E&nter your expression:", QString()); }));
     connect(cmdEdit, &QPushButton::clicked, this, guarded(host_, [this] { cmdEdit_Click(); }));
     connect(cmdRemov, &QPushButton::clicked, this, guarded(host_, [this] { cmdRemov_Click(); }));
     connect(cmdSave, &QPushButton::clicked, this, guarded(host_, [this] { cmdSave_Click(); }));
@@ -122,7 +124,7 @@ void frmExpr::openTray(const char* caption, const char* prompt, const QString& t
 void frmExpr::cmdEdit_Click() {
     if (fraTray->isVisibleTo(this) || lstExpr->count() == 0) return;
     if (lstExpr->selectedItems().isEmpty()) lstExpr->setCurrentRow(lstExpr->count() - 1);
-    openTray(editCaption, "Enter your new expression:", lstExpr->selectedItems().constFirst()->text());
+    openTray(editCaption, "E&nter your new expression:", lstExpr->selectedItems().constFirst()->text());
 }
 
 void frmExpr::enableListButtons(bool enabled) {
@@ -175,6 +177,14 @@ void frmExpr::cmdCancelExpr_Click() {
     enableListButtons(true);
     cmdOk->setDefault(true);
     lstExpr->setFocus();
+}
+
+/// Escape leaves what is being typed first, and the dialog only then.
+void frmExpr::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cancel) && fraTray->isVisibleTo(this))
+        guarded(host_, [this] { cmdCancelExpr_Click(); })();
+    else
+        QDialog::keyPressEvent(event);
 }
 
 void frmExpr::cmdRemov_Click() {

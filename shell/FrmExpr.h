@@ -24,6 +24,9 @@ class frmExpr : public QDialog {
     /// The list differs from the file.
     bool ExprDirty = false;
 
+ protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
  private:
     QLayout* makeList();
     void makeTray();

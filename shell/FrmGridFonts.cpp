@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 
 #include "graph/frq/ModPolarGraph.h"
+#include "platform/Captions.h"
 #include "platform/Errors.h"
 
 namespace zg {
@@ -22,9 +23,12 @@ frmGridFonts::frmGridFonts(Host& host, PolarGraph& graph, QWidget* parent)
       graph_(graph),
       labelFont_(modPolarGraph.LabelFont),
       gridColour_(modPolarGraph.GridLineColor) {
-    directions_ = new FontChoice(host, modPolarGraph.DirectionFont, factoryDirectionFont(), "_NSEW");
-    percents_ = new FontChoice(host, modPolarGraph.PercentFont, factoryPercentFont(), "_Percents");
-    legend_ = new FontChoice(host, modPolarGraph.LegendFont, factoryLegendFont(), "_LegTxt");
+    directions_ = new FontChoice(host, modPolarGraph.DirectionFont, factoryDirectionFont(), "_NSEW",
+                                 {"&Font...", "C&olor...", "&Default"});
+    percents_ = new FontChoice(host, modPolarGraph.PercentFont, factoryPercentFont(), "_Percents",
+                               {"Fo&nt...", "Co&lor...", "D&efault"});
+    legend_ = new FontChoice(host, modPolarGraph.LegendFont, factoryLegendFont(), "_LegTxt",
+                             {"Fon&t...", "Colo&r...", "Defa&ult"});
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(framed("Wind Direction Labels", directions_));
     layout->addWidget(framed("Percentage Labels", percents_));
@@ -35,17 +39,16 @@ frmGridFonts::frmGridFonts(Host& host, PolarGraph& graph, QWidget* parent)
 }
 
 QGroupBox* frmGridFonts::makeGridColour() {
-    auto* frame = new QGroupBox(QStringLiteral("Grid Color"));
+    auto* frame = new QGroupBox(QStringLiteral("&Grid Color"));
     picGridColor = new ColourBox(paintedColour(gridColour_));
     picGridColor->setObjectName(QStringLiteral("picGridColor"));
-    picGridColor->setAccessibleName(frame->title());
+    picGridColor->setAccessibleName(spoken(frame->title()));
     auto* cmdSelectColor = new QPushButton(QStringLiteral("Color..."));
     cmdSelectColor->setObjectName(QStringLiteral("cmdSelectColor_GridLines"));
     auto* cmdReset = new QPushButton(QStringLiteral("Default"));
     cmdReset->setObjectName(QStringLiteral("cmdResetToDefaults_GridLines"));
     auto* row = new QHBoxLayout(frame);
     for (QPushButton* each : {cmdSelectColor, cmdReset, static_cast<QPushButton*>(picGridColor)}) {
-        each->setAutoDefault(false);
         row->addWidget(each);
     }
     row->addStretch();

@@ -20,6 +20,7 @@ constexpr int gap = 2;
 constexpr int twipsPerPixel = 15;
 constexpr int barScale = 200;
 constexpr int legendColumnWidth = 800 / twipsPerPixel;
+constexpr int titleMargins = 8;
 constexpr int tableSlack = 60 / twipsPerPixel;
 
 template <typename Control>
@@ -110,8 +111,8 @@ void makeToolbox(FrmMainControls& ui) {
     }
     ui.toolboxButtons[0]->setChecked(true);
     column->addStretch();
-    ui.lstAspect = choiceList("lstAspect", "Aspect Ratio", {"1.5", "2.5", "3.5", "4.5", "Custom..."});
-    ui.lstZoom = choiceList("lstZoom", "Zoom",
+    ui.lstAspect = choiceList("lstAspect", "Aspect ratios", {"1.5", "2.5", "3.5", "4.5", "Custom..."});
+    ui.lstZoom = choiceList("lstZoom", "Zoom percentages",
                             {"25%", "50%", "75%", "100%", "125%", "150%", "175%", "200%", "250%", "300%",
                              "350%", "400%", "450%", "500%", "Custom..."});
     auto* row = new QHBoxLayout(ui.fraToolbox);
@@ -135,32 +136,36 @@ void makeEquationRow(FrmMainControls& ui) {
     ui.cmbFunction->setInsertPolicy(QComboBox::NoInsert);
     ui.cmbFunction->setCompleter(nullptr);
     ui.cmbFunction->setAccessibleName(QStringLiteral("f(t)"));
+    ui.cmbFunction->setToolTip(QStringLiteral("An expression in t, the angle in radians"));
     ui.txtCoefficient = named(new QLineEdit, "txtCoefficient");
+    ui.txtCoefficient->setToolTip(QStringLiteral("Values for the names in f(t), as a=4"));
     ui.picColor[0] = named(new ColourBox(rgb(0, 0, 255)), "picColor_0");
     ui.picColor[0]->setAccessibleName(QStringLiteral("Line color"));
     ui.picColor[1] = named(new ColourBox(rgb(0, 0, 255)), "picColor_1");
     ui.picColor[1]->setAccessibleName(QStringLiteral("Marker color"));
     ui.cmdExpr = named(new QPushButton(QStringLiteral("...")), "cmdExpr");
     ui.cmdExpr->setAccessibleName(QStringLiteral("Expressions"));
+    ui.cmdExpr->setToolTip(QStringLiteral("Choose from the list of expressions (Alt+X)"));
+    ui.cmdExpr->setShortcut(QKeySequence(QStringLiteral("Alt+X")));  // its caption has no letter
     ui.cmdExpr->setFixedWidth(32);
-    ui.cmdClear = named(new QPushButton(QStringLiteral("Clear")), "cmdClear");
-    ui.cmdReplace = named(new QPushButton(QStringLiteral("Replace")), "cmdReplace");
-    ui.cmdPlot = named(new QPushButton(QStringLiteral("Plot")), "cmdPlot");
+    ui.cmdClear = named(new QPushButton(QStringLiteral("C&lear")), "cmdClear");
+    ui.cmdReplace = named(new QPushButton(QStringLiteral("&Replace")), "cmdReplace");
+    ui.cmdPlot = named(new QPushButton(QStringLiteral("&Plot")), "cmdPlot");
 
     auto* grid = new QGridLayout(ui.fraHolder);
     grid->setContentsMargins(6, 4, 6, 4);
     grid->setHorizontalSpacing(6);
     grid->setVerticalSpacing(4);
-    grid->addWidget(labelFor("f(t) = ", ui.cmbFunction), 0, 0, Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(labelFor("f(&t) = ", ui.cmbFunction), 0, 0, Qt::AlignRight | Qt::AlignVCenter);
     grid->addWidget(ui.cmbFunction, 0, 1);
     grid->addWidget(ui.cmdExpr, 0, 2);
-    grid->addWidget(labelFor("Line color  :", ui.picColor[0]), 0, 3, Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(labelFor("L&ine color  :", ui.picColor[0]), 0, 3, Qt::AlignRight | Qt::AlignVCenter);
     grid->addWidget(ui.picColor[0], 0, 4);
     grid->addWidget(ui.cmdClear, 0, 5);
     grid->addWidget(ui.cmdReplace, 0, 6);
-    grid->addWidget(labelFor("coefficient : ", ui.txtCoefficient), 1, 0, Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(labelFor("&coefficient : ", ui.txtCoefficient), 1, 0, Qt::AlignRight | Qt::AlignVCenter);
     grid->addWidget(ui.txtCoefficient, 1, 1, 1, 2);
-    grid->addWidget(labelFor("Marker color :", ui.picColor[1]), 1, 3, Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(labelFor("&Marker color :", ui.picColor[1]), 1, 3, Qt::AlignRight | Qt::AlignVCenter);
     grid->addWidget(ui.picColor[1], 1, 4);
     grid->addWidget(ui.cmdPlot, 1, 5, 1, 2);
     grid->setColumnStretch(1, 1);
@@ -179,7 +184,8 @@ void makeTable(FrmMainControls& ui) {
     ui.lvwTable->setToolTip(QStringLiteral("Left click to select: Right click to show popup menu"));
     ui.lvwTable->setAccessibleName(QStringLiteral("Graphs"));
     ui.lvwTable->setIconSize({46, 18});
-    ui.lvwTable->setFixedHeight(84);
+    constexpr int linesInSight = 4;
+    ui.lvwTable->setFixedHeight(std::max(84, linesInSight * ui.lvwTable->fontMetrics().height() + 24));
 }
 
 void makeStatusBar(FrmMainControls& ui, QMainWindow& window) {
@@ -226,6 +232,7 @@ void ChoiceList::mouseReleaseEvent(QMouseEvent* event) {
 
 ColourBox::ColourBox(Colour colour, QWidget* parent) : QPushButton(parent), colour_(colour) {
     setFixedSize(40, 22);
+    setToolTip(QStringLiteral("Click to choose another color"));
 }
 
 void ColourBox::setColour(Colour colour) {
@@ -305,9 +312,12 @@ void GraphTable::keyPressEvent(QKeyEvent* event) {
 void GraphTable::resizeEvent(QResizeEvent* event) {
     QTreeWidget::resizeEvent(event);
     const int coefficient = width() * 35 / 100;
-    setColumnWidth(0, legendColumnWidth);
+    // A large font needs more for the title.
+    const int legend =
+        std::max(legendColumnWidth, fontMetrics().horizontalAdvance(headerItem()->text(0)) + titleMargins);
+    setColumnWidth(0, legend);
     setColumnWidth(1, coefficient);
-    setColumnWidth(2, std::max(0, width() - legendColumnWidth - coefficient - tableSlack));
+    setColumnWidth(2, std::max(0, width() - legend - coefficient - tableSlack));
 }
 
 }  // namespace zg

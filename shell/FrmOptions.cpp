@@ -7,6 +7,7 @@
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "graph/frq/ModPolarGraph.h"
+#include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/Pickers.h"
 #include "platform/QtPicture.h"
@@ -31,14 +32,13 @@ Control* named(Control* control, const char* name) {
 QLineEdit* box(const char* name, bool readOnly = false) {
     auto* made = named(new QLineEdit, name);
     made->setReadOnly(readOnly);
-    made->setMinimumWidth(110);
-    made->setMaximumWidth(140);
+    made->setMinimumWidth(digitsWide(*made, 11));
+    made->setMaximumWidth(digitsWide(*made, 15));
     return made;
 }
 
 QPushButton* plainButton(const char* caption, const char* name) {
     auto* made = named(new QPushButton(QString::fromLatin1(caption)), name);
-    made->setAutoDefault(false);
     return made;
 }
 
@@ -84,9 +84,9 @@ frmOptions::frmOptions(Host& host, PolarGraph& graph, QWidget* parent)
     preview().suspendUpdates(false);
     preview().Refresh();
     tbsOption = named(new QTabWidget, "tbsOption");
-    tbsOption->addTab(makeDetails(), QStringLiteral("Details"));
-    tbsOption->addTab(makeMisc(), QStringLiteral("Misc"));
-    tbsOption->addTab(makeBackground(), QStringLiteral("Background"));
+    tbsOption->addTab(makeDetails(), QStringLiteral("D&etails"));
+    tbsOption->addTab(makeMisc(), QStringLiteral("&Misc"));
+    tbsOption->addTab(makeBackground(), QStringLiteral("&Background"));
     auto* row = new QHBoxLayout;
     row->addWidget(tbsOption);
     row->addWidget(pgPreview, 1);
@@ -108,13 +108,15 @@ QWidget* frmOptions::makeDetails() {
     txtArea = box("txtArea", true);
     txtUnitIn = box("txtUnitIn");
     txtRadiusIn = box("txtRadiusIn");
-    addRow(*grid, "Unit :", txtUnitIn);
-    addRow(*grid, "Max % :", txtRadiusIn);
-    addRow(*grid, "Unit in force :", txtUnit);
-    addRow(*grid, "Radius : (radius * unit)", txtRadius);
-    addRow(*grid, "Diameter :", txtDiameter);
-    addRow(*grid, "Circumference :", txtCircumference);
-    addRow(*grid, "Area :", txtArea);
+    txtUnitIn->setToolTip(QStringLiteral("Polar units between two marks of the rulers"));
+    txtRadiusIn->setToolTip(QStringLiteral("Percent of the outer ring"));
+    addRow(*grid, "&Unit :", txtUnitIn);
+    addRow(*grid, "Ma&x % :", txtRadiusIn);
+    addRow(*grid, "Unit in &force :", txtUnit);
+    addRow(*grid, "Radiu&s : (radius * unit)", txtRadius);
+    addRow(*grid, "D&iameter :", txtDiameter);
+    addRow(*grid, "Circumfere&nce :", txtCircumference);
+    addRow(*grid, "A&rea :", txtArea);
     grid->setRowStretch(grid->rowCount(), 1);
     connect(txtUnitIn, &QLineEdit::editingFinished, this, guarded(host_, [this] { readUnit(); }));
     connect(txtRadiusIn, &QLineEdit::editingFinished, this, guarded(host_, [this] { readRadius(); }));
@@ -127,12 +129,13 @@ QWidget* frmOptions::makeMisc() {
     chkAuto = named(new QCheckBox(QStringLiteral("Auto")), "chkAuto");
     txtCenterX = box("txtCenterX");
     txtCenterY = box("txtCenterY");
-    addRow(*grid, "Origin :", chkAuto);
-    addRow(*grid, "Center-X", txtCenterX);
-    addRow(*grid, "Center-Y", txtCenterY);
-    grid->addLayout(colourRow("Grid color", "cmdGridColor", &Polar::GridColor), grid->rowCount(), 0, 1, 2);
-    grid->addLayout(colourRow("Fill color", "cmdFillColor", &Polar::FillColor), grid->rowCount(), 0, 1, 2);
-    grid->addLayout(colourRow("Label color", "cmdLabelColor", &Polar::LabelColor), grid->rowCount(), 0, 1, 2);
+    addRow(*grid, "Or&igin :", chkAuto);
+    addRow(*grid, "Center-&X", txtCenterX);
+    addRow(*grid, "Center-&Y", txtCenterY);
+    grid->addLayout(colourRow("&Grid color", "cmdGridColor", &Polar::GridColor), grid->rowCount(), 0, 1, 2);
+    grid->addLayout(colourRow("&Fill color", "cmdFillColor", &Polar::FillColor), grid->rowCount(), 0, 1, 2);
+    grid->addLayout(colourRow("&Label color", "cmdLabelColor", &Polar::LabelColor), grid->rowCount(), 0, 1,
+                    2);
     grid->setRowStretch(grid->rowCount(), 1);
     connect(chkAuto, &QCheckBox::toggled, this, guarded(host_, [this] { readOrigin(); }));
     for (QLineEdit* field : {txtCenterX, txtCenterY})
@@ -142,8 +145,8 @@ QWidget* frmOptions::makeMisc() {
 
 QLayout* frmOptions::colourRow(const char* caption, const char* name, Colour Polar::*colour) {
     auto* swatch = new ColourBox(preview().Polar().*colour);
-    swatch->setAccessibleName(QString::fromLatin1(caption));
-    swatch->setAutoDefault(false);
+    swatch->setAccessibleName(spoken(QString::fromLatin1(caption)) + QStringLiteral(" on show"));
+    swatch->setObjectName(QString::fromLatin1(name).replace(QLatin1String("cmd"), QLatin1String("pic")));
     QPushButton* button = plainButton(caption, name);
     colours_.emplace_back(swatch, colour);
     const auto pick = guarded(host_, [this, swatch, colour] {
@@ -166,15 +169,15 @@ QWidget* frmOptions::makeBackground() {
     auto* page = named(new QFrame, "fraBk");
     auto* column = new QVBoxLayout(page);
     picBkColor = named(new ColourBox(preview().BackColor()), "picBkColor");
-    picBkColor->setAutoDefault(false);
-    QPushButton* cmdBkColor = plainButton("Background color...", "cmdBkColor");
-    QPushButton* cmdBitmap = plainButton("Bitmap...", "cmdBitmap");
-    QPushButton* cmdClear = plainButton("Clear Bitmap", "cmdClear");
+    picBkColor->setAccessibleName(QStringLiteral("Background color on show"));
+    QPushButton* cmdBkColor = plainButton("Background colo&r...", "cmdBkColor");
+    QPushButton* cmdBitmap = plainButton("Bi&tmap...", "cmdBitmap");
+    QPushButton* cmdClear = plainButton("Clear Bitma&p", "cmdClear");
     for (QWidget* each : std::initializer_list<QWidget*>{picBkColor, cmdBkColor, cmdBitmap, cmdClear})
         column->addWidget(each);
     optBmp = new QButtonGroup(this);
     int style = 0;
-    for (const char* caption : {"None", "Center", "Stretch", "Tile"}) {
+    for (const char* caption : {"N&one", "Ce&nter", "&Stretch", "Ti&le"}) {
         auto* option = named(new QRadioButton(QString::fromLatin1(caption)), "optBmp");
         option->setObjectName(QStringLiteral("optBmp_%1").arg(style));
         optBmp->addButton(option, style++);

@@ -5,6 +5,7 @@
 #include "base/Text.h"
 #include "graph/frq/ClassLimits.h"
 #include "graph/frq/ModPolarGraph.h"
+#include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/QtText.h"
 
@@ -22,7 +23,6 @@ frmOptionsLegend::frmOptionsLegend(Host& host, PolarGraph& graph, QWidget* paren
     layout->addWidget(makeUnits());
     auto* cmdDefault = new QPushButton(QStringLiteral("&Default"));
     cmdDefault->setObjectName(QStringLiteral("cmdDefault"));
-    cmdDefault->setAutoDefault(false);
     connect(cmdDefault, &QPushButton::clicked, this, [this] {
         const auto factory = factoryWindClassColor();
         for (std::size_t i = 0; i < classCount; ++i) setColour(i, factory[i]);
@@ -33,7 +33,7 @@ frmOptionsLegend::frmOptionsLegend(Host& host, PolarGraph& graph, QWidget* paren
 }
 
 QGroupBox* frmOptionsLegend::makeClass(std::size_t i) {
-    auto* frame = new QGroupBox(QStringLiteral("Wind Speed Class %1:").arg(i + 1));
+    auto* frame = new QGroupBox(QStringLiteral("Wind Speed Class &%1:").arg(i + 1));
     const auto label = [i](const char* end) {
         auto* made = new QLabel;
         made->setObjectName(QStringLiteral("lblClass%1_").arg(i + 1) + QLatin1String(end));
@@ -43,7 +43,7 @@ QGroupBox* frmOptionsLegend::makeClass(std::size_t i) {
     maximum_[i] = label("Max");
     picClassColor[i] = new ColourBox(paintedColour(colours_[i]));
     picClassColor[i]->setObjectName(QStringLiteral("picClassColor_%1").arg(i));
-    picClassColor[i]->setAccessibleName(frame->title() + QStringLiteral(" color"));
+    picClassColor[i]->setAccessibleName(spoken(frame->title()) + QStringLiteral(" color"));
     auto* cmdClassColor = new QPushButton(QStringLiteral("Color..."));
     cmdClassColor->setObjectName(QStringLiteral("cmdClassColor_%1").arg(i));
     auto* row = new QHBoxLayout(frame);
@@ -61,7 +61,6 @@ QGroupBox* frmOptionsLegend::makeClass(std::size_t i) {
             setColour(i, static_cast<float>(*colour));
     });
     for (QPushButton* each : {static_cast<QPushButton*>(picClassColor[i]), cmdClassColor}) {
-        each->setAutoDefault(false);
         row->addWidget(each);
         connect(each, &QPushButton::clicked, this, pick);
     }
@@ -70,9 +69,9 @@ QGroupBox* frmOptionsLegend::makeClass(std::size_t i) {
 
 QGroupBox* frmOptionsLegend::makeUnits() {
     auto* frame = new QGroupBox(QStringLiteral("Units for Wind Speed:"));
-    optMetersPerSecond = new QRadioButton(QStringLiteral("meters per second"));
+    optMetersPerSecond = new QRadioButton(QStringLiteral("&meters per second"));
     optMetersPerSecond->setObjectName(QStringLiteral("optMetersPerSecond"));
-    optKnots = new QRadioButton(QStringLiteral("knots"));
+    optKnots = new QRadioButton(QStringLiteral("&knots"));
     optKnots->setObjectName(QStringLiteral("optKnots"));
     optMetersPerSecond->setChecked(modPolarGraph.ClassesFromFile);
     optKnots->setChecked(modPolarGraph.ClassesInKnots && !modPolarGraph.ClassesFromFile);

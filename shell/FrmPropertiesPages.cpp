@@ -3,6 +3,7 @@
 #include <QButtonGroup>
 #include <QVBoxLayout>
 
+#include "platform/Captions.h"
 #include "platform/KeyFilter.h"
 #include "platform/QtText.h"
 #include "processing/KeyFilters.h"
@@ -32,13 +33,13 @@ QLabel* labelFor(const char* text, QWidget* buddy) {
 QLineEdit* numberBox(const char* name, KeyFunction keys) {
     auto* box = named(new QLineEdit, name);
     filterKeys(*box, std::move(keys));
-    box->setMaximumWidth(110);
+    box->setMinimumWidth(digitsWide(*box, 7));
+    box->setMaximumWidth(digitsWide(*box, 11));
     return box;
 }
 
 QPushButton* plainButton(const char* caption, const char* name) {
     auto* button = captioned<QPushButton>(caption, name);
-    button->setAutoDefault(false);
     return button;
 }
 
@@ -60,10 +61,10 @@ QWidget* frmProperties::makePatterns() {
 
 QGroupBox* frmProperties::makeLine() {
     auto* frame = captioned<QGroupBox>("Line", "fraLine");
-    optLnone = captioned<QRadioButton>("None", "optLnone");
-    optLcustom = captioned<QRadioButton>("Custom", "optLcustom");
-    chkLconnect = captioned<QCheckBox>("Connect vertices", "chkLconnect");
-    chkLshading = captioned<QCheckBox>("Allow shading", "chkLshading");
+    optLnone = captioned<QRadioButton>("&None", "optLnone");
+    optLcustom = captioned<QRadioButton>("Custo&m", "optLcustom");
+    chkLconnect = captioned<QCheckBox>("Connect &vertices", "chkLconnect");
+    chkLshading = captioned<QCheckBox>("Allow &shading", "chkLshading");
     picLcolor = named(new ColourBox(black), "picLcolor");
     picLcolor->setAccessibleName(QStringLiteral("Line color"));
     cmdLcolor = plainButton("Color...", "cmdLcolor");
@@ -74,25 +75,25 @@ QGroupBox* frmProperties::makeLine() {
     grid->addWidget(optLcustom, 0, 1);
     grid->addWidget(chkLconnect, 1, 0, 1, 2);
     grid->addWidget(chkLshading, 2, 0, 1, 2);
-    grid->addWidget(labelFor("Color:", picLcolor), 3, 0);
+    grid->addWidget(labelFor("C&olor:", picLcolor), 3, 0);
     auto* colour = new QHBoxLayout;
     colour->addWidget(picLcolor);
     colour->addWidget(cmdLcolor);
     colour->addStretch();
     grid->addLayout(colour, 3, 1);
-    grid->addWidget(labelFor("Style:", imcLstyle), 4, 0);
+    grid->addWidget(labelFor("St&yle:", imcLstyle), 4, 0);
     grid->addWidget(imcLstyle, 4, 1);
-    grid->addWidget(labelFor("Weight:", imcLweight), 5, 0);
+    grid->addWidget(labelFor("&Weight:", imcLweight), 5, 0);
     grid->addWidget(imcLweight, 5, 1);
     return frame;
 }
 
 QGroupBox* frmProperties::makeMarker() {
     auto* frame = captioned<QGroupBox>("Marker", "fraMarker");
-    optMnone = captioned<QRadioButton>("None", "optMnone");
-    optMcustom = captioned<QRadioButton>("Custom", "optMcustom");
-    optMtype[0] = captioned<QRadioButton>("Picture effect", "optMtype_0");
-    optMtype[1] = captioned<QRadioButton>("Font effect", "optMtype_1");
+    optMnone = captioned<QRadioButton>("Non&e", "optMnone");
+    optMcustom = captioned<QRadioButton>("C&ustom", "optMcustom");
+    optMtype[0] = captioned<QRadioButton>("&Picture effect", "optMtype_0");
+    optMtype[1] = captioned<QRadioButton>("Font effe&ct", "optMtype_1");
     auto* shownGroup = new QButtonGroup(this);
     shownGroup->addButton(optMnone);
     shownGroup->addButton(optMcustom);
@@ -103,6 +104,8 @@ QGroupBox* frmProperties::makeMarker() {
     cmbMalignv = named(new QComboBox, "cmbMalignv");
     cmbMalignv->addItems({"TOP", "BOTTOM", "CENTER"});
     cmbMalignv->setAccessibleName(QStringLiteral("Vertical alignment"));
+    cmbMalignh->setToolTip(QStringLiteral("Horizontal alignment"));
+    cmbMalignv->setToolTip(cmbMalignv->accessibleName());
     auto* grid = new QGridLayout(frame);
     grid->addWidget(optMnone, 0, 0);
     grid->addWidget(optMcustom, 0, 1);
@@ -110,7 +113,7 @@ QGroupBox* frmProperties::makeMarker() {
     grid->addWidget(makeFontEffect(), 2, 0, 1, 3);
     grid->addWidget(optMtype[0], 3, 0, 1, 3);
     grid->addWidget(makePictureEffect(), 4, 0, 1, 3);
-    grid->addWidget(labelFor("Alignment:", cmbMalignh), 5, 0);
+    grid->addWidget(labelFor("Ali&gnment:", cmbMalignh), 5, 0);
     grid->addWidget(cmbMalignh, 5, 1);
     grid->addWidget(cmbMalignv, 5, 2);
     grid->setColumnStretch(2, 1);
@@ -122,15 +125,15 @@ QWidget* frmProperties::makeFontEffect() {
     picMcolor = named(new ColourBox(black), "picMcolor");
     picMcolor->setAccessibleName(QStringLiteral("Marker color"));
     cmdMcolor = plainButton("Color...", "cmdMcolor");
-    cmdMfont = plainButton("Font...", "cmdMfont");
+    cmdMfont = plainButton("&Font...", "cmdMfont");
     cmbMstyle = named(new QComboBox, "cmbMstyle");
     cmbMstyle->setMaxVisibleItems(16);
     auto* grid = new QGridLayout(fontEffect_);
     grid->setContentsMargins(18, 0, 0, 0);
-    grid->addWidget(labelFor("Color:", picMcolor), 0, 0);
+    grid->addWidget(labelFor("Co&lor:", picMcolor), 0, 0);
     grid->addWidget(picMcolor, 0, 1);
     grid->addWidget(cmdMcolor, 0, 2);
-    grid->addWidget(labelFor("Style:", cmbMstyle), 1, 0);
+    grid->addWidget(labelFor("S&tyle:", cmbMstyle), 1, 0);
     grid->addWidget(cmbMstyle, 1, 1);
     grid->addWidget(cmdMfont, 1, 2);
     grid->setColumnStretch(3, 1);
@@ -139,8 +142,9 @@ QWidget* frmProperties::makeFontEffect() {
 
 QWidget* frmProperties::makePictureEffect() {
     pictureEffect_ = new QWidget;
-    constexpr std::array<const char*, 2> pictures = {"Picture:", "Mask:"};
-    constexpr std::array<const char*, 2> sizes = {"Width:", "Height:"};
+    constexpr std::array<const char*, 2> pictures = {"P&icture:", "Mas&k:"};
+    constexpr std::array<const char*, 2> choices = {"Choose a picture file", "Choose a mask file"};
+    constexpr std::array<const char*, 2> sizes = {"Wi&dth:", "&Height:"};
     auto* grid = new QGridLayout(pictureEffect_);
     grid->setContentsMargins(18, 0, 0, 0);
     for (std::size_t i = 0; i < 2; ++i) {
@@ -149,18 +153,18 @@ QWidget* frmProperties::makePictureEffect() {
         txtMpicloc[i] = named(new QLineEdit, ("txtMpicloc_" + index).c_str());
         cmdMpicloc[i] = plainButton("...", ("cmdMpicloc_" + index).c_str());
         cmdMpicloc[i]->setFixedWidth(32);
-        cmdMpicloc[i]->setAccessibleName(QStringLiteral("Choose a file"));
+        cmdMpicloc[i]->setAccessibleName(QString::fromLatin1(choices[i]));
+        cmdMpicloc[i]->setToolTip(cmdMpicloc[i]->accessibleName());
         grid->addWidget(labelFor(pictures[i], txtMpicloc[i]), row, 0);
         grid->addWidget(txtMpicloc[i], row, 1, 1, 3);
         grid->addWidget(cmdMpicloc[i], row, 4);
     }
-    chkMautosize = captioned<QCheckBox>("Autosize", "chkMautosize");
-    chkMtrans = captioned<QCheckBox>("Transparent", "chkMtrans");
+    chkMautosize = captioned<QCheckBox>("Autosi&ze", "chkMautosize");
+    chkMtrans = captioned<QCheckBox>("T&ransparent", "chkMtrans");
     grid->addWidget(chkMautosize, 2, 0, 1, 2);
     grid->addWidget(chkMtrans, 2, 2, 1, 3);
     for (std::size_t i = 0; i < 2; ++i) {
         txtMsize[i] = numberBox(("txtMsize_" + std::to_string(i)).c_str(), KeyNumericInteger);
-        txtMsize[i]->setMaximumWidth(70);
         grid->addWidget(labelFor(sizes[i], txtMsize[i]), 3, static_cast<int>(2 * i));
         grid->addWidget(txtMsize[i], 3, static_cast<int>(2 * i + 1));
     }
@@ -182,10 +186,14 @@ QWidget* frmProperties::makeOptions() {
     txtAngle[1] = numberBox("txtAngle_1", KeyNumericInteger);
     txtStep = numberBox("txtStep", KeyNumericPositive);
     txtDelay = numberBox("txtDelay", KeyNumericInteger);
-    add("Starting angle :", txtAngle[0], wide);
-    add("Ending angle  :", txtAngle[1], wide);
-    add("Step               :", txtStep, "Range: 0.0001...10,000");
-    add("Delay             :", txtDelay, wide);
+    txtAngle[0]->setToolTip(QStringLiteral("Degrees of the first point of the curve"));
+    txtAngle[1]->setToolTip(QStringLiteral("Degrees of the last point of the curve"));
+    txtStep->setToolTip(QStringLiteral("Degrees from one point of the curve to the next"));
+    txtDelay->setToolTip(QStringLiteral("Milliseconds from one point to the next when the curve is played"));
+    add("&Starting angle :", txtAngle[0], wide);
+    add("&Ending angle  :", txtAngle[1], wide);
+    add("S&tep               :", txtStep, "Range: 0.0001...10,000");
+    add("&Delay             :", txtDelay, wide);
     auto* note = new QLabel(
         QStringLiteral("To turn on animation set delay > 0. At the main menu, click Graph->Play."));
     note->setWordWrap(true);

@@ -1,5 +1,6 @@
 #include "shell/FrmSelectWindRose.h"
 
+#include <QLabel>
 #include <QVBoxLayout>
 
 #include "base/Numbers.h"
@@ -30,7 +31,12 @@ frmSelectWindRose::frmSelectWindRose(Host& host, PolarGraph& graph, QWidget* par
     cboWindRoseNumber->setMinimumContentsLength(28);
     cboWindRoseNumber->setMaxVisibleItems(20);
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(cboWindRoseNumber);
+    auto* label = new QLabel(QStringLiteral("&Wind Rose:"));
+    label->setBuddy(cboWindRoseNumber);
+    auto* row = new QHBoxLayout;
+    row->addWidget(label);
+    row->addWidget(cboWindRoseNumber, 1);
+    layout->addLayout(row);
     const DialogButtons buttons = addOkCancel(*layout);
     cmdOk = buttons.ok;
     fillList();

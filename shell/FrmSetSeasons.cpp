@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
 #include "platform/QtText.h"
@@ -12,8 +13,8 @@ namespace zg {
 namespace {
 
 constexpr std::array<const char*, 12> monthLabels = {
-    "January:", "February:", "March:",     "April:",   "May:",      "June:",
-    "July:",    "August:",   "September:", "October:", "November:", "December:"};
+    "&January:", "&February:", "&March:",     "&April:",   "Ma&y:",      "J&une:",
+    "Ju&ly:",    "Au&gust:",   "&September:", "&October:", "&November:", "&December:"};
 
 QString indexed(const char* name, std::size_t index) {
     return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index);
@@ -49,12 +50,13 @@ void frmSetSeasons::layOut() {
     for (std::size_t month = 0; month < cboSeason.size(); ++month) {
         cboSeason[month] = new QComboBox;
         cboSeason[month]->setObjectName(indexed("cboSeason", month));
-        cboSeason[month]->setAccessibleName(QString::fromLatin1(monthLabels[month]));
+        cboSeason[month]->setAccessibleName(spoken(QString::fromLatin1(monthLabels[month])));
         for (const std::string_view season : seasonChoices) cboSeason[month]->addItem(shown(season));
         txtCustomSeason[month] = new QLineEdit;
         txtCustomSeason[month]->setObjectName(indexed("txtCustomSeason", month));
-        txtCustomSeason[month]->setAccessibleName(QString::fromLatin1(monthLabels[month]));
-        txtCustomSeason[month]->setMinimumWidth(160);
+        txtCustomSeason[month]->setAccessibleName(spoken(QString::fromLatin1(monthLabels[month])) +
+                                                  QStringLiteral(" name of a custom season"));
+        txtCustomSeason[month]->setMinimumWidth(digitsWide(*txtCustomSeason[month], 18));
         auto* lblMonth = new QLabel(QString::fromLatin1(monthLabels[month]));
         lblMonth->setObjectName(indexed("lblMonth", month));
         lblMonth->setBuddy(cboSeason[month]);
@@ -64,7 +66,7 @@ void frmSetSeasons::layOut() {
         grid->addWidget(txtCustomSeason[month], row, 2);
         setCustom(month, false);
     }
-    cmdDefaults = new QPushButton(QStringLiteral("Defaults"));
+    cmdDefaults = new QPushButton(QStringLiteral("D&efaults"));
     cmdDefaults->setObjectName(QStringLiteral("cmdDefaults"));
     cmdOk = new QPushButton(QStringLiteral("OK"));
     cmdOk->setObjectName(QStringLiteral("cmdOk"));

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
+#include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
 #include "platform/KeyFilter.h"
@@ -47,7 +48,7 @@ void frmSetWindSpeedClasses::layOut() {
     for (std::size_t row = 0; row < txtWindSpeedClassMin.size(); ++row) {
         txtWindSpeedClassMin[row] = new QLineEdit;
         txtWindSpeedClassMin[row]->setObjectName(indexed("txtWindSpeedClassMin", row));
-        txtWindSpeedClassMin[row]->setFixedWidth(90);
+        txtWindSpeedClassMin[row]->setFixedWidth(digitsWide(*txtWindSpeedClassMin[row], 9));
         lblWindSpeedClassMax[row] = new QLabel(this);
         lblWindSpeedClassMax[row]->setObjectName(indexed("lblWindSpeedClassMax", row));
         lblWindSpeedClassMax[row]->setVisible(row > 0);
@@ -55,8 +56,8 @@ void frmSetWindSpeedClasses::layOut() {
     auto* rows = new QVBoxLayout(this);
     rows->setSpacing(6);
     for (std::size_t row = 0; row < txtWindSpeedClassMin.size(); ++row) {
-        auto* frame = new QGroupBox(QStringLiteral("Wind Speed Class %1 Range:").arg(row + 1));
-        txtWindSpeedClassMin[row]->setAccessibleName(frame->title());
+        auto* frame = new QGroupBox(QStringLiteral("Wind Speed Class &%1 Range:").arg(row + 1));
+        txtWindSpeedClassMin[row]->setAccessibleName(spoken(frame->title()));
         auto* inFrame = new QHBoxLayout(frame);
         inFrame->addWidget(txtWindSpeedClassMin[row]);
         const bool last = row + 1 == txtWindSpeedClassMin.size();
@@ -65,7 +66,7 @@ void frmSetWindSpeedClasses::layOut() {
         inFrame->addStretch();
         rows->addWidget(frame);
     }
-    cmdDefault = button("cmdDefault", "Default");
+    cmdDefault = button("cmdDefault", "&Default");
     cmdOK = button("cmdOK", "&OK");
     cmdCancel = button("cmdCancel", "&Cancel");
     cmdOK->setDefault(true);

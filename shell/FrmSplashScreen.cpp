@@ -37,6 +37,9 @@ frmSplashScreen::frmSplashScreen(Host& host, std::function<void()> showMain)
     setWindowTitle(QStringLiteral("Zephyrgraph"));
     setWindowIcon(programIcon("zephyrgraph"));
     setFixedSize(splashSize);
+    QPalette colours;
+    colours.setColor(QPalette::Window, nightBlue);
+    setPalette(colours);
     lblVersion = line(this, "lblVersion", programVersion, 138);
     lblLevel = line(this, "lblLevel", programLevel, 160);
     if (const QScreen* screen = QGuiApplication::primaryScreen())

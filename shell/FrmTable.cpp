@@ -10,6 +10,7 @@
 
 #include "base/Numbers.h"
 #include "graph/control/CurveTable.h"
+#include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/QtText.h"
 
@@ -88,7 +89,7 @@ frmTable::frmTable(Host& host, const GrapInfo& graph, const QPixmap& legend,
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(fraTable, 1);
     layout->addLayout(makeButtons());
-    resize(520, 440);
+    resize(windowSize(*this, 62).expandedTo({0, 440}));
     connect(lvwData->header(), &QHeaderView::sectionClicked, this, guarded(host_, [this](int section) {
                 if (section == 0) cmdSelectAll_Click();
             }));
@@ -128,12 +129,12 @@ QLayout* frmTable::makeButtons() {
     const auto button = [](const char* text, const char* name) {
         auto* made = new QPushButton(QString::fromLatin1(text));
         made->setObjectName(QString::fromLatin1(name));
-        made->setAutoDefault(false);
         return made;
     };
     cmdCopy = button("&Copy", "cmdCopy");
     cmdSelectAll = button("Select &All", "cmdSelectAll");
     cmdExit = button("E&xit", "cmdExit");
+    cmdExit->setDefault(true);
     connect(cmdCopy, &QPushButton::clicked, this, guarded(host_, [this] { cmdCopy_Click(); }));
     connect(cmdSelectAll, &QPushButton::clicked, this, guarded(host_, [this] { cmdSelectAll_Click(); }));
     connect(cmdExit, &QPushButton::clicked, this, &QDialog::reject);

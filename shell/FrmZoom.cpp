@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "base/Numbers.h"
+#include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/KeyFilter.h"
 #include "platform/QtText.h"
@@ -34,12 +35,12 @@ frmZoom::frmZoom(Host& host, PolarGraph& graph, QWidget* parent)
     : QDialog(parent), host_(host), graph_(graph) {
     setObjectName(QStringLiteral("frmZoom"));
     setWindowTitle(QStringLiteral("Custom Zoom"));
-    auto* frame = new QGroupBox(QStringLiteral("Zoom to (%)"));
+    auto* frame = new QGroupBox(QStringLiteral("&Zoom to (%)"));
     lblLabel = new QLabel(QStringLiteral("Current zoom: %1%").arg(graph.Zoom()));
     lblLabel->setObjectName(QStringLiteral("lblLabel"));
     cmbZoom = new QComboBox;
     cmbZoom->setObjectName(QStringLiteral("cmbZoom"));
-    cmbZoom->setAccessibleName(frame->title());
+    cmbZoom->setAccessibleName(spoken(frame->title()));
     cmbZoom->setEditable(true);
     cmbZoom->setInsertPolicy(QComboBox::NoInsert);
     cmbZoom->addItems(zoomRows());

@@ -3,11 +3,13 @@
 #include <QEvent>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "base/Text.h"
 #include "dialogs/gridded/DatumTable.h"
 #include "dialogs/gridded/InfoView.h"
+#include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
 #include "platform/QtText.h"
@@ -30,7 +32,6 @@ QLabel* labelFor(const char* text, QWidget* buddy) {
 
 QPushButton* button(const char* caption, const char* name) {
     auto* made = named(new QPushButton(QString::fromLatin1(caption)), name);
-    made->setAutoDefault(false);
     return made;
 }
 
@@ -108,11 +109,14 @@ QGroupBox* frmProjectionInfo::makeFrame(const ProjectionChoice& choice) {
     for (const AngleField& angle : choice.angles) {
         auto* box = named(new QLineEdit, angle.box);
         auto* combo = named(new QComboBox, angle.combo);
-        combo->setAccessibleName(angle.isLatitude ? QStringLiteral("North or south")
-                                                  : QStringLiteral("East or west"));
-        grid->addWidget(labelFor(labelOf(choice, angle.value), box), row, 0);
+        auto* label = labelFor(labelOf(choice, angle.value), box);
+        // A screen reader says the label of such a box, and only that.
+        auto* side = labelFor(angle.isLatitude ? "N/S:" : "E/W:", combo);
+        side->setAccessibleName(spoken(label->text()) + QLatin1Char(' ') + side->text());
+        grid->addWidget(label, row, 0);
         grid->addWidget(box, row, 1);
-        grid->addWidget(combo, row++, 2);
+        grid->addWidget(side, row, 2);
+        grid->addWidget(combo, row++, 3);
     }
     for (const PlainField& plain : choice.plains) {
         const bool isList = plain.value == &ProjectionRecord::UTMHEM;
@@ -137,7 +141,9 @@ QGroupBox* frmProjectionInfo::makeDatum() {
     cboDatum1 = named(new QComboBox, "cboDatum1");
     lstReg1 = named(new QListWidget, "lstReg1");
     lstReg1->setTabKeyNavigation(false);
+    lstReg1->setAccessibleName(QStringLiteral("Region"));
     lstReg1->setMinimumHeight(80);
+    lstReg1->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     lblCoor1b = named(labelFor("&Geoid - Ellipsoid:", cboDatum1), "lblCoor1b");
     lblCoor1c = named(labelFor("&Region:", lstReg1), "lblCoor1c");
     auto* grid = new QGridLayout(made);
@@ -306,6 +312,7 @@ void frmProjectionInfo::showRegion(const std::string& continent, const std::stri
     // Of several regions of one name the one whose code was typed cannot be told apart: the first is shown.
     const auto items = lstReg1->findItems(shown(region), Qt::MatchExactly);
     if (!items.isEmpty()) lstReg1->setCurrentItem(items.front());
+    lstReg1->horizontalScrollBar()->setValue(0);  // a long region is read from its start
     filling_ = false;
     ClearInvalid(*cboCode);
 }

@@ -56,7 +56,6 @@ GridForm::GridForm(const GridVariation& variation, Host& host, ProcessStarter& s
     setWindowTitle(QString::fromLatin1(variation.title));
     auto* cmdCancel = new QPushButton(QStringLiteral("Cancel"));
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    cmdCancel->setAutoDefault(false);
     auto* grid = new QGridLayout(this);
     grid->addWidget(makeStep1(), 0, 0);
     grid->addWidget(makeStep2(), 1, 0);
@@ -74,6 +73,7 @@ GridForm::GridForm(const GridVariation& variation, Host& host, ProcessStarter& s
     wizard_.Form_Load();
     labelsFollow();
     control("cmdBrowseDataFiles").setFocus();
+    resize(sizeHint());
 }
 
 void GridForm::nameControls() {

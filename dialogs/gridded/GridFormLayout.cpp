@@ -18,7 +18,6 @@ Control* named(Control* control, const char* name) {
 
 QPushButton* button(const char* caption, const char* name) {
     auto* made = named(new QPushButton(QString::fromLatin1(caption)), name);
-    made->setAutoDefault(false);
     return made;
 }
 
@@ -40,6 +39,17 @@ QLabel* labelFor(const char* text, QWidget* buddy) {
     auto* label = new QLabel(QString::fromLatin1(text));
     label->setBuddy(buddy);
     return label;
+}
+
+/// A list of two letters behind a short label.
+QWidget* hemisphere(const char* name, const QStringList& letters, const char* label) {
+    auto* holder = new QWidget;
+    auto* list = combo(name, letters, label);
+    auto* row = new QHBoxLayout(holder);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(labelFor(label, list));
+    row->addWidget(list);
+    return holder;
 }
 
 QGroupBox* frame(const char* caption, const char* name) {
@@ -94,36 +104,35 @@ void GridForm::addPeriod(QGridLayout& grid) {
         return picker;
     };
     auto* zone = combo("cboTimeZone", {}, "Base time zone");
-    zone->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    zone->setMinimumContentsLength(28);
-    grid.addWidget(labelFor("Base Time &Zone:", zone), 0, 0);
-    grid.addWidget(zone, 0, 1, 1, 3);
-    int row = 1;
+    zone->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    grid.addWidget(labelFor("Base Time &Zone:", zone), 0, 0, 1, 5);
+    grid.addWidget(zone, 1, 0, 1, 5);
+    int row = 2;
     for (const char* which : {"Begin", "End"}) {
         const std::string name(which);
         auto* dates = date(("DTPicker_" + name + "Date").c_str());
         auto* times = time(("DTPicker_" + name + "Time").c_str());
-        auto* dateLabel = labelFor(row == 1 ? "Startin&g Date:" : "&Ending Date:", dates);
+        auto* dateLabel = labelFor(row == 2 ? "Startin&g Date:" : "&Ending Date:", dates);
         auto* timeLabel = labelFor("Time:", times);
-        times->setAccessibleName(row == 1 ? QStringLiteral("Starting time") : QStringLiteral("Ending time"));
+        times->setAccessibleName(row == 2 ? QStringLiteral("Starting time") : QStringLiteral("Ending time"));
         grid.addWidget(named(dateLabel, ("lbl" + name + "Date").c_str()), row, 0);
         grid.addWidget(dates, row, 1);
         grid.addWidget(named(timeLabel, ("lbl" + name + "Time").c_str()), row, 2);
         grid.addWidget(times, row++, 3);
     }
-    auto* stepFrame = frame("Time Step:", "Frame_TimeStep");
+    auto* stepFrame = frame("Ti&me Step:", "Frame_TimeStep");
     auto* step = time("DTPicker_TimeStep");
     step->setAccessibleName(QStringLiteral("Time step"));
     step->setToolTip(QStringLiteral("Hours, minutes and seconds; 9 hours, 6 minutes and 7 seconds at most"));
     (new QVBoxLayout(stepFrame))->addWidget(step);
-    grid.addWidget(stepFrame, 0, 4, 3, 1);
+    grid.addWidget(stepFrame, 2, 4, 2, 1);
 }
 
 void GridForm::addMethods(QGridLayout& grid) {
     auto* spatial = combo("cboSpatialInterpolationMethod", {"BILINEAR", "NEAREST GRID CELL"},
                           "Spatial interpolation method");
     spatial->setCurrentIndex(-1);
-    int row = 3;
+    int row = 4;
     grid.addWidget(labelFor("Spatial &Interpolation Method:", spatial), row, 0, 1, 2);
     grid.addWidget(spatial, row++, 2, 1, 3);
     if (variation_.asksProfiling) {
@@ -165,7 +174,7 @@ QGroupBox* GridForm::makeStep2() {
 }
 
 QGroupBox* GridForm::makeStations() {
-    auto* stationsFrame = frame("Stations:", "Frame_Stations");
+    auto* stationsFrame = frame("&Stations:", "Frame_Stations");
     auto* list = named(new QListWidget, "lstStations");
     list->setSelectionMode(QAbstractItemView::MultiSelection);
     list->setTabKeyNavigation(false);
@@ -215,9 +224,8 @@ QGroupBox* GridForm::makeCoordinates() {
         }
         column->addWidget(holder);
     };
-    add("Frame_LL",
-        {{"&Latitude:", "txtLat", KeyNumericPositive, combo("cboNS", {"N", "S"}, "North or south")},
-         {"L&ongitude:", "txtLon", KeyNumericPositive, combo("cboWE", {"W", "E"}, "West or east")}});
+    add("Frame_LL", {{"&Latitude:", "txtLat", KeyNumericPositive, hemisphere("cboNS", {"N", "S"}, "N/S:")},
+                     {"L&ongitude:", "txtLon", KeyNumericPositive, hemisphere("cboWE", {"W", "E"}, "W/E:")}});
     add("Frame_XY", {{"&X Coordinate:", "txtXCoord", KeyNumericSigned, new QLabel(QStringLiteral("km"))},
                      {"&Y Coordinate:", "txtYCoord", KeyNumericSigned, new QLabel(QStringLiteral("km"))}});
     if (variation_.offersCells)
@@ -231,7 +239,7 @@ QGroupBox* GridForm::makeOutputName() {
     auto* output = frame("Output FRQ Filename:", "Frame_OutputFRQName");
     auto* name = box("txtFRQOutputFilename");
     auto* row = new QHBoxLayout(output);
-    row->addWidget(labelFor("&Filename:", name));
+    row->addWidget(labelFor("Filen&ame:", name));
     row->addWidget(name);
     row->addWidget(named(new QLabel(QStringLiteral(".frq")), "lblfrq"));
     return output;

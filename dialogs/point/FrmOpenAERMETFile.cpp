@@ -24,7 +24,7 @@ frmOpenAERMETFile::frmOpenAERMETFile(Host& host, ProcessStarter& starter, Proces
     txtStationID->setObjectName(QStringLiteral("txtStationID"));
     filterKeys(*txtStationID, KeyNumericInteger);
     enterIsTab(*txtStationID);
-    build({"txtAERMETDataFile", isSurface(kind) ? "AERMET Surface Data File:" : "AERMET Profile Data File:",
+    build({"txtAERMETDataFile", isSurface(kind) ? "AERMET Surface Data &File:" : "AERMET Profile Data &File:",
            isSurface(kind) ? "AERMET Data Files (*.sfc) | *.sfc|All Files (*.*) | *.*; |"
                            : "AERMET Profile Data Files (*.pfl) | *.pfl|All Files (*.*) | *.*; |",
            "Please select an AERMET Met Data file.", "The selected AERMET Met Data file does not exist.",

@@ -17,7 +17,7 @@ frmOpenAMMNETDataFile::frmOpenAMMNETDataFile(Host& host, ProcessStarter& starter
     cboStationID->setObjectName(QStringLiteral("cboStationID"));
     cboStationID->setEditable(true);
     cboStationID->setInsertPolicy(QComboBox::NoInsert);
-    build({"txtAMMNETDataFile", "Monitor Meteorological Data File:",
+    build({"txtAMMNETDataFile", "Monitor Meteorological Data &File:",
            "AMMNET Met Data Files (*.csv) | *.csv|All Files (*.*) | *.*; |",
            "Please select an AMMNET Met Data file.", "The selected AMMNET Met Data file does not exist.",
            "_AMMNETW_"},

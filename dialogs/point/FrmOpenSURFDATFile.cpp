@@ -5,6 +5,7 @@
 #include "base/Paths.h"
 #include "base/Text.h"
 #include "dialogs/point/SurfNames.h"
+#include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
 #include "platform/KeyFilter.h"
@@ -45,36 +46,37 @@ frmOpenSURFDATFile::frmOpenSURFDATFile(Host& host, ProcessStarter& starter, Proc
     connect(cmdView, &QPushButton::clicked, this, guarded(host_, [this] { cmdView_Click(); }));
     folderPrompt_ = "Select a Working Directory:";
     Form_Load();
-    resize(620, sizeHint().height());
+    resize(windowSize(*this, 75));
     cmdBrowseFile->setFocus();
 }
 
 QGroupBox* frmOpenSURFDATFile::makeInput() {
-    auto* frame = new QGroupBox(QStringLiteral("SURF.DAT File:"));
+    auto* frame = new QGroupBox(QStringLiteral("SURF.DAT &File:"));
     txtSURFDATFile = new QLineEdit;
     txtSURFDATFile->setObjectName(QStringLiteral("txtSURFDATFile"));
-    txtSURFDATFile->setAccessibleName(frame->title());
-    cmdBrowseFile = button("Browse", "cmdBrowseFile");
+    txtSURFDATFile->setAccessibleName(spoken(frame->title()));
+    cmdBrowseFile = button("&Browse", "cmdBrowseFile");
     cmdBrowseFile->setAccessibleName(QStringLiteral("Browse for a SURF.DAT file"));
     lstSURFDATStationIDs = new QListWidget;
     lstSURFDATStationIDs->setObjectName(QStringLiteral("lstSURFDATStationIDs"));
+    lstSURFDATStationIDs->setAccessibleName(QStringLiteral("Station IDs"));
     lstSURFDATStationIDs->setSelectionMode(QAbstractItemView::MultiSelection);
     lstSURFDATStationIDs->setMinimumHeight(90);
     cmdSelectAll = button("Select &All", "cmdSelectAll");
     cmdDeselectAll = button("&Deselect All", "cmdDeselectAll");
     txtAnemometerHeight = new QLineEdit(QStringLiteral("10"));
     txtAnemometerHeight->setObjectName(QStringLiteral("txtAnemometerHeight"));
-    txtAnemometerHeight->setMaximumWidth(80);
+    txtAnemometerHeight->setMaximumWidth(digitsWide(*txtAnemometerHeight, 8));
     filterKeys(*txtAnemometerHeight, KeyNumericReal);
     enterIsTab(*txtAnemometerHeight);
     auto* grid = new QGridLayout(frame);
     grid->addWidget(txtSURFDATFile, 0, 0, 1, 3);
     grid->addWidget(cmdBrowseFile, 0, 3);
-    grid->addWidget(labelFor("Station IDs:", lstSURFDATStationIDs), 1, 0);
+    grid->addWidget(labelFor("Station &IDs:", lstSURFDATStationIDs), 1, 0);
     grid->addWidget(lstSURFDATStationIDs, 2, 0, 3, 3);
     grid->addWidget(cmdSelectAll, 2, 3);
     grid->addWidget(cmdDeselectAll, 3, 3);
-    grid->addWidget(labelFor("Wind Height:", txtAnemometerHeight), 5, 0);
+    grid->addWidget(labelFor("Wind &Height:", txtAnemometerHeight), 5, 0);
     grid->addWidget(txtAnemometerHeight, 5, 1);
     grid->addWidget(new QLabel(QStringLiteral("m")), 5, 2);
     grid->setColumnStretch(2, 1);

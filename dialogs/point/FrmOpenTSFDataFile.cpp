@@ -20,7 +20,7 @@ frmOpenTSFDataFile::frmOpenTSFDataFile(Host& host, ProcessStarter& starter, Proc
     txtStationID = new QLineEdit;
     txtStationID->setObjectName(QStringLiteral("txtStationID"));
     build({"txtTSFDataFile",
-           "Time Series File (TSF):", "TSF Data Files (*.tsf) | *.tsf|All Files (*.*) | *.*; |",
+           "Time Series &File (TSF):", "TSF Data Files (*.tsf) | *.tsf|All Files (*.*) | *.*; |",
            "Please select a TSF Data file.", "The selected TSF Data file does not exist.", "_TSFMET_"},
           *txtStationID);
 }

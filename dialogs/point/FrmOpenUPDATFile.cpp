@@ -7,6 +7,7 @@
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "dialogs/point/SurfNames.h"
+#include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
 #include "platform/KeyFilter.h"
@@ -42,20 +43,20 @@ frmOpenUPDATFile::frmOpenUPDATFile(Host& host, ProcessStarter& starter, Processi
     connect(cmdView, &QPushButton::clicked, this, guarded(host_, [this] { cmdView_Click(); }));
     connect(cboTimeZone, &QComboBox::activated, this, guarded(host_, [this] { cboTimeZone_Click(); }));
     Form_Load();
-    resize(620, sizeHint().height());
+    resize(windowSize(*this, 75));
     cmdBrowseFile->setFocus();
 }
 
 QGroupBox* frmOpenUPDATFile::makeInput() {
-    auto* frame = new QGroupBox(QStringLiteral("UP.DAT File:"));
+    auto* frame = new QGroupBox(QStringLiteral("UP.DAT &File:"));
     const auto box = [](const char* name) {
         auto* made = new QLineEdit;
         made->setObjectName(QString::fromLatin1(name));
         return made;
     };
     txtUPDATFile = box("txtUPDATFile");
-    txtUPDATFile->setAccessibleName(frame->title());
-    cmdBrowseFile = button("Browse", "cmdBrowseFile");
+    txtUPDATFile->setAccessibleName(spoken(frame->title()));
+    cmdBrowseFile = button("&Browse", "cmdBrowseFile");
     cmdBrowseFile->setAccessibleName(QStringLiteral("Browse for an UP.DAT file"));
     txtStationID = box("txtStationID");
     txtExtractionHeights = box("txtExtractionHeights");
@@ -67,9 +68,9 @@ QGroupBox* frmOpenUPDATFile::makeInput() {
     auto* grid = new QGridLayout(frame);
     grid->addWidget(txtUPDATFile, 0, 0, 1, 2);
     grid->addWidget(cmdBrowseFile, 0, 2);
-    grid->addWidget(labelFor("Station ID:", txtStationID), 1, 0);
+    grid->addWidget(labelFor("Station &ID:", txtStationID), 1, 0);
     grid->addWidget(txtStationID, 1, 1);
-    grid->addWidget(labelFor("Extraction Height(s):", txtExtractionHeights), 2, 0);
+    grid->addWidget(labelFor("E&xtraction Height(s):", txtExtractionHeights), 2, 0);
     grid->addWidget(txtExtractionHeights, 2, 1);
     grid->addWidget(new QLabel(QStringLiteral("meters")), 2, 2);
     auto* note =

@@ -6,6 +6,7 @@
 
 #include "base/Paths.h"
 #include "base/Text.h"
+#include "platform/Captions.h"
 #include "platform/Combos.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
@@ -54,7 +55,6 @@ PointDialog::PointDialog(Host& host, ProcessStarter& starter, ProcessingWindow w
 
 QPushButton* PointDialog::button(const char* caption, const char* name) {
     auto* made = named(new QPushButton(QString::fromLatin1(caption)), name);
-    made->setAutoDefault(false);
     return made;
 }
 
@@ -71,12 +71,12 @@ QGroupBox* PointDialog::makePeriod(bool withHeadings) {
     DTPicker_EndDate = datePicker("DTPicker_EndDate");
     DTPicker_EndTime = timePicker("DTPicker_EndTime");
     cboTimeZone = named(new QComboBox, "cboTimeZone");
-    cboTimeZone->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    cboTimeZone->setMinimumContentsLength(30);
-    frameTimeStep = named(new QGroupBox(QStringLiteral("Time Step:")), "frameTimeStep");
+    cboTimeZone->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    frameTimeStep = named(new QGroupBox(QStringLiteral("&Time Step:")), "frameTimeStep");
     DTPicker_TimeStep = timePicker("DTPicker_TimeStep");
     (new QVBoxLayout(frameTimeStep))->addWidget(DTPicker_TimeStep);
-    DTPicker_TimeStep->setAccessibleName(frameTimeStep->title());
+    DTPicker_TimeStep->setToolTip(QStringLiteral("Hours, minutes and seconds of a step"));
+    DTPicker_TimeStep->setAccessibleName(spoken(frameTimeStep->title()));
     DTPicker_BeginTime->setAccessibleName(QStringLiteral("Starting time"));
     DTPicker_EndTime->setAccessibleName(QStringLiteral("Ending time"));
     auto* grid = new QGridLayout(framePeriod);
@@ -84,14 +84,14 @@ QGroupBox* PointDialog::makePeriod(bool withHeadings) {
         grid->addWidget(new QLabel(QStringLiteral("DATE:")), 0, 1);
         grid->addWidget(new QLabel(QStringLiteral("HOUR:")), 0, 2);
     }
-    grid->addWidget(labelFor("Starting:", DTPicker_BeginDate), 1, 0);
+    grid->addWidget(labelFor("&Starting:", DTPicker_BeginDate), 1, 0);
     grid->addWidget(DTPicker_BeginDate, 1, 1);
     grid->addWidget(DTPicker_BeginTime, 1, 2);
-    grid->addWidget(labelFor("Ending:", DTPicker_EndDate), 2, 0);
+    grid->addWidget(labelFor("&Ending:", DTPicker_EndDate), 2, 0);
     grid->addWidget(DTPicker_EndDate, 2, 1);
     grid->addWidget(DTPicker_EndTime, 2, 2);
     grid->addWidget(frameTimeStep, 0, 3, 3, 1);
-    grid->addWidget(labelFor("Base Time Zone:", cboTimeZone), 3, 0);
+    grid->addWidget(labelFor("Base Time &Zone:", cboTimeZone), 3, 0);
     grid->addWidget(cboTimeZone, 3, 1, 1, 3);
     return framePeriod;
 }
@@ -101,15 +101,15 @@ QGroupBox* PointDialog::makeOutput() {
     txtTitleLine = named(new QLineEdit, "txtTitleLine");
     txtFRQOutputFilename = named(new QLineEdit, "txtFRQOutputFilename");
     txtOutputDirectory = named(new QLineEdit, "txtOutputDirectory");
-    cmdBrowseDirectory = button("Browse", "cmdBrowseDirectory");
+    cmdBrowseDirectory = button("B&rowse", "cmdBrowseDirectory");
     cmdBrowseDirectory->setAccessibleName(QStringLiteral("Browse for the output directory"));
     auto* grid = new QGridLayout(frame);
-    grid->addWidget(labelFor("Title Line (Optional):", txtTitleLine), 0, 0);
+    grid->addWidget(labelFor("Title &Line (Optional):", txtTitleLine), 0, 0);
     grid->addWidget(txtTitleLine, 0, 1, 1, 2);
-    grid->addWidget(labelFor("Output FRQ Filename:", txtFRQOutputFilename), 1, 0);
+    grid->addWidget(labelFor("Output FR&Q Filename:", txtFRQOutputFilename), 1, 0);
     grid->addWidget(txtFRQOutputFilename, 1, 1);
     grid->addWidget(new QLabel(QStringLiteral(".frq")), 1, 2);
-    grid->addWidget(labelFor("Output Directory:", txtOutputDirectory), 2, 0);
+    grid->addWidget(labelFor("&Output Directory:", txtOutputDirectory), 2, 0);
     grid->addWidget(txtOutputDirectory, 2, 1);
     grid->addWidget(cmdBrowseDirectory, 2, 2);
     connect(cmdBrowseDirectory, &QPushButton::clicked, this,
@@ -121,8 +121,8 @@ QGroupBox* PointDialog::makeOutput() {
 }
 
 QLayout* PointDialog::makeButtons() {
-    cmdSetSeasons = button("Set Seasons", "cmdSetSeasons");
-    cmdSetWindSpeedClasses = button("Set Wind Speed Classes", "cmdSetWindSpeedClasses");
+    cmdSetSeasons = button("Set Seaso&ns", "cmdSetSeasons");
+    cmdSetWindSpeedClasses = button("Set &Wind Speed Classes", "cmdSetWindSpeedClasses");
     cmdView = button("RUN", "cmdView");
     cmdView->setDefault(true);
     cmdExit = button("Cancel", "cmdExit");

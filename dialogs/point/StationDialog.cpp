@@ -5,6 +5,7 @@
 #include "base/Paths.h"
 #include "base/Text.h"
 #include "dialogs/point/SurfNames.h"
+#include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
 #include "platform/KeyFilter.h"
@@ -24,27 +25,29 @@ void StationDialog::build(const Words& words, QWidget& station) {
     layout->addLayout(makeButtons());
     connect(cmdView, &QPushButton::clicked, this, guarded(host_, [this] { cmdView_Click(); }));
     Form_Load();
-    resize(620, sizeHint().height());
+    resize(windowSize(*this, 75));
     cmdBrowseFile->setFocus();
 }
 
 QGroupBox* StationDialog::makeInput(QWidget& station) {
     auto* frame = new QGroupBox(QString::fromLatin1(words_.caption));
     frame->setObjectName(QStringLiteral("frameFile"));
-    const auto box = [](const char* name, int width) {
+    const auto box = [](const char* name, int digits) {
         auto* made = new QLineEdit;
         made->setObjectName(QString::fromLatin1(name));
-        if (width > 0) made->setMaximumWidth(width);
+        if (digits > 0) made->setMaximumWidth(digitsWide(*made, digits));
         return made;
     };
     fileBox_ = box(words_.fileBox, 0);
-    fileBox_->setAccessibleName(frame->title());
-    cmdBrowseFile = button("Browse", "cmdBrowseFile");
+    fileBox_->setAccessibleName(spoken(frame->title()));
+    cmdBrowseFile = button("&Browse", "cmdBrowseFile");
     cmdBrowseFile->setAccessibleName(QStringLiteral("Browse for the input file"));
-    txtXLoc = box("txtXLoc", 110);
-    txtYLoc = box("txtYLoc", 110);
+    txtXLoc = box("txtXLoc", 11);
+    txtYLoc = box("txtYLoc", 11);
+    txtXLoc->setAccessibleName(QStringLiteral("X location of the station"));
     txtYLoc->setAccessibleName(QStringLiteral("Y location of the station"));
-    txtAnemometerHeight = box("txtAnemometerHeight", 110);
+    for (QLineEdit* place : {txtXLoc, txtYLoc}) place->setToolTip(place->accessibleName());
+    txtAnemometerHeight = box("txtAnemometerHeight", 11);
     txtAnemometerHeight->setText(QStringLiteral("10"));
     filterKeys(*txtAnemometerHeight, KeyNumericPositive);
     for (QLineEdit* place : {txtXLoc, txtYLoc}) filterKeys(*place, KeyNumericSigned);
@@ -53,12 +56,12 @@ QGroupBox* StationDialog::makeInput(QWidget& station) {
     auto* grid = new QGridLayout(frame);
     grid->addWidget(fileBox_, 0, 0, 1, 4);
     grid->addWidget(cmdBrowseFile, 0, 4);
-    grid->addWidget(labelFor("Station ID:", &station), 1, 0);
+    grid->addWidget(labelFor("Station &ID:", &station), 1, 0);
     grid->addWidget(&station, 1, 1, 1, 2);
-    grid->addWidget(labelFor("X/Y Location of Station:", txtXLoc), 2, 0);
+    grid->addWidget(labelFor("&X/Y Location of Station:", txtXLoc), 2, 0);
     grid->addWidget(txtXLoc, 2, 1);
     grid->addWidget(txtYLoc, 2, 2);
-    grid->addWidget(labelFor("Wind Height:", txtAnemometerHeight), 3, 0);
+    grid->addWidget(labelFor("Wind &Height:", txtAnemometerHeight), 3, 0);
     grid->addWidget(txtAnemometerHeight, 3, 1);
     grid->addWidget(new QLabel(QStringLiteral("m")), 3, 2);
     grid->setColumnStretch(3, 1);

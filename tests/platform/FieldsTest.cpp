@@ -14,6 +14,7 @@
 #include <QTest>
 
 #include "base/Paths.h"
+#include "platform/Captions.h"
 #include "platform/Combos.h"
 #include "platform/FieldMarks.h"
 #include "platform/KeyFilter.h"
@@ -82,6 +83,41 @@ TEST(FieldMarks, DatesAndListsAreFilledByWhatTheyShow) {
     list.setCurrentRow(0);
     ClearInvalidIfFilled(list);
     EXPECT_EQ(fieldMark(list), cleanMark);
+}
+
+TEST(Captions, AreSpokenWithoutTheirAccelerator) {
+    EXPECT_EQ(spoken("f(&t) = "), "f(t) =");
+    EXPECT_EQ(spoken("Wind Speed Class &1:"), "Wind Speed Class 1:");
+}
+
+TEST(Captions, WidthsFollowTheFont) {
+    QLineEdit box;
+    const int usual = digitsWide(box, 10);
+    EXPECT_GT(usual, box.fontMetrics().horizontalAdvance("0000000000"));
+    QFont large = box.font();
+    large.setPointSizeF(large.pointSizeF() * 2);
+    box.setFont(large);
+    EXPECT_GT(digitsWide(box, 10), usual * 3 / 2);
+    EXPECT_EQ(windowSize(box, 1000).width(), digitsWide(box, 1000));
+    EXPECT_EQ(windowSize(box, 1), box.sizeHint()) << "never smaller than what it holds";
+}
+
+TEST(EnterKey, DoesInAFieldWhatTabDoes) {
+    QWidget form;
+    QLineEdit first(&form);
+    QLabel label(&form);
+    QPushButton disabled(&form);
+    QLineEdit second(&form);
+    disabled.setEnabled(false);
+    enterIsTab(first);
+    form.show();
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        first.setFocus();
+        QTest::keyClick(&first, key);
+        EXPECT_TRUE(second.hasFocus()) << "labels and what is disabled are passed by";
+    }
 }
 
 TEST(FieldMarks, AMarkedFrameHasBlackLabelsAndLeavesItsFieldsAlone) {

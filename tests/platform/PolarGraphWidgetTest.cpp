@@ -50,6 +50,10 @@ TEST_F(PolarGraphWidgetTest, ThePageShowsWhatTheControlPaints) {
     EXPECT_EQ(fromQColor(grabbed.pixelColor(3, 3)), rgb(10, 20, 30));
 }
 
+TEST_F(PolarGraphWidgetTest, TheAngleIsToldOnAGroundOfTheTheme) {
+    EXPECT_TRUE(child("lblTrackAngle")->autoFillBackground()) << "white text on the white page is not seen";
+}
+
 TEST_F(PolarGraphWidgetTest, ScrollingMovesThePage) {
     widget_->resize(300, 300);
     auto* bar = widget_->findChild<QScrollBar*>(QStringLiteral("vsScroll"));

@@ -6,6 +6,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include "platform/Captions.h"
+
 namespace zg {
 namespace {
 
@@ -42,7 +44,7 @@ TEST_F(ErrorDialog, ARunCannotBeUnchecked) {
 
 TEST_F(ErrorDialog, AnythingElseCan) {
     show("run", [this] {
-        EXPECT_EQ(button("cmdDisable")->text(), "Disable Error Checking");
+        EXPECT_EQ(spoken(button("cmdDisable")->text()), "Disable Error Checking");
         EXPECT_TRUE(button("cmdDisable")->isEnabled());
         press("cmdDisable");
         EXPECT_FALSE(form_.isVisible());

@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "base/Paths.h"
+#include "platform/Captions.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 
@@ -51,7 +52,7 @@ const std::string twoRows = "\"Polar Graph 1.0\"\r\n\"sin(t)\"\r\n\"MathLib.pow(
 TEST_F(FrmExpr, WithoutAFileTheListIsEmpty) {
     open();
     EXPECT_EQ(list().count(), 0);
-    EXPECT_EQ(child<QLabel>("lblMsg")->text(),
+    EXPECT_EQ(spoken(child<QLabel>("lblMsg")->text()),
               "Select the expression would you like to used, then click OK.");
     EXPECT_TRUE(child("cmdAdd")->isEnabled());
     EXPECT_FALSE(child("cmdEdit")->isEnabled());
@@ -84,7 +85,7 @@ TEST_F(FrmExpr, AddOpensTheStripGrowsTheFormAndLocksTheListButtons) {
     QTest::keyClick(form_.get(), Qt::Key_A, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([this] { return child("fraTray")->isVisible(); }));
     EXPECT_EQ(child<QGroupBox>("fraTray")->title(), "Add");
-    EXPECT_EQ(child<QLabel>("lblPrompt")->text(), "Enter your expression:");
+    EXPECT_EQ(spoken(child<QLabel>("lblPrompt")->text()), "Enter your expression:");
     EXPECT_TRUE(box().hasFocus());
     EXPECT_EQ(box().text(), "");
     EXPECT_GT(form_->height(), before);
@@ -95,6 +96,25 @@ TEST_F(FrmExpr, AddOpensTheStripGrowsTheFormAndLocksTheListButtons) {
     EXPECT_EQ(form_->height(), before);
     for (const char* name : {"cmdAdd", "cmdEdit", "cmdRemov", "cmdSave"})
         EXPECT_TRUE(child(name)->isEnabled()) << name;
+}
+
+TEST_F(FrmExpr, EscapeClosesTheStripFirst) {
+    open(twoRows);
+    click("cmdAdd");
+    QTest::keyClick(&box(), Qt::Key_Escape);
+    EXPECT_FALSE(child("fraTray")->isVisible());
+    EXPECT_TRUE(form_->isVisible());
+    EXPECT_TRUE(list().hasFocus());
+    QTest::keyClick(&list(), Qt::Key_Escape);
+    EXPECT_FALSE(form_->isVisible());
+}
+
+TEST_F(FrmExpr, EnterOnAButtonPressesThatButton) {
+    open(twoRows);
+    child("cmdCancel")->setFocus();
+    QTest::keyClick(child("cmdCancel"), Qt::Key_Return);
+    EXPECT_FALSE(form_->isVisible());
+    EXPECT_EQ(form_->result(), QDialog::Rejected);
 }
 
 TEST_F(FrmExpr, AnAddedExpressionIsTrimmedAndTheStripStays) {
@@ -144,7 +164,7 @@ TEST_F(FrmExpr, EditTakesTheLastRowWithoutASelectionAndReplacesInPlace) {
     list().clearSelection();
     click("cmdEdit");
     EXPECT_EQ(child<QGroupBox>("fraTray")->title(), "Edit");
-    EXPECT_EQ(child<QLabel>("lblPrompt")->text(), "Enter your new expression:");
+    EXPECT_EQ(spoken(child<QLabel>("lblPrompt")->text()), "Enter your new expression:");
     EXPECT_EQ(box().text(), "MathLib.pow(2,t)");
     host_.boxAnswers = {BoxAnswer::Ok};
     click("cmdOkExpr");

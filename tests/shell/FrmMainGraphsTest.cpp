@@ -364,7 +364,6 @@ TEST_F(FrmMainGraphs, PlayAnimatesTheSelectedCurveAndStopEndsIt) {
     EXPECT_EQ(graph(1).Delay, 10);
     EXPECT_TRUE(window_->menuAction("mnuFileOption_1")->isEnabled());
     EXPECT_TRUE(child("cmbFunction")->isEnabled());
-    EXPECT_FALSE(window_->menuAction("mnuFileOption_3")->isEnabled()) << "it has no command";
     EXPECT_EQ(window_->activeTool(), Tool::Arrow);
 }
 

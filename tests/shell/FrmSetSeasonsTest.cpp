@@ -8,6 +8,7 @@
 
 #include "base/Paths.h"
 #include "graph/frq/ModPolarGraph.h"
+#include "platform/Captions.h"
 #include "platform/FieldMarks.h"
 #include "shell/settings/CfgFile.h"
 #include "shell/settings/Settings.h"
@@ -58,7 +59,7 @@ TEST_F(FrmSetSeasonsTest, ShowsTheFactorySeasonsAtFirst) {
     EXPECT_EQ(season(0)->count(), 4) << "no fifth entry is offered";
     EXPECT_FALSE(season(0)->isEditable());
     EXPECT_FALSE(custom(0)->isEnabled());
-    EXPECT_EQ(form_->findChild<QLabel*>("lblMonth_8")->text(), "September:");
+    EXPECT_EQ(spoken(form_->findChild<QLabel*>("lblMonth_8")->text()), "September:");
 }
 
 TEST_F(FrmSetSeasonsTest, AllMonthsOfOneSeasonAreOneSeason) {

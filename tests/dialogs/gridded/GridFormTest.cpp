@@ -143,7 +143,7 @@ class GridFormTest : public ::testing::Test {
 TEST_F(GridFormTest, OpensWithTheFirstStepActive) {
     open(ventosVariation);
     EXPECT_EQ(form_->windowTitle(), "Generate Wind Rose Plots from VENTOS Data");
-    EXPECT_EQ(child<QGroupBox>("Frame_Step1")->title(), "INPUT VENTOS DATA FILE(S)");
+    EXPECT_EQ(child<QGroupBox>("Frame_Step1")->title().remove('&'), "INPUT VENTOS DATA FILE(S)");
     EXPECT_EQ(child<QGroupBox>("Frame_Step2")->title(), "PROCESSING INFORMATION");
     EXPECT_EQ(child<QGroupBox>("Frame_Step4")->title(), "DIRECTORY FOR OUTPUT");
     EXPECT_EQ(child<QLabel>("lblInstructions")->text(),

@@ -14,6 +14,7 @@
 #include "dialogs/point/FrmOpenTSFDataFile.h"
 #include "dialogs/point/FrmOpenUPDATFile.h"
 #include "graph/frq/ModPolarGraph.h"
+#include "platform/Captions.h"
 #include "platform/FieldMarks.h"
 #include "processing/Stations.h"
 #include "processing/Zones.h"
@@ -230,7 +231,7 @@ TEST_F(PointDialogs, MonitorListsStationsAndTheirPlaces) {
     stations.gsStationCol3 = {"4700.25", "2", ""};
     open<frmOpenAMMNETDataFile>();
     EXPECT_EQ(form_->windowTitle(), "  Generate Wind Rose Plots from Monitor Meteorological Data");
-    EXPECT_EQ(child<QGroupBox>("frameFile")->title(), "Monitor Meteorological Data File:");
+    EXPECT_EQ(spoken(child<QGroupBox>("frameFile")->title()), "Monitor Meteorological Data File:");
     browse("m.csv", "DATETIME,DATAAVID,STNCODE\n3/15/2005 1:00:00,60,A1\n3/15/2005 2:00:00,60,B2\n");
     EXPECT_EQ(host_.openPicks[0].filter, "AMMNET Met Data Files (*.csv) | *.csv|All Files (*.*) | *.*; |");
     EXPECT_EQ(begin(), "2005-03-15 00:00:00");
@@ -284,7 +285,7 @@ TEST_F(PointDialogs, AermetSurfaceAndProfileAreOneForm) {
     open<frmOpenAERMETFile>(AermetKind::Surface);
     EXPECT_EQ(form_->objectName(), "frmOpenAERMETSFCFile");
     EXPECT_EQ(form_->windowTitle(), "Generate Wind Rose Plots from AERMET Surface Data");
-    EXPECT_EQ(child<QGroupBox>("frameFile")->title(), "AERMET Surface Data File:");
+    EXPECT_EQ(spoken(child<QGroupBox>("frameFile")->title()), "AERMET Surface Data File:");
     browse("a.sfc", sfc);
     EXPECT_EQ(host_.openPicks[0].filter, "AERMET Data Files (*.sfc) | *.sfc|All Files (*.*) | *.*; |");
     EXPECT_EQ(begin(), "1988-01-01 00:00:00");
@@ -296,7 +297,7 @@ TEST_F(PointDialogs, AermetSurfaceAndProfileAreOneForm) {
     EXPECT_NE(control(made_[0]).find("! MDATA = AERMSFC !"), std::string::npos);
     open<frmOpenAERMETFile>(AermetKind::Profile);
     EXPECT_EQ(form_->objectName(), "frmOpenAERMETPFLFile");
-    EXPECT_EQ(child<QGroupBox>("frameFile")->title(), "AERMET Profile Data File:");
+    EXPECT_EQ(spoken(child<QGroupBox>("frameFile")->title()), "AERMET Profile Data File:");
     browse("a.pfl", "88 1 1 1 10.0 0\n88 1 2 5 10.0 0\n");
     EXPECT_EQ(host_.openPicks[1].filter,
               "AERMET Profile Data Files (*.pfl) | *.pfl|All Files (*.*) | *.*; |");

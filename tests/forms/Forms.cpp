@@ -1,0 +1,336 @@
+#include "tests/forms/Forms.h"
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+#include <filesystem>
+
+#include "base/Paths.h"
+#include "batch/FrmBatchMode.h"
+#include "batch/FrmCreateReport.h"
+#include "dialogs/gridded/FrmProjectionInfo.h"
+#include "dialogs/gridded/GridForm.h"
+#include "dialogs/point/FrmOpenAERMETFile.h"
+#include "dialogs/point/FrmOpenAMMNETDataFile.h"
+#include "dialogs/point/FrmOpenSURFDATFile.h"
+#include "dialogs/point/FrmOpenTSFDataFile.h"
+#include "dialogs/point/FrmOpenUPDATFile.h"
+#include "processing/Stations.h"
+#include "processing/Zones.h"
+#include "shell/FrmAboutZephyrgraph.h"
+#include "shell/FrmAddLabel.h"
+#include "shell/FrmAspect.h"
+#include "shell/FrmChangeDir.h"
+#include "shell/FrmChangeRadius.h"
+#include "shell/FrmComment.h"
+#include "shell/FrmError.h"
+#include "shell/FrmExpr.h"
+#include "shell/FrmGridFonts.h"
+#include "shell/FrmMain.h"
+#include "shell/FrmOptions.h"
+#include "shell/FrmOptionsLegend.h"
+#include "shell/FrmProperties.h"
+#include "shell/FrmSelectWindRose.h"
+#include "shell/FrmSetSeasons.h"
+#include "shell/FrmSetWindSpeedClasses.h"
+#include "shell/FrmSplashScreen.h"
+#include "shell/FrmTable.h"
+#include "shell/FrmZoom.h"
+#include "shell/settings/CfgFile.h"
+#include "shell/settings/Settings.h"
+#include "shell/settings/StartSequence.h"
+#include "tests/dialogs/gridded/GridFiles.h"
+
+namespace zg {
+
+namespace {
+
+using FormPointer = std::unique_ptr<QWidget>;
+
+void startProgramIn(const TempDirectory& directory) {
+    modPolarGraph = ModPolarGraph();
+    settings = Settings();
+    timeZones = TimeZoneTable();
+    stations = StationTable();
+    applicationDirectory = directory.path();
+    std::filesystem::copy(ZG_SOURCE_DIR "/data/TimeZones.txt", directory.file("TimeZones.txt"));
+    directory.write("expr.dat", "\"Polar Graph 1.0\"\r\n\"sin(2*t)\"\r\n\"MathLib.pow(t,2)\"\r\n");
+    directory.write("Station_Data.csv",
+                    "STATION_DATA.CSV,V1.0\nheads\nBoston,1,0,0,a,b,c,42.36,-71.01,NAR-B\n"
+                    "Albany,2,0,0,a,b,c,42.75,-73.8,WGS-84\n");
+    startSettings();
+}
+
+GrapInfo curve() {
+    GrapInfo graph;
+    graph.Equation = "a*sin(2*t)";
+    graph.Coefficient = "a=4";
+    graph.Step = 15;
+    graph.Series.AllowMarker = true;
+    return graph;
+}
+
+template <typename Form>
+FormPointer ofHost(FormWorld& world) {
+    return std::make_unique<Form>(world.host);
+}
+
+template <typename Form>
+FormPointer ofPlot(FormWorld& world) {
+    return std::make_unique<Form>(world.host, world.plot.graph());
+}
+
+ProcessingWindow idleWindow() {
+    return {[](const std::string&) {}, [] { return false; }, [] {}, [] {}};
+}
+
+template <typename Form>
+FormPointer ofInput(FormWorld& world) {
+    return std::make_unique<Form>(world.host, world.starter, idleWindow());
+}
+
+template <AermetKind Kind>
+FormPointer ofAermet(FormWorld& world) {
+    return std::make_unique<frmOpenAERMETFile>(world.host, world.starter, idleWindow(), Kind);
+}
+
+FormPointer mainWindow(FormWorld& world) {
+    auto window = std::make_unique<frmMain>(world.host);
+    window->Form_Load();
+    window->PlotFrqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
+    return window;
+}
+
+std::function<void(QWidget&)> withTool(Tool tool) {
+    return [tool](QWidget& form) { dynamic_cast<frmMain&>(form).pressTool(tool); };
+}
+
+std::function<void(QWidget&)> withClickOn(const char* control) {
+    return [control](QWidget& form) { form.findChild<QAbstractButton*>(QLatin1String(control))->click(); };
+}
+
+/// A press of the button finds the text of the field wrong and says so in the status line.
+std::function<void(QWidget&)> withRefusal(const char* field, const char* text, const char* button) {
+    return [=](QWidget& form) {
+        auto* file = form.findChild<QLineEdit*>(QStringLiteral("txtSingleFRQFile"));
+        if (file != nullptr) file->setText(QStringLiteral(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq"));
+        form.findChild<QLineEdit*>(QLatin1String(field))->setText(QLatin1String(text));
+        form.findChild<QAbstractButton*>(QLatin1String(button))->click();
+        EXPECT_NE(form.findChild<QLabel*>(QStringLiteral("lblStatus"))->text(), QString());
+    };
+}
+
+FormPointer customSeasons(FormWorld& world) {
+    settings.CustomSeasonOfMonth.fill("Monsoon");
+    WriteCfgFile(settings.CfgFilePath);
+    return ofHost<frmSetSeasons>(world);
+}
+
+FormPointer errorForm(FormWorld&) {
+    auto form = std::make_unique<frmError>();
+    form->findChild<QLabel*>(QStringLiteral("lblDescr"))
+        ->setText(QStringLiteral("A description that is long enough to need more than one line of the form, "
+                                 "as those of errors in a file with a long path are."));
+    return form;
+}
+
+FormPointer batchForm(FormWorld& world) {
+    return std::make_unique<frmBatchMode>(world.host, BatchHooks{[] {}, [] {}});
+}
+
+FormPointer propertiesForm(FormWorld& world) {
+    return std::make_unique<frmProperties>(world.host, world.graph, [] {});
+}
+
+FormPointer tableForm(FormWorld& world) {
+    QPixmap legend(46, 18);
+    legend.fill(Qt::blue);
+    return std::make_unique<frmTable>(world.host, world.graph, legend, [] {});
+}
+
+FormPointer directoryForm(FormWorld& world) {
+    return std::make_unique<frmChangeDir>(world.host, world.chosenDirectory, world.directory.path());
+}
+
+/// Its period ends where it begins, of which a box tells.
+FormPointer refusingUpForm(FormWorld& world) {
+    world.host.boxAnswers = {BoxAnswer::Ok};
+    return ofInput<frmOpenUPDATFile>(world);
+}
+
+void click(QWidget& form, const char* button) {
+    form.findChild<QAbstractButton*>(QLatin1String(button))->click();
+}
+
+/// A wizard that has come as far as the given step with one file.
+std::unique_ptr<GridForm> wizardAt(FormWorld& world, const GridVariation& variation, int step,
+                                   bool byStation) {
+    LoadStationData();
+    auto form = std::make_unique<GridForm>(variation, world.host, world.starter, idleWindow(), nullptr);
+    const bool model = variation.kind == GridKind::M3d;
+    const std::string file = world.directory.write("wind.dat", model ? m3dText() : ventosText());
+    world.host.filesAnswers.push_back({file});
+    click(*form, "cmdBrowseDataFiles");
+    if (step == 1) return form;
+    click(*form, "cmdNext1");
+    form->findChild<QComboBox*>(QStringLiteral("cboSpatialInterpolationMethod"))->setCurrentIndex(0);
+    if (model) form->findChild<QComboBox*>(QStringLiteral("cboVertProfilingMethod"))->setCurrentIndex(1);
+    if (byStation) click(*form, "optByStation");
+    if (step == 2) return form;
+    if (!byStation) world.host.boxAnswers = {BoxAnswer::Yes};
+    click(*form, "cmdNext2");
+    if (step == 3) return form;
+    click(*form, "cmdSelectAll");
+    click(*form, "cmdNext3");
+    return form;
+}
+
+template <const GridVariation& Variation, int Step, bool ByStation = false>
+FormPointer wizard(FormWorld& world) {
+    return wizardAt(world, Variation, Step, ByStation);
+}
+
+/// A place in degrees; the projection dialog passes by on a timer.
+FormPointer degreesForm(FormWorld& world) {
+    std::filesystem::copy(ZG_SOURCE_DIR "/data/datums.csv", world.directory.file("datums.csv"));
+    auto form = wizardAt(world, ventosVariation, 2, false);
+    projection.PMAP = "LL";
+    QTimer::singleShot(0, [] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        dialog->findChild<QComboBox*>(QStringLiteral("cboCode"))->setEditText(QStringLiteral("WGS-84"));
+        click(*dialog, "cmdOK");
+    });
+    click(*form, "cmdNext2");
+    return form;
+}
+
+template <int Entry>
+FormPointer projectionForm(FormWorld& world) {
+    std::filesystem::copy(ZG_SOURCE_DIR "/data/datums.csv", world.directory.file("datums.csv"));
+    projection = {};
+    auto form = std::make_unique<frmProjectionInfo>(world.host);
+    auto* list = form->findChild<QComboBox*>(QStringLiteral("cboProj"));
+    list->setCurrentIndex(Entry);
+    emit list->activated(Entry);
+    form->findChild<QComboBox*>(QStringLiteral("cboCode"))->setEditText(QStringLiteral("NAS-C"));
+    return form;
+}
+
+FormPointer deepDirectoryForm(FormWorld& world) {
+    world.chosenDirectory = world.directory.path();
+    for (int level = 0; level < 12; ++level) world.chosenDirectory += "/directory_within_directory";
+    std::filesystem::create_directories(world.chosenDirectory);
+    return directoryForm(world);
+}
+
+FormPointer longTableForm(FormWorld& world) {
+    for (int term = 0; term < 20; ++term) world.graph.Equation += "+a*sin(2*t)";
+    return tableForm(world);
+}
+
+}  // namespace
+
+FormWorld::FormWorld() : plot((startProgramIn(directory), host), PropertyBag()), graph(curve()) {
+    plot.resize(500, 500);
+    plot.graph().OpenFreqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
+    modPolarGraph.WorkDir = directory.path() + "/";
+}
+
+const std::vector<FormRow>& forms() {
+    static const std::vector<FormRow> rows = {
+        {"frmMain", "", mainWindow},
+        {"frmMain", "Aspect", mainWindow, withTool(Tool::Aspect)},
+        {"frmMain", "Zoom", mainWindow, withTool(Tool::Zoom)},
+        {"frmSplashScreen", "",
+         [](FormWorld& world) { return std::make_unique<frmSplashScreen>(world.host, [] {}); }},
+        {"frmAboutZephyrgraph", "", [](FormWorld&) { return std::make_unique<frmAboutZephyrgraph>(); }},
+        {"frmAddLabel", "", ofPlot<frmAddLabel>},
+        {"frmAspect", "", ofPlot<frmAspect>},
+        {"frmBatchMode", "File", batchForm},
+        {"frmBatchMode", "Directory", batchForm, withClickOn("optDirectory")},
+        {"frmBatchMode", "Refused", batchForm,
+         withRefusal("txtPercentValidLimit", "101", "cmdBeginBatchMode")},
+        {"frmChangeDir", "", directoryForm},
+        {"frmChangeDir", "Deep", deepDirectoryForm},
+        {"frmChangeRadius", "", ofPlot<frmChangeRadius>},
+        {"frmComment", "", ofPlot<frmComment>},
+        {"frmCreateReport", "", ofHost<frmCreateReport>},
+        {"frmCreateReport", "Refused", ofHost<frmCreateReport>,
+         withRefusal("txtBMPDirectory", "/nowhere/", "cmdCreateReport")},
+        {"frmError", "", errorForm},
+        {"frmExpr", "", ofHost<frmExpr>},
+        {"frmExpr", "Add", ofHost<frmExpr>, withClickOn("cmdAdd")},
+        {"frmGridFonts", "", ofPlot<frmGridFonts>},
+        {"frmOpenAERMETPFLFile", "", ofAermet<AermetKind::Profile>},
+        {"frmOpenAERMETSFCFile", "", ofAermet<AermetKind::Surface>},
+        {"frmOpenAMMNETDataFile", "", ofInput<frmOpenAMMNETDataFile>},
+        {"frmOpenSURFDATFile", "", ofInput<frmOpenSURFDATFile>},
+        {"frmOpenTSFDataFile", "", ofInput<frmOpenTSFDataFile>},
+        {"frmOpenUPDATFile", "", ofInput<frmOpenUPDATFile>},
+        {"frmOpenUPDATFile", "Refused", refusingUpForm, withClickOn("cmdView")},
+        {"frmOptions", "", ofPlot<frmOptions>},
+        {"frmOptionsLegend", "", ofPlot<frmOptionsLegend>},
+        {"frmProcess3DDATFiles", "Files", wizard<m3dVariation, 1>},
+        {"frmProcess3DDATFiles", "Information", wizard<m3dVariation, 2>},
+        {"frmProcess3DDATFiles", "Cells", wizard<m3dVariation, 3>},
+        {"frmProcess3DDATFiles", "Stations", wizard<m3dVariation, 3, true>},
+        {"frmProcess3DDATFiles", "Directory", wizard<m3dVariation, 4, true>},
+        {"frmProcessVENTOSDATFiles", "Files", wizard<ventosVariation, 1>},
+        {"frmProcessVENTOSDATFiles", "Information", wizard<ventosVariation, 2>},
+        {"frmProcessVENTOSDATFiles", "Degrees", degreesForm},
+        {"frmProcessVENTOSDATFiles", "Directory", wizard<ventosVariation, 4, true>},
+        {"frmProjectionInfo", "LL", projectionForm<0>},
+        {"frmProjectionInfo", "UTM", projectionForm<1>},
+        {"frmProjectionInfo", "LCC", projectionForm<2>},
+        {"frmProjectionInfo", "PS", projectionForm<4>},
+        {"frmProjectionInfo", "LAZA", projectionForm<6>},
+        {"frmProperties", "Font", propertiesForm, withClickOn("optMtype_1")},
+        {"frmProperties", "Picture", propertiesForm, withClickOn("optMtype_0")},
+        {"frmSelectWindRose", "", ofPlot<frmSelectWindRose>},
+        {"frmSetSeasons", "", ofHost<frmSetSeasons>},
+        {"frmSetSeasons", "Custom", customSeasons},
+        {"frmSetWindSpeedClasses", "", ofHost<frmSetWindSpeedClasses>},
+        {"frmTable", "", tableForm},
+        {"frmTable", "Long", longTableForm},
+        {"frmZoom", "", ofPlot<frmZoom>},
+    };
+    return rows;
+}
+
+std::string rowName(const FormRow& row) {
+    return std::string(row.form) + (*row.state == '\0' ? "" : "_") + row.state;
+}
+
+void PrintTo(const FormRow& row, std::ostream* out) { *out << rowName(row); }
+
+std::unique_ptr<QWidget> open(const FormRow& row, FormWorld& world) {
+    FormPointer form = row.make(world);
+    EXPECT_EQ(form->objectName(), row.form);
+    form->show();
+    form->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    if (row.bring) row.bring(*form);
+    QCoreApplication::processEvents();
+    return form;
+}
+
+void forEachPage(QWidget& form, const std::function<void(const std::string& page)>& look) {
+    auto* tabs = form.findChild<QTabWidget*>();
+    if (tabs == nullptr) {
+        look("");
+        return;
+    }
+    for (int page = 0; page < tabs->count(); ++page) {
+        tabs->setCurrentIndex(page);
+        QCoreApplication::processEvents();
+        look(tabs->tabText(page).toStdString());
+    }
+}
+
+}  // namespace zg

@@ -1,0 +1,131 @@
+// Every form of the program is put on show and walked control by control.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QTest>
+#include <cstring>
+#include <set>
+
+#include "tests/forms/Checks.h"
+#include "tests/forms/Exceptions.h"
+#include "tests/forms/Forms.h"
+#include "tests/forms/Looks.h"
+
+namespace zg {
+namespace {
+
+/// One "*" of the pattern stands for any text.
+bool fits(const std::string& control, const std::string& pattern) {
+    const std::size_t star = pattern.find('*');
+    if (star == std::string::npos) return control == pattern;
+    const std::string before = pattern.substr(0, star);
+    const std::string after = pattern.substr(star + 1);
+    return control.size() >= before.size() + after.size() && control.rfind(before, 0) == 0 &&
+           control.compare(control.size() - after.size(), after.size(), after) == 0;
+}
+
+bool isExcused(const Exception& exception, Check check, const FormRow& row, const Finding& found) {
+    return exception.check == check && std::strcmp(exception.form, row.form) == 0 &&
+           fits(found.control, exception.control);
+}
+
+std::set<const Exception*>& usedExceptions() {
+    static std::set<const Exception*> used;
+    return used;
+}
+
+/// What is left of the findings, in lines.
+std::string unexcused(Check check, const FormRow& row, const std::string& page, const Findings& findings) {
+    std::string lines;
+    for (const Finding& found : findings) {
+        bool excused = false;
+        for (const Exception& exception : exceptions()) {
+            if (!isExcused(exception, check, row, found)) continue;
+            usedExceptions().insert(&exception);
+            excused = true;
+        }
+        if (!excused)
+            lines += rowName(row) + (page.empty() ? "" : "/" + page) + ": " + found.control + " " +
+                     found.fault + "\n";
+    }
+    return lines;
+}
+
+template <typename Function>
+std::string look(const FormRow& row, Check check, const Function& walk) {
+    FormWorld world;
+    const auto form = open(row, world);
+    std::string lines;
+    forEachPage(*form, [&](const std::string& page) { lines += unexcused(check, row, page, walk(*form)); });
+    return lines;
+}
+
+class EveryForm : public ::testing::TestWithParam<FormRow> {
+ protected:
+    void SetUp() override {
+        const QString asked = qEnvironmentVariable("QT_SCALE_FACTOR");
+        if (asked.isEmpty()) return;
+        ASSERT_EQ(qApp->devicePixelRatio(), asked.toDouble()) << "not as dense as asked for";
+    }
+    void TearDown() override { resetLooks(); }
+};
+
+TEST_P(EveryForm, IsInOrder) {
+    EXPECT_EQ(look(GetParam(), Check::Names, checkNames), "");
+    EXPECT_EQ(look(GetParam(), Check::Accelerators, checkAccelerators), "");
+    EXPECT_EQ(look(GetParam(), Check::Accelerators, checkLabelKeys), "");
+    EXPECT_EQ(look(GetParam(), Check::ToolTips, checkToolTips), "");
+    EXPECT_EQ(look(GetParam(), Check::TabOrder, checkTabOrder), "");
+    EXPECT_EQ(look(GetParam(), Check::Enter, checkEnter), "");
+    EXPECT_EQ(look(GetParam(), Check::Room, checkRoom), "");
+    EXPECT_EQ(look(GetParam(), Check::Colours, checkColours), "");
+}
+
+TEST_P(EveryForm, CutsNothingOffWithLargeFonts) {
+    enlargeFonts(1.5);
+    EXPECT_EQ(look(GetParam(), Check::Room, checkRoom), "");
+}
+
+TEST_P(EveryForm, IsLegibleInADarkTheme) {
+    takeDarkTheme();
+    EXPECT_EQ(look(GetParam(), Check::Colours, checkColours), "");
+}
+
+TEST_P(EveryForm, ClosesByEscape) {
+    FormWorld world;
+    const auto form = open(GetParam(), world);
+    auto* dialog = qobject_cast<QDialog*>(form.get());
+    if (dialog == nullptr) return;
+    ASSERT_NE(dialog->focusWidget(), nullptr) << "nothing has the keyboard";
+    const int presses = std::strcmp(GetParam().state, "Add") == 0 ? 2 : 1;  // the first one closes the tray
+    for (int i = 0; i < presses; ++i) {
+        EXPECT_TRUE(dialog->isVisible());
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Escape);
+    }
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(dialog->result(), QDialog::Rejected);
+}
+
+INSTANTIATE_TEST_SUITE_P(, EveryForm, ::testing::ValuesIn(forms()),
+                         [](const auto& row) { return rowName(row.param); });
+
+TEST(Forms, NeedEachOfTheExceptions) {
+    usedExceptions().clear();
+    for (const FormRow& row : forms()) {
+        look(row, Check::Names, checkNames);
+        look(row, Check::Accelerators, checkAccelerators);
+        look(row, Check::ToolTips, checkToolTips);
+        look(row, Check::TabOrder, checkTabOrder);
+        look(row, Check::Enter, checkEnter);
+        look(row, Check::Room, checkRoom);
+        look(row, Check::Colours, checkColours);
+    }
+    for (const Exception& exception : exceptions())
+        EXPECT_TRUE(usedExceptions().contains(&exception))
+            << exception.form << ' ' << exception.control << ": " << exception.reason;
+}
+
+}  // namespace
+}  // namespace zg

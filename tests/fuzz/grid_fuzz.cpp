@@ -1,0 +1,15 @@
+// Any bytes as a gridded file of either kind: a header, or a text that tells what is wrong.
+
+#include "dialogs/gridded/GridFileHeader.h"
+#include "tests/fuzz/PointFuzz.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    readAsFile(data, size, [&](zg::Host&, const std::string& path) {
+        for (const zg::GridKind kind : {zg::GridKind::M3d, zg::GridKind::Ventos}) {
+            zg::InfoViewResult result;
+            zg::readGridFileHeader(path, kind, result);
+            if ((result.errorFlag == 0) == result.PMAP.empty()) std::abort();
+        }
+    });
+    return 0;
+}
