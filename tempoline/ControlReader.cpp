@@ -228,7 +228,12 @@ class Reader {
         if (code == "LCC") map.latitude2 = keys_.latitude("XLAT2");
     }
 
+    /// Classes, seasons and hours have defaults that only a run without roses may rely on: a control file
+    /// that was cut off shall not be counted by other rules than it was written with.
     void readRules() {
+        if (control_.wantsRoses) {
+            for (const char* const key : {"WSBIN", "NSEASN", "NTPD", "MSN"}) keys_.text(key);
+        }
         readClasses();
         readSeasons();
         const int ranges = keys_.wholeOr("NTPD", 0, 0, 24 * 24);
