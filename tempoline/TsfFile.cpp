@@ -20,7 +20,7 @@ void appendWhole(std::string& text, std::int64_t value) {
 void appendValue(std::string& text, bool present, double value) {
     char digits[32] = "9999.";
     const char* end = digits + 5;
-    if (present) end = std::to_chars(digits, digits + sizeof digits, value, std::chars_format::fixed).ptr;
+    if (present) end = std::to_chars(digits, digits + sizeof digits, value).ptr;
     const std::size_t length = static_cast<std::size_t>(end - digits);
     text.append(length < valueWidth ? valueWidth - length : 1, ' ');
     text.append(digits, length);

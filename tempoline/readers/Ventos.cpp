@@ -91,7 +91,7 @@ class Ventos : public InputReader {
             throw lines.failure("PMAP", "\"" + map.projection + "\" is no known projection");
         map.datum = fields[1];
         map.southern = ucase(fields[2]) == "S";
-        map.utmZone = static_cast<int>(degreesField(lines, fields[3], "IUTMZN"));
+        map.utmZone = ucase(fields[3]) == "NONE" ? 0 : wholeField(lines, fields[3], "IUTMZN");
         if (map.projection == "UTM" && (map.utmZone < 1 || map.utmZone > 60))
             throw lines.failure("IUTMZN", std::to_string(map.utmZone) + " is not between 1 and 60");
         map.falseEasting = degreesField(lines, fields[4], "FEAST");
