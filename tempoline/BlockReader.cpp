@@ -1,10 +1,12 @@
 #include "tempoline/BlockReader.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <cstring>
 
@@ -38,8 +40,11 @@ class PlainBlocks : public BlockReader {
     PlainBlocks(const PlainBlocks&) = delete;
     PlainBlocks& operator=(const PlainBlocks&) = delete;
 
+    void stop() override { stopped_ = true; }
+
     std::size_t read(char* place) override {
         throwIfInterrupted();
+        if (!regular_ && !waitForInput()) return 0;
         ssize_t got = 0;
         while ((got = ::read(file_, place, blockSize)) < 0) {
             throwIfInterrupted();
@@ -54,8 +59,22 @@ class PlainBlocks : public BlockReader {
     }
 
  private:
+    /// A pipe may stay silent for ever: now and then it is asked whether the run goes on. False for the end.
+    bool waitForInput() const {
+        constexpr int milliseconds = 100;
+        pollfd state = {file_, POLLIN, 0};
+        while (!stopped_) {
+            const int ready = poll(&state, 1, milliseconds);
+            throwIfInterrupted();
+            if (ready > 0) return true;
+            if (ready < 0 && errno != EINTR) failWithErrno(path_, errno);
+        }
+        return false;
+    }
+
     std::string path_;
     int file_;
+    std::atomic<bool> stopped_ = false;
     bool regular_ = false;
     off_t size_ = 0;
     off_t given_ = 0;
@@ -72,6 +91,7 @@ class BlocksAhead : public BlockReader {
             const std::lock_guard lock(mutex_);
             stop_ = true;
         }
+        plain_->stop();
         changed_.notify_all();
         thread_.join();
     }

@@ -21,6 +21,9 @@ class BlockReader {
 
     /// Puts up to blockSize bytes at the place and gives their number, 0 at the end. Throws a Failure.
     virtual std::size_t read(char* place) = 0;
+
+    /// From another thread: a read that waits for a pipe gives up, and gives 0.
+    virtual void stop() {}
 };
 
 /// Reads when asked. A regular file that ends before the size it had when it was opened became shorter while

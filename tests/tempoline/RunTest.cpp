@@ -5,7 +5,9 @@
 #include <regex>
 
 #include "base/Lines.h"
+#include "graph/frq/OpenFreqFile.h"
 #include "tempoline/Interrupt.h"
+#include "tests/support/TestHost.h"
 #include "tests/tempoline/TempolineSupport.h"
 
 namespace zg::tempoline {
@@ -136,6 +138,41 @@ TEST(Run, SaysWhatIsWrongInGriddedFiles) {
     EXPECT_EQ(ventos(good + "2004 1 1 0 0\n1 2\n"),
               "ERROR: in.dat:9: the file ends where a row of u should stand");
     EXPECT_EQ(ventos(good + "2004 1 1 0 0\n1\n"), "ERROR: in.dat:8: a row of u: it has 1 of 2 values");
+}
+
+TEST(Run, TheDesktopLoadsWhatItMade) {
+    const InDirectory inside;
+    const std::string line = "2004 1 1 1 1 0 0 0 0 0 0 0 0 0 0 4.0 90.0 10.0\n";
+    inside.directory.write("in.sfc", "header\n" + line);
+    auto changes = firstDay;
+    changes.emplace_back("METINP", "in.sfc");
+    inside.directory.write("c.inp", control("aermsfc.inp", changes));
+    ASSERT_EQ(run("c.inp"), ExitStatus::Completed);
+    ModPolarGraph tables;
+    TestHost host;
+    ASSERT_EQ(loadFreqFile("out.frq", tables, host), FreqFileOutcome::Loaded);
+    EXPECT_EQ(tables.FrqRoseCount, 6);  // no month of a day in January is of the second season
+    EXPECT_EQ(tables.FrqVersion, "2.3");
+    EXPECT_EQ(tables.FrqMeasure, "Height = 10.0 m");
+    EXPECT_EQ(tables.FrqRoseTitle(2), "Wet");
+    EXPECT_EQ(tables.FrqTotalPeriods(1), 24);
+    EXPECT_EQ(tables.FrqValidPeriods(1), 1);
+    EXPECT_EQ(tables.FrqFraction(5, 3), 1.0);
+    EXPECT_EQ(tables.FrqDirectionLabel(16), "NNW");
+}
+
+TEST(Run, WithoutARecordInThePeriodTheDesktopSaysThatAllAreMissing) {
+    const InDirectory inside;
+    inside.directory.write("in.sfc", "header\n");
+    auto changes = firstDay;
+    changes.emplace_back("METINP", "in.sfc");
+    inside.directory.write("c.inp", control("aermsfc.inp", changes));
+    ASSERT_EQ(run("c.inp"), ExitStatus::Completed);
+    ModPolarGraph tables;
+    TestHost host;
+    ASSERT_EQ(loadFreqFile("out.frq", tables, host), FreqFileOutcome::Loaded);
+    EXPECT_EQ(tables.FrqRoseCount, 0);
+    EXPECT_EQ(tables.GraphCaption, "ALL DATA ARE MISSING");
 }
 
 TEST(Run, AnInterruptLeavesOldResultsWhole) {
