@@ -56,6 +56,7 @@ void OutputFile::flush() {
 
 void OutputFile::finish() {
     if (!buffer_.empty()) flush();
+    buffer_.shrink_to_fit();
 }
 
 void OutputFile::commit() {
