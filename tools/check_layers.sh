@@ -18,6 +18,8 @@ declare -A allowed=(
     [dialogs/point]="base processing graph/frq graph/model graph/render graph/control shell/settings platform dialogs/point"
     [dialogs/gridded]="base processing graph/frq graph/model graph/render graph/control shell/settings platform dialogs/gridded"
     [batch]="base graph/frq graph/model graph/script graph/render graph/control processing shell/settings platform batch"
+    [tempoline]="base processing tempoline tempoline/readers"
+    [tempoline/readers]="base processing tempoline tempoline/readers"
     [export]="base graph/frq graph/model graph/script graph/render graph/control platform export"
 )
 
@@ -34,7 +36,7 @@ for folder in "${!allowed[@]}"; do
              xargs -0 -r grep -HoP '^#include "\K[a-z]+[a-z/_]*/[^"]+' || true)
 done
 
-toolkit=$(grep -rnE '^#include *<Q' base graph processing shell/settings 2>/dev/null || true)
+toolkit=$(grep -rnE '^#include *<Q' base graph processing shell/settings tempoline 2>/dev/null || true)
 if [ -n "$toolkit" ]; then
     echo "Toolkit headers below platform/:"
     echo "$toolkit"

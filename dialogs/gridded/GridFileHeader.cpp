@@ -47,6 +47,16 @@ class Fields {
     float real(const char* name) {
         return number<float>(name, static_cast<float (*)(std::string_view)>(toSingle));
     }
+    /// Degrees, signed or with the letter of their hemisphere.
+    float angle(const char* name) {
+        if (next_ >= fields_.size()) fail(name, "is missing");
+        std::string& field = fields_[next_];
+        const std::string letter = ucase(rightN(field, 1));
+        if (letter.find_first_of("NSEW") == std::string::npos) return real(name);
+        field.pop_back();
+        const float value = real(name);
+        return letter == "S" || letter == "W" ? -value : value;
+    }
     std::int32_t wholeFrom(std::int32_t least, std::int32_t most, const char* name) {
         const std::int32_t value = whole(name);
         if (value < least || value > most)
@@ -122,10 +132,10 @@ class Header {
         r_.PMAP = map.text("projection");
         if (r_.PMAP != "LCC" && r_.PMAP != "PS" && r_.PMAP != "EM" && r_.PMAP != "LL")
             map.fail("projection", "\"" + leftN(r_.PMAP, 20) + "\" is not known");
-        r_.RLAT0 = map.real("RLAT0");
-        r_.RLON0 = map.real("RLON0");
-        r_.XLAT1 = map.real("XLAT1");
-        r_.XLAT2 = map.real("XLAT2");
+        r_.RLAT0 = map.angle("RLAT0");
+        r_.RLON0 = map.angle("RLON0");
+        r_.XLAT1 = map.angle("XLAT1");
+        r_.XLAT2 = map.angle("XLAT2");
         map.skip(3, "corner or cell size");
         for (const char* name : {"nx", "ny", "nz"}) map.wholeFrom(1, largestGrid, name);
         line("model options");
@@ -163,10 +173,10 @@ class Header {
         r_.IUTMZN = map.whole("IUTMZN");
         r_.FEAST = map.real("FEAST");
         r_.FNORTH = map.real("FNORTH");
-        r_.RLAT0 = map.real("RLAT0");
-        r_.RLON0 = map.real("RLON0");
-        r_.XLAT1 = map.real("XLAT1");
-        r_.XLAT2 = map.real("XLAT2");
+        r_.RLAT0 = map.angle("RLAT0");
+        r_.RLON0 = map.angle("RLON0");
+        r_.XLAT1 = map.angle("XLAT1");
+        r_.XLAT2 = map.angle("XLAT2");
         Fields grid = fields("grid");
         grid.wholeFrom(1, largestGrid, "nx");
         grid.wholeFrom(1, largestGrid, "ny");

@@ -61,6 +61,16 @@ TEST_F(GridFileHeader, OfAVentosFile) {
     EXPECT_EQ(r.last.seconds, 0);
 }
 
+TEST_F(GridFileHeader, AnglesMayEndInTheirHemisphere) {
+    const InfoViewResult r = read(GridKind::Ventos, ventosText("PS NWS-84 NONE 0 0 0 40.5S 97.25w 33N 0E"));
+    EXPECT_EQ(r.errorFlag, 0) << r.errorText;
+    EXPECT_EQ(r.RLAT0, -40.5F);
+    EXPECT_EQ(r.RLON0, -97.25F);
+    EXPECT_EQ(r.XLAT1, 33);
+    EXPECT_EQ(read(GridKind::Ventos, ventosText("PS NWS-84 NONE 0 0 0 S 97W 33N 0")).errorText,
+              "line 6 (projection): RLAT0 \"\" is not a number");
+}
+
 TEST_F(GridFileHeader, HourTwentyFourIsTheNextMidnight) {
     const InfoViewResult r =
         read(GridKind::Ventos, replaced(ventosText(), "2005 12 31 23 0", "2004 12 31 24 0"));

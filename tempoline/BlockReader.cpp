@@ -1,0 +1,177 @@
+#include "tempoline/BlockReader.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <atomic>
+#include <cerrno>
+#include <cstring>
+
+#include "tempoline/Failure.h"
+#include "tempoline/Interrupt.h"
+
+namespace zg::tempoline {
+
+namespace {
+
+[[noreturn]] void failWithErrno(const std::string& path, int error) {
+    throw Failure(ExitStatus::Failed, path + ": " + std::strerror(error));
+}
+
+class PlainBlocks : public BlockReader {
+ public:
+    explicit PlainBlocks(const std::string& path)
+        : path_(path), file_(open(path.c_str(), O_RDONLY | O_CLOEXEC)) {
+        if (file_ < 0) failWithErrno(path, errno);
+        struct stat state = {};
+        if (fstat(file_, &state) != 0 || S_ISDIR(state.st_mode)) {
+            const int error = S_ISDIR(state.st_mode) ? EISDIR : errno;
+            close(file_);
+            failWithErrno(path, error);
+        }
+        regular_ = S_ISREG(state.st_mode);
+        size_ = state.st_size;
+        posix_fadvise(file_, 0, 0, POSIX_FADV_SEQUENTIAL);
+    }
+    ~PlainBlocks() override { close(file_); }
+    PlainBlocks(const PlainBlocks&) = delete;
+    PlainBlocks& operator=(const PlainBlocks&) = delete;
+
+    void stop() override { stopped_ = true; }
+
+    std::size_t read(char* place) override {
+        throwIfInterrupted();
+        if (!regular_ && !waitForInput()) return 0;
+        ssize_t got = 0;
+        while ((got = ::read(file_, place, blockSize)) < 0) {
+            throwIfInterrupted();
+            if (errno != EINTR) failWithErrno(path_, errno);
+        }
+        given_ += got;
+        if (got == 0 && regular_ && given_ < size_)
+            throw Failure(ExitStatus::Failed,
+                          path_ + ": the file became shorter while it was read: " + std::to_string(given_) +
+                              " of " + std::to_string(size_) + " bytes were there");
+        return static_cast<std::size_t>(got);
+    }
+
+ private:
+    /// A pipe may stay silent for ever: now and then it is asked whether the run goes on. False for the end.
+    bool waitForInput() const {
+        constexpr int milliseconds = 100;
+        pollfd state = {file_, POLLIN, 0};
+        while (!stopped_) {
+            const int ready = poll(&state, 1, milliseconds);
+            throwIfInterrupted();
+            if (ready > 0) return true;
+            if (ready < 0 && errno != EINTR) failWithErrno(path_, errno);
+        }
+        return false;
+    }
+
+    std::string path_;
+    int file_;
+    std::atomic<bool> stopped_ = false;
+    bool regular_ = false;
+    off_t size_ = 0;
+    off_t given_ = 0;
+};
+
+class BlocksAhead : public BlockReader {
+ public:
+    explicit BlocksAhead(const std::string& path) : plain_(openBlocks(path)) {
+        for (Block& block : ring_) block.bytes.resize(blockSize);
+        thread_ = std::thread([this] { run(); });
+    }
+    ~BlocksAhead() override {
+        {
+            const std::lock_guard lock(mutex_);
+            stop_ = true;
+        }
+        plain_->stop();
+        changed_.notify_all();
+        thread_.join();
+    }
+    BlocksAhead(const BlocksAhead&) = delete;
+    BlocksAhead& operator=(const BlocksAhead&) = delete;
+
+    std::size_t read(char* place) override {
+        throwIfInterrupted();
+        std::unique_lock lock(mutex_);
+        changed_.wait(lock, [this] { return ready_ > 0 || ended_; });
+        if (ready_ == 0) {
+            if (error_) std::rethrow_exception(error_);
+            return 0;
+        }
+        Block& block = ring_[taken_ % ring_.size()];
+        lock.unlock();
+        std::memcpy(place, block.bytes.data(), block.size);
+        const std::size_t size = block.size;
+        lock.lock();
+        ++taken_;
+        --ready_;
+        lock.unlock();
+        changed_.notify_all();
+        return size;
+    }
+
+ private:
+    struct Block {
+        std::vector<char> bytes;
+        std::size_t size = 0;
+    };
+
+    void run() {
+        try {
+            for (std::size_t filled = 0;; ++filled) {
+                {
+                    std::unique_lock lock(mutex_);
+                    changed_.wait(lock, [this] { return stop_ || ready_ < ring_.size(); });
+                    if (stop_) return;
+                }
+                Block& block = ring_[filled % ring_.size()];
+                block.size = plain_->read(block.bytes.data());
+                if (block.size == 0) break;
+                {
+                    const std::lock_guard lock(mutex_);
+                    ++ready_;
+                }
+                changed_.notify_all();
+            }
+        } catch (...) {
+            const std::lock_guard lock(mutex_);
+            error_ = std::current_exception();
+        }
+        {
+            const std::lock_guard lock(mutex_);
+            ended_ = true;
+        }
+        changed_.notify_all();
+    }
+
+    std::unique_ptr<BlockReader> plain_;
+    std::array<Block, 3> ring_;
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::size_t taken_ = 0;
+    std::size_t ready_ = 0;
+    bool ended_ = false;
+    bool stop_ = false;
+    std::exception_ptr error_;
+    std::thread thread_;
+};
+
+}  // namespace
+
+std::unique_ptr<BlockReader> openBlocks(const std::string& path) {
+    return std::make_unique<PlainBlocks>(path);
+}
+
+std::unique_ptr<BlockReader> openBlocksAhead(const std::string& path) {
+    return std::make_unique<BlocksAhead>(path);
+}
+
+}  // namespace zg::tempoline

@@ -1,0 +1,89 @@
+#pragma once
+
+// What the control file of a run asks for.
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "tempoline/Times.h"
+
+namespace zg::tempoline {
+
+enum class InputKind { Surf, Up, MonitorW, AermSfc, AermPfl, Tsf, M3d, Ventos };
+
+/// The keyword of MDATA.
+const char* keywordOf(InputKind kind);
+
+struct OutputRequest {
+    int id = 0;
+    std::string name;      ///< of the files, without directory and extension
+    std::string location;  ///< may be empty
+    std::string station;   ///< empty for gridded data
+    double x = 0;          ///< as the projection says: km, degrees or cells
+    double y = 0;
+    double height = 0;  ///< metres above the ground; negative where the run knows none
+};
+
+struct Season {
+    int id = 0;
+    std::string name;
+};
+
+/// Hours by their end, 0 to 23; first above last goes over midnight.
+struct HourRange {
+    int first = 0;
+    int last = 0;
+};
+
+constexpr std::size_t sectorCount = 16;
+constexpr std::size_t classCount = 6;
+
+/// How winds are sorted into roses.
+struct RoseRules {
+    std::array<double, classCount> classLimits{};  ///< lower limits, m/s, rising; the first is that of calm
+    std::array<std::string, classCount> limitTexts{};  ///< as they were written
+    std::vector<Season> seasons;
+    std::array<int, 12> seasonOfMonth{};  ///< ids; one that no season has stands for none
+    std::vector<HourRange> hourRanges;
+};
+
+/// Coordinates of a map. Kilometres and degrees, north and east positive.
+struct MapSetting {
+    std::string projection = "NONE";  ///< NONE, LL, UTM, TTM, LCC, PS, EM, LAZA
+    std::string datum = "WGS-84";
+    double falseEasting = 0;
+    double falseNorthing = 0;
+    int utmZone = 0;
+    bool southern = false;
+    double latitude0 = 0;
+    double longitude0 = 0;
+    double latitude1 = 0;
+    double latitude2 = 0;
+};
+
+enum class SpatialMethod { Bilinear = 1, Nearest = 2 };
+
+struct Control {
+    std::string file;  ///< the control file itself
+    std::string title;
+    std::string listing;
+    InputKind kind = InputKind::AermSfc;
+    std::vector<std::string> inputs;
+    std::vector<OutputRequest> outputs;
+    bool wantsRoses = true;
+    bool wantsSeries = true;
+    Seconds begin = 0;  ///< in the zone of the run
+    Seconds end = 0;
+    std::string zone;  ///< key
+    Seconds zoneOffset = 0;
+    Seconds step = secondsAnHour;
+    SpatialMethod method = SpatialMethod::Bilinear;
+    MapSetting map;
+    int profileMethod = 3;
+    bool cellCoordinates = false;
+    RoseRules rules;
+    std::vector<std::string> warnings;
+};
+
+}  // namespace zg::tempoline

@@ -1,0 +1,326 @@
+#include "tempoline/ControlReader.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include "base/Paths.h"
+#include "base/Text.h"
+#include "tempoline/ControlKeys.h"
+#include "tempoline/ControlLexer.h"
+#include "tempoline/Wind.h"
+
+namespace zg::tempoline {
+
+namespace {
+
+constexpr int mostInputs = 10000;
+constexpr int mostOutputs = 100000;
+constexpr int mostSeasons = 400;  // an FRQ file of all its roses can still be loaded
+constexpr Seconds longestStep = secondsADay;
+constexpr Seconds mostSteps = 100'000'000;
+
+struct KindWord {
+    InputKind kind;
+    const char* word;
+};
+constexpr KindWord kindWords[] = {{InputKind::Surf, "SURF"},         {InputKind::Up, "UP"},
+                                  {InputKind::MonitorW, "MONITORW"}, {InputKind::AermSfc, "AERMSFC"},
+                                  {InputKind::AermPfl, "AERMPFL"},   {InputKind::Tsf, "TSF"},
+                                  {InputKind::M3d, "M3D"},           {InputKind::Ventos, "VENTOS"}};
+
+bool isGridded(InputKind kind) { return kind == InputKind::M3d || kind == InputKind::Ventos; }
+
+class Reader {
+ public:
+    explicit Reader(const ControlText& text) : keys_(text) {
+        control_.file = text.file;
+        control_.title = text.title;
+    }
+
+    Control read() {
+        control_.listing = plainName("TSFLST", keys_.textOr("TSFLST", "TEMPOLINE.LST"));
+        readKind();
+        readPeriod();
+        if (control_.kind == InputKind::Tsf)
+            readRoseName();
+        else
+            readOutputs();
+        if (isGridded(control_.kind)) readGridSettings();
+        readRules();
+        return std::move(control_);
+    }
+
+ private:
+    std::string plainName(std::string_view key, const std::string& name) {
+        if (name.empty()) throw keys_.failure(key, "a name is missing");
+        if (name.find('/') != std::string::npos || name == "." || name == "..")
+            throw keys_.failure(key, "\"" + name + "\" is no plain file name");
+        return name;
+    }
+
+    void readKind() {
+        const std::string word = ucase(keys_.text("MDATA"));
+        const auto* found = std::find_if(std::begin(kindWords), std::end(kindWords),
+                                         [&](const KindWord& kind) { return word == kind.word; });
+        const bool known = found != std::end(kindWords);
+        if (word == "MONITORC" || word == "POSTIME" || word == "FUMAROL")
+            throw keys_.failure("MDATA", word + " is air quality input, which is not supported");
+        if (word == "M2D") throw keys_.failure("MDATA", "M2D input is not supported");
+        if (!known) throw keys_.failure("MDATA", "\"" + word + "\" is no known type of input");
+        control_.kind = found->kind;
+        if (keys_.whole("NAQINP", 0, mostInputs) > 0)
+            throw keys_.failure("NAQINP", "air quality input is not supported");
+        const int roses = keys_.wholeOr("MROSE", 0, 0, 2);
+        if (roses == 2) throw keys_.failure("MROSE", "pollutant roses (2) are not supported");
+        control_.wantsRoses = roses == 1;
+        control_.wantsSeries = control_.kind != InputKind::Tsf;
+        if (!control_.wantsRoses && !control_.wantsSeries)
+            throw keys_.failure("MROSE", "a run with MDATA = TSF makes nothing but roses: 1 is needed");
+        const int inputs = keys_.whole("NMETINP", 1, mostInputs);
+        if (inputs > 1 && !isGridded(control_.kind))
+            throw keys_.failure("NMETINP", std::string(found->word) + " takes one file");
+        control_.inputs = keys_.texts("METINP", static_cast<std::size_t>(inputs), "NMETINP");
+        for (const std::string& input : control_.inputs) {
+            if (input.empty()) throw keys_.failure("METINP", "a file name is missing");
+        }
+    }
+
+    Seconds readMoment(const std::string& prefix) {
+        const int year = keys_.whole(prefix + "YR", 1, 9999);
+        const int month = keys_.whole(prefix + "MO", 1, 12);
+        const int day = keys_.whole(prefix + "DY", 1, 31);
+        const std::string fault = faultOfDate(year, month, day);
+        if (!fault.empty()) throw keys_.failure(prefix + "DY", fault);
+        const int hour = keys_.whole(prefix + "HR", 0, 24);
+        return momentOf(year, month, day, hour, keys_.whole(prefix + "SEC", 0, 3600));
+    }
+
+    void readPeriod() {
+        control_.begin = readMoment("IB");
+        control_.end = readMoment("IE");
+        control_.zone = ucase(keys_.text("ABTZ"));
+        const std::optional<Seconds> offset = zoneOffset(control_.zone);
+        if (!offset) throw keys_.failure("ABTZ", "\"" + control_.zone + "\" is no zone such as UTC-0500");
+        control_.zoneOffset = *offset;
+        control_.step = keys_.wholeOr("NSECDT", 3600, 1, static_cast<int>(longestStep));
+        if (control_.end <= control_.begin) throw keys_.failure("IEYR", "the period ends before it begins");
+        const Seconds steps = (control_.end - control_.begin) / control_.step;
+        if (steps == 0) throw keys_.failure("NSECDT", "the period is shorter than one step");
+        if (steps > mostSteps)
+            throw keys_.failure("NSECDT", "the period has " + std::to_string(steps) + " steps, more than " +
+                                              std::to_string(mostSteps));
+        const Seconds rest = (control_.end - control_.begin) % control_.step;
+        if (rest > 0)
+            control_.warnings.push_back("the last " + std::to_string(rest) +
+                                        " seconds of the period are no whole step and are left out");
+    }
+
+    void readRoseName() {
+        if (keys_.whole("NTSFOUT", 0, mostOutputs) != 0)
+            throw keys_.failure("NTSFOUT", "a run with MDATA = TSF makes no series: 0 is needed");
+        OutputRequest output;
+        output.id = 1;
+        output.name = plainName("ROSEPLT", keys_.text("ROSEPLT"));
+        output.height = -1;
+        control_.outputs.push_back(output);
+    }
+
+    void readOutputs() {
+        const int count = keys_.whole("NTSFOUT", 0, mostOutputs);
+        if (count == 0) throw keys_.failure("NTSFOUT", "at least one output is needed");
+        const InputKind kind = control_.kind;
+        if (count > 1 && (kind == InputKind::MonitorW || kind == InputKind::AermSfc))
+            throw keys_.failure("NTSFOUT", std::string(keywordOf(kind)) + " makes one output");
+        std::map<int, std::size_t> declared;
+        std::set<int> located;
+        int id = 0;
+        bool hasId = false;
+        std::string location;
+        for (const Assignment& entry : keys_.all()) {
+            if (entry.key == "TSFID") {
+                id = keys_.wholeOf(entry, 0, 2'000'000'000);
+                hasId = true;
+                location.clear();
+            } else if (entry.key == "TSFOUT") {
+                needId(entry, hasId);
+                if (!declared.emplace(id, control_.outputs.size()).second)
+                    throw keys_.failure(entry, "TSFID " + std::to_string(id) + " has been given before");
+                OutputRequest output;
+                output.id = id;
+                keys_.at(entry);
+                output.name = plainName("TSFOUT", entry.value);
+                control_.outputs.push_back(output);
+                hasId = false;
+            } else if (entry.key == "LOCMET") {
+                needId(entry, hasId);
+                location = entry.value;
+            } else if (entry.key == "MET") {
+                needId(entry, hasId);
+                const auto found = declared.find(id);
+                if (found == declared.end())
+                    throw keys_.failure(entry, "TSFID " + std::to_string(id) + " has no TSFOUT");
+                if (!located.insert(id).second)
+                    throw keys_.failure(entry, "TSFID " + std::to_string(id) + " has been given before");
+                readLocation(entry, control_.outputs[found->second]);
+                control_.outputs[found->second].location = location;
+                hasId = false;
+            }
+        }
+        keys_.needCount("TSFOUT", control_.outputs.size(), static_cast<std::size_t>(count), "NTSFOUT");
+        keys_.needCount("MET", located.size(), static_cast<std::size_t>(count), "NTSFOUT");
+    }
+
+    void needId(const Assignment& entry, bool hasId) {
+        if (!hasId) throw keys_.failure(entry, "a TSFID of its own must stand before it");
+    }
+
+    /// Point data name a station, X and Y; gridded data begin with X and Y.
+    void readLocation(const Assignment& entry, OutputRequest& output) {
+        const bool gridded = isGridded(control_.kind);
+        const std::vector<std::string> items = keys_.itemsOf(entry);
+        const std::size_t first = items.size() == 7 ? 1 : 0;
+        if (items.size() != 7 && !(gridded && items.size() == 6))
+            throw keys_.failure(entry, std::to_string(items.size()) + " values stand where " +
+                                           (gridded ? "6" : "7") + " are needed");
+        if (first == 1) output.station = items[0];
+        output.x = keys_.numberOf(entry, items[first]);
+        output.y = keys_.numberOf(entry, items[first + 1]);
+        output.height = keys_.numberOf(entry, items[first + 2]);
+        if (output.height < 0) throw keys_.failure(entry, "a height for the wind is needed");
+        for (std::size_t i = first + 3; i < items.size(); ++i) keys_.numberOf(entry, items[i]);
+    }
+
+    void readGridSettings() {
+        control_.method = static_cast<SpatialMethod>(keys_.wholeOr("METSIM", 1, 1, 2));
+        if (control_.kind == InputKind::M3d) {
+            control_.profileMethod = keys_.whole("MPROF", 1, 4);
+            control_.cellCoordinates = keys_.wholeOr("MCELL", 0, 0, 1) == 1;
+        }
+        MapSetting& map = control_.map;
+        map.projection = ucase(keys_.textOr("PMAP", "UTM"));
+        map.datum = keys_.textOr("DATUM", "WGS-84");
+        static const std::set<std::string> known = {"NONE", "LL", "UTM", "TTM", "LCC", "PS", "EM", "LAZA"};
+        if (known.count(map.projection) == 0)
+            throw keys_.failure("PMAP", "\"" + map.projection + "\" is no known projection");
+        if (map.projection == "NONE" && !control_.cellCoordinates)
+            throw keys_.failure("PMAP", "NONE leaves the locations without coordinates");
+        if (!control_.cellCoordinates) readProjection(map);
+    }
+
+    void readProjection(MapSetting& map) {
+        const std::string& code = map.projection;
+        if (code == "UTM") {
+            map.utmZone = keys_.whole("IUTMZN", 1, 60);
+            const std::string hemisphere = ucase(keys_.textOr("UTMHEM", "N"));
+            if (hemisphere != "N" && hemisphere != "S") throw keys_.failure("UTMHEM", "N or S is needed");
+            map.southern = hemisphere == "S";
+        }
+        if (code == "TTM" || code == "LCC" || code == "LAZA") {
+            map.falseEasting = keys_.numberOr("FEAST", 0);
+            map.falseNorthing = keys_.numberOr("FNORTH", 0);
+        }
+        if (code == "TTM" || code == "LCC" || code == "PS" || code == "EM" || code == "LAZA") {
+            map.latitude0 = keys_.latitude("RLAT0");
+            map.longitude0 = keys_.longitude("RLON0");
+        }
+        if (code == "LCC" || code == "PS") map.latitude1 = keys_.latitude("XLAT1");
+        if (code == "LCC") map.latitude2 = keys_.latitude("XLAT2");
+    }
+
+    /// Classes, seasons and hours have defaults that only a run without roses may rely on: a control file
+    /// that was cut off shall not be counted by other rules than it was written with.
+    void readRules() {
+        if (control_.wantsRoses) {
+            for (const char* const key : {"WSBIN", "NSEASN", "NTPD", "MSN"}) keys_.text(key);
+        }
+        readClasses();
+        readSeasons();
+        const int ranges = keys_.wholeOr("NTPD", 0, 0, 24 * 24);
+        for (const Assignment& entry : keys_.all()) {
+            if (entry.key == "HR") control_.rules.hourRanges.push_back(readHours(entry));
+        }
+        keys_.needCount("HR", control_.rules.hourRanges.size(), static_cast<std::size_t>(ranges), "NTPD");
+        if (keys_.wholeOr("NWSP", 0, 0, 1000) > 0)
+            throw keys_.failure("NWSP", "roses of single speed ranges are not supported");
+    }
+
+    void readClasses() {
+        const std::vector<std::string> items = keys_.items("WSBIN", "0.5, 1.8, 3.3, 5.4, 8.5, 10.8");
+        if (items.size() != classCount)
+            throw keys_.failure("WSBIN", std::to_string(items.size()) + " speeds stand where 6 are needed");
+        double below = 0;
+        for (std::size_t i = 0; i < classCount; ++i) {
+            const double limit = keys_.number("WSBIN", items[i]);
+            if (limit <= below)
+                throw keys_.failure("WSBIN", "the speeds must rise and be above 0: \"" + items[i] + "\"");
+            control_.rules.classLimits[i] = below = limit;
+            control_.rules.limitTexts[i] = items[i];
+        }
+    }
+
+    void readSeasons() {
+        RoseRules& rules = control_.rules;
+        const int count = keys_.wholeOr("NSEASN", 4, 1, mostSeasons);
+        std::set<int> ids;
+        const Assignment* open = nullptr;
+        for (const Assignment& entry : keys_.all()) {
+            if (entry.key == "IDSEAS") {
+                open = &entry;
+            } else if (entry.key == "SEASNAME") {
+                if (open == nullptr) throw keys_.failure(entry, "an IDSEAS must stand before it");
+                const int id = keys_.wholeOf(*open, 1, mostSeasons);
+                if (!ids.insert(id).second)
+                    throw keys_.failure(*open, std::to_string(id) + " has been given before");
+                rules.seasons.push_back({id, entry.value});
+                open = nullptr;
+            }
+        }
+        const bool defaults = rules.seasons.empty() && !keys_.has("NSEASN");
+        if (defaults) rules.seasons = {{1, "Winter"}, {2, "Spring"}, {3, "Summer"}, {4, "Fall"}};
+        if (!defaults)
+            keys_.needCount("IDSEAS", rules.seasons.size(), static_cast<std::size_t>(count), "NSEASN");
+        readMonths(ids, defaults);
+    }
+
+    void readMonths(const std::set<int>& ids, bool defaults) {
+        const std::vector<std::string> items = keys_.items("MSN", "1 1 2 2 2 3 3 3 4 4 4 1");
+        if (items.size() != 12)
+            throw keys_.failure("MSN", std::to_string(items.size()) + " seasons stand where 12 are needed");
+        std::set<int> unknown;
+        for (std::size_t month = 0; month < 12; ++month) {
+            const int id = keys_.wholeIn("MSN", items[month], 0, 2'000'000'000);
+            control_.rules.seasonOfMonth[month] = id;
+            if (!defaults && ids.count(id) == 0) unknown.insert(id);
+        }
+        for (const int id : unknown)
+            control_.warnings.push_back("MSN: no season has the number " + std::to_string(id) +
+                                        "; its months are in no season's rose");
+    }
+
+    HourRange readHours(const Assignment& entry) {
+        const std::vector<std::string> items = keys_.itemsOf(entry);
+        if (items.size() != 2) throw keys_.failure(entry, "a first and a last hour are needed");
+        keys_.at(entry);
+        return {keys_.wholeIn("HR", items[0], 0, 24) % 24, keys_.wholeIn("HR", items[1], 0, 24) % 24};
+    }
+
+    ControlKeys keys_;
+    Control control_;
+};
+
+}  // namespace
+
+const char* keywordOf(InputKind kind) {
+    for (const KindWord& entry : kindWords) {
+        if (entry.kind == kind) return entry.word;
+    }
+    return "";
+}
+
+Control readControl(std::string_view text, const std::string& file) {
+    const ControlText assignments = readAssignments(text, file);
+    return Reader(assignments).read();
+}
+
+}  // namespace zg::tempoline

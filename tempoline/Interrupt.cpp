@@ -1,0 +1,34 @@
+#include "tempoline/Interrupt.h"
+
+#include <atomic>
+#include <csignal>
+
+#include "tempoline/Failure.h"
+
+namespace zg::tempoline {
+
+namespace {
+
+std::atomic<bool> interrupted = false;
+static_assert(std::atomic<bool>::is_always_lock_free);
+
+void noteInterrupt(int) { interrupted = true; }
+
+}  // namespace
+
+void catchInterrupts() {
+    struct sigaction action = {};
+    action.sa_handler = noteInterrupt;  // without SA_RESTART: a read that waits for a pipe returns
+    sigaction(SIGINT, &action, nullptr);
+    sigaction(SIGTERM, &action, nullptr);
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);  // a file at its limit is an error of the write, not the end
+}
+
+void throwIfInterrupted() {
+    if (interrupted) throw Failure(ExitStatus::Interrupted, "interrupted");
+}
+
+void setInterrupted(bool wish) { interrupted = wish; }
+
+}  // namespace zg::tempoline

@@ -1,0 +1,112 @@
+#include "tempoline/LineSource.h"
+
+#include <cstring>
+
+#include "tempoline/BlockReader.h"
+#include "tempoline/Fields.h"
+#include "tempoline/Wind.h"
+
+namespace zg::tempoline {
+
+LineSource::LineSource(const std::string& path, ReadAhead readAhead)
+    : path_(path),
+      blocks_(readAhead == ReadAhead::Yes ? openBlocksAhead(path) : openBlocks(path)),
+      buffer_(longestLine + BlockReader::blockSize + 2) {}
+
+LineSource::~LineSource() = default;
+
+void LineSource::failTooLong() const {
+    throw Failure(ExitStatus::Failed, path_ + ":" + std::to_string(lineNumber_ + 1) +
+                                          ": the line is longer than " + std::to_string(longestLine) +
+                                          " bytes");
+}
+
+/// Another block behind what is left; false where there is none.
+bool LineSource::fill() {
+    if (endOfFile_) return false;
+    if (end_ - begin_ > longestLine) failTooLong();
+    if (begin_ > 0) {
+        std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
+        end_ -= begin_;
+        begin_ = 0;
+    }
+    const std::size_t got = blocks_->read(buffer_.data() + end_);
+    end_ += got;
+    endOfFile_ = got == 0;
+    return got > 0;
+}
+
+bool LineSource::next(std::string_view& line) {
+    std::size_t searched = 0;
+    for (;;) {
+        const char* const from = buffer_.data() + begin_;
+        const void* const found = std::memchr(from + searched, '\n', end_ - begin_ - searched);
+        if (found != nullptr) {
+            const std::size_t length = static_cast<std::size_t>(static_cast<const char*>(found) - from);
+            if (length > longestLine) failTooLong();
+            line = {from, length};
+            begin_ += length + 1;
+            break;
+        }
+        searched = end_ - begin_;
+        if (fill()) continue;
+        if (begin_ == end_) return false;
+        line = {buffer_.data() + begin_, end_ - begin_};
+        begin_ = end_;
+        break;
+    }
+    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+    ++lineNumber_;
+    return true;
+}
+
+std::string_view LineSource::need(std::string_view what) {
+    std::string_view line;
+    if (!next(line))
+        throw Failure(ExitStatus::Failed, path_ + ":" + std::to_string(lineNumber_ + 1) +
+                                              ": the file ends where " + std::string(what) + " should stand");
+    return line;
+}
+
+void LineSource::skip(std::size_t count, std::string_view what) {
+    for (std::size_t i = 0; i < count; ++i) need(what);
+}
+
+Failure LineSource::failure(std::string_view field, std::string_view text) const {
+    std::string message = path_ + ":" + std::to_string(lineNumber_) + ": ";
+    if (!field.empty()) message.append(field).append(": ");
+    return {ExitStatus::Failed, message.append(text)};
+}
+
+namespace {
+
+/// As it may stand in a message of one line.
+std::string shown(std::string_view field) {
+    std::string text(field.substr(0, 40));
+    for (char& c : text) {
+        if (static_cast<unsigned char>(c) < ' ') c = '?';
+    }
+    return "\"" + text + (field.size() > 40 ? "...\"" : "\"");
+}
+
+}  // namespace
+
+int wholeField(const LineSource& source, std::string_view field, std::string_view name) {
+    const std::optional<int> value = wholeOf(field);
+    if (!value) throw source.failure(name, shown(field) + " is no whole number");
+    return *value;
+}
+
+double valueField(const LineSource& source, std::string_view field, std::string_view name) {
+    const std::optional<double> value = valueOf(field);
+    if (!value) throw source.failure(name, shown(field) + " is no number");
+    return *value;
+}
+
+double numberField(const LineSource& source, std::string_view field, std::string_view name) {
+    const double value = valueField(source, field, name);
+    if (!hasValue(value)) throw source.failure(name, shown(field) + " is no number");
+    return value;
+}
+
+}  // namespace zg::tempoline

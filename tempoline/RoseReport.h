@@ -1,0 +1,36 @@
+#pragma once
+
+// Everything that the files of one rose say: what was counted, of what, when.
+
+#include <string>
+#include <vector>
+
+#include "tempoline/RoseTable.h"
+
+namespace zg::tempoline {
+
+/// One run that took part in the counts.
+struct CountedRun {
+    Seconds begin = 0;
+    Seconds end = 0;
+    std::string what;  ///< kind and names of the input, station and height: the same text is the same series
+};
+
+struct RoseReport {
+    std::string title1;  ///< station or run
+    std::string title2;  ///< kind and name of the input
+    std::string height;  ///< "10.0 m"
+    std::string zone;
+    Seconds begin = 0;
+    Seconds end = 0;
+    Seconds step = secondsAnHour;
+    RoseRules rules;
+    bool hasRecords = true;  ///< some record lay in the period
+    std::vector<CountedRun> runs;
+    std::vector<RoseCounts> roses;
+};
+
+/// One line without control characters and blanks at its ends.
+std::string oneLine(const std::string& text);
+
+}  // namespace zg::tempoline

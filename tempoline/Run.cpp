@@ -1,0 +1,202 @@
+#include "tempoline/Run.h"
+
+#include <cstdio>
+#include <memory>
+#include <vector>
+
+#include "base/Lines.h"
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
+#include "tempoline/BlockReader.h"
+#include "tempoline/ControlLexer.h"
+#include "tempoline/ControlReader.h"
+#include "tempoline/FrqWriter.h"
+#include "tempoline/Interrupt.h"
+#include "tempoline/Listing.h"
+#include "tempoline/OutputFile.h"
+#include "tempoline/TabFile.h"
+#include "tempoline/Texts.h"
+#include "tempoline/TsfFile.h"
+#include "tempoline/readers/Reader.h"
+
+namespace zg::tempoline {
+
+namespace {
+
+constexpr std::size_t longestControlFile = std::size_t{16} << 20;
+
+void tellError(const std::string& message) { std::fprintf(stderr, "tempoline: %s\n", message.c_str()); }
+
+std::string readControlText(const std::string& path) {
+    try {
+        const std::unique_ptr<BlockReader> blocks = openBlocks(path);
+        std::string text;
+        std::string block(BlockReader::blockSize, '\0');
+        while (const std::size_t size = blocks->read(block.data())) {
+            text.append(block, 0, size);
+            if (text.size() > longestControlFile)
+                throw Failure(ExitStatus::BadControl, path + ": this is too long for a control file");
+        }
+        return text;
+    } catch (const Failure& failure) {
+        if (failure.status != ExitStatus::Failed) throw;
+        throw Failure(ExitStatus::BadControl, failure.what());
+    }
+}
+
+std::string sourceText(const Control& control) {
+    std::string text = keywordOf(control.kind);
+    for (std::size_t i = 0; i < control.inputs.size() && i < 3; ++i)
+        text += " " + FileNameOf(control.inputs[i]);
+    if (control.inputs.size() > 3) text += " and " + std::to_string(control.inputs.size() - 3) + " more";
+    return text;
+}
+
+/// The results of one output until they all take their names.
+struct Results {
+    std::unique_ptr<TsfFile> series;
+    std::unique_ptr<OutputFile> counts;
+    std::unique_ptr<OutputFile> frequencies;
+};
+
+class Runner {
+ public:
+    Runner(const Control& control, Listing& listing) : control_(control), listing_(listing) {}
+
+    void run() {
+        for (std::size_t i = 0; i < control_.outputs.size(); ++i) series_.emplace_back(control_);
+        results_.resize(control_.outputs.size());
+        reader_ = makeReader(control_);
+        if (control_.wantsSeries) openSeries();
+        for (const std::string& input : control_.inputs) reader_->read(input, series_);
+        for (Series& series : series_) series.finish();
+        for (const std::string& note : reader_->facts.notes) listing_.line(note);
+        for (std::size_t i = 0; i < series_.size(); ++i)
+            listing_.describeOutput(control_.outputs[i], series_[i]);
+        if (control_.wantsRoses) writeRoses();
+        for (Results& results : results_) {
+            if (results.series) results.series->file().finish();
+        }
+        throwIfInterrupted();
+        commit();
+    }
+
+ private:
+    void openSeries() {
+        for (std::size_t i = 0; i < control_.outputs.size(); ++i) {
+            const OutputRequest& output = control_.outputs[i];
+            TsfHeading heading;
+            heading.title = oneLine(titleOf(output));
+            heading.source = oneLine(sourceText(control_));
+            heading.station = output.station;
+            heading.zone = control_.zone;
+            heading.begin = control_.begin;
+            heading.end = control_.end;
+            heading.step = control_.step;
+            heading.height = output.height;
+            results_[i].series = std::make_unique<TsfFile>(output.name + ".tsf", heading);
+            series_[i].writeTo(results_[i].series.get());
+        }
+    }
+
+    std::string titleOf(const OutputRequest& output) const {
+        if (!output.location.empty()) return output.location;
+        if (!control_.title.empty()) return control_.title;
+        const std::string& station = output.station.empty() ? reader_->facts.station : output.station;
+        return station.empty() ? output.name : "Station " + station;
+    }
+
+    RoseReport reportOf(std::size_t index) const {
+        const OutputRequest& output = control_.outputs[index];
+        const double height = output.height >= 0 ? output.height : reader_->facts.height;
+        RoseReport report;
+        report.title1 = titleOf(output);
+        report.title2 = sourceText(control_);
+        report.height = height >= 0 ? metresText(height) + " m" : "unknown";
+        report.zone = control_.zone;
+        report.begin = control_.begin;
+        report.end = control_.end;
+        report.step = control_.step;
+        report.rules = control_.rules;
+        report.hasRecords = series_[index].hasRecords();
+        report.roses = series_[index].table().roses();
+        const std::string& station = output.station.empty() ? reader_->facts.station : output.station;
+        std::string what = report.title2 + ", station " + station + ", " + report.height;
+        if (output.station.empty() && control_.wantsSeries)
+            what += ", at " + fixedText(output.x, 6) + " " + fixedText(output.y, 6);
+        report.runs.push_back({report.begin, report.end, oneLine(what)});
+        return report;
+    }
+
+    void writeRoses() {
+        for (std::size_t i = 0; i < control_.outputs.size(); ++i) {
+            const RoseReport report = reportOf(i);
+            const std::string& name = control_.outputs[i].name;
+            results_[i].frequencies = std::make_unique<OutputFile>(name + ".frq");
+            results_[i].counts = std::make_unique<OutputFile>(name + ".tab");
+            results_[i].frequencies->write(frqText(report));
+            results_[i].counts->write(tabText(report));
+            results_[i].frequencies->finish();
+            results_[i].counts->finish();
+        }
+    }
+
+    /// The FRQ file comes last: where it stands, the others do.
+    void commit() {
+        for (Results& results : results_) {
+            if (results.series) results.series->file().commit();
+            if (results.counts) results.counts->commit();
+            if (results.frequencies) results.frequencies->commit();
+        }
+    }
+
+    const Control& control_;
+    Listing& listing_;
+    std::vector<Series> series_;
+    std::vector<Results> results_;
+    std::unique_ptr<InputReader> reader_;
+};
+
+void runControl(const std::string& text, const std::string& controlFile, Listing& listing) {
+    const Control control = readControl(text, controlFile);
+    listing.describe(control);
+    Runner(control, listing).run();
+}
+
+/// The name of the listing is not trusted where the file could not be read as a whole.
+std::string safeListingName(const std::string& text) {
+    const std::string name = listingNameOf(text);
+    return name.find('/') == std::string::npos && name != "." && name != ".." ? name : "TEMPOLINE.LST";
+}
+
+}  // namespace
+
+ExitStatus run(const std::string& controlFile) {
+    Listing listing("TEMPOLINE.LST");
+    std::string lastLine = "RUN COMPLETED";
+    ExitStatus status = ExitStatus::Completed;
+    listing.line("TEMPOLINE: winds of " + controlFile);
+    try {
+        const std::string text = readControlText(controlFile);
+        listing.rename(safeListingName(text));
+        runControl(text, controlFile, listing);
+    } catch (const Failure& failure) {
+        status = failure.status;
+        lastLine = std::string("ERROR: ") + failure.what();
+        tellError(failure.what());
+    } catch (const std::bad_alloc&) {
+        status = ExitStatus::Failed;
+        lastLine = "ERROR: there is not enough memory";
+        tellError("there is not enough memory");
+    }
+    try {
+        listing.line("");
+        listing.write(lastLine);
+    } catch (const Failure& failure) {
+        tellError(failure.what());
+        if (status == ExitStatus::Completed) status = ExitStatus::Failed;
+    }
+    return status;
+}
+
+}  // namespace zg::tempoline

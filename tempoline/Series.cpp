@@ -1,0 +1,112 @@
+#include "tempoline/Series.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace zg::tempoline {
+
+namespace {
+
+constexpr double degree = std::numbers::pi / 180;
+constexpr double noDirection = 1e-9;  // mean unit vectors shorter than this point nowhere
+
+}  // namespace
+
+Series::Series(const Control& control)
+    : periodBegin_(control.begin),
+      step_(control.step),
+      stepCount_((control.end - control.begin) / control.step),
+      periodEnd_(control.begin + stepCount_ * control.step),
+      calmLimit_(control.rules.classLimits[0]),
+      table_(control.rules, control.step) {}
+
+bool Series::isNext(Seconds begin, Seconds end, const LineSource& place) {
+    if (end < begin) throw place.failure("time", "the record ends before it begins");
+    if (end - begin > step_)
+        throw place.failure("time", "the record of " + std::to_string(end - begin) +
+                                        " seconds is longer than the step of " + std::to_string(step_));
+    if (any_ && begin < lastBegin_)
+        throw place.failure(
+            "time", "records are out of order: " + isoText(begin) + " stands behind " + isoText(lastBegin_));
+    if (any_ && begin == lastBegin_) {
+        if (records_.duplicate++ == 0)
+            records_.firstDuplicate = place.path() + ":" + std::to_string(place.lineNumber());
+        return false;
+    }
+    if (any_ && begin < lastEnd_)
+        throw place.failure("time", "the record of " + isoText(begin) + " begins before the last one ends, " +
+                                        isoText(lastEnd_));
+    any_ = true;
+    lastBegin_ = begin;
+    lastEnd_ = end;
+    return true;
+}
+
+void Series::add(Seconds begin, Seconds end, const Wind& wind, const LineSource& place) {
+    ++records_.read;
+    if (!isNext(begin, end, place)) return;
+    const Seconds from = std::max(begin, periodBegin_);
+    const Seconds to = std::min(end, periodEnd_);
+    const bool whole = end == begin || end - begin == step_;
+    if (whole ? begin < periodBegin_ || begin >= periodEnd_ : from >= to) {
+        ++records_.outside;
+        return;
+    }
+    const bool valid = isValid(wind, calmLimit_);
+    ++(valid ? records_.used : records_.missing);
+    if (valid && wind.speed < calmLimit_) ++records_.calm;
+    if (whole) {
+        instant_ = end == begin;
+        addPart((begin - periodBegin_) / step_, wind, valid, static_cast<double>(step_));
+        return;
+    }
+    for (Seconds at = from; at < to;) {
+        const std::int64_t index = (at - periodBegin_) / step_;
+        const Seconds next = std::min(to, periodBegin_ + (index + 1) * step_);
+        addPart(index, wind, valid, static_cast<double>(next - at));
+        at = next;
+    }
+}
+
+void Series::addPart(std::int64_t index, const Wind& wind, bool valid, double seconds) {
+    while (current_ < index) closeStep();
+    if (!valid) return;
+    ++average_.count;
+    average_.single = wind;
+    average_.weight += seconds;
+    average_.speed += wind.speed * seconds;
+    // A record that fills its step is alone there, and passes through without its vector.
+    const bool alone = average_.count == 1 && !instant_ && seconds == static_cast<double>(step_);
+    if (!alone && wind.speed > 0 && hasDirection(wind)) {
+        average_.east += seconds * std::sin(wind.direction * degree);
+        average_.north += seconds * std::cos(wind.direction * degree);
+    }
+}
+
+Wind Series::averaged() const {
+    if (average_.count == 0 || 2 * average_.weight < static_cast<double>(step_)) return {};
+    if (average_.count == 1) return average_.single;
+    Wind mean;
+    mean.speed = roundedToMillionth(average_.speed / average_.weight);
+    if (std::hypot(average_.east, average_.north) > noDirection * average_.weight) {
+        mean.direction = roundedToMillionth(std::atan2(average_.east, average_.north) / degree);
+        mean.direction = mean.direction < 0 ? mean.direction + 360 : std::abs(mean.direction);
+    }
+    return mean;
+}
+
+void Series::closeStep() {
+    const Seconds begin = periodBegin_ + current_ * step_;
+    const Wind wind = averaged();
+    table_.add(begin, wind);
+    if (file_ != nullptr) file_->add(begin, wind);
+    average_ = {};
+    ++current_;
+}
+
+void Series::finish() {
+    while (current_ < stepCount_) closeStep();
+}
+
+}  // namespace zg::tempoline

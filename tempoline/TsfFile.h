@@ -1,0 +1,44 @@
+#pragma once
+
+// Writes a time series of version 1.3: a header, then one line a step.
+
+#include <memory>
+#include <string>
+
+#include "tempoline/OutputFile.h"
+#include "tempoline/Times.h"
+#include "tempoline/Wind.h"
+
+namespace zg::tempoline {
+
+struct TsfHeading {
+    std::string title;
+    std::string source;  ///< kind and name of the input
+    std::string station;
+    std::string zone;
+    Seconds begin = 0;
+    Seconds end = 0;
+    Seconds step = secondsAnHour;
+    double height = -1;  ///< metres; negative where it is not known
+};
+
+class TsfFile {
+ public:
+    TsfFile(const std::string& name, const TsfHeading& heading);
+
+    /// The step that begins then; what is missing stands as 9999.
+    void add(Seconds begin, const Wind& wind);
+
+    OutputFile& file() { return file_; }
+
+ private:
+    void appendMoment(Seconds moment);
+
+    OutputFile file_;
+    Seconds step_;
+    std::string line_;
+    std::int64_t day_ = INT64_MIN;
+    std::string dayText_;
+};
+
+}  // namespace zg::tempoline

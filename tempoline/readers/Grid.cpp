@@ -1,0 +1,89 @@
+#include "tempoline/readers/Grid.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "tempoline/Texts.h"
+#include "tempoline/readers/Levels.h"
+
+namespace zg::tempoline {
+
+namespace {
+
+constexpr double roughness = 0.1;  // metres
+constexpr double noise = 1e-9;     // cells: what the conversion of a place to the grid may add
+constexpr double halfCell = 0.5;
+
+/// The place in cells.
+MapPoint cellPlace(const OutputRequest& output, const Control& control, const Grid& grid) {
+    if (control.cellCoordinates) return {output.x, output.y};
+    const MapPoint place = converted({output.x, output.y}, control.map, grid.map);
+    MapPoint cells = {1 + (place.x - grid.x1) / grid.cellSize, 1 + (place.y - grid.y1) / grid.cellSize};
+    // A place on a centre shall be that of the cell alone.
+    for (double* const value : {&cells.x, &cells.y}) {
+        if (std::abs(*value - std::round(*value)) < noise) *value = std::round(*value);
+    }
+    return cells;
+}
+
+struct Pair {
+    int low = 1;
+    double share = 0;  ///< of the neighbour above
+};
+
+Pair pairAt(double place, int first, int last) {
+    const double inside = std::clamp(place, static_cast<double>(first), static_cast<double>(last));
+    const int low = static_cast<int>(std::floor(inside));
+    return {low, inside - low};
+}
+
+int nearest(double place, int first, int last) {
+    return std::clamp(static_cast<int>(std::floor(place + halfCell)), first, last);
+}
+
+}  // namespace
+
+std::vector<CellShare> cellsAround(const OutputRequest& output, const Control& control, const Grid& grid) {
+    const MapPoint place = cellPlace(output, control, grid);
+    const bool inside = place.x >= grid.firstI - halfCell && place.x <= grid.lastI + halfCell &&
+                        place.y >= grid.firstJ - halfCell && place.y <= grid.lastJ + halfCell;
+    if (!inside)
+        throw Failure(ExitStatus::Failed, "the location " + fixedText(output.x, 4) + ", " +
+                                              fixedText(output.y, 4) + " of output " + output.name +
+                                              " lies outside the grid");
+    if (control.method == SpatialMethod::Nearest)
+        return {{nearest(place.x, grid.firstI, grid.lastI), nearest(place.y, grid.firstJ, grid.lastJ), 1}};
+    const Pair x = pairAt(place.x, grid.firstI, grid.lastI);
+    const Pair y = pairAt(place.y, grid.firstJ, grid.lastJ);
+    const CellShare corners[] = {{x.low, y.low, (1 - x.share) * (1 - y.share)},
+                                 {x.low + 1, y.low, x.share * (1 - y.share)},
+                                 {x.low, y.low + 1, (1 - x.share) * y.share},
+                                 {x.low + 1, y.low + 1, x.share * y.share}};
+    std::vector<CellShare> shares;
+    for (const CellShare& corner : corners) {
+        if (corner.weight > 0) shares.push_back(corner);
+    }
+    return shares;
+}
+
+Wind combined(const std::vector<CellShare>& shares, const std::vector<Wind>& winds) {
+    if (shares.size() == 1) return winds[0];
+    Components sum;
+    for (std::size_t i = 0; i < shares.size(); ++i) {
+        if (!hasComponents(winds[i])) return {};
+        const Components part = componentsOf(winds[i]);
+        sum.u += shares[i].weight * part.u;
+        sum.v += shares[i].weight * part.v;
+    }
+    return windOf(sum);
+}
+
+Wind neutralProfile(const Wind& lowest, double lowestHeight, double height) {
+    if (!hasSpeed(lowest)) return {};
+    if (height <= roughness) return {0, lowest.direction};
+    if (lowestHeight <= roughness) return lowest;
+    const double factor = std::log(height / roughness) / std::log(lowestHeight / roughness);
+    return {roundedToMillionth(lowest.speed * factor), lowest.direction};
+}
+
+}  // namespace zg::tempoline

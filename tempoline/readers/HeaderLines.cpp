@@ -1,0 +1,46 @@
+#include "tempoline/readers/HeaderLines.h"
+
+#include <array>
+
+#include "base/Text.h"
+#include "tempoline/Fields.h"
+
+namespace zg::tempoline {
+
+namespace {
+
+constexpr int mostComments = 1'000'000;
+
+}  // namespace
+
+std::string versionOf(LineSource& lines, std::string_view kind) {
+    std::array<std::string_view, 2> fields;
+    const std::size_t count = splitBlanks(lines.need("the kind of the file"), fields);
+    if (count == 0 || ucase(fields[0]) != kind)
+        throw lines.failure("", "this is no file of the kind " + std::string(kind));
+    return count > 1 ? std::string(fields[1]) : std::string();
+}
+
+int countOf(LineSource& lines, std::string_view what) {
+    const std::string_view line = lines.need(what);
+    std::array<std::string_view, 1> first;
+    splitBlanks(line.substr(0, line.find('-')), first);
+    const int count = wholeField(lines, first[0], what);
+    if (count < 0 || count > mostComments)
+        throw lines.failure(what, std::to_string(count) + " is not between 0 and 1000000");
+    return count;
+}
+
+void skipComments(LineSource& lines) {
+    lines.skip(static_cast<std::size_t>(countOf(lines, "number of comments")), "a comment");
+}
+
+Seconds zoneField(const LineSource& place, std::string_view key) {
+    const std::optional<Seconds> offset = zoneOffset(key);
+    if (!offset)
+        throw place.failure("time zone",
+                            "\"" + std::string(key.substr(0, 20)) + "\" is no zone such as UTC-0500");
+    return *offset;
+}
+
+}  // namespace zg::tempoline

@@ -1,0 +1,25 @@
+#pragma once
+
+// What the headers of several kinds of files have in common.
+
+#include <string>
+#include <string_view>
+
+#include "tempoline/LineSource.h"
+#include "tempoline/Times.h"
+
+namespace zg::tempoline {
+
+/// The first line, cut at blanks: the name of the kind in any case, and the version behind it.
+std::string versionOf(LineSource& lines, std::string_view kind);
+
+/// A line with a count (text may follow behind a hyphen) and so many lines of comment.
+void skipComments(LineSource& lines);
+
+/// The number before a hyphen.
+int countOf(LineSource& lines, std::string_view what);
+
+/// Seconds east of Greenwich; throws for what is no key of a zone.
+Seconds zoneField(const LineSource& place, std::string_view key);
+
+}  // namespace zg::tempoline

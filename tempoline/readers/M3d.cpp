@@ -1,0 +1,242 @@
+#include <array>
+#include <map>
+
+#include "base/Text.h"
+#include "tempoline/Fields.h"
+#include "tempoline/readers/Grid.h"
+#include "tempoline/readers/HeaderLines.h"
+#include "tempoline/readers/Levels.h"
+#include "tempoline/readers/Readers.h"
+#include "tempoline/readers/Stamp.h"
+
+namespace zg::tempoline {
+
+namespace {
+
+constexpr int mostCells = 100'000;  // along one side
+constexpr int directMethod = 4;
+constexpr std::size_t surfaceFields = 12;  // as far as the 10 m wind
+
+/// What one cell says of an hour.
+struct Column {
+    Wind tenMetres;
+    std::vector<Level> levels;
+};
+
+/// A needed cell: its number in the order of the file, and its place in the columns of the hour.
+struct NeededCell {
+    std::size_t order = 0;
+    std::size_t column = 0;
+    int i = 0;
+    int j = 0;
+};
+
+/// Hours of a mesoscale model, each stamped at its begin in UTC, all cells one after the other. Only the
+/// lines of the needed cells are read as numbers.
+class M3d : public InputReader {
+ public:
+    explicit M3d(const Control& control) : control_(control) {}
+
+    void read(const std::string& path, std::vector<Series>& series) override {
+        LineSource lines(path, ReadAhead::Yes);
+        readHeader(lines);
+        findCells(lines);
+        tellProfile();
+        std::string_view line;
+        while (nextHour(lines, line)) readHour(lines, line, series);
+    }
+
+ private:
+    static bool nextHour(LineSource& lines, std::string_view& line) {
+        while (lines.next(line)) {
+            if (!stripped(line).empty()) return true;
+        }
+        return false;
+    }
+
+    void readHeader(LineSource& lines) {
+        const std::string version = versionOf(lines, "3D.DAT");
+        if (version != "2.1") throw lines.failure("version", "\"" + version + "\" is not 2.1");
+        skipComments(lines);
+        lines.need("the flags");
+        readProjection(lines, lines.need("the projection"));
+        lines.need("the options of the model");
+        const std::array<int, 3> sizes = sizesOf(lines, lines.need("the first time"));
+        readExtract(lines);
+        if (sizes[0] != grid_.lastI - grid_.firstI + 1 || sizes[1] != grid_.lastJ - grid_.firstJ + 1 ||
+            sizes[2] != levelCount_)
+            throw lines.failure("bounds of the extract",
+                                "they do not agree with nx, ny and nz of the line before");
+        lines.skip(static_cast<std::size_t>(levelCount_), "a sigma level");
+    }
+
+    void readProjection(const LineSource& lines, std::string_view line) {
+        std::array<std::string_view, 11> fields;
+        if (splitBlanks(line, fields) < fields.size())
+            throw lines.failure("projection", "11 fields are needed");
+        MapSetting& map = grid_.map;
+        map = {};
+        map.projection = ucase(fields[0]);
+        if (map.projection != "LCC" && map.projection != "PS" && map.projection != "EM" &&
+            map.projection != "LL")
+            throw lines.failure("projection", "\"" + map.projection + "\" is none of LCC, PS, EM and LL");
+        map.datum = "NWS-84";  // the sphere of the models that write these files
+        map.latitude0 = numberField(lines, fields[1], "RLAT0");
+        map.longitude0 = numberField(lines, fields[2], "RLON0");
+        map.latitude1 = numberField(lines, fields[3], "XLAT1");
+        map.latitude2 = numberField(lines, fields[4], "XLAT2");
+        grid_.x1 = numberField(lines, fields[5], "X of cell (1,1)");
+        grid_.y1 = numberField(lines, fields[6], "Y of cell (1,1)");
+        grid_.cellSize = numberField(lines, fields[7], "cell size");
+        if (!(grid_.cellSize > 0)) throw lines.failure("cell size", "it must be above 0");
+    }
+
+    /// nx, ny and nz of the extract, behind the first time and the number of hours.
+    static std::array<int, 3> sizesOf(const LineSource& lines, std::string_view line) {
+        std::array<std::string_view, 5> fields;
+        if (splitBlanks(line, fields) < fields.size())
+            throw lines.failure("first time", "5 numbers are needed");
+        return {wholeField(lines, fields[2], "nx"), wholeField(lines, fields[3], "ny"),
+                wholeField(lines, fields[4], "nz")};
+    }
+
+    void readExtract(LineSource& lines) {
+        std::array<std::string_view, 6> fields;
+        if (splitBlanks(lines.need("the bounds of the extract"), fields) < fields.size())
+            throw lines.failure("bounds of the extract", "6 numbers are needed");
+        std::array<int, 6> bounds{};
+        for (std::size_t k = 0; k < bounds.size(); ++k) {
+            bounds[k] = wholeField(lines, fields[k], "bounds of the extract");
+            if (bounds[k] < 1 || bounds[k] > mostCells)
+                throw lines.failure("bounds of the extract", std::to_string(bounds[k]) + " is out of range");
+        }
+        grid_.firstI = bounds[0];
+        grid_.firstJ = bounds[1];
+        grid_.lastI = bounds[2];
+        grid_.lastJ = bounds[3];
+        levelCount_ = bounds[5] - bounds[4] + 1;
+        if (grid_.lastI < grid_.firstI || grid_.lastJ < grid_.firstJ || levelCount_ < 1)
+            throw lines.failure("bounds of the extract", "they do not rise");
+        cellCount_ = static_cast<std::size_t>(grid_.lastI - grid_.firstI + 1) *
+                     static_cast<std::size_t>(grid_.lastJ - grid_.firstJ + 1);
+    }
+
+    /// The lines of the cells tell in which order they stand in each hour.
+    void findCells(LineSource& lines) {
+        shares_.clear();
+        std::map<std::pair<int, int>, std::size_t> columns;
+        for (const OutputRequest& output : control_.outputs) {
+            shares_.push_back(cellsAround(output, control_, grid_));
+            for (const CellShare& share : shares_.back())
+                columns.emplace(std::pair(share.i, share.j), columns.size());
+        }
+        columns_.assign(columns.size(), {});
+        needed_.clear();
+        for (std::size_t order = 0; order < cellCount_; ++order) {
+            std::array<std::string_view, 2> fields;
+            if (splitBlanks(lines.need("a cell"), fields) < 2)
+                throw lines.failure("cell", "i and j are needed");
+            const std::pair cell(wholeField(lines, fields[0], "i"), wholeField(lines, fields[1], "j"));
+            const auto found = columns.find(cell);
+            if (found != columns.end()) needed_.push_back({order, found->second, cell.first, cell.second});
+        }
+        if (needed_.size() != columns.size())
+            throw lines.failure("cells", "a cell of the extract is missing or stands twice");
+        columnOf_ = std::move(columns);
+    }
+
+    void tellProfile() {
+        if (control_.profileMethod != directMethod)
+            note(
+                "Winds below the first level follow the neutral logarithmic profile over a roughness of 0.1 "
+                "m (MPROF = " +
+                std::to_string(control_.profileMethod) + ")");
+    }
+
+    void readHour(LineSource& lines, std::string_view firstLine, std::vector<Series>& series) {
+        const Seconds begin = timeOf(lines, firstLine) + control_.zoneOffset;
+        std::size_t order = 0;
+        std::string_view line = firstLine;
+        const std::size_t linesACell = static_cast<std::size_t>(levelCount_) + 1;
+        bool atFirst = true;  // the first line of the hour has been read
+        for (const NeededCell& cell : needed_) {
+            std::size_t skipped = (cell.order - order) * linesACell;
+            if (skipped > 0 && atFirst) {
+                --skipped;
+                atFirst = false;
+            }
+            lines.skip(skipped, "a cell of the hour");
+            if (!atFirst) line = lines.need("a cell of the hour");
+            atFirst = false;
+            readColumn(lines, line, cell, begin);
+            order = cell.order + 1;
+        }
+        lines.skip((cellCount_ - order) * linesACell - (atFirst ? 1 : 0), "a cell of the hour");
+        for (std::size_t i = 0; i < series.size(); ++i)
+            series[i].add(begin, begin + secondsAnHour, windOfOutput(i), lines);
+    }
+
+    static Seconds timeOf(const LineSource& lines, std::string_view line) {
+        std::array<std::string_view, 1> fields;
+        splitBlanks(line, fields);
+        const std::string_view stamp = fields[0];
+        if (stamp.size() != 10 || stamp.find_first_not_of("0123456789") != std::string_view::npos)
+            throw lines.failure("time", "a time as yyyymmddhh is needed");
+        return stampOf(lines, stamp.substr(0, 4), stamp.substr(4, 2), stamp.substr(6, 2), stamp.substr(8, 2));
+    }
+
+    void readColumn(LineSource& lines, std::string_view line, const NeededCell& cell, Seconds begin) {
+        std::array<std::string_view, surfaceFields> fields;
+        if (splitBlanks(line, fields) < surfaceFields)
+            throw lines.failure("cell", "at least 12 fields are needed");
+        if (timeOf(lines, line) + control_.zoneOffset != begin)
+            throw lines.failure("time", "the cells of an hour have different times");
+        if (wholeField(lines, fields[1], "i") != cell.i || wholeField(lines, fields[2], "j") != cell.j)
+            throw lines.failure("cell",
+                                std::to_string(cell.i) + " " + std::to_string(cell.j) + " should stand here");
+        Column& column = columns_[cell.column];
+        column.tenMetres = {valueField(lines, fields[11], "ws10"), valueField(lines, fields[10], "wd10")};
+        column.levels.clear();
+        std::array<std::string_view, 5> parts;
+        for (int k = 0; k < levelCount_; ++k) {
+            if (splitBlanks(lines.need("a level"), parts) < parts.size())
+                throw lines.failure("level", "at least 5 fields are needed");
+            const double height = numberField(lines, parts[1], "height");
+            if (!column.levels.empty() && height <= column.levels.back().height)
+                throw lines.failure("height", "the levels do not rise");
+            column.levels.push_back(
+                {height, {valueField(lines, parts[4], "ws"), valueField(lines, parts[3], "wd")}});
+        }
+    }
+
+    Wind windOfColumn(const Column& column, double height) const {
+        const Level& lowest = column.levels.front();
+        if (height >= lowest.height) return windAtHeight(column.levels, height);
+        if (control_.profileMethod == directMethod) return column.tenMetres;
+        return neutralProfile(lowest.wind, lowest.height, height);
+    }
+
+    Wind windOfOutput(std::size_t output) {
+        winds_.clear();
+        for (const CellShare& share : shares_[output])
+            winds_.push_back(
+                windOfColumn(columns_[columnOf_.at({share.i, share.j})], control_.outputs[output].height));
+        return combined(shares_[output], winds_);
+    }
+
+    const Control& control_;
+    Grid grid_;
+    int levelCount_ = 0;
+    std::size_t cellCount_ = 0;
+    std::vector<std::vector<CellShare>> shares_;  ///< by output
+    std::map<std::pair<int, int>, std::size_t> columnOf_;
+    std::vector<NeededCell> needed_;  ///< in the order of the file
+    std::vector<Column> columns_;
+    std::vector<Wind> winds_;
+};
+
+}  // namespace
+
+std::unique_ptr<InputReader> makeM3d(const Control& control) { return std::make_unique<M3d>(control); }
+
+}  // namespace zg::tempoline

@@ -1,0 +1,124 @@
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <map>
+
+#include "tempoline/Fields.h"
+#include "tempoline/readers/HeaderLines.h"
+#include "tempoline/readers/Readers.h"
+#include "tempoline/readers/Stamp.h"
+
+namespace zg::tempoline {
+
+namespace {
+
+constexpr std::size_t stationFields = 8;
+constexpr int mostStations = 1'000'000;
+
+/// A line of the time, then one a station. Version 2.0 stamps hours at their end.
+class Surf : public InputReader {
+ public:
+    explicit Surf(const Control& control) : control_(control) {}
+
+    void read(const std::string& path, std::vector<Series>& series) override {
+        LineSource lines(path);
+        readHeader(lines);
+        std::string_view line;
+        while (lines.next(line)) {
+            if (stripped(line).empty()) continue;
+            readTimes(lines, line);
+            readStations(lines, series);
+        }
+    }
+
+ private:
+    void readHeader(LineSource& lines) {
+        const std::string version = versionOf(lines, "SURF.DAT");
+        if (version != "2.0" && version != "2.1")
+            throw lines.failure("version", "\"" + version + "\" is neither 2.0 nor 2.1");
+        hasSeconds_ = version == "2.1";
+        skipComments(lines);
+        lines.need("the line behind the comments");
+        if (hasSeconds_) fileOffset_ = zoneField(lines, lines.need("the time zone"));
+        const std::string_view line = lines.need("the period");
+        std::array<std::string_view, 9> fields;
+        const std::size_t count = splitBlanks(line, fields);
+        const std::size_t needed = hasSeconds_ ? 9 : 8;
+        if (count < needed) throw lines.failure("period", std::to_string(needed) + " numbers are needed");
+        if (!hasSeconds_) {
+            const double west = numberField(lines, fields[6], "time zone");
+            if (std::abs(west) > 14) throw lines.failure("time zone", "more than 14 hours");
+            fileOffset_ = -std::llround(west * static_cast<double>(secondsAnHour));
+        }
+        stationCount_ = wholeField(lines, fields[needed - 1], "number of stations");
+        if (stationCount_ < 1 || stationCount_ > mostStations)
+            throw lines.failure("number of stations", std::to_string(stationCount_) + " is out of range");
+        readStationNames(lines);
+    }
+
+    void readStationNames(LineSource& lines) {
+        std::vector<std::string> names;
+        for (int i = 0; i < stationCount_; ++i) names.emplace_back(stripped(lines.need("a station")));
+        for (std::size_t output = 0; output < control_.outputs.size(); ++output)
+            rows_.emplace(rowOf(lines, names, control_.outputs[output]), output);
+    }
+
+    /// The number of an output is that of its row; a file of other rows is searched for the station's name.
+    static int rowOf(const LineSource& lines, const std::vector<std::string>& names,
+                     const OutputRequest& output) {
+        const std::size_t own = static_cast<std::size_t>(output.id) - 1;
+        if (own < names.size() && names[own] == output.station) return output.id - 1;
+        const auto found = std::find(names.begin(), names.end(), output.station);
+        if (found == names.end())
+            throw lines.failure("stations", "there is no station \"" + output.station + "\"");
+        return static_cast<int>(found - names.begin());
+    }
+
+    void readTimes(const LineSource& lines, std::string_view line) {
+        std::array<std::string_view, 8> fields;
+        const std::size_t count = splitBlanks(line, fields);
+        const std::size_t needed = hasSeconds_ ? 8 : 3;
+        if (count < needed) throw lines.failure("time", std::to_string(needed) + " numbers are needed");
+        const Seconds shift = control_.zoneOffset - fileOffset_;
+        begin_ = julianStampOf(lines, fields[0], fields[1], fields[2], hasSeconds_ ? fields[3] : "0") + shift;
+        end_ = begin_;
+        if (hasSeconds_)
+            end_ = julianStampOf(lines, fields[4], fields[5], fields[6], fields[7]) + shift;
+        else
+            begin_ -= secondsAnHour;
+    }
+
+    void readStations(LineSource& lines, std::vector<Series>& series) {
+        int row = 0;
+        for (auto at = rows_.begin(); at != rows_.end();) {
+            lines.skip(static_cast<std::size_t>(at->first - row), "a station's values");
+            row = at->first + 1;
+            const Wind wind = windOfLine(lines, lines.need("a station's values"));
+            for (const int own = at->first; at != rows_.end() && at->first == own; ++at)
+                series[at->second].add(begin_, end_, wind, lines);
+        }
+        lines.skip(static_cast<std::size_t>(stationCount_ - row), "a station's values");
+    }
+
+    static Wind windOfLine(const LineSource& lines, std::string_view line) {
+        std::array<std::string_view, stationFields> fields;
+        const std::size_t count = splitBlanks(line, fields);
+        if (count < stationFields)
+            throw lines.failure("", "the line has " + std::to_string(count) + " of at least 8 fields");
+        return {valueField(lines, fields[0], "wind speed"), valueField(lines, fields[1], "wind direction")};
+    }
+
+    const Control& control_;
+    bool hasSeconds_ = false;
+    Seconds fileOffset_ = 0;
+    int stationCount_ = 0;
+    std::multimap<int, std::size_t> rows_;  ///< row of the station, and the output that wants it
+    Seconds begin_ = 0;
+    Seconds end_ = 0;
+};
+
+}  // namespace
+
+std::unique_ptr<InputReader> makeSurf(const Control& control) { return std::make_unique<Surf>(control); }
+
+}  // namespace zg::tempoline

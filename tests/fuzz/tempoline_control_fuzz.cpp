@@ -1,0 +1,19 @@
+// Any bytes as a control file: a run, or a Failure, and nothing else.
+
+#include <cstdint>
+#include <string_view>
+
+#include "tempoline/ControlLexer.h"
+#include "tempoline/ControlReader.h"
+#include "tempoline/Failure.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    try {
+        zg::tempoline::listingNameOf(text);
+        zg::tempoline::readControl(text, "c.inp");
+    } catch (const zg::tempoline::Failure&) {
+        return 0;  // told to the user
+    }
+    return 0;
+}

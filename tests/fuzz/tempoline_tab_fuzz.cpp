@@ -1,0 +1,23 @@
+// Any bytes as a file of counts: what is read is written as the same counts again.
+
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include "tempoline/Failure.h"
+#include "tempoline/FrqWriter.h"
+#include "tempoline/TabFile.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace zg::tempoline;
+    RoseReport report;
+    try {
+        report = readTab({reinterpret_cast<const char*>(data), size}, "a.tab");
+    } catch (const Failure&) {
+        return 0;  // told to the user
+    }
+    frqText(report);
+    const std::string text = tabText(report);
+    if (tabText(readTab(text, "a.tab")) != text) std::abort();
+    return 0;
+}

@@ -1,0 +1,78 @@
+#include "tempoline/readers/Grid.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/tempoline/TempolineSupport.h"
+
+namespace zg::tempoline {
+
+namespace {
+
+Grid fourByThree() {
+    Grid grid;
+    grid.map.projection = "UTM";
+    grid.map.utmZone = 18;
+    grid.x1 = 500;
+    grid.y1 = 4500;
+    grid.cellSize = 2;
+    grid.lastI = 4;
+    grid.lastJ = 3;
+    return grid;
+}
+
+std::vector<CellShare> around(double x, double y, SpatialMethod method = SpatialMethod::Bilinear) {
+    Control control = dayControl();
+    control.map = fourByThree().map;
+    control.method = method;
+    control.outputs[0].x = x;
+    control.outputs[0].y = y;
+    return cellsAround(control.outputs[0], control, fourByThree());
+}
+
+}  // namespace
+
+TEST(Grid, ACentreIsOneCell) {
+    const std::vector<CellShare> shares = around(502, 4504);
+    ASSERT_EQ(shares.size(), 1U);
+    EXPECT_EQ(shares[0].i, 2);
+    EXPECT_EQ(shares[0].j, 3);
+}
+
+TEST(Grid, WeightsOfFourCells) {
+    const std::vector<CellShare> shares = around(500.5, 4501.5);
+    ASSERT_EQ(shares.size(), 4U);
+    EXPECT_NEAR(shares[0].weight, 0.75 * 0.25, 1e-6);
+    EXPECT_NEAR(shares[3].weight, 0.25 * 0.75, 1e-6);
+    EXPECT_EQ(shares[3].i, 2);
+    EXPECT_EQ(shares[3].j, 2);
+}
+
+TEST(Grid, TheOuterHalvesOfCellsBelongToThem) {
+    ASSERT_EQ(around(499.1, 4499.1).size(), 1U);
+    EXPECT_EQ(around(506.9, 4504.9)[0].i, 4);
+    EXPECT_EQ(around(502.99, 4500.99, SpatialMethod::Nearest)[0].i, 2);
+    EXPECT_EQ(around(503, 4501, SpatialMethod::Nearest)[0].j, 2);
+}
+
+TEST(Grid, APlaceOutsideIsNamed) {
+    EXPECT_EQ(failureOf([] { around(498.9, 4502); }),
+              "the location 498.9000, 4502.0000 of output out lies outside the grid");
+    EXPECT_NE(failureOf([] { around(502, 4505.1); }), "");
+}
+
+TEST(Grid, OneMissingCellMakesTheWindMissing) {
+    const std::vector<CellShare> shares = {{1, 1, 0.5}, {2, 1, 0.5}};
+    EXPECT_FALSE(hasSpeed(combined(shares, {{4, 90}, {}})));
+    EXPECT_EQ(combined(shares, {{4, 90}, {2, 90}}).speed, 3);
+    EXPECT_EQ(combined(shares, {{4, 90}, {0, missingValue}}).speed, 2);
+}
+
+TEST(Grid, NeutralProfile) {
+    EXPECT_EQ(neutralProfile({5, 120}, 10, 10).speed, 5);
+    EXPECT_EQ(neutralProfile({5, 120}, 100, 10).speed, roundedToMillionth(5 * 2.0 / 3.0));
+    EXPECT_EQ(neutralProfile({5, 120}, 100, 10).direction, 120);
+    EXPECT_EQ(neutralProfile({5, 120}, 100, 0.1).speed, 0);
+    EXPECT_FALSE(hasSpeed(neutralProfile({99, 120}, 100, 10)));
+}
+
+}  // namespace zg::tempoline

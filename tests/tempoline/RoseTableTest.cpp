@@ -1,0 +1,66 @@
+#include "tempoline/RoseTable.h"
+
+#include <gtest/gtest.h>
+
+#include "tempoline/FrqWriter.h"
+#include "tests/tempoline/TempolineSupport.h"
+
+namespace zg::tempoline {
+
+TEST(RoseTable, ClassesBeginAtTheirLimits) {
+    const std::array<double, classCount> limits = dayControl().rules.classLimits;
+    EXPECT_EQ(classOf(0.5, limits), 0U);
+    EXPECT_EQ(classOf(1.799, limits), 0U);
+    EXPECT_EQ(classOf(1.8, limits), 1U);
+    EXPECT_EQ(classOf(10.8, limits), 5U);
+    EXPECT_EQ(classOf(90, limits), 5U);
+}
+
+TEST(RoseTable, ARangeOverMidnightHoldsBothEnds) {
+    Control control = dayControl();
+    control.rules.hourRanges = {{23, 1}};
+    RoseTable table(control.rules, 3600);
+    for (int hour = 0; hour < 24; ++hour) table.add(control.begin + hour * secondsAnHour, {2, 0});
+    EXPECT_EQ(table.roses()[3].total, 3);
+}
+
+TEST(RoseTable, TimesBeforeTheEpochCountToo) {
+    Control control = dayControl();
+    control.rules.hourRanges = {{1, 1}};
+    RoseTable table(control.rules, 3600);
+    table.add(momentOf(1950, 2, 28, 0, 0), {2, 0});
+    EXPECT_EQ(table.roses()[1].total, 1);
+    EXPECT_EQ(table.roses()[3].total, 1);
+}
+
+TEST(FrqWriter, RosesOfNoStepAreLeftOut) {
+    const Control control = dayControl();
+    RoseTable table(control.rules, 3600);
+    table.add(control.begin, {2, 90});
+    table.add(control.begin + 3600, {0.1, missingValue});
+    table.add(control.begin + 7200, {});
+    RoseReport report;
+    report.title1 = "A\nstation";
+    report.title2 = "AERMSFC a.sfc";
+    report.height = "10.0 m";
+    report.zone = "UTC-0500";
+    report.begin = control.begin;
+    report.end = control.end;
+    report.rules = control.rules;
+    report.roses = table.roses();
+    const std::string text = frqText(report);
+    EXPECT_EQ(
+        text.substr(0, text.find("\r\n\r\n")),
+        "WIND.FRQ        2.3             Zephyrgraph FRQ File Format\r\n1 - Comment lines\r\n"
+        "Frequencies of winds, 3600 seconds a step\r\n5 - Header lines\r\nA station\r\nAERMSFC a.sfc\r\n"
+        "Height: 10.0 m\r\nWind Speed Classes (m/s): 0.5,0.5,1.8,3.3,5.4,8.5,10.8\r\n"
+        "2004 2 29 0 0 2004 3 1 0 0 UTC-0500");
+    EXPECT_NE(text.find("Winter\r\n"), std::string::npos);
+    EXPECT_EQ(text.find("Spring\r\n"), std::string::npos);
+    EXPECT_NE(text.find("  E :    0.0000%   50.0000%    0.0000%"), std::string::npos);
+    EXPECT_NE(
+        text.find("Calm Winds: 50.00%\r\nTotal Periods = 3; Valid Periods = 2; Calm Wind Periods = 1\r\n"),
+        std::string::npos);
+}
+
+}  // namespace zg::tempoline

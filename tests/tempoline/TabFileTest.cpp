@@ -1,0 +1,58 @@
+#include "tempoline/TabFile.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/tempoline/TempolineSupport.h"
+
+namespace zg::tempoline {
+
+RoseReport reportOfDay(int hours) {
+    const Control control = dayControl();
+    RoseTable table(control.rules, 3600);
+    for (int hour = 0; hour < hours; ++hour)
+        table.add(control.begin + hour * secondsAnHour, {0.3 * hour, 15.0 * hour});
+    RoseReport report;
+    report.title1 = "Station 1";
+    report.title2 = "AERMSFC a.sfc";
+    report.height = "10.0 m";
+    report.zone = "UTC-0500";
+    report.begin = control.begin;
+    report.end = control.end;
+    report.rules = control.rules;
+    report.runs = {{control.begin, control.end, "AERMSFC a.sfc, station 1"}};
+    report.roses = table.roses();
+    return report;
+}
+
+TEST(TabFile, ReadsWhatItWrote) {
+    const RoseReport report = reportOfDay(24);
+    const std::string text = tabText(report);
+    const RoseReport read = readTab(text, "a.tab");
+    EXPECT_EQ(tabText(read), text);
+    EXPECT_EQ(read.rules.classLimits, report.rules.classLimits);
+    EXPECT_EQ(read.begin, report.begin);
+    EXPECT_EQ(read.runs[0].what, "AERMSFC a.sfc, station 1");
+    ASSERT_EQ(read.roses.size(), report.roses.size());
+    for (std::size_t i = 0; i < read.roses.size(); ++i) EXPECT_EQ(read.roses[i].cells, report.roses[i].cells);
+}
+
+TEST(TabFile, EveryCutIsRefused) {
+    const std::string text = tabText(reportOfDay(24));
+    for (std::size_t size = 0; size < text.size(); ++size)
+        EXPECT_NE(failureOf([&] { readTab(std::string_view(text).substr(0, size), "a.tab"); }), "");
+}
+
+TEST(TabFile, AChangedCountIsNoticed) {
+    std::string text = tabText(reportOfDay(24));
+    const std::size_t place = text.find("  1", text.find("class 6"));
+    text[place + 2] = '2';
+    EXPECT_NE(failureOf([&] { readTab(text, "a.tab"); }).find("do not sum to its last"), std::string::npos);
+}
+
+TEST(TabFile, OtherTextsAreRefused) {
+    EXPECT_EQ(failureOf([] { readTab("x\n", "a.tab"); }),
+              "a.tab:1: the first line is not that of a TAB file of version 1.0");
+    EXPECT_EQ(failureOf([] { readTab("", "a.tab"); }), "a.tab:1: the file ends too early");
+}
+
+}  // namespace zg::tempoline
