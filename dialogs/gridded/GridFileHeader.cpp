@@ -47,10 +47,17 @@ class Fields {
     float real(const char* name) {
         return number<float>(name, static_cast<float (*)(std::string_view)>(toSingle));
     }
+    /// "NONE" stands where a value is not used.
+    bool skipUnused() {
+        if (next_ >= fields_.size() || ucase(fields_[next_]) != "NONE") return false;
+        ++next_;
+        return true;
+    }
     /// Degrees, signed or with the letter of their hemisphere.
     float angle(const char* name) {
         if (next_ >= fields_.size()) fail(name, "is missing");
         std::string& field = fields_[next_];
+        if (skipUnused()) return 0;
         const std::string letter = ucase(rightN(field, 1));
         if (letter.find_first_of("NSEW") == std::string::npos) return real(name);
         field.pop_back();
@@ -170,9 +177,9 @@ class Header {
         r_.PMAP = map.text("PMAP");
         r_.DATUM = map.text("DATUM");
         r_.UTMHEM = map.text("UTMHEM");
-        r_.IUTMZN = map.whole("IUTMZN");
-        r_.FEAST = map.real("FEAST");
-        r_.FNORTH = map.real("FNORTH");
+        r_.IUTMZN = map.skipUnused() ? 0 : map.whole("IUTMZN");
+        r_.FEAST = map.skipUnused() ? 0 : map.real("FEAST");
+        r_.FNORTH = map.skipUnused() ? 0 : map.real("FNORTH");
         r_.RLAT0 = map.angle("RLAT0");
         r_.RLON0 = map.angle("RLON0");
         r_.XLAT1 = map.angle("XLAT1");

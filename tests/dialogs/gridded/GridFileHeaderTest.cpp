@@ -61,6 +61,15 @@ TEST_F(GridFileHeader, OfAVentosFile) {
     EXPECT_EQ(r.last.seconds, 0);
 }
 
+TEST_F(GridFileHeader, NoneStandsForWhatIsNotUsed) {
+    const InfoViewResult r =
+        read(GridKind::Ventos, ventosText("LL WGS-84 NONE NONE NONE NONE NONE NONE NONE NONE"));
+    EXPECT_EQ(r.errorFlag, 0) << r.errorText;
+    EXPECT_EQ(r.IUTMZN, 0);
+    EXPECT_EQ(r.FEAST, 0);
+    EXPECT_EQ(r.XLAT2, 0);
+}
+
 TEST_F(GridFileHeader, AnglesMayEndInTheirHemisphere) {
     const InfoViewResult r = read(GridKind::Ventos, ventosText("PS NWS-84 NONE 0 0 0 40.5S 97.25w 33N 0E"));
     EXPECT_EQ(r.errorFlag, 0) << r.errorText;
