@@ -52,6 +52,14 @@ std::string sourceText(const Control& control) {
     return text;
 }
 
+/// Files of one name in different directories are different series.
+std::string pathsText(const Control& control) {
+    std::string text = keywordOf(control.kind) + (" " + control.inputs.front());
+    if (control.inputs.size() > 1)
+        text += " to " + control.inputs.back() + ", " + std::to_string(control.inputs.size()) + " files";
+    return text;
+}
+
 /// The results of one output until they all take their names.
 struct Results {
     std::unique_ptr<TsfFile> series;
@@ -121,7 +129,7 @@ class Runner {
         report.hasRecords = series_[index].hasRecords();
         report.roses = series_[index].table().roses();
         const std::string& station = output.station.empty() ? reader_->facts.station : output.station;
-        std::string what = report.title2 + ", station " + station + ", " + report.height;
+        std::string what = pathsText(control_) + ", station " + station + ", " + report.height;
         if (output.station.empty() && control_.wantsSeries)
             what += ", at " + fixedText(output.x, 6) + " " + fixedText(output.y, 6);
         report.runs.push_back({report.begin, report.end, oneLine(what)});

@@ -78,6 +78,7 @@ TEST_P(LineSourceTest, SaysWhatIsMissingAtTheEnd) {
               directory_.file("a") + ":2: the file ends where the period should stand");
 }
 
-INSTANTIATE_TEST_SUITE_P(OneAndTwoThreads, LineSourceTest, testing::Values(ReadAhead::No, ReadAhead::Yes));
+INSTANTIATE_TEST_SUITE_P(Threads, LineSourceTest, testing::Values(ReadAhead::No, ReadAhead::Yes),
+                         [](const auto& threads) { return threads.param == ReadAhead::No ? "One" : "Two"; });
 
 }  // namespace zg::tempoline
