@@ -32,7 +32,8 @@ std::string readControlText(const std::string& path) {
         const std::unique_ptr<BlockReader> blocks = openBlocks(path);
         std::string text;
         std::string block(BlockReader::blockSize, '\0');
-        while (const std::size_t size = blocks->read(block.data())) {
+        std::vector<std::uint32_t> lineEnds;
+        while (const std::size_t size = blocks->read(block.data(), lineEnds)) {
             text.append(block, 0, size);
             if (text.size() > longestControlFile)
                 throw Failure(ExitStatus::BadControl, path + ": this is too long for a control file");
