@@ -21,6 +21,18 @@ namespace {
     throw Failure(ExitStatus::Failed, path + ": " + std::strerror(error));
 }
 
+void findLineEnds(const char* bytes, std::size_t size, std::vector<std::uint32_t>& lineEnds) {
+    lineEnds.clear();
+    const char* const end = bytes + size;
+    const char* at = bytes;
+    while (at != end) {
+        const void* const found = std::memchr(at, '\n', static_cast<std::size_t>(end - at));
+        if (found == nullptr) break;
+        at = static_cast<const char*>(found) + 1;
+        lineEnds.push_back(static_cast<std::uint32_t>(at - 1 - bytes));
+    }
+}
+
 class PlainBlocks : public BlockReader {
  public:
     explicit PlainBlocks(const std::string& path)
@@ -42,8 +54,9 @@ class PlainBlocks : public BlockReader {
 
     void stop() override { stopped_ = true; }
 
-    std::size_t read(char* place) override {
+    std::size_t read(char* place, std::vector<std::uint32_t>& lineEnds) override {
         throwIfInterrupted();
+        lineEnds.clear();
         if (!regular_ && !waitForInput()) return 0;
         ssize_t got = 0;
         while ((got = ::read(file_, place, blockSize)) < 0) {
@@ -55,6 +68,7 @@ class PlainBlocks : public BlockReader {
             throw Failure(ExitStatus::Failed,
                           path_ + ": the file became shorter while it was read: " + std::to_string(given_) +
                               " of " + std::to_string(size_) + " bytes were there");
+        findLineEnds(place, static_cast<std::size_t>(got), lineEnds);
         return static_cast<std::size_t>(got);
     }
 
@@ -98,8 +112,9 @@ class BlocksAhead : public BlockReader {
     BlocksAhead(const BlocksAhead&) = delete;
     BlocksAhead& operator=(const BlocksAhead&) = delete;
 
-    std::size_t read(char* place) override {
+    std::size_t read(char* place, std::vector<std::uint32_t>& lineEnds) override {
         throwIfInterrupted();
+        lineEnds.clear();
         std::unique_lock lock(mutex_);
         changed_.wait(lock, [this] { return ready_ > 0 || ended_; });
         if (ready_ == 0) {
@@ -109,6 +124,7 @@ class BlocksAhead : public BlockReader {
         Block& block = ring_[taken_ % ring_.size()];
         lock.unlock();
         std::memcpy(place, block.bytes.data(), block.size);
+        lineEnds.swap(block.lineEnds);
         const std::size_t size = block.size;
         lock.lock();
         ++taken_;
@@ -121,6 +137,7 @@ class BlocksAhead : public BlockReader {
  private:
     struct Block {
         std::vector<char> bytes;
+        std::vector<std::uint32_t> lineEnds;
         std::size_t size = 0;
     };
 
@@ -133,7 +150,7 @@ class BlocksAhead : public BlockReader {
                     if (stop_) return;
                 }
                 Block& block = ring_[filled % ring_.size()];
-                block.size = plain_->read(block.bytes.data());
+                block.size = plain_->read(block.bytes.data(), block.lineEnds);
                 if (block.size == 0) break;
                 {
                     const std::lock_guard lock(mutex_);

@@ -4,6 +4,7 @@
 
 #include <condition_variable>
 #include <cstddef>
+#include <cstdint>
 #include <exception>
 #include <memory>
 #include <mutex>
@@ -19,8 +20,9 @@ class BlockReader {
 
     virtual ~BlockReader() = default;
 
-    /// Puts up to blockSize bytes at the place and gives their number, 0 at the end. Throws a Failure.
-    virtual std::size_t read(char* place) = 0;
+    /// Puts up to blockSize bytes at the place and gives their number, 0 at the end; lineEnds become the
+    /// offsets of their line feeds. Throws a Failure.
+    virtual std::size_t read(char* place, std::vector<std::uint32_t>& lineEnds) = 0;
 
     /// From another thread: a read that waits for a pipe gives up, and gives 0.
     virtual void stop() {}
@@ -30,7 +32,7 @@ class BlockReader {
 /// it was read: that is a failure.
 std::unique_ptr<BlockReader> openBlocks(const std::string& path);
 
-/// The same with a thread that stays up to three blocks ahead.
+/// The same with a thread that stays up to three blocks ahead, the search for their lines included.
 std::unique_ptr<BlockReader> openBlocksAhead(const std::string& path);
 
 }  // namespace zg::tempoline

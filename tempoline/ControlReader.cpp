@@ -8,6 +8,7 @@
 #include "base/Text.h"
 #include "tempoline/ControlKeys.h"
 #include "tempoline/ControlLexer.h"
+#include "tempoline/Projection.h"
 #include "tempoline/Wind.h"
 
 namespace zg::tempoline {
@@ -205,7 +206,9 @@ class Reader {
             throw keys_.failure("PMAP", "\"" + map.projection + "\" is no known projection");
         if (map.projection == "NONE" && !control_.cellCoordinates)
             throw keys_.failure("PMAP", "NONE leaves the locations without coordinates");
-        if (!control_.cellCoordinates) readProjection(map);
+        if (control_.cellCoordinates) return;
+        if (!datumDefinition(map.datum)) throw keys_.failure("DATUM", unknownDatum(map.datum));
+        readProjection(map);
     }
 
     void readProjection(MapSetting& map) {

@@ -1,5 +1,6 @@
 #include "tempoline/LineSource.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "tempoline/BlockReader.h"
@@ -21,39 +22,36 @@ void LineSource::failTooLong() const {
                                           " bytes");
 }
 
-/// Another block behind what is left; false where there is none.
+/// Another block behind what is left, which holds no whole line; false where there is none.
 bool LineSource::fill() {
-    if (endOfFile_) return false;
     if (end_ - begin_ > longestLine) failTooLong();
+    if (endOfFile_) return false;
     if (begin_ > 0) {
         std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
         end_ -= begin_;
         begin_ = 0;
     }
-    const std::size_t got = blocks_->read(buffer_.data() + end_);
+    blockBegin_ = end_;
+    nextEnd_ = 0;
+    const std::size_t got = blocks_->read(buffer_.data() + end_, lineEnds_);
     end_ += got;
     endOfFile_ = got == 0;
+    // Only the first line of a block may be longer than a block.
+    if (!lineEnds_.empty() && blockBegin_ + lineEnds_[0] > longestLine) failTooLong();
     return got > 0;
 }
 
 bool LineSource::next(std::string_view& line) {
-    std::size_t searched = 0;
-    for (;;) {
-        const char* const from = buffer_.data() + begin_;
-        const void* const found = std::memchr(from + searched, '\n', end_ - begin_ - searched);
-        if (found != nullptr) {
-            const std::size_t length = static_cast<std::size_t>(static_cast<const char*>(found) - from);
-            if (length > longestLine) failTooLong();
-            line = {from, length};
-            begin_ += length + 1;
-            break;
-        }
-        searched = end_ - begin_;
-        if (fill()) continue;
+    while (nextEnd_ == lineEnds_.size() && fill()) {
+    }
+    if (nextEnd_ < lineEnds_.size()) {
+        const std::size_t end = blockBegin_ + lineEnds_[nextEnd_++];
+        line = {buffer_.data() + begin_, end - begin_};
+        begin_ = end + 1;
+    } else {
         if (begin_ == end_) return false;
         line = {buffer_.data() + begin_, end_ - begin_};
         begin_ = end_;
-        break;
     }
     if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
     ++lineNumber_;
@@ -69,7 +67,18 @@ std::string_view LineSource::need(std::string_view what) {
 }
 
 void LineSource::skip(std::size_t count, std::string_view what) {
-    for (std::size_t i = 0; i < count; ++i) need(what);
+    while (count > 0) {
+        const std::size_t here = std::min(count, lineEnds_.size() - nextEnd_);
+        if (here == 0) {
+            need(what);
+            --count;
+            continue;
+        }
+        nextEnd_ += here;
+        begin_ = blockBegin_ + lineEnds_[nextEnd_ - 1] + 1;
+        lineNumber_ += here;
+        count -= here;
+    }
 }
 
 Failure LineSource::failure(std::string_view field, std::string_view text) const {

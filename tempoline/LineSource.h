@@ -4,6 +4,7 @@
 // them are in memory.
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -57,6 +58,9 @@ class LineSource {
     std::vector<char> buffer_;
     std::size_t begin_ = 0;  ///< of what has not been given
     std::size_t end_ = 0;
+    std::vector<std::uint32_t> lineEnds_;  ///< of the block read last, by their offsets in it
+    std::size_t nextEnd_ = 0;              ///< of the first line that has not been given
+    std::size_t blockBegin_ = 0;           ///< where the block stands in the buffer
     bool endOfFile_ = false;
     std::size_t lineNumber_ = 0;
 };

@@ -107,7 +107,9 @@ std::string projectionDefinition(const MapSetting& map) {
 }
 
 std::string definitionOf(const MapSetting& map) {
-    std::string text = projectionDefinition(map) + " " + datumDefinition(map.datum) + " +no_defs +type=crs";
+    const std::optional<std::string> datum = datumDefinition(map.datum);
+    if (!datum) throw projectionFailure(map, unknownDatum(map.datum));
+    std::string text = projectionDefinition(map) + " " + *datum + " +no_defs +type=crs";
     if (map.projection != "LL") text += " +units=km";
     return text;
 }
@@ -140,7 +142,7 @@ MapPoint polarOrigin(const MapSetting& map) {
 
 }  // namespace
 
-std::string datumDefinition(const std::string& code) {
+std::optional<std::string> datumDefinition(const std::string& code) {
     std::string wanted = ucase(trimmed(code));
     for (const DatumAlias& alias : datumAliases) {
         if (wanted == alias.spelling) wanted = alias.code;
@@ -148,7 +150,11 @@ std::string datumDefinition(const std::string& code) {
     for (const DatumRow& row : datumRows) {
         if (wanted == row.code) return row.definition;
     }
-    throw Failure(ExitStatus::BadControl, "DATUM: \"" + code + "\" is no datum code that is known here");
+    return {};
+}
+
+std::string unknownDatum(const std::string& code) {
+    return "\"" + code.substr(0, 20) + "\" is no datum code that is known here";
 }
 
 MapPoint converted(MapPoint point, const MapSetting& from, const MapSetting& to) {

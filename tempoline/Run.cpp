@@ -32,7 +32,8 @@ std::string readControlText(const std::string& path) {
         const std::unique_ptr<BlockReader> blocks = openBlocks(path);
         std::string text;
         std::string block(BlockReader::blockSize, '\0');
-        while (const std::size_t size = blocks->read(block.data())) {
+        std::vector<std::uint32_t> lineEnds;
+        while (const std::size_t size = blocks->read(block.data(), lineEnds)) {
             text.append(block, 0, size);
             if (text.size() > longestControlFile)
                 throw Failure(ExitStatus::BadControl, path + ": this is too long for a control file");
@@ -49,6 +50,14 @@ std::string sourceText(const Control& control) {
     for (std::size_t i = 0; i < control.inputs.size() && i < 3; ++i)
         text += " " + FileNameOf(control.inputs[i]);
     if (control.inputs.size() > 3) text += " and " + std::to_string(control.inputs.size() - 3) + " more";
+    return text;
+}
+
+/// Files of one name in different directories are different series.
+std::string pathsText(const Control& control) {
+    std::string text = keywordOf(control.kind) + (" " + control.inputs.front());
+    if (control.inputs.size() > 1)
+        text += " to " + control.inputs.back() + ", " + std::to_string(control.inputs.size()) + " files";
     return text;
 }
 
@@ -121,7 +130,7 @@ class Runner {
         report.hasRecords = series_[index].hasRecords();
         report.roses = series_[index].table().roses();
         const std::string& station = output.station.empty() ? reader_->facts.station : output.station;
-        std::string what = report.title2 + ", station " + station + ", " + report.height;
+        std::string what = pathsText(control_) + ", station " + station + ", " + report.height;
         if (output.station.empty() && control_.wantsSeries)
             what += ", at " + fixedText(output.x, 6) + " " + fixedText(output.y, 6);
         report.runs.push_back({report.begin, report.end, oneLine(what)});

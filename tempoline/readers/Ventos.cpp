@@ -90,6 +90,7 @@ class Ventos : public InputReader {
         if (known.count(map.projection) == 0)
             throw lines.failure("PMAP", "\"" + map.projection + "\" is no known projection");
         map.datum = fields[1];
+        if (!datumDefinition(map.datum)) throw lines.failure("DATUM", unknownDatum(map.datum));
         map.southern = ucase(fields[2]) == "S";
         map.utmZone = ucase(fields[3]) == "NONE" ? 0 : wholeField(lines, fields[3], "IUTMZN");
         if (map.projection == "UTM" && (map.utmZone < 1 || map.utmZone > 60))

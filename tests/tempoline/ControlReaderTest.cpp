@@ -121,6 +121,8 @@ TEST(ControlReader, HandWrittenForms) {
 TEST(ControlReader, BadValuesAreNamed) {
     const std::string text = written("m3d_lcc.inp");
     EXPECT_EQ(refused(with(text, "PMAP", "XYZ")), "c.inp:261: PMAP: \"XYZ\" is no known projection");
+    EXPECT_EQ(refused(with(text, "DATUM", "ABC-9")),
+              "c.inp:340: DATUM: \"ABC-9\" is no datum code that is known here");
     EXPECT_EQ(refused(with(text, "RLAT0", "91N")), "c.inp:289: RLAT0: \"91N\" is out of range");
     EXPECT_EQ(refused(with(text, "RLON0", "west")), "c.inp:290: RLON0: \"WEST\" is no number");
     EXPECT_EQ(refused(with(text, "METSIM", "3")), "c.inp:180: METSIM: 3 is not between 1 and 2");

@@ -44,6 +44,34 @@ TEST_P(LineSourceTest, TheLongestLineIsReadAndALongerOneIsNot) {
     }
 }
 
+TEST_P(LineSourceTest, SkipsLinesOverTheEndsOfBlocks) {
+    std::string bytes;
+    std::size_t count = 0;
+    for (; bytes.size() < 5'000'000; ++count)
+        bytes += std::string(count % 1013, 'x') + std::to_string(count) + "\n";
+    const std::string path = directory_.write("a", bytes);
+    for (const std::size_t step : {std::size_t{1}, std::size_t{7}, std::size_t{2500}}) {
+        LineSource source(path, GetParam());
+        std::size_t number = 0;
+        for (; number + step < count; number += step + 1) {
+            source.skip(step, "a line");
+            ASSERT_EQ(source.need("a line"),
+                      std::string((number + step) % 1013, 'x') + std::to_string(number + step));
+            ASSERT_EQ(source.lineNumber(), number + step + 1);
+        }
+        EXPECT_EQ(failureOf([&] { source.skip(step + 1, "a line"); }),
+                  path + ":" + std::to_string(count + 1) + ": the file ends where a line should stand");
+    }
+}
+
+TEST_P(LineSourceTest, ALongLineIsNotPassedOver) {
+    const std::string path =
+        directory_.write("a", "a\n" + std::string(LineSource::longestLine + 1, 'x') + "\nb\n");
+    LineSource source(path, GetParam());
+    EXPECT_EQ(failureOf([&] { source.skip(3, "a line"); }),
+              path + ":2: the line is longer than 1048576 bytes");
+}
+
 TEST_P(LineSourceTest, AnUnfinishedReaderStops) {
     LineSource source(directory_.write("a", std::string(10'000'000, '\n')), GetParam());
     std::string_view line;
@@ -78,6 +106,7 @@ TEST_P(LineSourceTest, SaysWhatIsMissingAtTheEnd) {
               directory_.file("a") + ":2: the file ends where the period should stand");
 }
 
-INSTANTIATE_TEST_SUITE_P(OneAndTwoThreads, LineSourceTest, testing::Values(ReadAhead::No, ReadAhead::Yes));
+INSTANTIATE_TEST_SUITE_P(Threads, LineSourceTest, testing::Values(ReadAhead::No, ReadAhead::Yes),
+                         [](const auto& threads) { return threads.param == ReadAhead::No ? "One" : "Two"; });
 
 }  // namespace zg::tempoline

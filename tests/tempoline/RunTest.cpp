@@ -129,7 +129,7 @@ TEST(Run, SaysWhatIsWrongInGriddedFiles) {
     };
     const std::string head = "VENTOS.DAT 2.1\n0\n2004 1 1 0 0 2004 1 2 0 0 UTC-0500 3600\n";
     EXPECT_EQ(ventos(head + "LL XYZ N 0 0 0 0 0 0 0\n2 2 1 -75 41 1\n0 20\n"),
-              "ERROR: DATUM: \"XYZ\" is no datum code that is known here");
+              "ERROR: in.dat:4: DATUM: \"XYZ\" is no datum code that is known here");
     EXPECT_EQ(ventos(head + "LL WGS-84 N 0 0 0 0 0 0 0\n2 2 1 -79 41 1\n0 20\n"),
               "ERROR: the location -74.5000, 41.2500 of output St_VENTOS lies outside the grid");
     const std::string good = head + "LL WGS-84 N 0 0 0 0 0 0 0\n2 2 1 -75 41 1\n0 20\n";

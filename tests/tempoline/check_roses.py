@@ -181,6 +181,14 @@ def case_m3d_direct(d):
     write_control(d / "c.inp", "m3d_cell.inp", ["a.dat", "b.dat"], outputs, YEAR, gridded=True, keys=keys)
 
 
+def case_m3d_cone(d):
+    """Degrees of the usual datum on a conical grid of the models' sphere."""
+    make_inputs.m3d([d / "a.dat", d / "b.dat"], make_inputs.CONE)
+    outputs = [(1, "one", "", -97.25, 39.7, 10), (2, "two", "", -96.8, 39.9, 60)]
+    keys = {"METSIM": 1, "MPROF": 2, "MCELL": 0, "PMAP": "LL", "DATUM": "WGS-84"}
+    write_control(d / "c.inp", "m3d_cell.inp", ["a.dat", "b.dat"], outputs, YEAR, gridded=True, keys=keys)
+
+
 def case_ventos(d):
     make_inputs.ventos([d / "a.dat", d / "b.dat"])
     outputs = [(1, "centre", "", 503, 4503, 10), (2, "between", "", 502.5, 4503.25, 35), (3, "low", "", 505.0, 4502.0, 2),

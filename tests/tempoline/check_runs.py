@@ -127,7 +127,7 @@ def case_bad_control(processor, directory):
             ("WSBIN", "0.5,nan,1.8,5.4,8.5,10.8", "WSBIN: \"nan\" is no number"),
             ("WSBIN", "0.5,1.8,3.3", "WSBIN: 3 speeds stand where 6"), ("MSN", "1,1,2", "MSN: 3 seasons stand where 12"),
             ("TSFLST", "../x.lst", "TSFLST: \"../x.lst\" is no plain file name"),
-            ("TSFOUT", "/tmp/out", "TSFOUT: \"/tmp/out\" is no plain file name"),
+            ("TSFOUT", "sub/out", "TSFOUT: \"sub/out\" is no plain file name"),
             ("NTSFOUT", 2, "NTSFOUT"), ("NMETINP", 2, "NMETINP: AERMSFC takes one file"),
             ("NTPD", 3, "HR: NTPD says 3, and 4 are given"), ("NWSP", 1, "NWSP: roses of single speed ranges"),
             ("HR", "01,25", "HR: 25 is not between 0 and 24")]:

@@ -164,14 +164,18 @@ def tsf(path):
     write(path, lines)
 
 
-def m3d(paths):
-    """Two files after each other on a grid of degrees."""
+DEGREES = "LL 40.0 -97.0 30.0 60.0 -75.0 40.0 0.25 20 20 30"
+CONE = "LCC 40.0 -97.0 30.0 60.0 -120.0 -90.0 30.0 20 20 30"
+
+
+def m3d(paths, projection=DEGREES):
+    """Two files after each other."""
     winds = Winds(7, 9999.0, 9999.0)
     half = hours()[:HOURS // 2], hours()[HOURS // 2:]
     cells = [(i, j) for j in range(2, 5) for i in range(3, 7)]
     for path, moments in zip(paths, half):
         lines = ["3D.DAT          2.1             Header", "1", "a comment", "1 1 1 1 0 1",
-                 "LL 40.0 -97.0 30.0 60.0 -75.0 40.0 0.25 20 20 30", "1 2 3",
+                 projection, "1 2 3",
                  "%s %d 4 3 2" % (moments[0].strftime("%Y%m%d%H"), len(moments)), "3 2 6 4 1 2 -75 -73 40 41", "0.99", "0.95"]
         lines += ["%d %d %.3f %.3f 100 5" % (i, j, 40 + 0.25 * (j - 1), -75 + 0.25 * (i - 1)) for i, j in cells]
         for moment in moments:

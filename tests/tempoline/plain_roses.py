@@ -276,8 +276,19 @@ def joined(shares, winds):
     return wind_of(sum(w * p[0] for w, p in parts), sum(w * p[1] for w, p in parts))
 
 
+def cone(projection, longitude, latitude):
+    """Kilometres of the Lambert conformal projection of a sphere, by its closed formula."""
+    latitude0, longitude0, latitude1, latitude2 = (math.radians(float(text)) for text in projection[1:5])
+    half = lambda angle: math.tan(math.pi / 4 + angle / 2)
+    n = math.log(math.cos(latitude1) / math.cos(latitude2)) / math.log(half(latitude2) / half(latitude1))
+    rho = lambda angle: 6370 * math.cos(latitude1) * half(latitude1) ** n / n / half(angle) ** n
+    turn = n * (math.radians(longitude) - longitude0)
+    there = rho(math.radians(latitude))
+    return there * math.sin(turn), rho(latitude0) - there * math.cos(turn)
+
+
 def m3d(paths, requests, zone, single):
-    """Places in cells, or degrees on a grid in degrees."""
+    """Places in cells, or degrees on a grid in degrees or on a cone."""
     result = [[] for _ in requests]
     for path in paths:
         lines = lines_of(path)
@@ -288,7 +299,9 @@ def m3d(paths, requests, zone, single):
         levels, cells = k2 - k1 + 1, (i2 - i1 + 1) * (j2 - j1 + 1)
         at += 4 + levels + cells
         in_cells = single["MCELL"] == "1"
-        places = [(r.x, r.y) if in_cells else (1 + (r.x - x1) / size, 1 + (r.y - y1) / size) for r in requests]
+        on_map = lambda r: cone(projection, r.x, r.y) if projection[0] == "LCC" else (r.x, r.y)
+        in_grid = lambda x, y: (1 + (x - x1) / size, 1 + (y - y1) / size)
+        places = [(r.x, r.y) if in_cells else in_grid(*on_map(r)) for r in requests]
         shares = [corners(x, y, (i1, j1), (i2, j2), single["METSIM"] == "2") for x, y in places]
         while at < len(lines) and lines[at].strip():
             hour = {}
