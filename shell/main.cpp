@@ -1,4 +1,6 @@
 #include <QApplication>
+#include <QStandardPaths>
+#include <QTimer>
 #include <memory>
 
 #include "base/Paths.h"
@@ -8,6 +10,7 @@
 #include "processing/Stations.h"
 #include "shell/FrmMain.h"
 #include "shell/FrmSplashScreen.h"
+#include "shell/ReadOnlyPlace.h"
 #include "shell/settings/StartSequence.h"
 
 int main(int argc, char** argv) {
@@ -21,6 +24,12 @@ int main(int argc, char** argv) {
         window = std::make_unique<zg::frmMain>(host);
         zg::guarded(host, [&window] { window->Form_Load(); })();
         window->show();
+        // After the splash has gone.
+        QTimer::singleShot(0, window.get(), zg::guarded(host, [&host] {
+                               const auto notes = QStandardPaths::AppConfigLocation;
+                               zg::tellReadOnlyPlace(host,
+                                                     zg::filePath(QStandardPaths::writableLocation(notes)));
+                           }));
     };
     zg::startSettings();
     zg::LoadStationData();

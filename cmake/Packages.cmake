@@ -1,0 +1,43 @@
+# Two packages: a portable folder, and one for Debian. The program keeps everything beside itself, so both hold the same folder; Debian's
+# adds what the system wants to find elsewhere.
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME app)
+install(TARGETS zephyrgraph zephyrgraph-export tempoline DESTINATION . COMPONENT app)
+install(FILES ${PROJECT_SOURCE_DIR}/data/TimeZones.txt ${PROJECT_SOURCE_DIR}/data/Station_Data.csv ${PROJECT_SOURCE_DIR}/data/datums.csv
+        DESTINATION . COMPONENT app)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/samples ${PROJECT_SOURCE_DIR}/data/cluster DESTINATION . COMPONENT app USE_SOURCE_PERMISSIONS)
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md DESTINATION . COMPONENT app)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION . COMPONENT app)
+
+# From /usr/lib/zephyrgraph.
+set(system ../..)
+set(links ${CMAKE_BINARY_DIR}/package_links)
+file(MAKE_DIRECTORY ${links})
+foreach(program zephyrgraph zephyrgraph-export)
+    file(CREATE_LINK ../lib/zephyrgraph/${program} ${links}/${program} SYMBOLIC)
+    install(FILES ${links}/${program} DESTINATION ${system}/bin COMPONENT system)
+endforeach()
+install(FILES ${PROJECT_SOURCE_DIR}/data/desktop/zephyrgraph.desktop DESTINATION ${system}/share/applications COMPONENT system)
+install(FILES ${PROJECT_SOURCE_DIR}/shell/icons/zephyrgraph.svg DESTINATION ${system}/share/icons/hicolor/scalable/apps COMPONENT system)
+install(FILES ${PROJECT_SOURCE_DIR}/docs/zephyrgraph-export.1 DESTINATION ${system}/share/man/man1 COMPONENT system)
+install(FILES ${PROJECT_SOURCE_DIR}/data/completion/zephyrgraph-export.bash DESTINATION ${system}/share/bash-completion/completions
+        RENAME zephyrgraph-export COMPONENT system)
+install(FILES ${PROJECT_SOURCE_DIR}/data/completion/_zephyrgraph-export DESTINATION ${system}/share/zsh/vendor-completions COMPONENT system)
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${system}/share/doc/zephyrgraph RENAME copyright COMPONENT system)
+
+set(CPACK_PACKAGE_NAME zephyrgraph)
+set(CPACK_PACKAGE_VENDOR "Zephyrgraph")
+set(CPACK_PACKAGE_CONTACT "Zephyrgraph developers <zephyrgraph@example.org>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Wind roses from raw meteorological data, on screen, on paper and in batches")
+set(CPACK_PACKAGE_FILE_NAME ${CPACK_PACKAGE_NAME}-${PROJECT_VERSION}-linux-${CMAKE_SYSTEM_PROCESSOR})
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION science)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation, fonts-dejavu-core")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libreoffice-impress-nogui, libreoffice-writer-nogui")
+set(CPACK_STRIP_FILES ON)
+set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
+set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_GENERATOR TGZ DEB)
+set(CPACK_PROJECT_CONFIG_FILE ${PROJECT_SOURCE_DIR}/cmake/PackageKind.cmake)
+include(CPack)

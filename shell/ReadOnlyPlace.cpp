@@ -1,0 +1,65 @@
+#include "shell/ReadOnlyPlace.h"
+
+#include <cstdio>
+#include <filesystem>
+
+#include "base/Lines.h"
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
+#include "processing/Directories.h"
+
+namespace zg {
+
+namespace {
+
+bool wasTold(const std::string& notes) {
+    try {
+        for (LineReader lines(notes); !lines.atEnd();)
+            if (lines.readLine() == applicationDirectory) return true;
+    } catch (const RunTimeError&) {
+        return false;  // there are no notes yet
+    }
+    return false;
+}
+
+void noteAsTold(const std::string& notes) {
+    try {
+        const std::string before = fileExists(notes) ? readWholeFile(notes) : std::string();
+        LineWriter file(notes);
+        file.write(before);
+        file.writeLine(applicationDirectory);
+        file.close();
+    } catch (const RunTimeError&) {
+        return;  // it is told again at the next start
+    }
+}
+
+}  // namespace
+
+bool canWriteIn(const std::string& directory) {
+    const std::string path = withSeparator(directory) + "zephyrgraph-can-write.tmp";
+    std::FILE* file = std::fopen(path.c_str(), "wb");
+    if (file == nullptr) return false;
+    const bool whole = std::fputc('x', file) != EOF;
+    const bool closed = std::fclose(file) == 0;
+    std::remove(path.c_str());
+    return whole && closed;
+}
+
+void tellReadOnlyPlace(Host& host, const std::string& notesDirectory) {
+    if (canWriteIn(applicationDirectory)) return;
+    const std::string notes = withSeparator(notesDirectory) + "told-places";
+    if (wasTold(notes)) return;
+    host.showBox(
+        {"Zephyrgraph keeps its settings, expressions and background pictures beside itself, but files "
+         "cannot be made in " +
+             applicationDirectory +
+             ".\n\nThe program works all the same; changes of these are lost when it ends. Results go to "
+             "the directories you choose. A copy of the program in a directory of your own keeps them.",
+         "", BoxIcon::Information, BoxButtons::Ok});
+    std::error_code ignored;
+    std::filesystem::create_directories(notesDirectory, ignored);
+    noteAsTold(notes);
+}
+
+}  // namespace zg
