@@ -15,6 +15,9 @@ enum class InputKind { Surf, Up, MonitorW, AermSfc, AermPfl, Tsf, M3d, Ventos };
 /// The keyword of MDATA.
 const char* keywordOf(InputKind kind);
 
+/// Whether places are asked of a grid, and not stations.
+inline bool isGridded(InputKind kind) { return kind == InputKind::M3d || kind == InputKind::Ventos; }
+
 struct OutputRequest {
     int id = 0;
     std::string name;      ///< of the files, without directory and extension

@@ -32,11 +32,17 @@ std::string quoted(std::string_view text) { return "\"" + std::string(text.subst
 ControlKeys::ControlKeys(const ControlText& text) : text_(text) {
     for (const Assignment& entry : text.assignments) {
         const bool single = isAmong(singleKeys, entry.key);
-        if (!single && !isAmong(repeatedKeys, entry.key)) throw failure(entry, "there is no such key");
         const auto [place, isNew] = first_.emplace(entry.key, &entry);
         if (!isNew && single)
             throw failure(entry,
                           "the key is given twice; first in line " + std::to_string(place->second->line));
+    }
+}
+
+void ControlKeys::needKnownKeys() const {
+    for (const Assignment& entry : text_.assignments) {
+        if (!isAmong(singleKeys, entry.key) && !isAmong(repeatedKeys, entry.key))
+            throw failure(entry, "there is no such key");
     }
 }
 

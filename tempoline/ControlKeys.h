@@ -13,9 +13,11 @@ namespace zg::tempoline {
 
 class ControlKeys {
  public:
-    /// The text must outlive it. Throws for a key that there is not, and for one given twice that may stand
-    /// once.
+    /// The text must outlive it. Throws for a key given twice that may stand once.
     explicit ControlKeys(const ControlText& text);
+
+    /// Throws for a key that there is not.
+    void needKnownKeys() const;
 
     bool has(std::string_view key) const { return find(key) != nullptr; }
     const std::vector<Assignment>& all() const { return text_.assignments; }

@@ -1,22 +1,19 @@
 #include "tempoline/ControlReader.h"
 
 #include <algorithm>
-#include <map>
 #include <set>
 
-#include "base/Paths.h"
 #include "base/Text.h"
 #include "tempoline/ControlKeys.h"
 #include "tempoline/ControlLexer.h"
+#include "tempoline/ControlOutputs.h"
 #include "tempoline/Projection.h"
-#include "tempoline/Wind.h"
 
 namespace zg::tempoline {
 
 namespace {
 
 constexpr int mostInputs = 10000;
-constexpr int mostOutputs = 100000;
 constexpr int mostSeasons = 400;  // an FRQ file of all its roses can still be loaded
 constexpr Seconds longestStep = secondsADay;
 constexpr Seconds mostSteps = 100'000'000;
@@ -30,8 +27,6 @@ constexpr KindWord kindWords[] = {{InputKind::Surf, "SURF"},         {InputKind:
                                   {InputKind::AermPfl, "AERMPFL"},   {InputKind::Tsf, "TSF"},
                                   {InputKind::M3d, "M3D"},           {InputKind::Ventos, "VENTOS"}};
 
-bool isGridded(InputKind kind) { return kind == InputKind::M3d || kind == InputKind::Ventos; }
-
 class Reader {
  public:
     explicit Reader(const ControlText& text) : keys_(text) {
@@ -40,26 +35,17 @@ class Reader {
     }
 
     Control read() {
-        control_.listing = plainName("TSFLST", keys_.textOr("TSFLST", "TEMPOLINE.LST"));
-        readKind();
+        readKind();  // what is not supported is said before its keys are found unknown
+        keys_.needKnownKeys();
+        control_.listing = plainFileName(keys_, "TSFLST", keys_.textOr("TSFLST", "TEMPOLINE.LST"));
         readPeriod();
-        if (control_.kind == InputKind::Tsf)
-            readRoseName();
-        else
-            readOutputs();
+        control_.outputs = readOutputs(keys_, control_.kind);
         if (isGridded(control_.kind)) readGridSettings();
         readRules();
         return std::move(control_);
     }
 
  private:
-    std::string plainName(std::string_view key, const std::string& name) {
-        if (name.empty()) throw keys_.failure(key, "a name is missing");
-        if (name.find('/') != std::string::npos || name == "." || name == "..")
-            throw keys_.failure(key, "\"" + name + "\" is no plain file name");
-        return name;
-    }
-
     void readKind() {
         const std::string word = ucase(keys_.text("MDATA"));
         const auto* found = std::find_if(std::begin(kindWords), std::end(kindWords),
@@ -115,81 +101,6 @@ class Reader {
         if (rest > 0)
             control_.warnings.push_back("the last " + std::to_string(rest) +
                                         " seconds of the period are no whole step and are left out");
-    }
-
-    void readRoseName() {
-        if (keys_.whole("NTSFOUT", 0, mostOutputs) != 0)
-            throw keys_.failure("NTSFOUT", "a run with MDATA = TSF makes no series: 0 is needed");
-        OutputRequest output;
-        output.id = 1;
-        output.name = plainName("ROSEPLT", keys_.text("ROSEPLT"));
-        output.height = -1;
-        control_.outputs.push_back(output);
-    }
-
-    void readOutputs() {
-        const int count = keys_.whole("NTSFOUT", 0, mostOutputs);
-        if (count == 0) throw keys_.failure("NTSFOUT", "at least one output is needed");
-        const InputKind kind = control_.kind;
-        if (count > 1 && (kind == InputKind::MonitorW || kind == InputKind::AermSfc))
-            throw keys_.failure("NTSFOUT", std::string(keywordOf(kind)) + " makes one output");
-        std::map<int, std::size_t> declared;
-        std::set<int> located;
-        int id = 0;
-        bool hasId = false;
-        std::string location;
-        for (const Assignment& entry : keys_.all()) {
-            if (entry.key == "TSFID") {
-                id = keys_.wholeOf(entry, 0, 2'000'000'000);
-                hasId = true;
-                location.clear();
-            } else if (entry.key == "TSFOUT") {
-                needId(entry, hasId);
-                if (!declared.emplace(id, control_.outputs.size()).second)
-                    throw keys_.failure(entry, "TSFID " + std::to_string(id) + " has been given before");
-                OutputRequest output;
-                output.id = id;
-                keys_.at(entry);
-                output.name = plainName("TSFOUT", entry.value);
-                control_.outputs.push_back(output);
-                hasId = false;
-            } else if (entry.key == "LOCMET") {
-                needId(entry, hasId);
-                location = entry.value;
-            } else if (entry.key == "MET") {
-                needId(entry, hasId);
-                const auto found = declared.find(id);
-                if (found == declared.end())
-                    throw keys_.failure(entry, "TSFID " + std::to_string(id) + " has no TSFOUT");
-                if (!located.insert(id).second)
-                    throw keys_.failure(entry, "TSFID " + std::to_string(id) + " has been given before");
-                readLocation(entry, control_.outputs[found->second]);
-                control_.outputs[found->second].location = location;
-                hasId = false;
-            }
-        }
-        keys_.needCount("TSFOUT", control_.outputs.size(), static_cast<std::size_t>(count), "NTSFOUT");
-        keys_.needCount("MET", located.size(), static_cast<std::size_t>(count), "NTSFOUT");
-    }
-
-    void needId(const Assignment& entry, bool hasId) {
-        if (!hasId) throw keys_.failure(entry, "a TSFID of its own must stand before it");
-    }
-
-    /// Point data name a station, X and Y; gridded data begin with X and Y.
-    void readLocation(const Assignment& entry, OutputRequest& output) {
-        const bool gridded = isGridded(control_.kind);
-        const std::vector<std::string> items = keys_.itemsOf(entry);
-        const std::size_t first = items.size() == 7 ? 1 : 0;
-        if (items.size() != 7 && !(gridded && items.size() == 6))
-            throw keys_.failure(entry, std::to_string(items.size()) + " values stand where " +
-                                           (gridded ? "6" : "7") + " are needed");
-        if (first == 1) output.station = items[0];
-        output.x = keys_.numberOf(entry, items[first]);
-        output.y = keys_.numberOf(entry, items[first + 1]);
-        output.height = keys_.numberOf(entry, items[first + 2]);
-        if (output.height < 0) throw keys_.failure(entry, "a height for the wind is needed");
-        for (std::size_t i = first + 3; i < items.size(); ++i) keys_.numberOf(entry, items[i]);
     }
 
     void readGridSettings() {

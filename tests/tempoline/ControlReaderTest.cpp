@@ -132,6 +132,13 @@ TEST(ControlReader, BadValuesAreNamed) {
     EXPECT_EQ(refused(with(text, "NSECDT", "")), "c.inp:168: NSECDT: the value is missing");
 }
 
+TEST(ControlReader, WhatIsNotSupportedIsSaidBeforeItsKeysAreUnknown) {
+    std::string text = with(written("monitorw.inp"), "MDATA", "MONITORC");
+    text.insert(text.find("     Air Quality data - provide NTSFOUT"), "     ! AQ = 1, 0, 0 !\r\n");
+    EXPECT_EQ(refused(text), "c.inp:140: MDATA: MONITORC is air quality input, which is not supported");
+    EXPECT_EQ(refused(with(text, "MDATA", "MONITORW")), "c.inp:196: AQ: there is no such key");
+}
+
 TEST(ControlReader, ThePeriodMustHoldASoundNumberOfSteps) {
     const std::string text = written("aermsfc.inp");
     EXPECT_EQ(refused(with(with(text, "IEYR", "2005"), "IEMO", "1")),

@@ -5,6 +5,7 @@
 #include <regex>
 
 #include "base/Lines.h"
+#include "dialogs/point/TsfHeader.h"
 #include "graph/frq/OpenFreqFile.h"
 #include "tempoline/Interrupt.h"
 #include "tests/support/TestHost.h"
@@ -159,6 +160,23 @@ TEST(Run, TheDesktopLoadsWhatItMade) {
     EXPECT_EQ(tables.FrqValidPeriods(1), 1);
     EXPECT_EQ(tables.FrqFraction(5, 3), 1.0);
     EXPECT_EQ(tables.FrqDirectionLabel(16), "NNW");
+}
+
+TEST(Run, TheDialogReadsTheHeaderOfTheSeries) {
+    const InDirectory inside;
+    inside.directory.write("in.sfc", "header\n");
+    auto changes = firstDay;
+    changes.emplace_back("METINP", "in.sfc");
+    changes.emplace_back("NSECDT", "7200");
+    inside.directory.write("c.inp", control("aermsfc.inp", changes));
+    ASSERT_EQ(run("c.inp"), ExitStatus::Completed);
+    const TsfHeader header = readTsfHeader("out.tsf");
+    EXPECT_EQ(header.outcome, TsfOutcome::Read);
+    EXPECT_EQ(header.station, "00072");
+    EXPECT_EQ(header.timeZone, "UTC-0500");
+    EXPECT_EQ(header.begin, makeDate(2004, 1, 1));
+    EXPECT_EQ(header.end, makeDate(2004, 1, 2));
+    EXPECT_EQ(header.stepSeconds, 7200);
 }
 
 TEST(Run, WithoutARecordInThePeriodTheDesktopSaysThatAllAreMissing) {
