@@ -65,7 +65,10 @@ start_once() {
 samples() {
     cp data/samples/LOVETT_1988.frq "$root/tmp/sample.frq"
     cp data/samples/valley_series.tsf "$root/tmp/series.tsf"
-    cp tests/tempoline/data/package.inp "$root/tmp/run.inp"
+    sed -e 's|METINP = t.tsf|METINP = /tmp/series.tsf|; s|ROSEPLT = rose_out|ROSEPLT = out|' \
+        -e 's|IBYR  = 2005|IBYR  = 2023|; s|IBMO  = 3|IBMO  = 12|; s|IBDY  = 7|IBDY  = 1|; s|IBHR  = 6|IBHR  = 0|; s|IBSEC = 1815|IBSEC = 0|' \
+        -e 's|IEYR  = 2005|IEYR  = 2024|; s|IEMO  = 12|IEMO  = 2|; s|IEDY  = 31|IEDY  = 1|; s|IEHR  = 23|IEHR  = 0|' \
+        tests/processing/control/tsf.inp >"$root/tmp/run.inp"
 }
 
 fresh_root

@@ -8,7 +8,7 @@ set -euo pipefail
 packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libcli11-dev nlohmann-json3-dev libproj-dev
           fonts-liberation fonts-dejavu-core libreoffice-impress-nogui libreoffice-writer-nogui)
 tests=(libgtest-dev libbenchmark-dev libmuparser-dev parallel python3 clang libclang-rt-14-dev)
-checks=(clang-format git)
+checks=(clang-format git debootstrap dpkg-dev file)
 
 case "${1:-}" in
     "") ;;
