@@ -32,6 +32,7 @@ TEST(ReadOnlyPlace, IsToldOnceForEachPlace) {
         applicationDirectory = place;
         host.boxAnswers = {BoxAnswer::Ok};
         tellReadOnlyPlace(host, notes);
+        host.boxAnswers.clear();
     }
     ASSERT_EQ(host.boxes.size(), 2U);
     EXPECT_NE(host.boxes[0].text.find("cannot be made in /proc."), std::string::npos);
