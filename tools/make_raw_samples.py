@@ -64,14 +64,15 @@ def up(path):
 
 
 def monitor(path):
+    """One station after the other, the code in the third column: the dialog lists a station each time it comes anew."""
     generator = random.Random(3)
-    lines = ["DATETIME,STNCODE,DATAAVID,WDIR,WSPD,TEMP"]
-    for moment in hours():
-        end = moment + HOUR
-        for station in ("ridge", "valley"):
-            speed, direction = valley(generator, moment, 10.0 if station == "valley" else 60.0)
+    lines = ["DATETIME,DATAAVID,STNCODE,WDIR,WSPD,TEMP"]
+    for station, height in (("valley", 10.0), ("ridge", 60.0)):
+        for moment in hours():
+            end = moment + HOUR
+            speed, direction = valley(generator, moment, height)
             values = f"{direction:.0f},{speed:.1f}" if generator.random() > 0.01 else ","
-            lines.append(f"{end.month}/{end.day}/{end.year} {end.hour}:{end.minute:02d},{station},60,{values},7.5")
+            lines.append(f"{end.month}/{end.day}/{end.year} {end.hour}:{end.minute:02d},60,{station},{values},7.5")
     write(path, lines)
 
 

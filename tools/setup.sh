@@ -2,18 +2,21 @@
 # Installs the Debian packages that building, running and testing need: only those that are missing.
 #   tools/setup.sh            what ./run.sh needs
 #   tools/setup.sh --tests    and what ./test.sh needs
+#   tools/setup.sh --e2e      and what the walk through the program in a real window needs
 #   tools/setup.sh --checks   and what the stricter checks need
 set -euo pipefail
 
 packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libcli11-dev nlohmann-json3-dev libproj-dev
           fonts-liberation fonts-dejavu-core libreoffice-impress-nogui libreoffice-writer-nogui)
 tests=(libgtest-dev libbenchmark-dev libmuparser-dev parallel python3 clang libclang-rt-14-dev)
+e2e=(xvfb openbox xdotool imagemagick)
 checks=(clang-format git debootstrap dpkg-dev file)
 
 case "${1:-}" in
     "") ;;
     --tests) packages+=("${tests[@]}") ;;
-    --checks) packages+=("${tests[@]}" "${checks[@]}") ;;
+    --e2e) packages+=("${tests[@]}" "${e2e[@]}") ;;
+    --checks) packages+=("${tests[@]}" "${e2e[@]}" "${checks[@]}") ;;
     *) echo "tools/setup.sh: unknown option $1" >&2; exit 2 ;;
 esac
 

@@ -1,0 +1,126 @@
+"""A display of its own with a window manager, and the hands and eyes of a user at it: keys, mouse, screenshots."""
+import os
+import pathlib
+import re
+import shutil
+import signal
+import subprocess
+import time
+
+
+class Failed(Exception):
+    """A step did not come to what was expected."""
+
+
+class Desk:
+    def __init__(self, shots):
+        self.shots = pathlib.Path(shots)
+        self.shots.mkdir(parents=True, exist_ok=True)
+        self.children = []
+        read, write = os.pipe()
+        self.children.append(subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "1366x900x24", "-nolisten", "tcp"],
+                                              pass_fds=[write], stderr=subprocess.DEVNULL))
+        os.close(write)
+        with os.fdopen(read) as pipe:
+            number = pipe.readline().strip()
+        if not number:
+            raise Failed("Xvfb did not start")
+        self.env = dict(os.environ, DISPLAY=":" + number)
+        self.env.pop("QT_QPA_PLATFORM", None)
+        self.env.pop("WAYLAND_DISPLAY", None)
+        self.start(["openbox"])
+        self.count = 0
+
+    def start(self, command, **more):
+        child = subprocess.Popen(command, env={**self.env, **more.pop("env", {})}, stdout=subprocess.DEVNULL,
+                                 stderr=subprocess.DEVNULL, start_new_session=True, **more)
+        self.children.append(child)
+        return child
+
+    def close(self):
+        for child in reversed(self.children):
+            if child.poll() is None:
+                try:
+                    os.killpg(child.pid, signal.SIGTERM)
+                except (ProcessLookupError, PermissionError):
+                    child.terminate()
+                try:
+                    child.wait(timeout=5)
+                except subprocess.TimeoutExpired:
+                    child.kill()
+
+    def tool(self, *words):
+        done = subprocess.run(["timeout", "10", *map(str, words)], env=self.env, capture_output=True, text=True)
+        return done.stdout.strip()
+
+    def windows(self):
+        """Titles of the windows on show, by their numbers."""
+        found = {}
+        for number in self.tool("xdotool", "search", "--onlyvisible", "--name", "").split():
+            title = self.tool("xdotool", "getwindowname", number)
+            if title:
+                found[number] = title
+        return found
+
+    def wait(self, what, test, seconds=20):
+        """Polls until the test gives something; says what was expected and what is on show otherwise."""
+        end = time.monotonic() + seconds
+        while time.monotonic() < end:
+            seen = test()
+            if seen:
+                return seen
+            time.sleep(0.1)
+        raise Failed(f"expected within {seconds} s: {what}; windows on show: {sorted(set(self.windows().values()))}")
+
+    def window(self, title, seconds=20):
+        """The number of the window whose title matches, once it is there and has the keyboard."""
+        def look():
+            for number, name in self.windows().items():
+                if re.fullmatch(title, name):
+                    return number
+            return None
+        number = self.wait(f"a window titled {title}", look, seconds)
+        self.tool("xdotool", "windowactivate", "--sync", number)
+        return number
+
+    def gone(self, title, seconds=20):
+        self.wait(f"no window titled {title}", lambda: not any(re.fullmatch(title, name) for name in self.windows().values()), seconds)
+
+    def keys(self, *names):
+        for name in names:
+            self.tool("xdotool", "key", "--delay", "30", name)
+            time.sleep(0.03)
+
+    def type(self, text):
+        self.tool("xdotool", "type", "--delay", "8", text)
+
+    def click(self, window, x, y, button=1):
+        self.tool("xdotool", "mousemove", "--window", window, x, y, "click", button)
+
+    def drag(self, window, x, y, to_x, to_y):
+        self.tool("xdotool", "mousemove", "--window", window, x, y, "mousedown", 1)
+        for i in range(1, 9):
+            self.tool("xdotool", "mousemove", "--window", window, x + (to_x - x) * i // 8, y + (to_y - y) * i // 8)
+        self.tool("xdotool", "mouseup", 1)
+
+    def shot(self, name, window="root"):
+        self.count += 1
+        path = self.shots / f"{self.count:02d}_{name}.png"
+        self.tool("import", "-window", window, path)
+        return path
+
+    def colours(self, path, box=None):
+        """How many pixels of each colour a picture, or a part of it as WxH+X+Y, has."""
+        crop = ["-crop", box, "+repage"] if box else []
+        text = self.tool("convert", path, *crop, "-depth", "8", "-format", "%c", "histogram:info:-")
+        found = {}
+        for line in text.splitlines():
+            match = re.search(r"^\s*(\d+):.*#([0-9A-F]{6})", line)
+            if match:
+                found[match.group(2)] = found.get(match.group(2), 0) + int(match.group(1))
+        return found
+
+
+def needed():
+    """Programs that are missing."""
+    return [name for name in ("Xvfb", "openbox", "xdotool", "import", "convert") if shutil.which(name) is None]

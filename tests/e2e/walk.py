@@ -1,0 +1,403 @@
+#!/usr/bin/env python3
+"""A new user's walk through the whole program: a real window, keys and mouse only, judged by what can be seen and what lies in the files.
+
+python3 tests/e2e/walk.py BIN SHOTS
+
+BIN is the directory of the built programs with their data; the walk works in a copy of it. SHOTS gets a screenshot of each step.
+"""
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+
+from desk import Desk, Failed, needed
+
+FILE_MENU = ["open", "m3d", "surface", "profile", "monitor", "ventos", "surf", "up", "series", "save", "batch", "report", "print", "exit"]
+PAGE = "640x560+60+70"  # of the main window: the page without its surroundings
+
+
+class Walk:
+    def __init__(self, programs, shots):
+        self.scratch = pathlib.Path(tempfile.mkdtemp(prefix="zephyrgraph walk "))
+        self.home = self.scratch / "program"
+        self.out = self.scratch / "my results"
+        self.out.mkdir()
+        self.home.mkdir()
+        for name in ("zephyrgraph", "tempoline.exe", "TimeZones.txt", "Station_Data.csv", "datums.csv"):
+            shutil.copy2(pathlib.Path(programs) / name, self.home / name)
+        shutil.copytree(pathlib.Path(programs) / "samples", self.home / "samples")
+        self.samples = self.home / "samples"
+        self.desk = Desk(shots)
+        self.main = None
+
+    def close(self):
+        self.desk.close()
+        shutil.rmtree(self.scratch, ignore_errors=True)
+
+    # What a user does.
+
+    def menu(self, key, downs):
+        self.desk.window(r"Zephyrgraph.*")
+        self.desk.keys("alt+" + key)
+        time.sleep(0.3)
+        self.desk.keys(*["Down"] * downs, "Return")
+
+    def file_menu(self, entry):
+        self.menu("f", FILE_MENU.index(entry))
+
+    def pick(self, title, path):
+        """Types a path into a file dialog."""
+        self.desk.window(title)
+        time.sleep(0.2)
+        self.desk.keys("ctrl+a")
+        self.desk.type(str(path))
+        self.desk.keys("Return")
+        self.desk.gone(title)
+
+    def fill(self, key, text):
+        """Goes to a field by its key and replaces its text."""
+        self.desk.keys("alt+" + key)
+        time.sleep(0.15)
+        self.desk.keys("ctrl+a")
+        self.desk.type(str(text))
+
+    # What a user sees.
+
+    def page(self, name):
+        shot = self.desk.shot(name, self.main)
+        return shot
+
+    def changed(self, before, after, what):
+        """The page differs in more than a few pixels."""
+        done = subprocess.run(["compare", "-metric", "AE", "-extract", PAGE, before, after, "null:"], capture_output=True, text=True)
+        different = float(re.match(r"[\d.e+]+", done.stderr.strip() or "0").group(0))
+        if different < 30:
+            raise Failed(f"{what} was expected to change the page; {different:.0f} pixels differ between {before} and {after}")
+
+    def count(self, shot, colour):
+        return self.desk.colours(shot, PAGE).get(colour, 0)
+
+    def plotted(self, name):
+        self.desk.wait(f"the main window titled with {name}",
+                       lambda: any(re.fullmatch("Zephyrgraph - " + name, title) for title in self.desk.windows().values()), 40)
+
+    def file(self, path, least, what):
+        path = pathlib.Path(path)
+        self.desk.wait(f"{what}: {path.name} of at least {least} bytes", lambda: path.is_file() and path.stat().st_size >= least, 60)
+        return path
+
+    # The steps.
+
+    def first_start(self):
+        self.program = self.desk.start([str(self.home / "zephyrgraph")], cwd=self.out, env={"HOME": str(self.scratch)})
+        self.desk.window("Zephyrgraph")
+        time.sleep(1)
+        # The splash has the same title; the main window is the one with a page to draw on.
+        self.main = self.desk.wait("the main window", lambda: next(
+            (n for n in self.desk.windows() if self.desk.windows()[n] == "Zephyrgraph" and self.size(n)[0] > 650), None))
+        self.empty = self.page("first_start")
+
+    def size(self, window):
+        text = self.desk.tool("xdotool", "getwindowgeometry", "--shell", window)
+        found = dict(line.split("=") for line in text.splitlines() if "=" in line)
+        return int(found.get("WIDTH", 0)), int(found.get("HEIGHT", 0))
+
+    def open_a_file(self):
+        self.file_menu("open")
+        self.pick("Open", self.samples / "LOVETT_1988.frq")
+        self.plotted("LOVETT_1988.frq")
+        time.sleep(0.5)
+        self.rose = self.page("rose")
+        self.changed(self.empty, self.rose, "an opened file")
+        for colour in ("FF0000", "00FF00", "0000FF", "FFFF00"):
+            if self.count(self.rose, colour) < 20:
+                raise Failed(f"the rose has no wind class in #{colour}")
+
+    def choose_a_rose(self):
+        self.menu("v", 0)
+        self.desk.window("Select Wind Rose to Plot")
+        self.desk.shot("choose")
+        self.desk.keys("Down", "Down", "Return")
+        self.desk.gone("Select Wind Rose to Plot")
+        time.sleep(0.5)
+        spring = self.page("spring")
+        self.changed(self.rose, spring, "another rose")
+
+    def restyle(self):
+        before = self.page("before_restyling")
+        self.menu("o", 5)
+        self.desk.window("Edit Grid Fonts and Colors")
+        self.desk.keys("alt+g", "Return")
+        self.desk.window("Select Color")
+        self.desk.shot("colour")
+        self.fill("h", "#FF00FF")
+        self.desk.keys("Return")
+        self.desk.gone("Select Color")
+        self.desk.shot("grid_dialog")
+        self.desk.keys("alt+a", "alt+c")
+        self.desk.gone("Edit Grid Fonts and Colors")
+        time.sleep(0.5)
+        after = self.page("magenta_grid")
+        if self.count(after, "FF00FF") < self.count(before, "FF00FF") + 100:
+            raise Failed("a grid in magenta was expected")
+
+    def radius(self):
+        before = self.page("before_radius")
+        self.menu("o", 2)
+        self.desk.window("Change Radius")
+        self.desk.keys("alt+r", "Up", "Up")
+        self.desk.shot("radius")
+        self.desk.keys("Return")
+        self.desk.gone("Change Radius")
+        time.sleep(0.5)
+        self.changed(before, self.page("smaller_radius"), "another radius")
+
+    def measure(self):
+        before = self.page("before_measuring")
+        width, height = self.size(self.main)
+        self.desk.click(self.main, 24, 174)  # the circle of the tool box
+        time.sleep(0.3)
+        self.desk.tool("xdotool", "mousemove", "--window", self.main, width // 2 + 5, 390, "mousedown", 1)
+        for x in range(10, 120, 10):
+            self.desk.tool("xdotool", "mousemove", "--window", self.main, width // 2 + x, 390)
+        during = self.page("measuring")
+        self.desk.tool("xdotool", "mouseup", 1)
+        self.changed(before, during, "a circle that is being drawn")
+        self.desk.keys("Escape")
+        self.desk.click(self.main, 24, 79)  # the pointer
+
+    def annotate(self):
+        before = self.page("before_label")
+        self.menu("o", 3)
+        self.desk.window("Edit Label")
+        self.fill("u", "Lovett, checked by hand")
+        self.desk.shot("label_dialog")
+        self.desk.keys("Return")
+        time.sleep(0.3)
+        if any(title == "Edit Label" for title in self.desk.windows().values()):
+            self.desk.keys("Return")
+        self.desk.gone("Edit Label")
+        time.sleep(0.5)
+        self.changed(before, self.page("label"), "a label")
+
+    def equation(self):
+        before = self.page("before_curve")
+        self.fill("t", "4*abs(sin(2*t))")
+        self.desk.keys("alt+p")
+        time.sleep(1)
+        after = self.page("curve")
+        self.changed(before, after, "a curve")
+
+    def pop_up(self, *keys):
+        """Opens the pop-up of the first row of the list of curves and presses keys in it."""
+        _, height = self.size(self.main)
+        self.desk.click(self.main, 100, height - 78)
+        self.desk.click(self.main, 100, height - 78, 3)
+        time.sleep(0.4)
+        self.desk.shot("pop_up")
+        self.desk.keys(*keys)
+
+    def animate(self):
+        self.pop_up("Up", "Return")
+        self.desk.window("Properties")
+        self.desk.keys("ctrl+shift+Tab")
+        self.fill("d", "5")
+        self.desk.shot("properties")
+        self.desk.keys("Return")
+        self.desk.gone("Properties")
+        time.sleep(0.5)
+        before = self.page("before_play")
+        self.pop_up("Down", "Down", "Down", "Down", "Return")
+        early = self.page("playing")
+        self.changed(before, early, "a curve that is being drawn anew")
+        shot = self.desk.shots / "played.png"
+
+        def played():
+            self.desk.tool("import", "-window", self.main, shot)
+            return self.same(before, shot)
+        self.desk.wait("the curve again after it was played", played, 40)
+
+    def same(self, a, b):
+        done = subprocess.run(["compare", "-metric", "AE", "-extract", PAGE, a, b, "null:"], capture_output=True, text=True)
+        return float(re.match(r"[\d.e+]+", done.stderr.strip() or "1e9").group(0)) < 30
+
+    def save(self):
+        self.desk.keys("ctrl+s")
+        self.pick("Copy To.*|Save.*", self.out / "page.bmp")
+        path = self.file(self.out / "page.bmp", 100_000, "the saved page")
+        if path.read_bytes()[:2] != b"BM":
+            raise Failed("page.bmp was expected to be a bitmap")
+
+    def batch(self):
+        pictures = self.out / "pictures"
+        pictures.mkdir()
+        self.file_menu("batch")
+        self.desk.window("Batch Mode")
+        self.desk.keys("alt+b")
+        self.pick("Open", self.samples / "north_sea.frq")
+        self.fill("f", "sea_")
+        self.fill("w", pictures)
+        self.desk.shot("batch")
+        self.desk.keys("Tab", "Tab", "Tab", "Tab", "Return")
+        self.desk.wait("25 bitmaps", lambda: len(list(pictures.glob("sea_*.bmp"))) == 25, 60)
+        time.sleep(0.5)
+        self.desk.shot("batch_finished")
+        self.desk.window("Batch Mode")
+        self.desk.keys("Escape")
+        self.desk.gone("Batch Mode")
+
+    def report(self):
+        pictures = self.out / "few"
+        pictures.mkdir()
+        for path in sorted((self.out / "pictures").glob("*.bmp"))[:2]:
+            shutil.copy(path, pictures)
+        self.file_menu("report")
+        self.desk.window("Create Report")
+        self.fill("d", pictures)
+        self.desk.keys("alt+p")
+        self.fill("y", str(self.out) + "/")
+        self.fill("f", "roses")
+        self.desk.shot("report")
+        self.desk.keys("Tab", "Return")
+        self.file(self.out / "roses.ppt", 10_000, "the slide show")
+        self.desk.window("Create Report")
+        time.sleep(1)
+        self.desk.keys("Escape")
+        self.desk.gone("Create Report")
+
+    def point(self, entry, title, sample, result, before_run=()):
+        """One dialog for point data, from its menu entry to the rose."""
+        out = self.out / entry
+        out.mkdir()
+        self.file_menu(entry)
+        self.desk.window(title)
+        self.desk.keys("alt+b")
+        self.pick("Open", self.samples / sample)
+        time.sleep(0.5)
+        self.desk.window(title)
+        for keys, text in before_run:
+            if text is None:
+                self.desk.keys(*keys)
+            else:
+                self.fill(keys, text)
+        self.fill("q", "rose")
+        self.fill("o", str(out) + "/")
+        self.desk.shot(entry)
+        self.desk.keys("Return")
+        self.plotted(result)
+        self.desk.wait("the rose's file", lambda: any(re.fullmatch(result, path.name) for path in out.iterdir()))
+        time.sleep(1.2)
+        self.desk.shot(entry + "_rose")
+        self.desk.window(title)
+        self.desk.keys("Escape")
+        self.desk.gone(title)
+        time.sleep(0.3)
+        self.page(entry + "_window")
+
+    def surface(self):
+        self.point("surface", "Generate Wind Rose Plots from AERMET Surface Data", "LOVETT.SFC", r".*AERMETSFC.*\.frq")
+
+    def profile(self):
+        self.point("profile", "Generate Wind Rose Plots from AERMET Profile Data", "AERMET2.PFL", r".*AERMETPFL.*\.frq",
+                   [("i", "14735")])
+
+    def monitor(self):
+        self.point("monitor", "Generate Wind Rose Plots from .*", "valley_monitor.csv", r".*AMMNETW.*\.frq", [(["alt+i", "Down"], None)])
+
+    def surf(self):
+        self.point("surf", r"Generate Wind Rose Plots from a SURF.DAT File:", "valley_surf.dat", r".*SURF.*\.frq")
+
+    def up(self):
+        self.point("up", r"Generate Wind Rose Plots from an UP.DAT File:", "valley_up.dat", r".*UP.*\.frq")
+
+    def series(self):
+        self.point("series", r"Generate Wind Rose Plots from .*", "valley_series.tsf", r".*\.frq")
+
+    def wizard(self, entry, title, sample, result, locations):
+        out = self.out / entry
+        out.mkdir()
+        self.file_menu(entry)
+        self.desk.window(title)
+        self.desk.keys("alt+b")
+        self.pick("Select Files", self.samples / sample)
+        self.desk.window(title)
+        self.desk.keys("alt+n")
+        time.sleep(0.5)
+        self.desk.keys("alt+i", "Down")
+        locations()
+        self.fill("a", result)
+        self.desk.shot(entry + "_location")
+        self.desk.keys("alt+n")
+        time.sleep(0.5)
+        self.fill("o", str(out) + "/")
+        self.desk.shot(entry + "_directory")
+        self.desk.keys("alt+r")
+        self.plotted(result + ".frq")
+        self.file(out / (result + ".frq"), 1000, "the rose's file")
+        self.desk.shot(entry + "_rose")
+        self.desk.window(title)
+        self.desk.keys("Escape")
+        self.desk.gone(title)
+
+    def m3d(self):
+        def cells():
+            self.desk.keys("alt+v", "Down", "alt+n")
+            self.desk.wait("the question about grid cells", lambda: "Zephyrgraph" in self.desk.windows().values())
+            self.desk.shot("cells_question")
+            self.desk.keys("alt+y")
+            time.sleep(0.5)
+            self.fill("i", "1.5")
+            self.fill("j", "2.25")
+        self.wizard("m3d", "Generate Wind Rose Plots from MM5 or WRF 3D.DAT Data", "valley_model.m3d", "cell", cells)
+
+    def ventos(self):
+        def coordinates():
+            self.desk.keys("alt+n")
+            self.desk.window("Map Projection Information for Extraction Site Coordinates")
+            self.desk.shot("projection")
+            self.desk.keys("Return")
+            self.desk.gone("Map Projection Information for Extraction Site Coordinates")
+            time.sleep(0.5)
+            self.fill("x", "584.0")
+            self.fill("y", "4514.5")
+        self.wizard("ventos", "Generate Wind Rose Plots from VENTOS Data", "valley_ventos.dat", "field", coordinates)
+
+    def leave(self):
+        self.file_menu("exit")
+        self.desk.wait("the end of the program", lambda: self.program.poll() is not None)
+        if self.program.returncode != 0:
+            raise Failed(f"the program was expected to end with 0, not {self.program.returncode}")
+        self.file(self.home / "Zephyrgraph.cfg", 100, "the settings")
+
+
+STEPS = ["first_start", "open_a_file", "choose_a_rose", "restyle", "radius", "measure", "annotate", "equation", "animate", "save", "batch",
+         "report", "surface", "profile", "monitor", "surf", "up", "series", "m3d", "ventos", "leave"]
+
+
+def main():
+    if len(sys.argv) != 3:
+        sys.exit(__doc__)
+    missing = needed()
+    if missing:
+        sys.exit("walk.py needs " + ", ".join(missing))
+    walk = Walk(sys.argv[1], sys.argv[2])
+    begin = time.monotonic()
+    try:
+        for name in STEPS:
+            start = time.monotonic()
+            try:
+                getattr(walk, name)()
+            except Failed as failed:
+                shot = walk.desk.shot("FAILED_" + name)
+                sys.exit(f"step {name} failed: {failed}\nscreenshot: {shot}")
+            print(f"{name}: as expected ({time.monotonic() - start:.1f} s)", flush=True)
+    finally:
+        walk.close()
+    print(f"all {len(STEPS)} steps as expected in {time.monotonic() - begin:.0f} s; screenshots in {sys.argv[2]}")
+
+
+main()
