@@ -84,13 +84,13 @@ bool dropGroupingCommas(std::string_view text, std::string& plain) {
     const std::size_t wholeEnd = std::min(text.find_first_of(".eEdD"), text.size());
     if (text.find(',', wholeEnd) != std::string_view::npos) return false;
     bool digitSeen = false;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == ',') {
+    for (const char c : text) {
+        if (c == ',') {
             if (!digitSeen) return false;
             continue;
         }
-        digitSeen = digitSeen || isDigit(text[i]);
-        plain.push_back(text[i]);
+        digitSeen = digitSeen || isDigit(c);
+        plain.push_back(c);
     }
     return true;
 }

@@ -27,7 +27,7 @@ RunTimeError asRunTimeError(const std::exception_ptr& error) {
 
 }  // namespace
 
-void showError(Host& host, std::exception_ptr error) {
+void showError(Host& host, const std::exception_ptr& error) {
     const RunTimeError known = asRunTimeError(error);
     MessageBox box;
     box.title = "Zephyrgraph";

@@ -9,7 +9,7 @@
 namespace zg {
 
 /// Shows the one box of an error that reached the boundary: title "Zephyrgraph", number and description.
-void showError(Host& host, std::exception_ptr error);
+void showError(Host& host, const std::exception_ptr& error);
 
 /// The boundary round an event handler: what is thrown inside is shown, and the program goes on with the
 /// state as it stands.

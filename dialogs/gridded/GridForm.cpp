@@ -37,7 +37,10 @@ void showMoment(DateTime moment, QDateEdit& date, QTimeEdit& time) {
 }
 
 bool isFilled(const QWidget& field) {
-    if (const auto* list = qobject_cast<const QListWidget*>(&field)) return list->count() > 0;
+    if (const auto* list = qobject_cast<const QListWidget*>(&field)) {
+        const bool isStations = list->objectName() == QLatin1String("lstStations");
+        return isStations ? !list->selectedItems().isEmpty() : list->count() > 0;
+    }
     if (const auto* combo = qobject_cast<const QComboBox*>(&field)) return !combo->currentText().isEmpty();
     const auto* box = qobject_cast<const QLineEdit*>(&field);
     return box != nullptr && !box->text().isEmpty();

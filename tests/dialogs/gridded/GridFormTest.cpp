@@ -343,6 +343,26 @@ TEST_F(GridFormTest, ThreeModelCellsThenTwoThenStations) {
     EXPECT_EQ(FileNameOf(settings.CurrentFrqPath), "Albany_3DDAT_20050307-20050309_10m.frq");
 }
 
+TEST_F(GridFormTest, StationsStayMarkedUntilOneIsSelected) {
+    open(ventosVariation);
+    browse({directory_.write("wind.dat", ventosText())});
+    click("cmdNext1");
+    pickMethods();
+    click("optByStation");
+    click("cmdNext2");
+    host_.boxAnswers = {BoxAnswer::Ok};
+    click("cmdNext3");
+    EXPECT_EQ(host_.boxes.at(0).text, "Please select at least one station.");
+    QListWidget& rows = list("lstStations");
+    rows.setFocus();
+    box("txtExtractionHeight2").setFocus();
+    EXPECT_EQ(fieldMark(rows), yellowMark);
+    rows.setFocus();
+    rows.item(0)->setSelected(true);
+    box("txtExtractionHeight2").setFocus();
+    EXPECT_EQ(fieldMark(rows), cleanMark);
+}
+
 TEST_F(GridFormTest, ATimeStepTooLongIsToldAndTheFormGoesOn) {
     open(ventosVariation);
     browse({directory_.write("wind.dat", ventosText())});

@@ -1,0 +1,58 @@
+#!/usr/bin/env bash
+# Makes the pictures of the user guide anew, by the program: forms as the tests know them, and moments of the walk in a real window. Needs what
+# ./test.sh has built (or the programs of the directory that is given) and what ./test.sh --e2e needs.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+bin=${1:-build/test/bin}
+forms=build/guide/forms
+walk=build/guide/walk
+scratch=/tmp/zephyrgraph
+rm -rf "$forms" "$walk" "$scratch"
+mkdir -p "$forms" "$walk"
+"$bin"/zg_form_pictures "$forms" 2>/dev/null
+ZG_WALK_DIR=$scratch python3 -B tests/e2e/walk.py "$bin" "$walk"
+
+target=docs/pictures
+while read -r picture form; do
+    cp "$forms/$form.png" "$target/$picture.png"
+done <<'FORMS'
+about frmAboutZephyrgraph
+aspect frmAspect
+choose_rose frmSelectWindRose
+classes frmSetWindSpeedClasses
+comment frmComment
+expressions frmExpr
+grid_fonts frmGridFonts
+labels frmAddLabel
+legend frmOptionsLegend
+projection frmProjectionInfo_LCC
+properties frmProperties_Font_Patterns
+radius frmChangeRadius
+seasons frmSetSeasons
+splash frmSplashScreen
+table frmTable
+ventos frmProcessVENTOSDATFiles_Degrees
+wizard1 frmProcess3DDATFiles_Files
+wizard2 frmProcess3DDATFiles_Information
+wizard3 frmProcess3DDATFiles_Cells
+wizard3s frmProcess3DDATFiles_Stations
+wizard4 frmProcess3DDATFiles_Directory
+zoom frmZoom
+FORMS
+
+while read -r picture step; do
+    cp "$(ls "$walk"/*_"$step".png | head -1)" "$target/$picture.png"
+done <<'STEPS'
+aermet surface
+batch batch
+curves curve
+monitor monitor
+processed surf_window
+profile profile
+report report
+series series
+surf surf
+up up
+STEPS
+echo "$(ls "$target" | wc -l) pictures in $target"
