@@ -42,7 +42,7 @@ zoom frmZoom
 FORMS
 
 while read -r picture step; do
-    cp "$(ls "$walk"/*_"$step".png | head -1)" "$target/$picture.png"
+    cp "$(ls "$walk"/[0-9][0-9]_"$step".png)" "$target/$picture.png"
 done <<'STEPS'
 aermet surface
 batch batch
