@@ -19,6 +19,9 @@ class frmOptions : public ApplyDialog {
  public:
     frmOptions(Host& host, PolarGraph& graph, QWidget* parent = nullptr);
 
+    /// Hidden first: a field that loses the focus on the way is still read.
+    ~frmOptions() override { hide(); }
+
  private:
     void apply() override;
     QWidget* makeDetails();

@@ -26,6 +26,9 @@ class frmProperties : public QDialog {
     /// The graph must outlive the dialog. Tells when the graph has taken new values.
     frmProperties(Host& host, GrapInfo& graph, std::function<void()> applied, QWidget* parent = nullptr);
 
+    /// Hidden first: a field that loses the focus on the way is still read.
+    ~frmProperties() override { hide(); }
+
  private:
     QWidget* makePatterns();
     QGroupBox* makeLine();

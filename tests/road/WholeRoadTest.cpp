@@ -23,7 +23,6 @@
 #include "graph/frq/ModPolarGraph.h"
 #include "graph/frq/OpenFreqFile.h"
 #include "platform/BatchStarter.h"
-#include "platform/PageWidget.h"
 #include "processing/Stations.h"
 #include "processing/Zones.h"
 #include "shell/FrmMain.h"
@@ -69,7 +68,7 @@ class WholeRoad : public ::testing::Test {
         window_.reset();
         projection = {};
     }
-    QImage page() { return window_->findChild<PageWidget*>()->grab().toImage(); }
+    QImage page() { return window_->findChild<QWidget*>(QStringLiteral("picGraph"))->grab().toImage(); }
     ProcessingWindow hooks() {
         return {[this](const std::string& path) { window_->PlotFrqFile(path); },
                 [this] { return host_.pumps > 300'000; }, [] {}, [] {}};
