@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/Text.h"
+#include "tempoline/DatumShifts.h"
 #include "tempoline/Texts.h"
 
 namespace zg::tempoline {
@@ -18,36 +19,60 @@ struct DatumRow {
     const char* definition;
 };
 
-// Mean shifts to WGS 84 as the national imagery and mapping agencies publish them. Spheres keep latitude and
+// Datums that are more than a shift, and three whose results are to stay what they were: PROJ's Clarke 1880
+// has the flattening 1/293.4663, the table's 1/293.465, and a pole 0.1 m aside. Spheres keep latitude and
 // longitude as they are, since that is how the models that use them mean it.
 constexpr DatumRow datumRows[] = {
     {"WGS-84", "+datum=WGS84"},
     {"WGS-72", "+ellps=WGS72 +towgs84=0,0,4.5,0,0,0.554,0.2263"},
-    {"NAR-A", "+ellps=GRS80 +towgs84=0,0,0"},
-    {"NAR-B", "+ellps=GRS80 +towgs84=0,0,0"},
-    {"NAR-C", "+ellps=GRS80 +towgs84=0,0,0"},
-    {"NAR-D", "+ellps=GRS80 +towgs84=0,0,0"},
-    {"NAS-A", "+ellps=clrk66 +towgs84=-9,161,179"},
-    {"NAS-B", "+ellps=clrk66 +towgs84=-8,159,175"},
-    {"NAS-C", "+ellps=clrk66 +towgs84=-8,160,176"},
-    {"NAS-D", "+ellps=clrk66 +towgs84=-5,135,172"},
-    {"NAS-E", "+ellps=clrk66 +towgs84=-10,158,187"},
     {"NWS-84", "+R=6370000 +nadgrids=@null"},
     {"ESR-S", "+R=6371000 +nadgrids=@null"},
-    {"EUR-M", "+ellps=intl +towgs84=-87,-98,-121"},
-    {"EUS", "+ellps=intl +towgs84=-86,-98,-119"},
-    {"OGB-M", "+ellps=airy +towgs84=375,-111,431"},
-    {"IRL", "+ellps=mod_airy +towgs84=506,-122,611"},
-    {"TOY-M", "+ellps=bessel +towgs84=-148,507,685"},
-    {"AUA", "+ellps=aust_SA +towgs84=-133,-48,148"},
-    {"AUG", "+ellps=aust_SA +towgs84=-134,-48,149"},
-    {"GEO", "+ellps=intl +towgs84=84,-22,209"},
-    {"SAN-M", "+ellps=aust_SA +towgs84=-57,1,-41"},
-    {"PRP-M", "+ellps=intl +towgs84=-288,175,-376"},
     {"ADI-M", "+ellps=clrk80 +towgs84=-166,-15,204"},
     {"ARF-M", "+ellps=clrk80 +towgs84=-143,-90,-294"},
     {"CAP", "+ellps=clrk80 +towgs84=-136,-108,-292"},
 };
+
+struct EllipsoidRow {
+    Ellipsoid ellipsoid;
+    const char* definition;
+};
+
+// Axis and flattening stand where PROJ has no name for exactly this ellipsoid.
+constexpr EllipsoidRow ellipsoidRows[] = {
+    {Ellipsoid::Airy1830, "+ellps=airy"},
+    {Ellipsoid::AustralianNational, "+ellps=aust_SA"},
+    {Ellipsoid::Bessel1841, "+ellps=bessel"},
+    {Ellipsoid::BesselNamibia, "+ellps=bess_nam"},
+    {Ellipsoid::Clarke1866, "+ellps=clrk66"},
+    {Ellipsoid::Clarke1880, "+a=6378249.145 +rf=293.465"},
+    {Ellipsoid::Everest1830, "+ellps=evrst30"},
+    {Ellipsoid::Everest1948, "+ellps=evrst48"},
+    {Ellipsoid::Everest1956, "+ellps=evrst56"},
+    {Ellipsoid::EverestPakistan, "+a=6377309.613 +rf=300.8017"},
+    {Ellipsoid::EverestSabahSarawak, "+ellps=evrstSS"},
+    {Ellipsoid::Grs80, "+ellps=GRS80"},
+    {Ellipsoid::Helmert1906, "+ellps=helmert"},
+    {Ellipsoid::Hough1960, "+ellps=hough"},
+    {Ellipsoid::Indonesian1974, "+a=6378160 +rf=298.247"},
+    {Ellipsoid::International1924, "+ellps=intl"},
+    {Ellipsoid::Krassovsky1940, "+ellps=krass"},
+    {Ellipsoid::ModifiedAiry, "+ellps=mod_airy"},
+    {Ellipsoid::ModifiedFischer1960, "+ellps=fschr60m"},
+    {Ellipsoid::SouthAmerican1969, "+ellps=aust_SA"},
+    {Ellipsoid::Wgs84, "+ellps=WGS84"},
+};
+
+std::string ellipsoidDefinition(Ellipsoid ellipsoid) {
+    for (const EllipsoidRow& row : ellipsoidRows) {
+        if (row.ellipsoid == ellipsoid) return row.definition;
+    }
+    return {};
+}
+
+std::string shiftDefinition(const DatumShift& shift) {
+    return ellipsoidDefinition(shift.ellipsoid) + " +towgs84=" + std::to_string(shift.x) + "," +
+           std::to_string(shift.y) + "," + std::to_string(shift.z);
+}
 
 struct DatumAlias {
     const char* spelling;
@@ -149,6 +174,9 @@ std::optional<std::string> datumDefinition(const std::string& code) {
     }
     for (const DatumRow& row : datumRows) {
         if (wanted == row.code) return row.definition;
+    }
+    for (const DatumShift& shift : datumShifts()) {
+        if (wanted == shift.code) return shiftDefinition(shift);
     }
     return {};
 }
