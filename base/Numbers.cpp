@@ -143,9 +143,9 @@ std::string generalText(double value, int significant) {
         const std::string magnitude = std::to_string(std::abs(exponent));
         return out + (magnitude.size() < 2 ? "0" : "") + magnitude;
     }
-    if (exponent < 0) return sign + "0." + std::string(static_cast<std::size_t>(-exponent - 1), '0') + digits;
+    if (exponent < 0) return sign + "0." + std::string(static_cast<std::size_t>(-exponent) - 1, '0') + digits;
     if (decimals <= 0) return sign + digits + std::string(static_cast<std::size_t>(-decimals), '0');
-    const auto whole = static_cast<std::size_t>(exponent + 1);
+    const auto whole = static_cast<std::size_t>(exponent) + 1;
     return sign + digits.substr(0, whole) + "." + digits.substr(whole);
 }
 

@@ -1,7 +1,5 @@
 #include "batch/RunningDialog.h"
 
-#include <QEvent>
-
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
 #include "platform/QtText.h"
@@ -42,18 +40,6 @@ void RunningDialog::run(const std::function<void()>& work) {
 void RunningDialog::refuse(QWidget& field, const char* text) {
     lblStatus->setText(QString::fromLatin1(text));
     MarkInvalid(field);
-}
-
-void RunningDialog::whenLeft(QWidget& field, std::function<void()> action) {
-    leaving_.emplace_back(&field, std::move(action));
-    field.installEventFilter(this);
-}
-
-bool RunningDialog::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusOut)
-        for (const auto& [field, action] : leaving_)
-            if (field == watched) guarded(host_, action)();
-    return QDialog::eventFilter(watched, event);
 }
 
 void RunningDialog::clearMark(QWidget& field, bool filled) {

@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "base/Host.h"
+#include "platform/LeaveWatch.h"
 
 namespace zg {
 
@@ -29,8 +30,9 @@ class RunningDialog : public QDialog {
     void refuse(QWidget& field, const char* text);
 
     /// What follows when the focus leaves a box.
-    void whenLeft(QWidget& field, std::function<void()> action);
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    void whenLeft(QWidget& field, std::function<void()> action) {
+        leaving_.whenLeft(field, std::move(action));
+    }
 
     /// A marked box that is filled becomes clean, and the status line empty.
     void clearMark(QWidget& field, bool filled);
@@ -44,7 +46,7 @@ class RunningDialog : public QDialog {
 
  private:
     bool running_ = false;
-    std::vector<std::pair<QObject*, std::function<void()>>> leaving_;
+    LeaveWatch leaving_{host_};
 };
 
 }  // namespace zg

@@ -2,6 +2,7 @@
 
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QFocusEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -46,7 +47,11 @@ void setFieldMark(QWidget& field, Colour mark) {
     const bool frame = qobject_cast<QGroupBox*>(&field) != nullptr;
     if (frame || qobject_cast<QLabel*>(&field) != nullptr) field.setAutoFillBackground(marked);
     if (!marked) {
-        field.setPalette(QPalette());
+        QPalette palette;
+        // The theme itself paints a field so that is switched off.
+        if (mark == buttonFaceColour && field.isEnabled())
+            palette.setBrush(QPalette::Base, palette.brush(QPalette::Button));
+        field.setPalette(palette);
         return;
     }
     QPalette palette = field.palette();
@@ -65,6 +70,12 @@ void setFieldMark(QWidget& field, Colour mark) {
 void MarkInvalid(QWidget& field) { setFieldMark(field, yellowMark); }
 
 void ClearInvalid(QWidget& field) { setFieldMark(field, cleanMark); }
+
+bool leavesField(const QEvent& event) {
+    if (event.type() != QEvent::FocusOut) return false;
+    const Qt::FocusReason reason = static_cast<const QFocusEvent&>(event).reason();
+    return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
+}
 
 void ClearInvalidIfFilled(QWidget& field) {
     const std::string text = typed(textOf(field));

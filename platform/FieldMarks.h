@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QEvent>
 #include <QWidget>
 #include <span>
 
@@ -17,6 +18,10 @@ void setFieldMark(QWidget& field, Colour mark);
 
 void MarkInvalid(QWidget& field);
 void ClearInvalid(QWidget& field);
+
+/// The focus goes on within the program's window. It only rests while a list is open, or another program is
+/// in front.
+bool leavesField(const QEvent& event);
 
 /// A marked field with text becomes clean; then its trimmed text is given back to it.
 void ClearInvalidIfFilled(QWidget& field);

@@ -4,11 +4,13 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSignalBlocker>
+#include <QTimer>
 
 #include "base/Numbers.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "platform/Errors.h"
+#include "platform/Memory.h"
 #include "platform/QtPicture.h"
 #include "platform/QtText.h"
 #include "shell/FrmComment.h"
@@ -99,6 +101,8 @@ void frmMain::PlotFrqFile(const std::string& path) {
     pgPolarGraph().DrawGraph();
     if (!pgPolarGraph().Comment().empty()) frmComment(host_, pgPolarGraph(), this).exec();
     selectOnly(0);
+    // Once the file's dialog and what it asked of the system are gone.
+    QTimer::singleShot(0, this, [] { giveBackMemory(); });
 }
 
 void frmMain::openFrqFile() {

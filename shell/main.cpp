@@ -5,6 +5,7 @@
 
 #include "base/Paths.h"
 #include "platform/Errors.h"
+#include "platform/Memory.h"
 #include "platform/QtHost.h"
 #include "platform/QtText.h"
 #include "processing/Stations.h"
@@ -14,6 +15,7 @@
 #include "shell/settings/StartSequence.h"
 
 int main(int argc, char** argv) {
+    zg::useMemorySparingly();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Zephyrgraph"));
     zg::applicationDirectory = zg::filePath(QCoreApplication::applicationDirPath());

@@ -129,15 +129,16 @@ std::string DatumAlias(const std::string& typed) {
         const char* spelling;
         const char* code;
     };
-    constexpr std::array<Alias, 9> aliases = {{{"NAD27", "NAS-C"},
-                                               {"NAD-27", "NAS-C"},
-                                               {"NAD 27", "NAS-C"},
-                                               {"WGS84", "WGS-84"},
-                                               {"WGS 84", "WGS-84"},
-                                               {"WGS72", "WGS-72"},
-                                               {"NAD83", "NAR-C"},
-                                               {"NAD 83", "NAR-C"},
-                                               {"NAD-83", "NAR-C"}}};
+    constexpr std::array<Alias, 10> aliases = {{{"NAD27", "NAS-C"},
+                                                {"NAD-27", "NAS-C"},
+                                                {"NAD 27", "NAS-C"},
+                                                {"WGS84", "WGS-84"},
+                                                {"WGS 84", "WGS-84"},
+                                                {"WGS72", "WGS-72"},
+                                                {"WGS 72", "WGS-72"},
+                                                {"NAD83", "NAR-C"},
+                                                {"NAD 83", "NAR-C"},
+                                                {"NAD-83", "NAR-C"}}};
     for (const Alias& alias : aliases)
         if (typed == alias.spelling) return alias.code;
     return typed;

@@ -166,6 +166,8 @@ QGroupBox* frmProjectionInfo::makeDatum() {
     connect(cboCont1, &QComboBox::activated, this, [this] { cboCont1_Click(); });
     connect(cboDatum1, &QComboBox::activated, this, [this] { cboDatum1_Click(); });
     connect(lstReg1, &QListWidget::itemSelectionChanged, this, [this] { lstReg1_Click(); });
+    // The chosen row says its code again after another one was typed.
+    connect(lstReg1, &QListWidget::itemClicked, this, [this] { lstReg1_Click(); });
     connect(cboCode, &QComboBox::editTextChanged, this, [this] { codeChanged(); });
     return made;
 }
@@ -280,10 +282,22 @@ void frmProjectionInfo::cboDatum1_Click() {
 }
 
 void frmProjectionInfo::lstReg1_Click() {
-    if (filling_ || lstReg1->selectedItems().isEmpty()) return;
+    if (filling_) return;
+    if (lstReg1->selectedItems().isEmpty()) return setFieldMark(*cboCode, buttonFaceColour);
     const std::string region = typed(lstReg1->selectedItems().front()->text());
     const std::string code = codeOf(typed(cboCont1->currentText()), typed(cboDatum1->currentText()), region);
-    if (!code.empty()) showCode(code);
+    if (code.empty()) return;
+    showCode(code);
+    // The list holds the regions of all continents.
+    if (const DatumRegion* row = DatumLookUp(code)) showContinent(row->continent, row->ellipsoid);
+}
+
+/// The lists above the regions, which stay as they are.
+void frmProjectionInfo::showContinent(const std::string& continent, const std::string& ellipsoid) {
+    if (typed(cboCont1->currentText()) == continent) return;
+    cboCont1->setCurrentIndex(cboCont1->findText(shown(continent)));
+    fill(*cboDatum1, ellipsoidsOf(continent));
+    cboDatum1->setCurrentIndex(cboDatum1->findText(shown(ellipsoid)));
 }
 
 void frmProjectionInfo::showCode(const std::string& code) {
@@ -322,8 +336,7 @@ bool frmProjectionInfo::eventFilter(QObject* watched, QEvent* event) {
         cboProj->showPopup();
         return true;
     }
-    if (event->type() == QEvent::FocusOut && cboCode != nullptr &&
-        (watched == cboCode || watched == cboCode->lineEdit())) {
+    if (leavesField(*event) && cboCode != nullptr && (watched == cboCode || watched == cboCode->lineEdit())) {
         codeChanged();
         if (fieldMark(*cboCode) == yellowMark && !cboCode->currentText().isEmpty()) ClearInvalid(*cboCode);
     }

@@ -42,6 +42,7 @@ class frmProjectionInfo : public QDialog {
     void cboDatum1_Click();
     void lstReg1_Click();
     void codeChanged();
+    void showContinent(const std::string& continent, const std::string& ellipsoid);
     void showRegion(const std::string& continent, const std::string& ellipsoid, const std::string& region);
     void showCode(const std::string& code);
     void cmdOK_Click();

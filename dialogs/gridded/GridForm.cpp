@@ -138,7 +138,7 @@ void GridForm::watchFields() {
 }
 
 bool GridForm::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusOut && watched->isWidgetType())
+    if (leavesField(*event) && watched->isWidgetType())
         guarded(host_, [&] { left(*static_cast<QWidget*>(watched)); })();
     return QDialog::eventFilter(watched, event);
 }

@@ -196,18 +196,6 @@ bool PointDialog::checkOutputName() {
                  *txtFRQOutputFilename, "Please enter an output filename.");
 }
 
-void PointDialog::whenLeft(QWidget& field, std::function<void()> action) {
-    leaving_.emplace_back(&field, std::move(action));
-    field.installEventFilter(this);
-}
-
-bool PointDialog::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusOut)
-        for (const auto& [field, action] : leaving_)
-            if (field == watched) guarded(host_, action)();
-    return QDialog::eventFilter(watched, event);
-}
-
 void PointDialog::clearMark(QWidget& field, bool filled) {
     if (fieldMark(field) != yellowMark || !filled) return;
     ClearInvalid(field);

@@ -12,6 +12,7 @@
 #include <optional>
 
 #include "base/Host.h"
+#include "platform/LeaveWatch.h"
 #include "processing/ControlFile.h"
 #include "processing/ProcessingWindow.h"
 #include "processing/ProcessorRun.h"
@@ -48,8 +49,9 @@ class PointDialog : public QDialog {
     bool checkOutputDirectory();
     bool checkOutputName();
 
-    void whenLeft(QWidget& field, std::function<void()> action);
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    void whenLeft(QWidget& field, std::function<void()> action) {
+        leaving_.whenLeft(field, std::move(action));
+    }
     void leftOutputDirectory();
     void clearMark(QWidget& field, bool filled);
     void chooseTimeZone(const std::string& key);
@@ -95,7 +97,7 @@ class PointDialog : public QDialog {
     QLabel* lblStatus = nullptr;
 
  private:
-    std::vector<std::pair<QObject*, std::function<void()>>> leaving_;
+    LeaveWatch leaving_{host_};
 };
 
 }  // namespace zg

@@ -298,6 +298,141 @@ TEST_F(FrmProjectionInfo, ATypedCodeShowsWhatItMeans) {
     EXPECT_EQ(child<QListWidget>("lstReg1")->currentItem()->text(), "Italy (Sardinia)");
 }
 
+TEST_F(FrmProjectionInfo, TheOldSystemOfSeventyTwoIsKnownInBothSpellings) {
+    open();
+    typeCode("WGS 72");
+    EXPECT_EQ(combo("cboCode").currentText(), "WGS-72");
+    EXPECT_EQ(combo("cboCont1").currentText(), "GLOBAL");
+}
+
+TEST_F(FrmProjectionInfo, AClickOnTheChosenRegionBringsItsCodeBack) {
+    open();
+    typeCode("MOD");
+    typeCode("xyz");
+    auto* regions = child<QListWidget>("lstReg1");
+    ASSERT_EQ(regions->count(), 1);
+    const QPoint place = regions->visualItemRect(regions->item(0)).center();
+    QTest::mouseClick(regions->viewport(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(combo("cboCode").currentText(), "MOD");
+    EXPECT_EQ(fieldMark(combo("cboCode")), cleanMark);
+    QTest::mouseClick(regions->viewport(), Qt::LeftButton, Qt::ControlModifier, place);
+    EXPECT_TRUE(regions->selectedItems().isEmpty());
+    EXPECT_EQ(fieldMark(combo("cboCode")), buttonFaceColour);
+}
+
+TEST_F(FrmProjectionInfo, ARegionOfAnotherContinentLeadsThere) {
+    open();
+    pick("cboCont1", "ASIA");
+    pick("cboDatum1", "EUROPEAN 1950 - International 1924");
+    auto* regions = child<QListWidget>("lstReg1");
+    const auto items = regions->findItems("Egypt", Qt::MatchExactly);
+    ASSERT_EQ(items.size(), 1);
+    regions->setCurrentItem(items.front());
+    EXPECT_EQ(combo("cboCode").currentText(), "EUR-F");
+    EXPECT_EQ(combo("cboCont1").currentText(), "AFRICA");
+    EXPECT_EQ(combo("cboDatum1").currentText(), "EUROPEAN 1950 - International 1924");
+    EXPECT_GE(combo("cboDatum1").findText("ADINDAN - Clarke 1880"), 0) << "the datums of that continent";
+    ASSERT_NE(regions->currentItem(), nullptr);
+    EXPECT_EQ(regions->currentItem()->text(), "Egypt");
+}
+
+TEST_F(FrmProjectionInfo, ACodeWithoutARegionHasTheColourOfButtons) {
+    open();
+    const auto base = [this] { return combo("cboCode").palette().color(QPalette::Base); };
+    const QPalette theme = QApplication::palette();
+    ASSERT_NE(theme.color(QPalette::Button), theme.color(QPalette::Base));
+    EXPECT_EQ(base(), theme.color(QPalette::Button));
+    typeCode("WGS-84");
+    EXPECT_EQ(base(), theme.color(QPalette::Base));
+    pick("cboCont1", "EUROPE");
+    EXPECT_EQ(base(), theme.color(QPalette::Button));
+}
+
+TEST_F(FrmProjectionInfo, LeavingTheCodeBringsItsCascadeBack) {
+    open();
+    typeCode("NAS-C");
+    pick("cboCont1", "EUROPE");
+    combo("cboCode").setFocus();
+    child("cmdOK")->setFocus();
+    EXPECT_EQ(combo("cboCont1").currentText(), "NORTH AMERICA");
+    EXPECT_EQ(fieldMark(combo("cboCode")), cleanMark);
+}
+
+TEST_F(FrmProjectionInfo, ACodeOfItsOwnListFillsTheCascade) {
+    projection = {"UTM", "", "", "18", "N", "", "", "", "", "NAD27"};
+    open();
+    EXPECT_EQ(combo("cboCode").currentText(), "NAS-C") << "the record's spelling";
+    combo("cboCode").setCurrentText("NWS-84");
+    EXPECT_EQ(combo("cboCont1").currentText(), "GLOBAL");
+    combo("cboCode").setCurrentIndex(0);
+    EXPECT_EQ(combo("cboCont1").currentText(), "GLOBAL") << "no code says nothing";
+}
+
+TEST_F(FrmProjectionInfo, TheSouthIsALetterInTheRecord) {
+    projection = {"UTM", "", "", "18", "N", "", "", "", "", "NAR-C"};
+    open();
+    pick("cboLSOHEM1", "Southern");
+    click("cmdOK");
+    EXPECT_EQ(projection.UTMHEM, "S");
+}
+
+TEST_F(FrmProjectionInfo, AZoneNeedsItsHemisphere) {
+    open();
+    typeCode("WGS-84");
+    box("txtUTMZone1").setText("18");
+    EXPECT_EQ(ok(), "Please provide information for all requested UTM information.");
+    pick("cboLSOHEM1", "Northern");
+    box("txtUTMZone1").setText("  ");
+    EXPECT_EQ(ok(), "Please provide information for all requested UTM information.");
+    EXPECT_EQ(projection.PMAP, "UTM") << "taken before its fields are looked at";
+    click("cmdCancel");
+    EXPECT_EQ(projection.PMAP, "UTM");
+    EXPECT_EQ(caller_.calls, 0);
+}
+
+TEST_F(FrmProjectionInfo, MercatorAndAzimuthalPassFromTheRecordAndNotFromTheList) {
+    struct Row {
+        const char* pmap;
+        int entry;
+        const char* frame;
+    };
+    for (const Row& row : {Row{"EM", 5, "EM1"}, Row{"LAZA", 6, "LAZA1"}}) {
+        projection = {row.pmap, "1", "2", "", "", "40N", "97W", "33N", "", "WGS-84"};
+        open();
+        EXPECT_EQ(shownFrame(), row.frame);
+        const QString shortForm = combo("cboProj").currentText();
+        EXPECT_EQ(combo("cboProj").findText(shortForm), -1) << shortForm.toStdString();
+        combo("cboProj").setCurrentIndex(row.entry);
+        emit combo("cboProj").activated(combo("cboProj").currentIndex());
+        EXPECT_EQ(shownFrame(), row.frame);
+        EXPECT_EQ(ok(), "Please choose a projection from the drop-down box.");
+        open();
+        caller_.calls = 0;
+        click("cmdOK");
+        EXPECT_EQ(caller_.calls, 1) << row.pmap;
+        EXPECT_EQ(projection.PMAP, row.pmap);
+        EXPECT_EQ(projection.RLON0, "97W");
+    }
+}
+
+TEST_F(FrmProjectionInfo, TheDatumIsAskedBeforeLatitudesAreWrapped) {
+    projection = {"UTM", "", "", "18", "N", "", "", "", "", ""};
+    open();
+    box("txtLCCRLAT01").setText("200");
+    EXPECT_EQ(ok(), "Please select a DATUM.");
+    EXPECT_EQ(box("txtLCCRLAT01").text(), "200");
+    typeCode("WGS-84");
+    box("txtEMRLAT01").setText("x");
+    host_.boxes.clear();
+    host_.boxAnswers = {BoxAnswer::Ok};
+    click("cmdOK");
+    ASSERT_EQ(host_.boxes.size(), 1U);
+    EXPECT_EQ(host_.boxes[0].text, "Run-time error '13':\n\nType mismatch");
+    EXPECT_TRUE(form_->isVisible());
+    EXPECT_EQ(caller_.calls, 0);
+    EXPECT_EQ(box("txtLCCRLAT01").text(), "-160") << "those before it are wrapped";
+}
+
 TEST_F(FrmProjectionInfo, AnotherDateStampLeavesTheDialogEmpty) {
     directory_.write("datums.csv", "DATUMS.CSV,V1.0,1999-01-01\nx\nAFRICA,A - B,C,D\n");
     projection = {"LCC", "0", "0", "", "", "40N", "97W", "33N", "45N", "NAS-C"};

@@ -406,6 +406,21 @@ TEST_F(GridFormTest, TheOutputDirectoryEndsInASeparator) {
     EXPECT_EQ(box("txtOutputDirectory").text(), "/other/");
 }
 
+TEST_F(GridFormTest, TheStatusStaysWhileAnotherProgramIsInFront) {
+    open(ventosVariation);
+    child("cmdPROCESS")->setEnabled(true);
+    child("cmdPROCESS")->setFocus();
+    child<QLabel>("lblStatus")->setText("Finished");
+    for (const Qt::FocusReason reason : {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason}) {
+        QFocusEvent rests(QEvent::FocusOut, reason);
+        QApplication::sendEvent(child("cmdPROCESS"), &rests);
+        EXPECT_EQ(status(), "Finished");
+    }
+    QFocusEvent goesOn(QEvent::FocusOut, Qt::TabFocusReason);
+    QApplication::sendEvent(child("cmdPROCESS"), &goesOn);
+    EXPECT_EQ(status(), "");
+}
+
 TEST_F(GridFormTest, TheMenuOpensBothWizards) {
     for (const int index : {3, 7}) {
         std::string name;

@@ -1,0 +1,22 @@
+#include "platform/Memory.h"
+
+#if __has_include(<malloc.h>)
+#include <malloc.h>
+#endif
+
+namespace zg {
+
+void useMemorySparingly() {
+#ifdef M_MMAP_THRESHOLD
+    // Said outright, the bound stays; left alone, the library raises it with each large block that is freed.
+    mallopt(M_MMAP_THRESHOLD, 128 * 1024);
+#endif
+}
+
+void giveBackMemory() {
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
+}
+
+}  // namespace zg
