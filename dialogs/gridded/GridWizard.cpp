@@ -130,17 +130,14 @@ void GridWizard::cmdNext1_Click() {
     view_.focus("cboTimeZone");
 }
 
-/// The pickers hold the data's own times now; the zone that they are in becomes the one on show.
+/// The pickers hold the data's own times now. They go on to the zone of the data, or stay in the one on show
+/// where the table does not know that of the data.
 void GridWizard::showPeriodOfData() {
     TimeZoneShiftHours = 0;
     const std::string wanted = ucase(modInfoViewDLL.HeaderTimeZone);
-    bool found = false;
-    for (std::size_t i = 0; i < timeZones.gsTimeZoneKeys.size(); ++i) {
-        if (timeZones.gsTimeZoneKeys[i] != wanted) continue;
-        view_.setRow("cboTimeZone", static_cast<int>(i));
-        found = true;
-    }
-    if (found) cboTimeZone_Click();
+    for (std::size_t i = 0; i < timeZones.gsTimeZoneKeys.size(); ++i)
+        if (timeZones.gsTimeZoneKeys[i] == wanted) view_.setRow("cboTimeZone", static_cast<int>(i));
+    if (view_.row("cboTimeZone") >= 0) cboTimeZone_Click();
 }
 
 void GridWizard::cmdPrevious2_Click() {

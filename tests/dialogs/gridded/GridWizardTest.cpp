@@ -519,6 +519,81 @@ TEST_F(VentosWizard, TheControlFileOfStations) {
     EXPECT_EQ(plotted_.size(), 2U);
 }
 
+TEST_F(VentosWizard, TheSpatialMethodsHaveTheirNumbers) {
+    openFile(ventosText());
+    acceptProjection("");
+    for (const auto& [method, number] : {std::pair{"BILINEAR", "1"}, std::pair{"NEAREST GRID CELL", "2"}}) {
+        view_.texts["cboSpatialInterpolationMethod"] = method;
+        wizard_->cmdNext2_Click();
+        fillLocation("1", "2", "a");
+        wizard_->cmdNext3_Click();
+        wizard_->cmdPROCESS_Click();
+        EXPECT_NE(controlFile().find(std::string("! METSIM = ") + number + " !"), std::string::npos)
+            << method;
+        wizard_->cmdPrevious4_Click();
+        wizard_->cmdPrevious3_Click();
+    }
+}
+
+TEST_F(VentosWizard, TheFilesAreReadInTheOrderOfTheList) {
+    const std::string first = directory_.write("z_first.dat", ventosText());
+    const std::string second = directory_.write("a_second.dat", ventosText());
+    openFile(ventosText());
+    wizard_->cmdPrevious2_Click();
+    view_.files = {first, second};
+    wizard_->cmdNext1_Click();
+    view_.texts["txtOutputDirectory"] = directory_.file("out/");
+    acceptProjection("");
+    wizard_->cmdNext2_Click();
+    fillLocation("1", "2", "a");
+    wizard_->cmdNext3_Click();
+    wizard_->cmdPROCESS_Click();
+    EXPECT_EQ(wizard_->RunRoot, "VENTOS_z_first20050307-20051231");
+    const std::string file = controlFile();
+    EXPECT_NE(file.find("! NMETINP = 2 !"), std::string::npos);
+    EXPECT_LT(file.find(first), file.find(second));
+    EXPECT_NE(file.find(second), std::string::npos);
+}
+
+TEST_F(VentosWizard, OfSeveralZonesOfOneCodeTheLastIsShown) {
+    openFile(ventosText());
+    EXPECT_EQ(timeZones.gsTimeZoneLabels.at(static_cast<std::size_t>(view_.zoneRow)),
+              "(UTC-05:00) Indiana (East)");
+}
+
+TEST_F(VentosWizard, ASecondFileThatIsRefusedLeavesTheBeginOfTheFirst) {
+    openFile(ventosText());
+    wizard_->cmdPrevious2_Click();
+    view_.beginShown = view_.endShown = makeDate(1990, 1, 1);
+    view_.files = {directory_.file("wind.dat"), directory_.write("other.dat", "nonsense\n")};
+    const DateTime end = wizard_->DataEndTime;
+    boxOf([this] { wizard_->cmdNext1_Click(); }, BoxAnswer::Ok, "ERROR:");
+    EXPECT_EQ(view_.step1to4(), 1);
+    EXPECT_EQ(view_.beginShown, wizard_->DataStartTime);
+    EXPECT_EQ(view_.endShown, makeDate(1990, 1, 1));
+    EXPECT_EQ(wizard_->DataEndTime, end);
+}
+
+TEST_F(VentosWizard, TheHeightOfAnotherLocationIsOfferedOnlyWhereNoneStands) {
+    openFile(ventosText());
+    acceptProjection("");
+    view_.texts["txtNumberOfLocations"] = "2";
+    wizard_->cmdNext2_Click();
+    fillLocation("1", "2", "a");
+    view_.texts["txtExtractionHeight"] = "33";
+    wizard_->cmdNextLocation_Click();
+    fillLocation("3", "4", "b");
+    view_.texts["txtExtractionHeight"] = "44";
+    wizard_->cmdPrevLocation_Click();
+    wizard_->cmdNextLocation_Click();
+    EXPECT_EQ(view_.texts["txtExtractionHeight"], "44");
+    wizard_->cmdNext3_Click();
+    wizard_->cmdPROCESS_Click();
+    const std::string file = controlFile();
+    EXPECT_NE(file.find("! MET = 1, 2, 33,"), std::string::npos);
+    EXPECT_NE(file.find("! MET = 3, 4, 44,"), std::string::npos);
+}
+
 TEST_F(VentosWizard, AllLocationsTakeTheDegreesOnShow) {
     openFile(ventosText("LL WGS-84 NONE 0 0 0 0 0 0 0"));
     acceptProjection("");
@@ -527,6 +602,7 @@ TEST_F(VentosWizard, AllLocationsTakeTheDegreesOnShow) {
     fillLocation("10", "20", "a");
     wizard_->cmdNextLocation_Click();
     fillLocation(" 030.50", "40", "b");
+    view_.texts["txtExtractionHeight"] = "20";
     view_.texts["cboNS"] = "S";
     view_.texts["cboWE"] = "E";
     wizard_->cmdNext3_Click();
@@ -534,7 +610,7 @@ TEST_F(VentosWizard, AllLocationsTakeTheDegreesOnShow) {
     const std::string file = controlFile();
     EXPECT_NE(file.find("! TSFID = 1 !\r\n     ! LOCMET = A title !\r\n     ! MET = 30.5, -40, 10,"),
               std::string::npos);
-    EXPECT_NE(file.find("! TSFID = 2 !\r\n     ! LOCMET = A title !\r\n     ! MET = 30.5, -40, 10,"),
+    EXPECT_NE(file.find("! TSFID = 2 !\r\n     ! LOCMET = A title !\r\n     ! MET = 30.5, -40, 20,"),
               std::string::npos);
 }
 
@@ -670,6 +746,49 @@ TEST_F(M3dWizard, AFileOpenedAgainShowsItsOwnZoneAgain) {
     EXPECT_EQ(view_.beginShown, addSeconds(makeDate(2005, 3, 7), 6 * 3600));
     EXPECT_EQ(wizard_->TimeZoneShiftHours, 0);
     EXPECT_EQ(timeZones.gsTimeZoneKeys.at(static_cast<std::size_t>(view_.zoneRow)), "UTC+0000");
+}
+
+TEST_F(M3dWizard, DataOfAnUnknownZoneGoOnInTheOneOnShow) {
+    openFile(m3dText());
+    view_.zoneRow = rowOf("UTC-0700");
+    wizard_->cboTimeZone_Click();
+    const DateTime begin = view_.beginShown;
+    const DateTime end = view_.endShown;
+    wizard_->cmdPrevious2_Click();
+    modInfoViewDLL.infoview = [](const std::string& path, GridKind kind, InfoViewResult& r) {
+        readGridFileHeader(path, kind, r);
+        r.timeZone = "MST";
+    };
+    wizard_->cmdNext1_Click();
+    EXPECT_EQ(wizard_->TimeZoneShiftHours, 7);
+    EXPECT_EQ(view_.beginShown, begin) << "in the zone that the combo says";
+    EXPECT_EQ(view_.endShown, end);
+    view_.zoneRow = -1;
+    wizard_->cmdPrevious2_Click();
+    wizard_->cmdNext1_Click();
+    EXPECT_EQ(view_.beginShown, addSeconds(begin, 7 * 3600)) << "no zone at all: as the data have it";
+}
+
+TEST_F(M3dWizard, ANoAfterAYesGoesBackToTheProjection) {
+    openFile(m3dText());
+    acceptProjection("");
+    view_.texts["txtNumberOfLocations"] = "2";
+    boxOf([this] { wizard_->cmdNext2_Click(); }, BoxAnswer::Yes, "");
+    EXPECT_TRUE(wizard_->UseCellCoordinates);
+    wizard_->cmdPrevious3_Click();
+    boxOf([this] { wizard_->cmdNext2_Click(); }, BoxAnswer::No, "");
+    EXPECT_FALSE(wizard_->UseCellCoordinates);
+    EXPECT_FALSE(view_.visibleControls["Frame_IJ"]);
+    EXPECT_TRUE(view_.visibleControls["Frame_XY"]);
+    fillLocation("-3.5", "1204.25", "a");
+    wizard_->cmdNextLocation_Click();
+    fillLocation("8", "9", "b");
+    wizard_->cmdNext3_Click();
+    wizard_->cmdPROCESS_Click();
+    const std::string file = controlFile();
+    for (const char* line : {"! MCELL = 0 !", "! PMAP = LCC !", "! MET = -3.5, 1204.25, 10,",
+                             "! MET = 8, 9, 10,", "! DATUM = NWS-84 !", "! RLAT0 = 40.5N !"})
+        EXPECT_NE(file.find(line), std::string::npos) << line;
 }
 
 TEST_F(M3dWizard, GridCellsSkipTheProjection) {
