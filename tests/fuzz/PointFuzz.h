@@ -6,9 +6,11 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <initializer_list>
 #include <string>
 
 #include "base/Host.h"
+#include "base/Paths.h"
 #include "base/RunTimeError.h"
 
 /// Nobody answers.
@@ -24,6 +26,15 @@ class DeafHost : public zg::Host {
     std::int64_t tickCount() override { return 0; }
     void pumpEvents(int) override {}
 };
+
+/// Makes a directory and the program's own of it, with the input of readAsFile in it under these names.
+inline void useAsApplicationDirectory(char* pattern, const std::string& file,
+                                      std::initializer_list<const char*> names) {
+    if (mkdtemp(pattern) == nullptr) std::abort();
+    zg::applicationDirectory = pattern;
+    for (const char* name : names)
+        if (symlink(file.c_str(), zg::inApplicationDirectory(name).c_str()) != 0) std::abort();
+}
 
 /// Hands the bytes to the reader as a file that lies in memory.
 template <typename Read>

@@ -1,0 +1,41 @@
+// Any bytes as the file of settings and as the list of expressions: they are read or replaced by the
+// factory's, and what is then written is read back as the same.
+
+#include "base/Lines.h"
+#include "base/Paths.h"
+#include "shell/settings/CfgFile.h"
+#include "shell/settings/ExprFile.h"
+#include "shell/settings/Settings.h"
+#include "tests/fuzz/PointFuzz.h"
+
+namespace {
+
+std::string bytesOf(const std::string& path) {
+    std::string bytes;
+    for (zg::LineReader lines(path); !lines.atEnd();) bytes += std::string(lines.readLine()) + "\n";
+    return bytes;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static char directory[] = "/tmp/settings_fuzz_XXXXXX";
+    static const bool made = mkdtemp(directory) != nullptr;
+    if (!made) std::abort();
+    const std::string base = std::string(directory) + "/";
+    zg::settings.CfgFilePath = base + "factory.cfg";
+    readAsFile(data, size, [&base](zg::Host&, const std::string& path) {
+        zg::ReadCfgFile(path);
+        zg::WriteCfgFile(base + "first.cfg");
+        zg::ReadCfgFile(base + "first.cfg");
+        zg::WriteCfgFile(base + "second.cfg");
+        if (bytesOf(base + "first.cfg") != bytesOf(base + "second.cfg")) std::abort();
+
+        auto expressions = zg::readExpressions(path);
+        // The format has no way to write a quotation mark, or a line's end, within a record.
+        std::erase_if(expressions, [](const auto& one) { return one.find_first_of("\"\r\n") != one.npos; });
+        if (!zg::writeExpressions(base + "expr.dat", expressions)) std::abort();
+        if (zg::readExpressions(base + "expr.dat") != expressions) std::abort();
+    });
+    return 0;
+}

@@ -1,0 +1,43 @@
+// Any bytes as the table of stations, the table of time zones and the suite's configuration: rows come back
+// whole, or none does.
+
+#include "graph/control/SuiteConfiguration.h"
+#include "processing/Stations.h"
+#include "processing/Zones.h"
+#include "tests/fuzz/PointFuzz.h"
+
+namespace {
+
+void readZones() {
+    zg::timeZones = {};
+    try {
+        zg::LoadTimeZones();
+    } catch (const zg::RunTimeError&) {
+        if (!zg::timeZones.gsTimeZoneKeys.empty()) std::abort();
+    }
+    if (zg::timeZones.gsTimeZoneKeys.size() != zg::timeZones.gsTimeZoneLabels.size()) std::abort();
+    for (const std::string& key : zg::timeZones.gsTimeZoneKeys) {
+        try {
+            zg::TimeZoneFromHours(zg::HoursFromTimeZone(key));
+        } catch (const zg::RunTimeError&) {
+            continue;  // told to the user
+        }
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    readAsFile(data, size, [](zg::Host&, const std::string& path) {
+        static char directory[] = "/tmp/tables_fuzz_XXXXXX";
+        static const bool made =
+            (useAsApplicationDirectory(directory, path, {"Station_Data.csv", "TimeZones.txt"}), true);
+        if (!made) return;
+        zg::LoadStationData();
+        if (zg::stations.rows > zg::stations.gsStationCol9.size()) std::abort();
+        readZones();
+        std::string workDirectory;
+        zg::readSuiteWorkDir(path, workDirectory);
+    });
+    return 0;
+}
