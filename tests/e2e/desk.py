@@ -53,6 +53,30 @@ class Desk:
         done = subprocess.run(["timeout", "10", *map(str, words)], env=self.env, capture_output=True, text=True)
         return done.stdout.strip()
 
+    def work(self):
+        """What the display, the window manager and the program have computed so far; None while one of them still computes."""
+        total = 0
+        for child in self.children:
+            for task in pathlib.Path(f"/proc/{child.pid}/task").glob("*"):
+                try:
+                    if (task / "stat").read_text().rpartition(")")[2].split()[0] in "RD":
+                        return None
+                    total += int((task / "schedstat").read_text().split()[0])
+                except (FileNotFoundError, ProcessLookupError):
+                    continue  # it has ended meanwhile
+        return total
+
+    def settle(self, seconds=10):
+        """Waits until what was done before has come to its end, however slow the machine is. A caret that blinks does not count."""
+        end = time.monotonic() + seconds
+        before = None
+        while time.monotonic() < end:
+            now = self.work()
+            if now is not None and now == before:
+                return
+            before = now
+            time.sleep(0.06)
+
     def windows(self):
         """Titles of the windows on show, by their numbers."""
         found = {}
@@ -87,14 +111,17 @@ class Desk:
         self.wait(f"no window titled {title}", lambda: not any(re.fullmatch(title, name) for name in self.windows().values()), seconds)
 
     def keys(self, *names):
+        self.settle()
         for name in names:
             self.tool("xdotool", "key", "--delay", "30", name)
             time.sleep(0.03)
 
     def type(self, text):
+        self.settle()
         self.tool("xdotool", "type", "--delay", "8", text)
 
     def click(self, window, x, y, button=1):
+        self.settle()
         self.tool("xdotool", "mousemove", "--window", window, x, y, "click", button)
 
     def drag(self, window, x, y, to_x, to_y):
@@ -103,7 +130,10 @@ class Desk:
             self.tool("xdotool", "mousemove", "--window", window, x + (to_x - x) * i // 8, y + (to_y - y) * i // 8)
         self.tool("xdotool", "mouseup", 1)
 
-    def shot(self, name, window="root"):
+    def shot(self, name, window="root", still=True):
+        """A picture of a window, once it is painted. While something moves there is nothing to wait for."""
+        if still:
+            self.settle()
         self.count += 1
         path = self.shots / f"{self.count:02d}_{name}.png"
         self.tool("import", "-window", window, path)

@@ -47,7 +47,6 @@ class Walk:
     def menu(self, key, downs):
         self.desk.window(r"Zephyrgraph.*")
         self.desk.keys("alt+" + key)
-        time.sleep(0.3)
         self.desk.keys(*["Down"] * downs, "Return")
 
     def file_menu(self, entry):
@@ -56,7 +55,6 @@ class Walk:
     def pick(self, title, path):
         """Types a path into a file dialog."""
         self.desk.window(title)
-        time.sleep(0.2)
         self.desk.keys("ctrl+a")
         self.desk.type(str(path))
         self.desk.keys("Return")
@@ -65,15 +63,13 @@ class Walk:
     def fill(self, key, text):
         """Goes to a field by its key and replaces its text."""
         self.desk.keys("alt+" + key)
-        time.sleep(0.15)
         self.desk.keys("ctrl+a")
         self.desk.type(str(text))
 
     # What a user sees.
 
-    def page(self, name):
-        shot = self.desk.shot(name, self.main)
-        return shot
+    def page(self, name, still=True):
+        return self.desk.shot(name, self.main, still)
 
     def changed(self, before, after, what):
         """The page differs in more than a few pixels."""
@@ -99,10 +95,9 @@ class Walk:
     def first_start(self):
         self.program = self.desk.start([str(self.home / "zephyrgraph")], cwd=self.out, env={"HOME": str(self.scratch)})
         self.desk.window("Zephyrgraph")
-        time.sleep(1)
         # The splash has the same title; the main window is the one with a page to draw on.
         self.main = self.desk.wait("the main window", lambda: next(
-            (n for n in self.desk.windows() if self.desk.windows()[n] == "Zephyrgraph" and self.size(n)[0] > 650), None))
+            (number for number, title in self.desk.windows().items() if title == "Zephyrgraph" and self.size(number)[0] > 650), None))
         self.empty = self.page("first_start")
 
     def size(self, window):
@@ -114,7 +109,6 @@ class Walk:
         self.file_menu("open")
         self.pick("Open", self.samples / "LOVETT_1988.frq")
         self.plotted("LOVETT_1988.frq")
-        time.sleep(0.5)
         self.rose = self.page("rose")
         self.changed(self.empty, self.rose, "an opened file")
         for colour in ("FF0000", "00FF00", "0000FF", "FFFF00"):
@@ -127,7 +121,6 @@ class Walk:
         self.desk.shot("choose")
         self.desk.keys("Down", "Down", "Return")
         self.desk.gone("Select Wind Rose to Plot")
-        time.sleep(0.5)
         spring = self.page("spring")
         self.changed(self.rose, spring, "another rose")
 
@@ -144,7 +137,6 @@ class Walk:
         self.desk.shot("grid_dialog")
         self.desk.keys("alt+a", "alt+c")
         self.desk.gone("Edit Grid Fonts and Colors")
-        time.sleep(0.5)
         after = self.page("red_grid")
         if self.count(after, "C00000") < self.count(before, "C00000") + 100:
             raise Failed("a dark red grid was expected")
@@ -157,14 +149,12 @@ class Walk:
         self.desk.shot("radius")
         self.desk.keys("Return")
         self.desk.gone("Change Radius")
-        time.sleep(0.5)
         self.changed(before, self.page("smaller_radius"), "another radius")
 
     def measure(self):
         before = self.page("before_measuring")
         width, height = self.size(self.main)
         self.desk.click(self.main, 24, 174)  # the circle of the tool box
-        time.sleep(0.3)
         self.desk.tool("xdotool", "mousemove", "--window", self.main, width // 2 + 5, 390, "mousedown", 1)
         for x in range(10, 120, 10):
             self.desk.tool("xdotool", "mousemove", "--window", self.main, width // 2 + x, 390)
@@ -181,18 +171,16 @@ class Walk:
         self.fill("u", "Lovett, checked by hand")
         self.desk.shot("label_dialog")
         self.desk.keys("Return")
-        time.sleep(0.3)
+        self.desk.settle()
         if any(title == "Edit Label" for title in self.desk.windows().values()):
             self.desk.keys("Return")
         self.desk.gone("Edit Label")
-        time.sleep(0.5)
         self.changed(before, self.page("label"), "a label")
 
     def equation(self):
         before = self.page("before_curve")
         self.fill("t", "4*abs(sin(2*t))")
         self.desk.keys("alt+p")
-        time.sleep(1)
         after = self.page("curve")
         self.changed(before, after, "a curve")
 
@@ -201,7 +189,6 @@ class Walk:
         _, height = self.size(self.main)
         self.desk.click(self.main, 100, height - 78)
         self.desk.click(self.main, 100, height - 78, 3)
-        time.sleep(0.4)
         self.desk.shot("pop_up")
         self.desk.keys(*keys)
 
@@ -213,10 +200,9 @@ class Walk:
         self.desk.shot("properties")
         self.desk.keys("Return")
         self.desk.gone("Properties")
-        time.sleep(0.5)
         before = self.page("before_play")
         self.pop_up("Down", "Down", "Down", "Down", "Return")
-        early = self.page("playing")
+        early = self.page("playing", still=False)
         self.changed(before, early, "a curve that is being drawn anew")
         shot = self.desk.shots / "played.png"
 
@@ -248,7 +234,6 @@ class Walk:
         self.desk.shot("batch", self.desk.window("Batch Mode"))
         self.desk.keys("Tab", "Tab", "Tab", "Tab", "Return")
         self.desk.wait("25 bitmaps", lambda: len(list(pictures.glob("sea_*.bmp"))) == 25, 60)
-        time.sleep(0.5)
         self.desk.shot("batch_finished")
         self.desk.window("Batch Mode")
         self.desk.keys("Escape")
@@ -269,7 +254,6 @@ class Walk:
         self.desk.keys("Tab", "Return")
         self.file(self.out / "roses.ppt", 10_000, "the slide show")
         self.desk.window("Create Report")
-        time.sleep(1)
         self.desk.keys("Escape")
         self.desk.gone("Create Report")
 
@@ -281,7 +265,6 @@ class Walk:
         self.desk.window(title)
         self.desk.keys("alt+b")
         self.pick("Open", self.samples / sample)
-        time.sleep(0.5)
         self.desk.window(title)
         for keys, text in before_run:
             if text is None:
@@ -294,12 +277,10 @@ class Walk:
         self.desk.keys("Return")
         self.plotted(result)
         self.desk.wait("the rose's file", lambda: any(re.fullmatch(result, path.name) for path in out.iterdir()))
-        time.sleep(1.2)
         self.desk.shot(entry + "_rose")
         self.desk.window(title)
         self.desk.keys("Escape")
         self.desk.gone(title)
-        time.sleep(0.3)
         self.page(entry + "_window")
 
     def surface(self):
@@ -330,13 +311,11 @@ class Walk:
         self.pick("Select Files", self.samples / sample)
         self.desk.window(title)
         self.desk.keys("alt+n")
-        time.sleep(0.5)
         self.desk.keys("alt+i", "Down")
         locations()
         self.fill("a", result)
         self.desk.shot(entry + "_location")
         self.desk.keys("alt+n")
-        time.sleep(0.5)
         self.fill("o", str(out) + "/")
         self.desk.shot(entry + "_directory")
         self.desk.keys("alt+r")
@@ -353,7 +332,6 @@ class Walk:
             self.desk.wait("the question about grid cells", lambda: "Zephyrgraph" in self.desk.windows().values())
             self.desk.shot("cells_question")
             self.desk.keys("alt+y")
-            time.sleep(0.5)
             self.fill("i", "1.5")
             self.fill("j", "2.25")
         self.wizard("m3d", "Generate Wind Rose Plots from MM5 or WRF 3D.DAT Data", "valley_model.m3d", "cell", cells)
@@ -365,7 +343,6 @@ class Walk:
             self.desk.shot("projection")
             self.desk.keys("Return")
             self.desk.gone("Map Projection Information for Extraction Site Coordinates")
-            time.sleep(0.5)
             self.fill("x", "584.0")
             self.fill("y", "4514.5")
         self.wizard("ventos", "Generate Wind Rose Plots from VENTOS Data", "valley_ventos.dat", "field", coordinates)
