@@ -19,13 +19,16 @@ while read -r picture form; do
 done <<'FORMS'
 about frmAboutZephyrgraph
 aspect frmAspect
+choose_directory frmChangeDir
 choose_rose frmSelectWindRose
 classes frmSetWindSpeedClasses
 comment frmComment
+error frmError
 expressions frmExpr
 grid_fonts frmGridFonts
 labels frmAddLabel
 legend frmOptionsLegend
+options frmOptions
 projection frmProjectionInfo_LCC
 properties frmProperties_Font_Patterns
 radius frmChangeRadius

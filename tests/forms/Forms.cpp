@@ -135,8 +135,9 @@ FormPointer customSeasons(FormWorld& world) {
 FormPointer errorForm(FormWorld&) {
     auto form = std::make_unique<frmError>();
     form->findChild<QLabel*>(QStringLiteral("lblDescr"))
-        ->setText(QStringLiteral("A description that is long enough to need more than one line of the form, "
-                                 "as those of errors in a file with a long path are."));
+        ->setText(QStringLiteral(
+            "Line 12 of the file Lovett_1988_surface_observations.dat holds no wind direction: "
+            "its columns 27 to 29 are blank. The lines behind it are not read."));
     return form;
 }
 
