@@ -44,7 +44,8 @@ constexpr std::size_t classCount = 6;
 
 /// How winds are sorted into roses.
 struct RoseRules {
-    std::array<double, classCount> classLimits{};  ///< lower limits, m/s, rising; the first is that of calm
+    std::array<double, classCount>
+        classLimits{};  ///< lower limits, m/s; none falls. The first is that of calm
     std::array<std::string, classCount> limitTexts{};  ///< as they were written
     std::vector<Season> seasons;
     std::array<int, 12> seasonOfMonth{};  ///< ids; one that no season has stands for none

@@ -163,12 +163,11 @@ class Reader {
         const std::vector<std::string> items = keys_.items("WSBIN", "0.5, 1.8, 3.3, 5.4, 8.5, 10.8");
         if (items.size() != classCount)
             throw keys_.failure("WSBIN", std::to_string(items.size()) + " speeds stand where 6 are needed");
-        double below = 0;
+        std::array<double, classCount>& limits = control_.rules.classLimits;
         for (std::size_t i = 0; i < classCount; ++i) {
-            const double limit = keys_.number("WSBIN", items[i]);
-            if (limit <= below)
-                throw keys_.failure("WSBIN", "the speeds must rise and be above 0: \"" + items[i] + "\"");
-            control_.rules.classLimits[i] = below = limit;
+            limits[i] = keys_.number("WSBIN", items[i]);
+            if (i > 0 && limits[i] < limits[i - 1])
+                throw keys_.failure("WSBIN", "the speeds must not fall: \"" + items[i] + "\"");
             control_.rules.limitTexts[i] = items[i];
         }
     }

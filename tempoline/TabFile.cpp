@@ -134,11 +134,11 @@ class Reader {
         const std::string limits = value("Limits");
         std::array<std::string_view, classCount + 1> fields;
         if (splitCommas(limits, fields) != classCount) throw failure("Limits: 6 speeds are needed");
-        double below = 0;
         for (std::size_t i = 0; i < classCount; ++i) {
             const double limit = valueOf(fields[i]).value_or(missingValue);
-            if (!(limit > below)) throw failure("Limits: the speeds must rise");
-            rules.classLimits[i] = below = limit;
+            if (!hasValue(limit) || (i > 0 && limit < rules.classLimits[i - 1]))
+                throw failure("Limits: six speeds that do not fall are needed");
+            rules.classLimits[i] = limit;
             rules.limitTexts[i] = stripped(fields[i]);
         }
         const std::string months = value("Months");

@@ -118,6 +118,18 @@ TEST(ControlReader, HandWrittenForms) {
     EXPECT_EQ(control.end, momentOf(2006, 1, 1, 0, 0));
 }
 
+TEST(ControlReader, ClassLimitsMayBeEqualOrBelowZeroButNotFall) {
+    const std::string text = written("aermsfc.inp");
+    const auto limitsOf = [&](const std::string& value) {
+        return readControl(with(text, "WSBIN", value), "c.inp").rules.classLimits;
+    };
+    EXPECT_EQ(limitsOf("1, 1, 2, 3, 4, 5"), (std::array<double, classCount>{1, 1, 2, 3, 4, 5}));
+    EXPECT_EQ(limitsOf("-0.5, 0, 2, 3, 4, 4"), (std::array<double, classCount>{-0.5, 0, 2, 3, 4, 4}));
+    EXPECT_EQ(refused(with(text, "WSBIN", "1, 2, 1, 3, 4, 5")).substr(11),
+              "WSBIN: the speeds must not fall: \"1\"");
+    EXPECT_NE(refused(with(text, "WSBIN", "0, inf, inf, inf, inf, inf")), "");
+}
+
 TEST(ControlReader, BadValuesAreNamed) {
     const std::string text = written("m3d_lcc.inp");
     EXPECT_EQ(refused(with(text, "PMAP", "XYZ")), "c.inp:261: PMAP: \"XYZ\" is no known projection");

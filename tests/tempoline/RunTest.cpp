@@ -8,6 +8,7 @@
 #include "dialogs/point/TsfHeader.h"
 #include "graph/frq/OpenFreqFile.h"
 #include "tempoline/Interrupt.h"
+#include "tempoline/Merge.h"
 #include "tests/support/TestHost.h"
 #include "tests/tempoline/TempolineSupport.h"
 
@@ -160,6 +161,29 @@ TEST(Run, TheDesktopLoadsWhatItMade) {
     EXPECT_EQ(tables.FrqValidPeriods(1), 1);
     EXPECT_EQ(tables.FrqFraction(5, 3), 1.0);
     EXPECT_EQ(tables.FrqDirectionLabel(16), "NNW");
+}
+
+TEST(Run, TheDesktopLoadsClassesWithEqualAndNegativeLimits) {
+    const InDirectory inside;
+    std::string lines = "header\n";
+    for (const char* const hourAndWind : {"1 0 0 0 0 0 0 0 0 0 0 1.0 90.0", "2 0 0 0 0 0 0 0 0 0 0 0.0 90.0"})
+        lines += std::string("2004 1 1 1 ") + hourAndWind + " 10.0\n";
+    inside.directory.write("in.sfc", lines);
+    auto changes = firstDay;
+    changes.emplace_back("METINP", "in.sfc");
+    changes.emplace_back("WSBIN", "-1, 1, 1, 2, 3, 4");
+    inside.directory.write("c.inp", control("aermsfc.inp", changes));
+    ASSERT_EQ(run("c.inp"), ExitStatus::Completed);
+    ModPolarGraph tables;
+    TestHost host;
+    ASSERT_EQ(loadFreqFile("out.frq", tables, host), FreqFileOutcome::Loaded);
+    EXPECT_EQ(tables.FrqClassLimit(0), " -1");
+    EXPECT_EQ(tables.FrqClassLimit(3), "1");
+    EXPECT_EQ(tables.FrqFraction(5, 1), 0.5);
+    EXPECT_EQ(tables.FrqFraction(5, 2), 0);  // equal limits leave it empty
+    EXPECT_EQ(tables.FrqFraction(5, 3), 0.5);
+    mergeTabs({"out.tab"}, "sum");
+    EXPECT_EQ(inside.directory.read("sum.frq"), inside.directory.read("out.frq"));
 }
 
 TEST(Run, TheDialogReadsTheHeaderOfTheSeries) {

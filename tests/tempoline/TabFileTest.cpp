@@ -49,6 +49,19 @@ TEST(TabFile, AChangedCountIsNoticed) {
     EXPECT_NE(failureOf([&] { readTab(text, "a.tab"); }).find("do not sum to its last"), std::string::npos);
 }
 
+TEST(TabFile, LimitsMayBeEqualOrBelowZeroButNotFall) {
+    const std::string text = tabText(reportOfDay(24));
+    const auto withLimits = [&](const std::string& limits) {
+        std::string other = text;
+        return other.replace(other.find("0.5,1.8,3.3,5.4,8.5,10.8"), 24, limits);
+    };
+    EXPECT_EQ(readTab(withLimits("-1,1,1,2,3,3"), "a.tab").rules.classLimits,
+              (std::array<double, classCount>{-1, 1, 1, 2, 3, 3}));
+    for (const char* const limits : {"0.5,1.8,1.7,5.4,8.5,10.8", "0.5,nan,3.3,5.4,8.5,10.8"})
+        EXPECT_EQ(failureOf([&] { readTab(withLimits(limits), "a.tab"); }),
+                  "a.tab:8: Limits: six speeds that do not fall are needed");
+}
+
 TEST(TabFile, OtherTextsAreRefused) {
     EXPECT_EQ(failureOf([] { readTab("x\n", "a.tab"); }),
               "a.tab:1: the first line is not that of a TAB file of version 1.0");
