@@ -21,17 +21,18 @@ class OutputReader {
         const std::size_t count = readCount();
         for (const Assignment& entry : keys_.all()) {
             if (entry.key == "TSFID") {
-                id_ = keys_.wholeOf(entry, 0, highestId);
-                location_.clear();
+                open(entry);
             } else if (entry.key == "TSFOUT") {
                 declare(entry);
             } else if (entry.key == "LOCMET") {
                 needId(entry);
+                if (location_) throw idFailure(entry, " has a LOCMET before");
                 location_ = entry.value;
             } else if (entry.key == "MET") {
                 locate(entry);
             }
         }
+        needClosed();
         keys_.needCount("TSFOUT", outputs_.size(), count, "NTSFOUT");
         keys_.needCount("MET", located_.size(), count, "NTSFOUT");
         return std::move(outputs_);
@@ -46,6 +47,22 @@ class OutputReader {
         return static_cast<std::size_t>(count);
     }
 
+    void open(const Assignment& entry) {
+        needClosed();
+        id_ = keys_.wholeOf(entry, 0, highestId);
+        opened_ = &entry;
+    }
+
+    /// A TSFID begins one TSFOUT or one MET: a second one would pass over the first.
+    void needClosed() const {
+        if (id_) throw idFailure(*opened_, " has neither TSFOUT nor MET behind it");
+    }
+
+    void close() {
+        id_.reset();
+        location_.reset();
+    }
+
     int needId(const Assignment& entry) const {
         if (!id_) throw keys_.failure(entry, "a TSFID of its own must stand before it");
         return *id_;
@@ -58,12 +75,13 @@ class OutputReader {
     void declare(const Assignment& entry) {
         OutputRequest output;
         output.id = needId(entry);
+        if (location_) throw idFailure(entry, " has a LOCMET, which belongs to a MET");
         if (!declared_.emplace(output.id, outputs_.size()).second)
             throw idFailure(entry, " has been given before");
         keys_.at(entry);
         output.name = plainFileName(keys_, "TSFOUT", entry.value);
         outputs_.push_back(output);
-        id_.reset();
+        close();
     }
 
     void locate(const Assignment& entry) {
@@ -71,8 +89,8 @@ class OutputReader {
         if (found == declared_.end()) throw idFailure(entry, " has no TSFOUT");
         if (!located_.insert(*id_).second) throw idFailure(entry, " has been given before");
         readPlace(entry, outputs_[found->second]);
-        outputs_[found->second].location = location_;
-        id_.reset();
+        outputs_[found->second].location = location_.value_or("");
+        close();
     }
 
     void readPlace(const Assignment& entry, OutputRequest& output) {
@@ -96,8 +114,9 @@ class OutputReader {
     std::vector<OutputRequest> outputs_;
     std::map<int, std::size_t> declared_;  ///< place in the outputs by id
     std::set<int> located_;
-    std::optional<int> id_;  ///< of the lines at hand
-    std::string location_;
+    std::optional<int> id_;               ///< of the lines at hand
+    const Assignment* opened_ = nullptr;  ///< its TSFID
+    std::optional<std::string> location_;
 };
 
 std::vector<OutputRequest> readRoseName(ControlKeys& keys) {

@@ -177,18 +177,24 @@ class Reader {
         const int count = keys_.wholeOr("NSEASN", 4, 1, mostSeasons);
         std::set<int> ids;
         const Assignment* open = nullptr;
+        const auto needClosed = [&] {
+            if (open != nullptr) throw keys_.failure(*open, "no SEASNAME stands behind it");
+        };
         for (const Assignment& entry : keys_.all()) {
             if (entry.key == "IDSEAS") {
+                needClosed();
                 open = &entry;
+                const int id = keys_.wholeOf(entry, 1, mostSeasons);
+                if (!ids.insert(id).second)
+                    throw keys_.failure(entry, std::to_string(id) + " has been given before");
+                rules.seasons.push_back({id, ""});
             } else if (entry.key == "SEASNAME") {
                 if (open == nullptr) throw keys_.failure(entry, "an IDSEAS must stand before it");
-                const int id = keys_.wholeOf(*open, 1, mostSeasons);
-                if (!ids.insert(id).second)
-                    throw keys_.failure(*open, std::to_string(id) + " has been given before");
-                rules.seasons.push_back({id, entry.value});
+                rules.seasons.back().name = entry.value;
                 open = nullptr;
             }
         }
+        needClosed();
         const bool defaults = rules.seasons.empty() && !keys_.has("NSEASN");
         if (defaults) rules.seasons = {{1, "Winter"}, {2, "Spring"}, {3, "Summer"}, {4, "Fall"}};
         if (!defaults)

@@ -130,6 +130,29 @@ TEST(ControlReader, ClassLimitsMayBeEqualOrBelowZeroButNotFall) {
     EXPECT_NE(refused(with(text, "WSBIN", "0, inf, inf, inf, inf, inf")), "");
 }
 
+TEST(ControlReader, KeysOfAGroupStandOnceInIt) {
+    const std::string text = written("surf_untitled.inp");
+    const auto changed = [&](const std::string& line, const std::string& lines) {
+        return std::regex_replace(text, std::regex(line), lines, std::regex_constants::format_first_only);
+    };
+    const std::string id = "! TSFID  = 3 !";
+    const std::string neither = "TSFID: TSFID 3 has neither TSFOUT nor MET behind it";
+    EXPECT_EQ(refused(changed(id, id + "\n" + id)), "c.inp:83: " + neither);
+    EXPECT_EQ(refused(changed(id, "! TSFID = x !\n" + id)), "c.inp:83: TSFID: \"x\" is no whole number");
+    EXPECT_EQ(refused(text + id + "\n").substr(11), neither);
+    const std::string place = "! LOCMET = One !";
+    EXPECT_EQ(refused(changed(place, place + "\n" + place)),
+              "c.inp:196: LOCMET: TSFID 1 has a LOCMET before");
+    EXPECT_EQ(refused(changed("! TSFOUT = One !", place + "\n! TSFOUT = One !")),
+              "c.inp:82: TSFOUT: TSFID 1 has a LOCMET, which belongs to a MET");
+    const std::string season = "! IDSEAS   = 1 !";
+    EXPECT_EQ(refused(changed(season, "! IDSEAS = 9 !\n" + season)),
+              "c.inp:443: IDSEAS: no SEASNAME stands behind it");
+    EXPECT_EQ(refused(changed(season, "! IDSEAS = x !\n" + season)),
+              "c.inp:443: IDSEAS: \"x\" is no whole number");
+    EXPECT_EQ(refused(text + "! IDSEAS = 9 !\n").substr(11), "IDSEAS: no SEASNAME stands behind it");
+}
+
 TEST(ControlReader, BadValuesAreNamed) {
     const std::string text = written("m3d_lcc.inp");
     EXPECT_EQ(refused(with(text, "PMAP", "XYZ")), "c.inp:261: PMAP: \"XYZ\" is no known projection");

@@ -111,7 +111,7 @@ def case_bad_control(processor, directory):
     for key in single:
         line = next(line for line in good.split("\r\n") if re.search(r"! %s *=" % key, line))
         refuse(good.replace(line, line + "\r\n" + line), r"%s: the key is given twice; first in line \d+" % key)
-    for key in ("METINP", "TSFOUT", "MET", "SEASNAME", "HR"):
+    for key in ("METINP", "TSFID", "TSFOUT", "MET", "IDSEAS", "SEASNAME", "HR"):
         line = next(line for line in good.split("\r\n") if re.search(r"! %s *=" % key, line))
         refuse(good.replace(line, line + "\r\n" + line), r"c\.inp:\d+: [A-Z]+: ")
     for key, value, pattern in [
