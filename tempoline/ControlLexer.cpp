@@ -11,7 +11,6 @@ namespace zg::tempoline {
 namespace {
 
 constexpr std::string_view fileKind = "TEMPOLINE.INP";
-constexpr std::string_view defaultListing = "TEMPOLINE.LST";
 constexpr std::string_view endMark = "!END!";
 
 bool isKeyCharacter(char c) {
@@ -60,6 +59,19 @@ class Lexer {
         if (nextLine(line)) result_.title = stripped(line);
         while (nextLine(line)) readLine(line);
         return std::move(result_);
+    }
+
+    std::vector<Assignment> readLenient() {
+        std::string_view line;
+        for (int head = 0; head < 2; ++head) nextLine(line);
+        while (nextLine(line)) {
+            try {
+                readLine(line);
+            } catch (const Failure&) {
+                continue;  // the other lines still count
+            }
+        }
+        return std::move(result_.assignments);
     }
 
  private:
@@ -111,24 +123,6 @@ ControlText readAssignments(std::string_view text, const std::string& file) {
     return Lexer(text, file).read();
 }
 
-std::string listingNameOf(std::string_view text) {
-    std::string name(defaultListing);
-    try {
-        const std::string head = "TEMPOLINE.INP\n\n";
-        std::size_t begin = 0;
-        while (begin < text.size()) {
-            const std::size_t end = std::min(text.find('\n', begin), text.size());
-            const std::string line(text.substr(begin, end - begin));
-            begin = end + 1;
-            if (ucase(line).find("TSFLST") == std::string::npos) continue;
-            for (const Assignment& found : readAssignments(head + line, "").assignments) {
-                if (found.key == "TSFLST" && !found.value.empty()) return found.value;
-            }
-        }
-    } catch (const Failure&) {
-        return name;
-    }
-    return name;
-}
+std::vector<Assignment> readableAssignments(std::string_view text) { return Lexer(text, "").readLenient(); }
 
 }  // namespace zg::tempoline

@@ -30,8 +30,8 @@ struct ControlText {
 /// that does not end on its line, and for control characters in a value.
 ControlText readAssignments(std::string_view text, const std::string& file);
 
-/// The name of the listing, as far as it can be told from a file however broken; "TEMPOLINE.LST" without one.
-std::string listingNameOf(std::string_view text);
+/// The assignments of those lines behind the first two that can be read, however broken the others are.
+std::vector<Assignment> readableAssignments(std::string_view text);
 
 /// "file:line: key: text", without the line where it is 0.
 Failure controlFailure(const std::string& file, std::size_t line, std::string_view key,

@@ -69,6 +69,7 @@ void Listing::describeOutput(const OutputRequest& output, const Series& series) 
 }
 
 void Listing::write(const std::string& lastLine) {
+    if (name_.empty()) return;
     OutputFile file(name_);
     file.write(text_);
     file.write(lastLine + "\r\n");

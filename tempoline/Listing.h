@@ -21,7 +21,8 @@ class Listing {
 
     const std::string& text() const { return text_; }
 
-    /// Replaces the file with the last line added; throws as OutputFile does.
+    /// Replaces the file with the last line added; throws as OutputFile does. Without a name nothing is
+    /// written.
     void write(const std::string& lastLine);
 
  private:

@@ -8,11 +8,11 @@
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "tempoline/BlockReader.h"
-#include "tempoline/ControlLexer.h"
 #include "tempoline/ControlReader.h"
 #include "tempoline/FrqWriter.h"
 #include "tempoline/Interrupt.h"
 #include "tempoline/Listing.h"
+#include "tempoline/ListingName.h"
 #include "tempoline/OutputFile.h"
 #include "tempoline/TabFile.h"
 #include "tempoline/Texts.h"
@@ -172,22 +172,17 @@ void runControl(const std::string& text, const std::string& controlFile, Listing
     Runner(control, listing).run();
 }
 
-/// The name of the listing is not trusted where the file could not be read as a whole.
-std::string safeListingName(const std::string& text) {
-    const std::string name = listingNameOf(text);
-    return name.find('/') == std::string::npos && name != "." && name != ".." ? name : "TEMPOLINE.LST";
-}
-
 }  // namespace
 
 ExitStatus run(const std::string& controlFile) {
-    Listing listing("TEMPOLINE.LST");
+    Listing listing(isSameFile(controlFile, defaultListing) ? "" : defaultListing);
     std::string lastLine = "RUN COMPLETED";
     ExitStatus status = ExitStatus::Completed;
     listing.line("TEMPOLINE: winds of " + controlFile);
     try {
         const std::string text = readControlText(controlFile);
-        listing.rename(safeListingName(text));
+        listing.rename("");  // nothing is written until its name is known to be free
+        listing.rename(freeListingName(text, controlFile));
         runControl(text, controlFile, listing);
     } catch (const Failure& failure) {
         status = failure.status;

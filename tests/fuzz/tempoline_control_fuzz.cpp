@@ -6,6 +6,7 @@
 #include "tempoline/ControlLexer.h"
 #include "tempoline/ControlReader.h"
 #include "tempoline/Failure.h"
+#include "tempoline/ListingName.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text(reinterpret_cast<const char*>(data), size);

@@ -6,6 +6,7 @@
 
 #include "base/Lines.h"
 #include "tempoline/ControlLexer.h"
+#include "tempoline/ListingName.h"
 #include "tests/tempoline/TempolineSupport.h"
 
 namespace zg::tempoline {
@@ -185,9 +186,16 @@ TEST(ControlReader, ThePeriodMustHoldASoundNumberOfSteps) {
 }
 
 TEST(ControlLexer, FindsTheListingInABrokenFile) {
-    EXPECT_EQ(listingNameOf("x\n! TSFLST = a.lst !\n! MDATA = "), "a.lst");
-    EXPECT_EQ(listingNameOf("x\n! TSFLST = a.lst"), "TEMPOLINE.LST");
+    EXPECT_EQ(listingNameOf("x\ny\n! TSFLST = a.lst !\n! MDATA = "), "a.lst");
+    EXPECT_EQ(listingNameOf("x\ny\n! TSFLST = \n! TSFLST = a.lst !"), "a.lst");
+    EXPECT_EQ(listingNameOf("x\ny\n! TSFLST = a.lst"), "TEMPOLINE.LST");
+    EXPECT_EQ(listingNameOf("x\ny\n! TSFLST = ../a.lst !"), "TEMPOLINE.LST");
     EXPECT_EQ(listingNameOf(""), "TEMPOLINE.LST");
+}
+
+TEST(ControlLexer, TheTitleNamesNoListing) {
+    EXPECT_EQ(listingNameOf("TEMPOLINE.INP\n! TSFLST = other.lst !\n! TSFLST = a.lst !\n"), "a.lst");
+    EXPECT_EQ(listingNameOf("! TSFLST = b.lst !\n! TSFLST = other.lst !"), "TEMPOLINE.LST");
 }
 
 TEST(ControlLexer, ControlCharactersAreRefused) {

@@ -141,6 +141,29 @@ def case_bad_control(processor, directory):
     assert run(processor, directory, "a", "b").returncode == 2
 
 
+def case_listing_over_others(processor, directory):
+    """A listing with the name of an input, a result or the control file: refused, and nothing is written."""
+    surface(directory, good_day())
+    (directory / "linked.sfc").symlink_to("a.sfc")
+    old_results(directory)
+    day_control(directory)
+    good = (directory / "c.inp").read_bytes().decode("latin-1")
+    broken = good.replace("MROSE = 1", "MROSES = 1")
+    for text, name, what in [(good, "a.sfc", "an input of the run"), (broken, "a.sfc", "an input of the run"),
+                             (good, "linked.sfc", "an input of the run"), (good, "out.tab", "a result of the run"),
+                             (broken, "out.frq", "a result of the run"), (good, "out.tsf", "a result of the run"),
+                             (good, "c.inp", "the control file"), (broken, "c.inp", "the control file")]:
+        (directory / "c.inp").write_bytes(set_key(text, "TSFLST", name).encode("latin-1"))
+        before = {path.name: path.read_bytes() for path in directory.iterdir()}
+        done = run(processor, directory, "c.inp")
+        pattern = r'^tempoline: c\.inp:\d+: TSFLST: the listing cannot be "%s", which is %s\n$' % (name, what)
+        assert done.returncode == 2 and re.search(pattern, done.stderr), (done.returncode, done.stderr)
+        assert before == {path.name: path.read_bytes() for path in directory.iterdir()}, names(directory)
+    (directory / "TEMPOLINE.LST").write_bytes(b"broken")
+    done = run(processor, directory, "TEMPOLINE.LST")
+    assert done.returncode == 2 and (directory / "TEMPOLINE.LST").read_bytes() == b"broken", done.stderr
+
+
 # ---- the data ---------------------------------------------------------------------------------------------
 
 def case_bad_data(processor, directory):

@@ -1,0 +1,57 @@
+#include "tempoline/ListingName.h"
+
+#include <sys/stat.h>
+
+#include <vector>
+
+#include "tempoline/ControlLexer.h"
+
+namespace zg::tempoline {
+
+const char* const defaultListing = "TEMPOLINE.LST";
+
+namespace {
+
+/// Name and line; line 0 for the default.
+Assignment listingOf(const std::vector<Assignment>& assignments) {
+    for (const Assignment& entry : assignments) {
+        const std::string& name = entry.value;
+        if (entry.key != "TSFLST" || name.empty()) continue;
+        if (name.find('/') != std::string::npos || name == "." || name == "..") break;
+        return entry;
+    }
+    return {"TSFLST", defaultListing, 0};
+}
+
+bool isResult(const std::string& name, const Assignment& entry) {
+    if (entry.key != "TSFOUT" && entry.key != "ROSEPLT") return false;
+    return name == entry.value + ".frq" || name == entry.value + ".tab" || name == entry.value + ".tsf";
+}
+
+}  // namespace
+
+bool isSameFile(const std::string& a, const std::string& b) {
+    struct stat first = {};
+    struct stat second = {};
+    return a == b || (stat(a.c_str(), &first) == 0 && stat(b.c_str(), &second) == 0 &&
+                      first.st_dev == second.st_dev && first.st_ino == second.st_ino);
+}
+
+std::string listingNameOf(std::string_view text) { return listingOf(readableAssignments(text)).value; }
+
+std::string freeListingName(std::string_view text, const std::string& controlFile) {
+    const std::vector<Assignment> assignments = readableAssignments(text);
+    const Assignment listing = listingOf(assignments);
+    const auto refuse = [&](const char* what) {
+        throw controlFailure(controlFile, listing.line, "TSFLST",
+                             "the listing cannot be \"" + listing.value + "\", which is " + what);
+    };
+    if (isSameFile(listing.value, controlFile)) refuse("the control file");
+    for (const Assignment& entry : assignments) {
+        if (entry.key == "METINP" && isSameFile(listing.value, entry.value)) refuse("an input of the run");
+        if (isResult(listing.value, entry)) refuse("a result of the run");
+    }
+    return listing.value;
+}
+
+}  // namespace zg::tempoline
