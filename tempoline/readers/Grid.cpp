@@ -14,10 +14,18 @@ constexpr double roughness = 0.1;  // metres
 constexpr double noise = 1e-9;     // cells: what the conversion of a place to the grid may add
 constexpr double halfCell = 0.5;
 
+/// The same longitude, counted on from the western edge of the grid: grids go over the date line, or from 0
+/// to 360 degrees.
+double longitudeIn(const Grid& grid, double longitude) {
+    const double west = grid.x1 + (grid.firstI - 1 - halfCell) * grid.cellSize;
+    return longitude + 360 * std::ceil((west - longitude) / 360);
+}
+
 /// The place in cells.
 MapPoint cellPlace(const OutputRequest& output, const Control& control, const Grid& grid) {
     if (control.cellCoordinates) return {output.x, output.y};
-    const MapPoint place = converted({output.x, output.y}, control.map, grid.map);
+    MapPoint place = converted({output.x, output.y}, control.map, grid.map);
+    if (grid.map.projection == "LL") place.x = longitudeIn(grid, place.x);
     MapPoint cells = {1 + (place.x - grid.x1) / grid.cellSize, 1 + (place.y - grid.y1) / grid.cellSize};
     // A place on a centre shall be that of the cell alone.
     for (double* const value : {&cells.x, &cells.y}) {

@@ -60,6 +60,35 @@ TEST(Grid, APlaceOutsideIsNamed) {
     EXPECT_NE(failureOf([] { around(502, 4505.1); }), "");
 }
 
+TEST(Grid, LongitudesCountOnOverTheDateLine) {
+    Grid grid;
+    grid.map.projection = "LL";
+    grid.lastI = 3;
+    grid.lastJ = 2;
+    const auto firstCell = [&](double west, double longitude, const char* datum) {
+        grid.x1 = west;
+        grid.y1 = 40;
+        Control control = dayControl();
+        control.map = grid.map;
+        control.map.datum = datum;
+        control.outputs[0].x = longitude;
+        control.outputs[0].y = 40;
+        control.method = SpatialMethod::Nearest;
+        return cellsAround(control.outputs[0], control, grid)[0].i;
+    };
+    for (const char* const datum : {"WGS-84", "NAS-C"}) {
+        EXPECT_EQ(firstCell(190, -169.1, datum), 2);
+        EXPECT_EQ(firstCell(190, 190.9, datum), 2);
+        EXPECT_EQ(firstCell(179.5, -179.7, datum), 2);
+        EXPECT_EQ(firstCell(179.5, 179.3, datum), 1);
+        EXPECT_EQ(firstCell(-181, 179.1, datum), 1);
+        EXPECT_EQ(firstCell(-75, -74.1, datum), 2);
+        EXPECT_NE(failureOf([&] { firstCell(190, -171, datum); }), "");
+    }
+    EXPECT_EQ(firstCell(190, -170.5, "WGS-84"), 1) << "the western edge belongs to the grid";
+    EXPECT_EQ(firstCell(190, -167.5, "WGS-84"), 3) << "the eastern one too";
+}
+
 TEST(Grid, OneMissingCellMakesTheWindMissing) {
     const std::vector<CellShare> shares = {{1, 1, 0.5}, {2, 1, 0.5}};
     EXPECT_FALSE(hasSpeed(combined(shares, {{4, 90}, {}})));
