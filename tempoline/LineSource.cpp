@@ -81,8 +81,8 @@ void LineSource::skip(std::size_t count, std::string_view what) {
     }
 }
 
-Failure LineSource::failure(std::string_view field, std::string_view text) const {
-    std::string message = path_ + ":" + std::to_string(lineNumber_) + ": ";
+Failure Place::failure(std::string_view field, std::string_view text) const {
+    std::string message = path + ":" + std::to_string(line) + ": ";
     if (!field.empty()) message.append(field).append(": ");
     return {ExitStatus::Failed, message.append(text)};
 }

@@ -16,6 +16,15 @@ namespace zg::tempoline {
 
 class BlockReader;
 
+/// A line of a file, for what is told of it later. The path must outlive it.
+struct Place {
+    /// "path:line: field: text" (without the field where it is empty) to be thrown.
+    Failure failure(std::string_view field, std::string_view text) const;
+
+    const std::string& path;
+    std::size_t line;
+};
+
 /// Whether a second thread fetches the next blocks while this one works.
 enum class ReadAhead { No, Yes };
 
@@ -46,8 +55,13 @@ class LineSource {
     /// Number of the line last given, from 1.
     std::size_t lineNumber() const { return lineNumber_; }
 
-    /// "path:line: field: text" (without the field where it is empty) to be thrown.
-    Failure failure(std::string_view field, std::string_view text) const;
+    /// As that of a Place, of the line last given.
+    Failure failure(std::string_view field, std::string_view text) const {
+        return Place(*this).failure(field, text);
+    }
+
+    /// The line last given.
+    operator Place() const { return {path_, lineNumber_}; }
 
  private:
     bool fill();

@@ -21,7 +21,7 @@ Series::Series(const Control& control)
       calmLimit_(control.rules.classLimits[0]),
       table_(control.rules, control.step) {}
 
-bool Series::isNext(Seconds begin, Seconds end, const LineSource& place) {
+bool Series::isNext(Seconds begin, Seconds end, const Place& place) {
     if (end < begin) throw place.failure("time", "the record ends before it begins");
     if (end - begin > step_)
         throw place.failure("time", "the record of " + std::to_string(end - begin) +
@@ -31,7 +31,7 @@ bool Series::isNext(Seconds begin, Seconds end, const LineSource& place) {
             "time", "records are out of order: " + isoText(begin) + " stands behind " + isoText(lastBegin_));
     if (any_ && begin == lastBegin_) {
         if (records_.duplicate++ == 0)
-            records_.firstDuplicate = place.path() + ":" + std::to_string(place.lineNumber());
+            records_.firstDuplicate = place.path + ":" + std::to_string(place.line);
         return false;
     }
     if (any_ && begin < lastEnd_)
@@ -43,7 +43,7 @@ bool Series::isNext(Seconds begin, Seconds end, const LineSource& place) {
     return true;
 }
 
-void Series::add(Seconds begin, Seconds end, const Wind& wind, const LineSource& place) {
+void Series::add(Seconds begin, Seconds end, const Wind& wind, const Place& place) {
     ++records_.read;
     if (!isNext(begin, end, place)) return;
     const Seconds from = std::max(begin, periodBegin_);

@@ -41,7 +41,7 @@ class Series {
     /// record as long as the step passes through to the step in which it begins; a shorter one takes part in
     /// the average of each step that it touches. Throws for a record that is longer than the step, ends
     /// before it begins, lies before the one ahead of it or overlaps it.
-    void add(Seconds begin, Seconds end, const Wind& wind, const LineSource& place);
+    void add(Seconds begin, Seconds end, const Wind& wind, const Place& place);
 
     /// Closes all steps to the end of the period.
     void finish();
@@ -61,7 +61,7 @@ class Series {
         Wind single;
     };
 
-    bool isNext(Seconds begin, Seconds end, const LineSource& place);
+    bool isNext(Seconds begin, Seconds end, const Place& place);
     void addPart(std::int64_t index, const Wind& wind, bool valid, double seconds);
     void closeStep();
     Wind averaged() const;

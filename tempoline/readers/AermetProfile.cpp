@@ -31,18 +31,20 @@ class AermetProfile : public InputReader {
         std::array<std::string_view, fieldCount> fields;
         bool open = false;
         Seconds end = 0;
+        std::size_t firstLine = 0;  // of the hour
         while (lines.next(line)) {
             const std::size_t count = splitBlanks(line, fields);
             if (count == 0) continue;
             if (count < fieldCount)
                 throw lines.failure("", "the line has " + std::to_string(count) + " of at least 8 fields");
             const Seconds stamp = stampOf(lines, fields[0], fields[1], fields[2], fields[3]);
-            if (open && stamp != end) giveHour(end, series, lines);
+            if (open && stamp != end) giveHour(end, series, {path, firstLine});
+            if (!open || stamp != end) firstLine = lines.lineNumber();
             open = true;
             end = stamp;
             takeLevel(lines, fields);
         }
-        if (open) giveHour(end, series, lines);
+        if (open) giveHour(end, series, {path, firstLine});
     }
 
  private:
@@ -61,13 +63,13 @@ class AermetProfile : public InputReader {
         }
     }
 
-    void giveHour(Seconds end, std::vector<Series>& series, const LineSource& lines) {
+    void giveHour(Seconds end, std::vector<Series>& series, const Place& place) {
         for (std::size_t i = 0; i < nearest_.size(); ++i) {
             const double asked = control_.outputs[i].height;
             if (nearest_[i].any && std::abs(nearest_[i].height - asked) > farAway)
                 note("WARNING: in some hours the level nearest to " + metresText(asked) + " m is more than " +
                      metresText(farAway) + " m away");
-            series[i].add(end - secondsAnHour, end, nearest_[i].wind, lines);
+            series[i].add(end - secondsAnHour, end, nearest_[i].wind, place);
             nearest_[i] = {};
         }
     }
