@@ -35,6 +35,18 @@ void skipComments(LineSource& lines) {
     lines.skip(static_cast<std::size_t>(countOf(lines, "number of comments")), "a comment");
 }
 
+double degreesField(const LineSource& place, std::string_view field, std::string_view name) {
+    std::string text = ucase(field);
+    if (text == "NONE") return 0;
+    double sign = 1;
+    const char last = text.empty() ? ' ' : text.back();
+    if (last == 'N' || last == 'S' || last == 'E' || last == 'W') {
+        sign = last == 'S' || last == 'W' ? -1 : 1;
+        text.pop_back();
+    }
+    return sign * numberField(place, text, name);
+}
+
 Seconds zoneField(const LineSource& place, std::string_view key) {
     const std::optional<Seconds> offset = zoneOffset(key);
     if (!offset)

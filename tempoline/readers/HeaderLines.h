@@ -19,6 +19,9 @@ void skipComments(LineSource& lines);
 /// The number before a hyphen.
 int countOf(LineSource& lines, std::string_view what);
 
+/// "45.5N", "-45.5" and "97W" are degrees; "NONE" and "0" stand for what is not used.
+double degreesField(const LineSource& place, std::string_view field, std::string_view name);
+
 /// Seconds east of Greenwich; throws for what is no key of a zone.
 Seconds zoneField(const LineSource& place, std::string_view key);
 

@@ -7,10 +7,10 @@ namespace zg::tempoline {
 bool hasComponents(const Wind& wind) { return hasSpeed(wind) && (wind.speed == 0 || hasDirection(wind)); }
 
 Wind windAtHeight(const std::vector<Level>& levels, double height) {
-    const auto above = std::lower_bound(levels.begin(), levels.end(), height,
+    const auto above = std::lower_bound(levels.begin(), levels.end(), height - sameHeight,
                                         [](const Level& level, double z) { return level.height < z; });
     if (above == levels.end()) return {};
-    if (above->height == height) return above->wind;
+    if (above->height <= height + sameHeight) return above->wind;
     if (above == levels.begin()) return {};
     const Level& below = *(above - 1);
     if (!hasComponents(below.wind) || !hasComponents(above->wind)) return {};

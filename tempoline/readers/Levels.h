@@ -13,6 +13,9 @@ struct Level {
     Wind wind;
 };
 
+/// Metres: heights that differ by less are one, since sums of heights carry the noise of arithmetic.
+constexpr double sameHeight = 1e-4;
+
 /// The wind at a height between levels that rise, components interpolated linearly in height; at a level its
 /// own wind, untouched. Missing below the first and above the last level, and where a level beside it has no
 /// wind.

@@ -81,10 +81,10 @@ class M3d : public InputReader {
             map.projection != "LL")
             throw lines.failure("projection", "\"" + map.projection + "\" is none of LCC, PS, EM and LL");
         map.datum = "NWS-84";  // the sphere of the models that write these files
-        map.latitude0 = numberField(lines, fields[1], "RLAT0");
-        map.longitude0 = numberField(lines, fields[2], "RLON0");
-        map.latitude1 = numberField(lines, fields[3], "XLAT1");
-        map.latitude2 = numberField(lines, fields[4], "XLAT2");
+        map.latitude0 = degreesField(lines, fields[1], "RLAT0");
+        map.longitude0 = degreesField(lines, fields[2], "RLON0");
+        map.latitude1 = degreesField(lines, fields[3], "XLAT1");
+        map.latitude2 = degreesField(lines, fields[4], "XLAT2");
         grid_.x1 = numberField(lines, fields[5], "X of cell (1,1)");
         grid_.y1 = numberField(lines, fields[6], "Y of cell (1,1)");
         grid_.cellSize = numberField(lines, fields[7], "cell size");
@@ -201,17 +201,19 @@ class M3d : public InputReader {
         for (int k = 0; k < levelCount_; ++k) {
             if (splitBlanks(lines.need("a level"), parts) < parts.size())
                 throw lines.failure("level", "at least 5 fields are needed");
-            const double height = numberField(lines, parts[1], "height");
-            if (!column.levels.empty() && height <= column.levels.back().height)
+            const Level level = {valueField(lines, parts[1], "height"),
+                                 {valueField(lines, parts[4], "ws"), valueField(lines, parts[3], "wd")}};
+            if (!hasValue(level.height)) continue;
+            if (!column.levels.empty() && level.height <= column.levels.back().height)
                 throw lines.failure("height", "the levels do not rise");
-            column.levels.push_back(
-                {height, {valueField(lines, parts[4], "ws"), valueField(lines, parts[3], "wd")}});
+            column.levels.push_back(level);
         }
     }
 
     Wind windOfColumn(const Column& column, double height) const {
+        if (column.levels.empty()) return {};
         const Level& lowest = column.levels.front();
-        if (height >= lowest.height) return windAtHeight(column.levels, height);
+        if (height >= lowest.height - sameHeight) return windAtHeight(column.levels, height);
         if (control_.profileMethod == directMethod) return column.tenMetres;
         return neutralProfile(lowest.wind, lowest.height, height);
     }

@@ -75,13 +75,14 @@ class Monitor : public InputReader {
         const std::size_t count = splitCommas(line, std::span(fields_).first(columns_));
         if (count <= station_)
             throw lines.failure("STNCODE", "the record has only " + std::to_string(count) + " fields");
-        if (averaging_ == 0) averaging_ = minutesOf(lines, count);
         if (stripped(fields_[station_]) != control_.outputs[0].station) return;
         found_ = true;
         if (count < columns_)
             throw lines.failure("", "the record has " + std::to_string(count) + " of at least " +
                                         std::to_string(columns_) + " fields");
-        const int minutes = stripped(fields_[average_]).empty() ? averaging_ : minutesOf(lines, count);
+        const bool isEmpty = stripped(fields_[average_]).empty();
+        const int minutes = isEmpty && averaging_ != 0 ? averaging_ : minutesOf(lines);
+        if (averaging_ == 0) averaging_ = minutes;
         const Seconds end = timeOf(lines, stripped(fields_[time_]));
         const Wind wind = {known(valueField(lines, fields_[speed_], "wind speed")),
                            known(valueField(lines, fields_[direction_], "wind direction"))};
@@ -90,8 +91,7 @@ class Monitor : public InputReader {
 
     static double known(double value) { return value == missingMark ? missingValue : value; }
 
-    int minutesOf(const LineSource& lines, std::size_t count) const {
-        if (count <= average_) throw lines.failure("DATAAVID", "the record ends before it");
+    int minutesOf(const LineSource& lines) const {
         const int minutes = wholeField(lines, fields_[average_], "DATAAVID");
         if (minutes < 1 || minutes > 1440)
             throw lines.failure("DATAAVID", std::to_string(minutes) + " minutes are not between 1 and 1440");
@@ -113,7 +113,8 @@ class Monitor : public InputReader {
         const int second = pieces == 3 ? wholeField(lines, time[2], "DATETIME") : 0;
         if (minute < 0 || minute > 59 || second < 0 || second > 59)
             throw lines.failure("DATETIME", "minutes and seconds go from 0 to 59");
-        const Seconds moment = stampOf(lines, date[2], date[0], date[1], time[0]) + 60 * minute + second;
+        const Seconds moment =
+            stampOf(lines, date[2], date[0], date[1], time[0]) + Seconds{60} * minute + second;
         return count == 3 ? moment + halfDay(lines, ucase(parts[2]), wholeField(lines, time[0], "DATETIME"))
                           : moment;
     }
@@ -145,7 +146,7 @@ class Monitor : public InputReader {
     std::size_t direction_ = noColumn;
     std::size_t speed_ = noColumn;
     std::size_t columns_ = 0;
-    int averaging_ = 0;  ///< minutes, of the first record
+    int averaging_ = 0;  ///< minutes, of the first record of the station
     bool found_ = false;
 };
 

@@ -1,7 +1,7 @@
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <map>
+#include <set>
 
 #include "tempoline/Fields.h"
 #include "tempoline/readers/HeaderLines.h"
@@ -14,6 +14,7 @@ namespace {
 
 constexpr std::size_t stationFields = 8;
 constexpr int mostStations = 1'000'000;
+constexpr int noRow = -1;
 
 /// A line of the time, then one a station. Version 2.0 stamps hours at their end.
 class Surf : public InputReader {
@@ -56,22 +57,33 @@ class Surf : public InputReader {
         readStationNames(lines);
     }
 
-    void readStationNames(LineSource& lines) {
-        std::vector<std::string> names;
-        for (int i = 0; i < stationCount_; ++i) names.emplace_back(stripped(lines.need("a station")));
-        for (std::size_t output = 0; output < control_.outputs.size(); ++output)
-            rows_.emplace(rowOf(lines, names, control_.outputs[output]), output);
-    }
-
     /// The number of an output is that of its row; a file of other rows is searched for the station's name.
-    static int rowOf(const LineSource& lines, const std::vector<std::string>& names,
-                     const OutputRequest& output) {
-        const std::size_t own = static_cast<std::size_t>(output.id) - 1;
-        if (own < names.size() && names[own] == output.station) return output.id - 1;
-        const auto found = std::find(names.begin(), names.end(), output.station);
-        if (found == names.end())
-            throw lines.failure("stations", "there is no station \"" + output.station + "\"");
-        return static_cast<int>(found - names.begin());
+    /// Only the names that are asked for are kept, however many and long the others are.
+    void readStationNames(LineSource& lines) {
+        std::map<std::string, int, std::less<>> firstRows;
+        std::map<int, std::string_view> ownNames;
+        for (const OutputRequest& output : control_.outputs) {
+            firstRows.emplace(output.station, noRow);
+            ownNames.emplace(output.id - 1, output.station);
+        }
+        std::set<int> ownRows;
+        for (int row = 0; row < stationCount_; ++row) {
+            const std::string_view name = stripped(lines.need("a station"));
+            const auto found = firstRows.find(name);
+            if (found == firstRows.end()) continue;
+            if (found->second == noRow) found->second = row;
+            const auto own = ownNames.find(row);
+            if (own != ownNames.end() && own->second == name) ownRows.insert(row);
+        }
+        rows_.clear();
+        for (std::size_t i = 0; i < control_.outputs.size(); ++i) {
+            const OutputRequest& output = control_.outputs[i];
+            const bool isOwn = ownRows.count(output.id - 1) > 0;
+            const int row = isOwn ? output.id - 1 : firstRows.find(output.station)->second;
+            if (row == noRow)
+                throw lines.failure("stations", "there is no station \"" + output.station + "\"");
+            rows_.emplace(row, i);
+        }
     }
 
     void readTimes(const LineSource& lines, std::string_view line) {

@@ -18,14 +18,16 @@ constexpr std::size_t levelsALine = 4;
 
 bool isSeparator(char c) { return c == ',' || c == '/'; }
 
-/// Cuts the next value of a level off the line; an empty one stands between two separators.
-std::string_view nextValue(std::string_view& line) {
+/// Cuts the next value of a level off the line; an empty one stands between two separators, and behind one at
+/// the end of the line. Tells whether a separator stood behind the value.
+std::string_view nextValue(std::string_view& line, bool& separated) {
     line = stripped(line);
     std::size_t end = 0;
     while (end < line.size() && !isBlank(line[end]) && !isSeparator(line[end])) ++end;
     const std::string_view value = line.substr(0, end);
     line = stripped(line.substr(end));
-    if (!line.empty() && isSeparator(line[0])) line.remove_prefix(1);
+    separated = !line.empty() && isSeparator(line[0]);
+    if (separated) line.remove_prefix(1);
     return value;
 }
 
@@ -105,9 +107,11 @@ class Up : public InputReader {
         static constexpr std::array<std::string_view, levelFields> names = {
             "pressure", "height", "temperature", "wind direction", "wind speed"};
         std::array<double, levelFields> values{};
+        bool separated = false;
         for (std::size_t k = 0; k < levelFields; ++k) {
-            if (stripped(line).empty()) throw lines.failure(names[k], "the line ends within a level");
-            values[k] = valueField(lines, nextValue(line), names[k]);
+            if (!separated && stripped(line).empty())
+                throw lines.failure(names[k], "the line ends within a level");
+            values[k] = valueField(lines, nextValue(line, separated), names[k]);
         }
         const double height = values[1];
         if (!hasValue(height) || height == missingHeight) return;

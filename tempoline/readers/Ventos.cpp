@@ -19,19 +19,6 @@ namespace {
 constexpr int mostCells = 100'000;  // along one side
 constexpr int mostLevels = 10'000;
 
-/// "45.5N", "-45.5" and "97W" are degrees; "NONE" and "0" stand for what is not used.
-double degreesField(const LineSource& lines, std::string_view field, std::string_view name) {
-    std::string text = ucase(field);
-    if (text == "NONE") return 0;
-    double sign = 1;
-    const char last = text.empty() ? ' ' : text.back();
-    if (last == 'N' || last == 'S' || last == 'E' || last == 'W') {
-        sign = last == 'S' || last == 'W' ? -1 : 1;
-        text.pop_back();
-    }
-    return sign * numberField(lines, text, name);
-}
-
 /// A row of values of the file that is needed, and which columns of it.
 struct NeededRow {
     std::size_t number = 0;           ///< among the rows of a component, all levels, south first
@@ -153,11 +140,13 @@ class Ventos : public InputReader {
 
     LevelPair levelsAround(double height) const {
         std::size_t high = 0;
-        while (high < heights_.size() && heights_[high] < height) ++high;
+        while (high < heights_.size() && heights_[high] < height - sameHeight) ++high;
         if (high == heights_.size()) return {0, 0, true};
-        if (high == 0 || heights_[high] == height) return {high, high, false};
+        if (high == 0 || heights_[high] <= height + sameHeight) return {high, high, false};
         return {high - 1, high, false};
     }
+
+    bool isBelowFirst(double height) const { return height < heights_.front() - sameHeight; }
 
     void findRows() {
         shares_.clear();
@@ -197,7 +186,7 @@ class Ventos : public InputReader {
         if (pair.isAbove)
             note("WARNING: " + metresText(output.height) + " m lies above the last level, " +
                  metresText(heights_.back()) + " m: there is no wind");
-        else if (output.height < heights_.front())
+        else if (isBelowFirst(output.height))
             note(
                 "Winds below the first level follow the neutral logarithmic profile over a roughness of 0.1 "
                 "m");
@@ -254,7 +243,7 @@ class Ventos : public InputReader {
             low.v += share * (high.v - low.v);
         }
         const Wind wind = windOf(low);
-        return height < heights_.front() ? neutralProfile(wind, heights_.front(), height) : wind;
+        return isBelowFirst(height) ? neutralProfile(wind, heights_.front(), height) : wind;
     }
 
     const Control& control_;

@@ -12,6 +12,14 @@ TEST(Levels, ALevelGivesItsOwnWind) {
     EXPECT_FALSE(hasSpeed(windAtHeight(levels, 15)));
 }
 
+TEST(Levels, TheNoiseOfASumIsNoHeight) {
+    const std::vector<Level> levels = {{1.12, {1, 90}}, {11.12, {5.4, 11.25}}};
+    ASSERT_GT(1.12 + 10, 11.12);
+    EXPECT_EQ(windAtHeight(levels, 1.12 + 10).speed, 5.4);
+    EXPECT_EQ(windAtHeight(levels, 11.12 - 1e-12).direction, 11.25);
+    EXPECT_FALSE(hasSpeed(windAtHeight(levels, 11.121)));
+}
+
 TEST(Levels, ComponentsAreInterpolated) {
     const std::vector<Level> levels = {{10, {4, 90}}, {30, {4, 180}}};
     const Wind wind = windAtHeight(levels, 20);

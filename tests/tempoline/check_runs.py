@@ -229,6 +229,13 @@ def case_memory(processor, directory):
     done = run(processor, directory, "c.inp", preexec_fn=limited(64))
     assert done.returncode == 0, done.stderr
     (directory / "a.sfc").unlink()
+    with open(directory / "a.dat", "wb") as file:  # names of stations that nobody asks for
+        file.write(b"SURF.DAT 2.1\n0\nx\nUTC-0500\n2004 1 0 0 2004 2 0 0 2001\n00072\n")
+        for _ in range(2000):
+            file.write(b"x" * 100_000 + b"\n")
+    write_control(directory / "c.inp", "surf.inp", ["a.dat"], ONE, [2004, 1, 1, 0, 0, 2004, 1, 2, 0, 0])
+    done = run(processor, directory, "c.inp", preexec_fn=limited(64))
+    assert done.returncode == 0, done.stderr
     paths = [directory / "a.dat", directory / "b.dat"]
     make_inputs.ventos(paths)
     write_control(directory / "c.inp", "ventos_utm.inp", ["a.dat", "b.dat"], [(1, "out", "", 503, 4503, 10)], YEAR, gridded=True)
