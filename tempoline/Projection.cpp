@@ -113,9 +113,18 @@ double poleOf(const MapSetting& map) {
     return side < 0 ? -90 : 90;
 }
 
+bool isSphere(const std::string& datum) { return datumDefinition(datum).value_or("").rfind("+R=", 0) == 0; }
+
+/// What PROJ's utm, which takes ellipsoids only, is on a sphere.
+std::string zoneOnSphere(const MapSetting& map) {
+    return "+proj=tmerc +lat_0=0 +k=0.9996 +x_0=500000" + parameter("lon_0", 6 * map.utmZone - 183) +
+           parameter("y_0", map.southern ? 1e7 : 0);
+}
+
 std::string projectionDefinition(const MapSetting& map) {
     const std::string& code = map.projection;
     if (code == "LL") return "+proj=longlat";
+    if (code == "UTM" && isSphere(map.datum)) return zoneOnSphere(map);
     if (code == "UTM")
         return "+proj=utm +zone=" + std::to_string(map.utmZone) + (map.southern ? " +south" : "");
     if (code == "TTM") return "+proj=tmerc +k=1" + origin(map) + falseOrigin(map);

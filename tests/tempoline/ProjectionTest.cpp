@@ -47,6 +47,26 @@ TEST(Projection, TheCentralMeridianOfAZone) {
 }
 
 /// Against the closed formula of the sphere.
+TEST(Projection, ZonesOnASphere) {
+    for (const auto& [datum, radius] : {std::pair("NWS-84", 6370.0), std::pair("ESR-S", 6371.0)}) {
+        MapSetting utm = plane("UTM", datum, 0, 0);
+        utm.utmZone = 18;
+        const double b = std::cos(40 * degree) * std::sin(2 * degree);
+        const double y = 0.9996 * radius * std::atan(std::tan(40 * degree) / std::cos(2 * degree));
+        const MapPoint north = converted({-73, 40}, degrees(datum), utm);
+        EXPECT_NEAR(north.x, 500 + 0.9996 * radius * std::atanh(b), metre);
+        EXPECT_NEAR(north.y, y, metre);
+        utm.southern = true;
+        const MapPoint south = converted({-73, -40}, degrees(datum), utm);
+        EXPECT_NEAR(south.x, north.x, metre);
+        EXPECT_NEAR(south.y, 10000 - y, metre);
+        const MapPoint back = converted(south, utm, degrees(datum));
+        EXPECT_NEAR(back.x, -73, 1e-8);
+        EXPECT_NEAR(back.y, -40, 1e-8);
+    }
+}
+
+/// Against the closed formula of the sphere.
 TEST(Projection, LambertConformalOnASphere) {
     MapSetting map = plane("LCC", "NWS-84", 40, -97);
     map.latitude1 = 33;
