@@ -75,18 +75,17 @@ void needDistinctRuns(std::vector<CountedRun> runs) {
 }
 
 void mergeTabs(const std::vector<std::string>& files, const std::string& name) {
+    OutputFile frq(name + ".frq");
+    OutputFile tab(name + ".tab");
     RoseReport sum = readTabFile(files.at(0));
     for (std::size_t i = 1; i < files.size(); ++i) addCounts(sum, readTabFile(files[i]), files[0], files[i]);
     needDistinctRuns(sum.runs);
-    OutputFile frq(name + ".frq");
-    OutputFile tab(name + ".tab");
     frq.write(frqText(sum));
     tab.write(tabText(sum));
     frq.finish();
     tab.finish();
     throwIfInterrupted();
-    tab.commit();
-    frq.commit();
+    OutputFile::commitAll({&tab, &frq});
 }
 
 }  // namespace zg::tempoline

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zg::tempoline {
 
@@ -28,6 +29,9 @@ class OutputFile {
     /// Takes its name, in place of an older file.
     void commit();
 
+    /// All of them take their names, in this order, or none: where one cannot, the older files come back.
+    static void commitAll(const std::vector<OutputFile*>& files);
+
     const std::string& name() const { return name_; }
 
  private:
@@ -35,10 +39,19 @@ class OutputFile {
     static constexpr std::size_t bufferSize = 16384;
 
     void flush();
+    void keepOld();
+    void replace();
+    void takeBack() noexcept;
+    void settle() noexcept;
 
     std::string name_;
     std::string temporary_;
+    std::string old_;  ///< where the older file is kept until all have their names
     std::string buffer_;
 };
+
+/// Throws where no file can take that name: a directory has it, or the file system takes none as long.
+/// Whether a file has it.
+bool needFreeName(const std::string& name);
 
 }  // namespace zg::tempoline

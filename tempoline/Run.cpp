@@ -76,6 +76,7 @@ class Runner {
         for (std::size_t i = 0; i < control_.outputs.size(); ++i) series_.emplace_back(control_);
         results_.resize(control_.outputs.size());
         reader_ = makeReader(control_);
+        openResults();  // before a year of data is read it is known that they can be made
         if (control_.wantsSeries) openSeries();
         for (const std::string& input : control_.inputs) reader_->read(input, series_);
         for (Series& series : series_) series.finish();
@@ -91,6 +92,14 @@ class Runner {
     }
 
  private:
+    void openResults() {
+        for (std::size_t i = 0; control_.wantsRoses && i < control_.outputs.size(); ++i) {
+            const std::string& name = control_.outputs[i].name;
+            results_[i].frequencies = std::make_unique<OutputFile>(name + ".frq");
+            results_[i].counts = std::make_unique<OutputFile>(name + ".tab");
+        }
+    }
+
     void openSeries() {
         for (std::size_t i = 0; i < control_.outputs.size(); ++i) {
             const OutputRequest& output = control_.outputs[i];
@@ -140,9 +149,6 @@ class Runner {
     void writeRoses() {
         for (std::size_t i = 0; i < control_.outputs.size(); ++i) {
             const RoseReport report = reportOf(i);
-            const std::string& name = control_.outputs[i].name;
-            results_[i].frequencies = std::make_unique<OutputFile>(name + ".frq");
-            results_[i].counts = std::make_unique<OutputFile>(name + ".tab");
             results_[i].frequencies->write(frqText(report));
             results_[i].counts->write(tabText(report));
             results_[i].frequencies->finish();
@@ -152,11 +158,13 @@ class Runner {
 
     /// The FRQ file comes last: where it stands, the others do.
     void commit() {
+        std::vector<OutputFile*> files;
         for (Results& results : results_) {
-            if (results.series) results.series->file().commit();
-            if (results.counts) results.counts->commit();
-            if (results.frequencies) results.frequencies->commit();
+            if (results.series) files.push_back(&results.series->file());
+            if (results.counts) files.push_back(results.counts.get());
+            if (results.frequencies) files.push_back(results.frequencies.get());
         }
+        OutputFile::commitAll(files);
     }
 
     const Control& control_;
@@ -182,7 +190,9 @@ ExitStatus run(const std::string& controlFile) {
     try {
         const std::string text = readControlText(controlFile);
         listing.rename("");  // nothing is written until its name is known to be free
-        listing.rename(freeListingName(text, controlFile));
+        const std::string name = freeListingName(text, controlFile);
+        needFreeName(name);
+        listing.rename(name);
         runControl(text, controlFile, listing);
     } catch (const Failure& failure) {
         status = failure.status;

@@ -75,6 +75,15 @@ TEST(Merge, TheSameWindsAreNotCountedTwice) {
     needDistinctRuns({{0, 10, "a"}, {0, 10, "b"}, {10, 20, "a"}});
 }
 
+TEST(Merge, ANameThatCannotBeTakenEndsItBeforeAnyFileIsRead) {
+    const InDirectory inside;
+    inside.directory.write("sum.tab", "old");
+    std::filesystem::create_directory("sum.frq");
+    EXPECT_EQ(failureOf([] { mergeTabs({"none.tab"}, "sum"); }),
+              "sum.frq: cannot be written: Is a directory");
+    EXPECT_EQ(inside.directory.read("sum.tab"), "old");
+}
+
 TEST(Merge, WritesBothFilesOrNone) {
     const InDirectory inside;
     inside.directory.write("a.tab", tabText(partOf(0, 24)));

@@ -1,6 +1,7 @@
 #include "tempoline/OutputFile.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "tests/tempoline/TempolineSupport.h"
 
@@ -35,14 +36,50 @@ TEST(OutputFile, LeavesNothingWithoutACommit) {
     EXPECT_EQ(filesHere(), 0U);
 }
 
-TEST(OutputFile, ANameThatIsADirectoryIsAFailure) {
+TEST(OutputFile, ANameThatCannotBeTakenIsAFailureBeforeAnythingIsWritten) {
     const InDirectory inside;
     std::filesystem::create_directory("a");
-    {
-        OutputFile file("a");
-        EXPECT_EQ(failureOf([&] { file.commit(); }), "a: cannot be written: Is a directory");
-    }
+    EXPECT_EQ(failureOf([] { OutputFile file("a"); }), "a: cannot be written: Is a directory");
+    const std::string longName(256, 'x');
+    EXPECT_EQ(failureOf([&] { OutputFile file(longName); }),
+              longName + ": cannot be written: File name too long");
     EXPECT_EQ(filesHere(), 1U);
+    OutputFile(longName.substr(1)).commit();
+}
+
+TEST(OutputFile, WhereOneOfThemFailsTheOlderFilesComeBack) {
+    const InDirectory inside;
+    inside.directory.write("a", "old a");
+    inside.directory.write("b", "old b");
+    {
+        OutputFile a("a");
+        OutputFile fresh("fresh");
+        OutputFile again("a");
+        OutputFile b("b");
+        OutputFile late("late");
+        for (OutputFile* const file : {&a, &fresh, &again, &b, &late}) file->write("new");
+        std::filesystem::create_directory("late");
+        EXPECT_EQ(failureOf([&] {
+                      OutputFile::commitAll({&a, &fresh, &again, &b, &late});
+                  }),
+                  "late: cannot be written: Is a directory");
+    }
+    EXPECT_EQ(inside.directory.read("a"), "old a");
+    EXPECT_EQ(inside.directory.read("b"), "old b");
+    EXPECT_EQ(filesHere(), 3U);
+}
+
+TEST(OutputFile, TakesAnotherNameWhereAKilledRunLeftOne) {
+    const InDirectory inside;
+    for (int i = 1; i <= 2000; ++i)
+        inside.directory.write(".tempoline-" + std::to_string(getpid()) + "-" + std::to_string(i) + ".tmp",
+                               "");
+    inside.directory.write("a", "old");
+    OutputFile file("a");
+    file.write("new");
+    file.commit();
+    EXPECT_EQ(inside.directory.read("a"), "new");
+    EXPECT_EQ(filesHere(), 2001U);
 }
 
 }  // namespace zg::tempoline

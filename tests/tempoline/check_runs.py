@@ -164,6 +164,35 @@ def case_listing_over_others(processor, directory):
     assert done.returncode == 2 and (directory / "TEMPOLINE.LST").read_bytes() == b"broken", done.stderr
 
 
+def case_names_taken(processor, directory):
+    """A result that cannot take its name ends the run before the data are read, and the others stay as they are."""
+    day_control(directory)  # of data that are not there
+    good = (directory / "c.inp").read_bytes().decode("latin-1")
+    for end in ("frq", "tab", "tsf"):
+        old_results(directory)
+        (directory / ("out." + end)).unlink()
+        (directory / ("out." + end)).mkdir()
+        done = run(processor, directory, "c.inp")
+        assert done.returncode == 1, done.stderr
+        assert done.stderr == "tempoline: out.%s: cannot be written: Is a directory\n" % end, done.stderr
+        assert all((directory / ("out." + other)).read_bytes() == OLD for other in ("frq", "tab", "tsf") if other != end)
+        (directory / ("out." + end)).rmdir()
+    for key, name in (("TSFOUT", "x" * 252), ("TSFLST", "x" * 256), ("TSFLST", "sub")):
+        (directory / "sub").mkdir(exist_ok=True)
+        (directory / "c.inp").write_bytes(set_key(good, key, name).encode("latin-1"))
+        done = run(processor, directory, "c.inp")
+        pattern = r"^tempoline: \w+(\.\w+)?: cannot be written: (File name too long|Is a directory)\n$"
+        assert done.returncode == 1 and re.search(pattern, done.stderr), done.stderr
+    # a run that was killed, with the same number of its process, left a file
+    (directory / "c.inp").write_bytes(good.encode("latin-1"))
+    surface(directory, good_day())
+    old_results(directory)
+    command = 'for i in 1 2 3 4 5; do : >.tempoline-$$-$i.tmp; done; exec "$0" c.inp'
+    done = subprocess.run(["sh", "-c", command, processor], cwd=directory, capture_output=True, text=True)
+    assert done.returncode == 0 and (directory / "out.frq").read_bytes() != OLD, done.stderr
+    assert len([name for name in names(directory) if name.endswith(".tmp")]) == 5, names(directory)
+
+
 # ---- the data ---------------------------------------------------------------------------------------------
 
 def case_bad_data(processor, directory):
