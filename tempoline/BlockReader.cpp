@@ -21,6 +21,17 @@ namespace {
     throw Failure(ExitStatus::Failed, path + ": " + std::strerror(error));
 }
 
+/// A pipe without a writer is waited for; an interrupt ends that.
+int openForReading(const std::string& path) {
+    int file = -1;
+    do {
+        throwIfInterrupted();
+        file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    } while (file < 0 && errno == EINTR);
+    if (file < 0) failWithErrno(path, errno);
+    return file;
+}
+
 void findLineEnds(const char* bytes, std::size_t size, std::vector<std::uint32_t>& lineEnds) {
     lineEnds.clear();
     const char* const end = bytes + size;
@@ -35,9 +46,7 @@ void findLineEnds(const char* bytes, std::size_t size, std::vector<std::uint32_t
 
 class PlainBlocks : public BlockReader {
  public:
-    explicit PlainBlocks(const std::string& path)
-        : path_(path), file_(open(path.c_str(), O_RDONLY | O_CLOEXEC)) {
-        if (file_ < 0) failWithErrno(path, errno);
+    explicit PlainBlocks(const std::string& path) : path_(path), file_(openForReading(path)) {
         struct stat state = {};
         if (fstat(file_, &state) != 0 || S_ISDIR(state.st_mode)) {
             const int error = S_ISDIR(state.st_mode) ? EISDIR : errno;

@@ -5,7 +5,7 @@
 
 namespace zg::tempoline {
 
-/// SIGINT and SIGTERM only note the wish from here on.
+/// SIGINT, SIGTERM and SIGHUP (where nohup has not turned it off) only note the wish from here on.
 void catchInterrupts();
 
 /// Throws where the wish has been noted.

@@ -4,11 +4,14 @@
 #include <cmath>
 #include <numbers>
 
+#include "tempoline/Interrupt.h"
+
 namespace zg::tempoline {
 
 namespace {
 
 constexpr double degree = std::numbers::pi / 180;
+constexpr std::int64_t stepsBetweenLooks = 1024;
 constexpr double noDirection = 1e-9;  // mean unit vectors shorter than this point nowhere
 
 }  // namespace
@@ -44,8 +47,9 @@ bool Series::isNext(Seconds begin, Seconds end, const Place& place) {
 }
 
 void Series::add(Seconds begin, Seconds end, const Wind& wind, const Place& place) {
+    const bool counts = isNext(begin, end, place);
     ++records_.read;
-    if (!isNext(begin, end, place)) return;
+    if (!counts) return;
     const Seconds from = std::max(begin, periodBegin_);
     const Seconds to = std::min(end, periodEnd_);
     const bool whole = end == begin || end - begin == step_;
@@ -97,6 +101,8 @@ Wind Series::averaged() const {
 }
 
 void Series::closeStep() {
+    // Between two records millions of steps may lie, and as many behind the last one.
+    if (current_ % stepsBetweenLooks == 0) throwIfInterrupted();
     const Seconds begin = periodBegin_ + current_ * step_;
     const Wind wind = averaged();
     table_.add(begin, wind);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tempoline/Interrupt.h"
 #include "tests/tempoline/TempolineSupport.h"
 
 namespace zg::tempoline {
@@ -126,6 +127,25 @@ TEST_F(SeriesTest, DisorderIsAFailure) {
                   add(series, 200, 199, {2, 90});
               }),
               path_ + ":1: time: the record ends before it begins");
+}
+
+TEST_F(SeriesTest, ARecordAtFaultIsNotCounted) {
+    Series series(control_);
+    add(series, 60, 120, {2, 90});
+    add(series, 60, 120, {2, 90});
+    EXPECT_NE(failureOf([&] { add(series, 0, 60, {2, 90}); }), "");
+    EXPECT_EQ(series.records().read, 2);
+}
+
+TEST_F(SeriesTest, AnInterruptEndsTheFillingUpOfSteps) {
+    control_.step = 1;
+    Series behind(control_);
+    Series between(control_);
+    add(behind, 0, 0, {2, 90});
+    setInterrupted(true);
+    EXPECT_EQ(failureOf([&] { behind.finish(); }, ExitStatus::Interrupted), "interrupted");
+    EXPECT_EQ(failureOf([&] { add(between, 600, 600, {2, 90}); }, ExitStatus::Interrupted), "interrupted");
+    setInterrupted(false);
 }
 
 TEST_F(SeriesTest, SeasonsGoByBeginsAndHoursByEnds) {
