@@ -43,8 +43,7 @@ void Listing::describe(const Control& control) {
     for (const std::string& warning : control.warnings) line("WARNING: " + warning);
 }
 
-void Listing::describeOutput(const OutputRequest& output, const Series& series) {
-    const RecordCounts& records = series.records();
+void Listing::describeRecords(const OutputRequest& output, const RecordCounts& records) {
     line("");
     line("Output " + std::to_string(output.id) + ": " + output.name);
     line(entry("Records read", records.read));
@@ -58,6 +57,10 @@ void Listing::describeOutput(const OutputRequest& output, const Series& series) 
             "WARNING: records of the same time are counted once, the first of them; the first repetition "
             "is " +
             records.firstDuplicate);
+}
+
+void Listing::describeOutput(const OutputRequest& output, const Series& series) {
+    describeRecords(output, series.records());
     if (!series.hasRecords()) line("WARNING: ALL DATA ARE MISSING: no record lies in the period");
     line("  Rose                           Total       Valid        Calm     Missing");
     for (const RoseCounts& rose : series.table().roses()) {

@@ -17,6 +17,9 @@ class Listing {
     void line(const std::string& text) { text_ += text + "\r\n"; }
 
     void describe(const Control& control);
+    void describeRecords(const OutputRequest& output, const RecordCounts& records);
+
+    /// Its records and its roses.
     void describeOutput(const OutputRequest& output, const Series& series);
 
     const std::string& text() const { return text_; }

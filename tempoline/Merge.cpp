@@ -3,29 +3,25 @@
 #include <algorithm>
 #include <tuple>
 
-#include "base/Lines.h"
-#include "base/RunTimeError.h"
 #include "tempoline/Failure.h"
 #include "tempoline/FrqWriter.h"
 #include "tempoline/Interrupt.h"
 #include "tempoline/OutputFile.h"
 #include "tempoline/TabFile.h"
+#include "tempoline/WholeText.h"
 
 namespace zg::tempoline {
 
 namespace {
+
+constexpr std::size_t longestTab = std::size_t{64} << 20;
 
 Failure differs(const std::string& sumFile, const std::string& partFile, const std::string& what) {
     return {ExitStatus::Failed, partFile + ": " + what + " differ from those of " + sumFile};
 }
 
 RoseReport readTabFile(const std::string& file) {
-    throwIfInterrupted();
-    try {
-        return readTab(readWholeFile(file), file);
-    } catch (const RunTimeError& error) {
-        throw Failure(ExitStatus::Failed, file + ": " + error.description);
-    }
+    return readTab(wholeText(file, longestTab, "a TAB file"), file);
 }
 
 void addRose(RoseCounts& sum, const RoseCounts& part) {

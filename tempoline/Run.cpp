@@ -4,10 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include "base/Lines.h"
 #include "base/Paths.h"
-#include "base/RunTimeError.h"
-#include "tempoline/BlockReader.h"
 #include "tempoline/ControlReader.h"
 #include "tempoline/FrqWriter.h"
 #include "tempoline/Interrupt.h"
@@ -17,6 +14,7 @@
 #include "tempoline/TabFile.h"
 #include "tempoline/Texts.h"
 #include "tempoline/TsfFile.h"
+#include "tempoline/WholeText.h"
 #include "tempoline/readers/Reader.h"
 
 namespace zg::tempoline {
@@ -29,16 +27,7 @@ void tellError(const std::string& message) { std::fprintf(stderr, "tempoline: %s
 
 std::string readControlText(const std::string& path) {
     try {
-        const std::unique_ptr<BlockReader> blocks = openBlocks(path);
-        std::string text;
-        std::string block(BlockReader::blockSize, '\0');
-        std::vector<std::uint32_t> lineEnds;
-        while (const std::size_t size = blocks->read(block.data(), lineEnds)) {
-            text.append(block, 0, size);
-            if (text.size() > longestControlFile)
-                throw Failure(ExitStatus::BadControl, path + ": this is too long for a control file");
-        }
-        return text;
+        return wholeText(path, longestControlFile, "a control file");
     } catch (const Failure& failure) {
         if (failure.status != ExitStatus::Failed) throw;
         throw Failure(ExitStatus::BadControl, failure.what());
@@ -78,13 +67,18 @@ class Runner {
         reader_ = makeReader(control_);
         openResults();  // before a year of data is read it is known that they can be made
         if (control_.wantsSeries) openSeries();
-        for (const std::string& input : control_.inputs) reader_->read(input, series_);
-        for (Series& series : series_) series.finish();
-        for (const std::string& note : reader_->facts.notes) listing_.line(note);
+        try {
+            readInputs();
+        } catch (...) {
+            tellWhatWasRead();
+            throw;
+        }
+        tellNotes();
         for (std::size_t i = 0; i < series_.size(); ++i)
             listing_.describeOutput(control_.outputs[i], series_[i]);
         if (control_.wantsRoses) writeRoses();
         for (Results& results : results_) {
+            throwIfInterrupted();
             if (results.series) results.series->file().finish();
         }
         throwIfInterrupted();
@@ -92,6 +86,24 @@ class Runner {
     }
 
  private:
+    void readInputs() {
+        for (const std::string& input : control_.inputs) reader_->read(input, series_);
+        for (Series& series : series_) series.finish();
+    }
+
+    void tellNotes() {
+        for (const std::string& note : reader_->facts.notes) listing_.line(note);
+    }
+
+    /// Of a run that failed.
+    void tellWhatWasRead() {
+        tellNotes();
+        listing_.line("");
+        listing_.line("What was counted until the run failed:");
+        for (std::size_t i = 0; i < series_.size(); ++i)
+            listing_.describeRecords(control_.outputs[i], series_[i].records());
+    }
+
     void openResults() {
         for (std::size_t i = 0; control_.wantsRoses && i < control_.outputs.size(); ++i) {
             const std::string& name = control_.outputs[i].name;
@@ -148,6 +160,7 @@ class Runner {
 
     void writeRoses() {
         for (std::size_t i = 0; i < control_.outputs.size(); ++i) {
+            throwIfInterrupted();
             const RoseReport report = reportOf(i);
             results_[i].frequencies->write(frqText(report));
             results_[i].counts->write(tabText(report));
@@ -202,6 +215,10 @@ ExitStatus run(const std::string& controlFile) {
         status = ExitStatus::Failed;
         lastLine = "ERROR: there is not enough memory";
         tellError("there is not enough memory");
+    } catch (const std::exception& error) {  // of the system, such as a thread that it does not give
+        status = ExitStatus::Failed;
+        lastLine = std::string("ERROR: ") + error.what();
+        tellError(error.what());
     }
     try {
         listing.line("");

@@ -1,7 +1,8 @@
 // The processor: the control file of a run, or the counts of partial runs to be joined.
 
 #include <cstdio>
-#include <cstring>
+#include <exception>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -31,24 +32,40 @@ ExitStatus merge(const std::vector<std::string>& arguments) {
         std::fputs(usage, stderr);
         return ExitStatus::BadControl;
     }
-    try {
-        zg::tempoline::mergeTabs(files, name);
-    } catch (const Failure& failure) {
-        std::fprintf(stderr, "tempoline: %s\n", failure.what());
-        return failure.status;
-    }
+    zg::tempoline::mergeTabs(files, name);
     return ExitStatus::Completed;
+}
+
+ExitStatus start(const std::vector<std::string>& arguments) {
+    if (!arguments.empty() && arguments[0] == "--merge") return merge(arguments);
+    if (arguments.size() != 1 || arguments[0].empty() || arguments[0][0] == '-') {
+        std::fputs(usage, stderr);
+        return ExitStatus::BadControl;
+    }
+    return zg::tempoline::run(arguments[0]);
+}
+
+ExitStatus told(const char* message, ExitStatus status) {
+    std::fprintf(stderr, "tempoline: %s\n", message);
+    return status;
+}
+
+/// Whatever happens is told in one line.
+ExitStatus startGuarded(int argc, char** argv) {
+    try {
+        return start({argv + 1, argv + argc});
+    } catch (const Failure& failure) {
+        return told(failure.what(), failure.status);
+    } catch (const std::bad_alloc&) {
+        return told("there is not enough memory", ExitStatus::Failed);
+    } catch (const std::exception& error) {
+        return told(error.what(), ExitStatus::Failed);
+    }
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    const std::vector<std::string> arguments(argv + 1, argv + argc);
     zg::tempoline::catchInterrupts();
-    if (!arguments.empty() && arguments[0] == "--merge") return static_cast<int>(merge(arguments));
-    if (arguments.size() != 1 || arguments[0].empty() || arguments[0][0] == '-') {
-        std::fputs(usage, stderr);
-        return static_cast<int>(ExitStatus::BadControl);
-    }
-    return static_cast<int>(zg::tempoline::run(arguments[0]));
+    return static_cast<int>(startGuarded(argc, argv));
 }

@@ -93,7 +93,10 @@ TEST(Merge, WritesBothFilesOrNone) {
     addCounts(sum, partOf(1, 24), "a", "b");
     EXPECT_EQ(inside.directory.read("sum.frq"), frqText(sum));
     EXPECT_EQ(inside.directory.read("sum.tab"), tabText(sum));
-    EXPECT_EQ(failureOf([] { mergeTabs({"a.tab", "none.tab"}, "other"); }), "none.tab: File not found");
+    EXPECT_EQ(failureOf([] {
+                  mergeTabs({"a.tab", "none.tab"}, "other");
+              }),
+              "none.tab: No such file or directory");
     EXPECT_FALSE(std::filesystem::exists("other.tab"));
 }
 

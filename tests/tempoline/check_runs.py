@@ -288,10 +288,14 @@ def case_outside_period(processor, directory):
     assert roses["Winter"][2:] == (24, 0, 0) and roses["Winter"][0][0][0] == "0.0000", roses["Winter"]
 
 
+def with_hangup():
+    signal.signal(signal.SIGHUP, signal.SIG_DFL)  # under nohup it is off, and inherited so
+
+
 def fifo_run(processor, directory, name, text):
     """A run in the middle of its input."""
     os.mkfifo(directory / name)
-    process = subprocess.Popen([processor, "c.inp"], cwd=directory, stderr=subprocess.PIPE, text=True)
+    process = subprocess.Popen([processor, "c.inp"], cwd=directory, stderr=subprocess.PIPE, text=True, preexec_fn=with_hangup)
     pipe = open(directory / name, "w")
     pipe.write(text)
     pipe.flush()
@@ -318,7 +322,7 @@ def interrupt(processor, directory, number, name, text):
 
 def case_interrupted(processor, directory):
     day_control(directory)
-    for number in (signal.SIGINT, signal.SIGTERM):
+    for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
         interrupt(processor, directory, number, "a.sfc", "\n".join([HEADER] + good_day()[:5]) + "\n")
     make_inputs.ventos([directory / "whole.dat", directory / "b.dat"])
     text = (directory / "whole.dat").read_text()[:30_000]
@@ -328,6 +332,35 @@ def case_interrupted(processor, directory):
     process, pipe = fifo_run(processor, directory, "a.dat", "VENTOS.DAT 2.0\n")
     assert 'version: "2.0" is not 2.1' in process.communicate(timeout=60)[1] and process.returncode == 1
     pipe.close()
+
+
+def case_interrupted_opening(processor, directory):
+    """A pipe that nobody opens for writing, as data and as control file."""
+    day_control(directory)
+    for name in ("a.sfc", "c.inp"):
+        os.mkfifo(directory / (name + ".pipe"))
+        os.replace(directory / (name + ".pipe"), directory / name)
+        process = subprocess.Popen([processor, "c.inp"], cwd=directory, stderr=subprocess.PIPE, text=True)
+        time.sleep(0.5)
+        assert process.poll() is None
+        process.send_signal(signal.SIGINT)
+        error = process.communicate(timeout=60)[1]
+        assert process.returncode == 130 and error == "tempoline: interrupted\n", (process.returncode, error)
+        assert not [found for found in names(directory) if found.endswith(".tmp")], names(directory)
+
+
+def case_failed_counts(processor, directory):
+    """The listing of a run that failed says what was counted until then."""
+    day_control(directory)
+    day = good_day()
+    surface(directory, day[:5] + [day[4], surface_line(2004, 1, 1, 6, "0.3"), surface_line(2004, 1, 1, 7, "999.0")] +
+            [surface_line(2004, 1, 1, 8).replace("10.0 273.8", "20.0 273.8")] + [surface_line(2004, 1, 1, 2)])
+    done = run(processor, directory, "c.inp")
+    assert done.returncode == 1 and "records are out of order" in done.stderr, done.stderr
+    listing = (directory / LISTING).read_text()
+    for name, count in (("read", 9), ("used", 7), ("missing", 1), ("outside", 0), ("repeated", 1)):
+        assert re.search(r"\n  Records %s +%d\n" % (name, count), listing), listing
+    assert re.search(r"of them calm +1\n", listing) and "WARNING: the winds of the file are of 20.0 m" in listing, listing
 
 
 def case_shrinking_file(processor, directory):
@@ -424,11 +457,26 @@ def case_merged(processor, directory):
     for arguments, pattern in [
             (["part0.tab", "whole.tab"], "the same winds would be counted twice"), (["part0.tab", "part0.tab"], "counted twice"),
             (["part0.tab", "part0.frq"], r"part0\.frq:1: the first line is not that of a TAB file"),
-            (["part0.tab", "none.tab"], r"none\.tab: File not found")]:
+            (["part0.tab", "none.tab"], r"none\.tab: No such file")]:
         done = run(processor, directory, "--merge", "--out", "none", *arguments)
         assert done.returncode == 1 and re.search(pattern, done.stderr), done.stderr
         assert not (directory / "none.frq").exists() and not (directory / "none.tab").exists()
     assert run(processor, directory, "--merge").returncode == 2
+
+
+def case_huge_tab(processor, directory):
+    """3 GB (a hole) where a TAB file should be: told, and the memory for it is not there."""
+    for head in (b"", b"WIND.TAB        1.0             Zephyrgraph counts of winds\r\n"):
+        with open(directory / "big.tab", "wb") as file:
+            file.write(head)
+            file.truncate(3 << 30)
+        done = run(processor, directory, "--merge", "big.tab", preexec_fn=limited(250))
+        assert done.returncode == 1 and done.stderr == "tempoline: big.tab: this is too long for a TAB file\n", done.stderr
+    assert names(directory) == ["big.tab"], names(directory)
+    # with less memory than that it is still told
+    done = run(processor, directory, "--merge", "big.tab", preexec_fn=limited(40))
+    assert done.returncode == 1 and done.stderr == "tempoline: there is not enough memory\n", (done.returncode, done.stderr)
+    (directory / "big.tab").unlink()
 
 
 def example_environment(processor):
