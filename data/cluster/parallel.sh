@@ -4,19 +4,27 @@
 # TEMPOLINE names the processor when it does not lie in the PATH as tempoline.exe.
 set -euo pipefail
 
-processor=${TEMPOLINE:-tempoline.exe}
+export TEMPOLINE=${TEMPOLINE:-tempoline.exe}
 name=$1
 shift
 
-if command -v parallel >/dev/null 2>&1; then
-    parallel --halt now,fail=1 "$processor" {} ::: "$@"
-else
-    printf '%s\0' "$@" | xargs -0 -n 1 -P "$(nproc)" "$processor"
-fi
-
-# Each output of a run stands in its control file as "! TSFOUT = NAME !".
+# Each output of a run stands in its control file as "! TSFOUT = NAME !", the one of a run that reads a series as
+# "! ROSEPLT = NAME !".
+outputs() {
+    sed -n "s/ *!END!.*//; s/.*! *$1 *= *\\(.*[^ ]\\) *!.*/\\1/p" "$2"
+}
 tabs=()
 for control in "$@"; do
-    while IFS= read -r output; do tabs+=("$output.tab"); done < <(sed -n 's/.*! TSFOUT *= *\(.*[^ ]\) *!  *!END!.*/\1/p' "$control")
+    found=$(outputs TSFOUT "$control")
+    [ -n "$found" ] || found=$(outputs ROSEPLT "$control")
+    [ -n "$found" ] || { echo "$control: there is no TSFOUT and no ROSEPLT that names its results" >&2; exit 1; }
+    while IFS= read -r output; do tabs+=("$output.tab"); done <<<"$found"
 done
-"$processor" --merge --out "$name" "${tabs[@]}"
+
+if command -v parallel >/dev/null 2>&1; then
+    parallel --halt now,fail=1 "$TEMPOLINE" {} ::: "$@"
+else
+    # xargs begins nothing more only after a status of 255.
+    printf '%s\0' "$@" | xargs -0 -n 1 -P "$(nproc)" sh -c '"$TEMPOLINE" "$0" || exit 255'
+fi
+"$TEMPOLINE" --merge --out "$name" "${tabs[@]}"

@@ -483,21 +483,61 @@ def example_environment(processor):
     return {**os.environ, "TEMPOLINE": processor}
 
 
+def parallel_script(directory, processor, *controls, path=None):
+    environment = example_environment(processor)
+    if path is not None:
+        environment["PATH"] = str(path)
+    return subprocess.run(["bash", ROOT / "data" / "cluster" / "parallel.sh", "joined", *controls],
+                          cwd=directory, capture_output=True, text=True, env=environment)
+
+
+def path_without_parallel(directory):
+    """A directory with the programs that the fallback needs."""
+    programs = directory / "programs"
+    programs.mkdir()
+    for name in ("bash", "sh", "sed", "xargs", "nproc"):
+        (programs / name).symlink_to(shutil.which(name))
+    return programs
+
+
+def check_parallel(processor, directory, path):
+    controls = parts_of_year(directory, BOUNDS)
+    assert run(processor, directory, "whole.inp").returncode == 0
+    done = parallel_script(directory, processor, *controls, path=path)
+    assert done.returncode == 0, done.stderr
+    same_results(directory, "joined", "whole")
+    # roses of a series have another key
+    text = control_text("tsf.inp", ["whole.tsf"], [], YEAR, keys={"ROSEPLT": "again", "TSFLST": "again.lst"})
+    (directory / "again.inp").write_bytes(text.encode("latin-1"))
+    done = parallel_script(directory, processor, "again.inp", path=path)
+    assert done.returncode == 0, done.stderr
+    assert roses_of_tab(directory / "joined.tab") == roses_of_tab(directory / "again.tab")
+    # a run that fails ends all, and those that have not begun never do
+    (directory / "joined.frq").unlink()
+    last = ["last%d.inp" % number for number in range(40)]
+    for control in last:
+        text = (directory / "part0.inp").read_bytes().decode("latin-1")
+        (directory / control).write_bytes(set_key(text, "TSFLST", control[:-4] + ".lst").encode("latin-1"))
+    (directory / "broken.inp").write_bytes(b"broken\n\n! TSFOUT = broken !\n")
+    done = parallel_script(directory, processor, "broken.inp", *last, path=path)
+    assert done.returncode != 0 and not (directory / "joined.frq").exists(), done.stderr
+    assert len(list(directory.glob("last*.lst"))) < 20, names(directory)
+    (directory / "broken.inp").write_bytes(b"broken")
+    done = parallel_script(directory, processor, "part0.inp", "broken.inp", path=path)
+    assert done.returncode == 1 and done.stderr.startswith("broken.inp: there is no TSFOUT"), done.stderr
+
+
 def case_parallel(processor, directory):
     """The documented example: data/cluster/parallel.sh."""
     if shutil.which("parallel") is None:
-        print("GNU parallel is not installed: the script falls back to xargs -P")
-    parts_of_year(directory, BOUNDS)
-    assert run(processor, directory, "whole.inp").returncode == 0
-    done = subprocess.run(["bash", ROOT / "data" / "cluster" / "parallel.sh", "joined", "part0.inp", "part1.inp", "part2.inp"],
-                          cwd=directory, capture_output=True, text=True, env=example_environment(processor))
-    assert done.returncode == 0, done.stderr
-    same_results(directory, "joined", "whole")
-    (directory / "part1.inp").write_text("broken")
-    (directory / "joined.frq").unlink()
-    done = subprocess.run(["bash", ROOT / "data" / "cluster" / "parallel.sh", "joined", "part0.inp", "part1.inp", "part2.inp"],
-                          cwd=directory, capture_output=True, text=True, env=example_environment(processor))
-    assert done.returncode != 0 and not (directory / "joined.frq").exists(), done.stderr
+        print("GNU parallel is not installed")
+        return SKIPPED
+    return check_parallel(processor, directory, None)
+
+
+def case_parallel_xargs(processor, directory):
+    """The same where there is no GNU parallel."""
+    check_parallel(processor, directory, path_without_parallel(directory))
 
 
 def case_slurm(processor, directory):
