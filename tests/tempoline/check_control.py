@@ -1,0 +1,136 @@
+#!/usr/bin/env python3
+"""What the processor refuses before it reads any data: broken control files, names that are taken.
+
+check_control.py PROCESSOR WORK_DIRECTORY [CASE ...]
+"""
+import re
+import subprocess
+import sys
+
+from check_roses import LISTING
+from control_files import set_key
+from run_support import OLD, day_control, good_day, main, names, needs_failure, old_results, run, surface
+
+
+def case_cut_control(processor, directory):
+    """Cut at every line: refused with status 2, until nothing that is needed is missing."""
+    surface(directory, good_day())
+    day_control(directory)
+    whole = (directory / "c.inp").read_bytes()
+    lines = whole.split(b"\r\n")
+    last_needed = max(i for i, line in enumerate(lines) if b"! HR =" in line)
+    refused = 0
+    for count in range(len(lines)):
+        (directory / "c.inp").write_bytes(b"\r\n".join(lines[:count]))
+        if count <= last_needed:
+            needs_failure(processor, directory, r"^tempoline: c\.inp:", status=2)
+            refused += 1
+        else:
+            done = run(processor, directory, "c.inp")
+            assert done.returncode == 0, "cut behind line %d: %s" % (count, done.stderr)
+            (directory / LISTING).unlink()
+    assert refused == last_needed + 1
+    # within a line
+    (directory / "c.inp").write_bytes(whole[:whole.index(b"! WSBIN") + 12])
+    needs_failure(processor, directory, r"c\.inp:\d+: WSBIN: the value has no \"!\" at its end", status=2)
+
+
+def case_bad_control(processor, directory):
+    surface(directory, good_day())
+    day_control(directory)
+    good = (directory / "c.inp").read_bytes().decode("latin-1")
+
+    def refuse(text, pattern):
+        (directory / "c.inp").write_bytes(text.encode("latin-1"))
+        needs_failure(processor, directory, pattern, status=2)
+
+    single = [key for key in re.findall(r"! ([A-Z0-9]+) *=", good)
+              if key not in ("METINP", "TSFID", "TSFOUT", "MET", "IDSEAS", "SEASNAME", "HR")]
+    assert len(single) > 20
+    for key in single:
+        line = next(line for line in good.split("\r\n") if re.search(r"! %s *=" % key, line))
+        refuse(good.replace(line, line + "\r\n" + line), r"%s: the key is given twice; first in line \d+" % key)
+    for key in ("METINP", "TSFID", "TSFOUT", "MET", "IDSEAS", "SEASNAME", "HR"):
+        line = next(line for line in good.split("\r\n") if re.search(r"! %s *=" % key, line))
+        refuse(good.replace(line, line + "\r\n" + line), r"c\.inp:\d+: [A-Z]+: ")
+    for key, value, pattern in [
+            ("MDATA", "SURFACE", "MDATA: \"SURFACE\" is no known type of input"),
+            ("MDATA", "M2D", "MDATA: M2D input is not supported"),
+            ("MDATA", "POSTIME", "MDATA: POSTIME is air quality input, which is not supported"),
+            ("MROSE", 2, "MROSE: pollutant roses \\(2\\) are not supported"),
+            ("NAQINP", 1, "NAQINP: air quality input is not supported"),
+            ("IBMO", 13, "IBMO: 13 is not between 1 and 12"), ("IBDY", "31st", "IBDY: \"31st\" is no whole number"),
+            ("IEYR", 2003, "IEYR: the period ends before it begins"), ("ABTZ", "EST", "ABTZ: \"EST\" is no zone"),
+            ("NSECDT", 0, "NSECDT: 0 is not between 1 and 86400"), ("NSECDT", "nan", "NSECDT: \"nan\" is no whole"),
+            ("WSBIN", "0.5,1.8,1.7,5.4,8.5,10.8", "WSBIN: the speeds must not fall: \"1.7\""),
+            ("WSBIN", "0.5,nan,1.8,5.4,8.5,10.8", "WSBIN: \"nan\" is no number"),
+            ("WSBIN", "0.5,1.8,3.3", "WSBIN: 3 speeds stand where 6"), ("MSN", "1,1,2", "MSN: 3 seasons stand where 12"),
+            ("TSFLST", "../x.lst", "TSFLST: \"../x.lst\" is no plain file name"),
+            ("TSFOUT", "sub/out", "TSFOUT: \"sub/out\" is no plain file name"),
+            ("NTSFOUT", 2, "NTSFOUT"), ("NMETINP", 2, "NMETINP: AERMSFC takes one file"),
+            ("NTPD", 3, "HR: NTPD says 3, and 4 are given"), ("NWSP", 1, "NWSP: roses of single speed ranges"),
+            ("HR", "01,25", "HR: 25 is not between 0 and 24")]:
+        refuse(set_key(good, key, value), pattern)
+    refuse(good.replace("MROSE = 1", "MROSES = 1"), "MROSES: there is no such key")
+    refuse(good.replace("TEMPOLINE.INP", "TEMPOLINE.TXT"), "the first line does not begin with TEMPOLINE.INP")
+    refuse("", "c.inp")
+    (directory / "c.inp").unlink()
+    needs_failure(processor, directory, "c.inp: No such file", status=2)
+    assert run(processor, directory).returncode == 2
+    assert run(processor, directory, "a", "b").returncode == 2
+
+
+def case_listing_over_others(processor, directory):
+    """A listing with the name of an input, a result or the control file: refused, and nothing is written."""
+    surface(directory, good_day())
+    (directory / "linked.sfc").symlink_to("a.sfc")
+    old_results(directory)
+    day_control(directory)
+    good = (directory / "c.inp").read_bytes().decode("latin-1")
+    broken = good.replace("MROSE = 1", "MROSES = 1")
+    for text, name, what in [(good, "a.sfc", "an input of the run"), (broken, "a.sfc", "an input of the run"),
+                             (good, "linked.sfc", "an input of the run"), (good, "out.tab", "a result of the run"),
+                             (broken, "out.frq", "a result of the run"), (good, "out.tsf", "a result of the run"),
+                             (good, "c.inp", "the control file"), (broken, "c.inp", "the control file")]:
+        (directory / "c.inp").write_bytes(set_key(text, "TSFLST", name).encode("latin-1"))
+        before = {path.name: path.read_bytes() for path in directory.iterdir()}
+        done = run(processor, directory, "c.inp")
+        pattern = r'^tempoline: c\.inp:\d+: TSFLST: the listing cannot be "%s", which is %s\n$' % (name, what)
+        assert done.returncode == 2 and re.search(pattern, done.stderr), (done.returncode, done.stderr)
+        assert before == {path.name: path.read_bytes() for path in directory.iterdir()}, names(directory)
+    (directory / "TEMPOLINE.LST").write_bytes(b"broken")
+    done = run(processor, directory, "TEMPOLINE.LST")
+    assert done.returncode == 2 and (directory / "TEMPOLINE.LST").read_bytes() == b"broken", done.stderr
+
+
+def case_names_taken(processor, directory):
+    """A result that cannot take its name ends the run before the data are read, and the others stay as they are."""
+    day_control(directory)  # of data that are not there
+    good = (directory / "c.inp").read_bytes().decode("latin-1")
+    for end in ("frq", "tab", "tsf"):
+        old_results(directory)
+        (directory / ("out." + end)).unlink()
+        (directory / ("out." + end)).mkdir()
+        done = run(processor, directory, "c.inp")
+        assert done.returncode == 1, done.stderr
+        assert done.stderr == "tempoline: out.%s: cannot be written: Is a directory\n" % end, done.stderr
+        assert all((directory / ("out." + other)).read_bytes() == OLD for other in ("frq", "tab", "tsf") if other != end)
+        (directory / ("out." + end)).rmdir()
+    for key, name in (("TSFOUT", "x" * 252), ("TSFLST", "x" * 256), ("TSFLST", "sub")):
+        (directory / "sub").mkdir(exist_ok=True)
+        (directory / "c.inp").write_bytes(set_key(good, key, name).encode("latin-1"))
+        done = run(processor, directory, "c.inp")
+        pattern = r"^tempoline: \w+(\.\w+)?: cannot be written: (File name too long|Is a directory)\n$"
+        assert done.returncode == 1 and re.search(pattern, done.stderr), done.stderr
+    # a run that was killed, with the same number of its process, left a file
+    (directory / "c.inp").write_bytes(good.encode("latin-1"))
+    surface(directory, good_day())
+    old_results(directory)
+    command = 'for i in 1 2 3 4 5; do : >.tempoline-$$-$i.tmp; done; exec "$0" c.inp'
+    done = subprocess.run(["sh", "-c", command, processor], cwd=directory, capture_output=True, text=True)
+    assert done.returncode == 0 and (directory / "out.frq").read_bytes() != OLD, done.stderr
+    assert len([name for name in names(directory) if name.endswith(".tmp")]) == 5, names(directory)
+
+
+if __name__ == "__main__":
+    sys.exit(main(globals()))
