@@ -187,8 +187,22 @@ class Runner {
     std::unique_ptr<InputReader> reader_;
 };
 
+/// The raw data stay, whatever a result is called.
+void needInputsApart(const Control& control) {
+    std::vector<const char*> endings;
+    if (control.wantsSeries) endings.push_back(".tsf");
+    if (control.wantsRoses) endings.insert(endings.end(), {".tab", ".frq"});
+    for (const OutputRequest& output : control.outputs)
+        for (const char* ending : endings)
+            for (const std::string& input : control.inputs)
+                if (isSameFile(output.name + ending, input))
+                    throw Failure(ExitStatus::BadControl, "the result \"" + output.name + ending +
+                                                              "\" would take the place of an input");
+}
+
 void runControl(const std::string& text, const std::string& controlFile, Listing& listing) {
     const Control control = readControl(text, controlFile);
+    needInputsApart(control);
     listing.describe(control);
     Runner(control, listing).run();
 }

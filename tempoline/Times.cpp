@@ -95,7 +95,7 @@ std::optional<Seconds> zoneOffset(std::string_view key) {
     }
     const int hours = (text[4] - '0') * 10 + (text[5] - '0');
     const int minutes = (text[6] - '0') * 10 + (text[7] - '0');
-    const Seconds offset = hours * secondsAnHour + minutes * 60;
+    const Seconds offset = hours * secondsAnHour + Seconds{minutes} * 60;
     if (minutes > 59 || offset > largestOffset) return {};
     return text[3] == '-' ? -offset : offset;
 }

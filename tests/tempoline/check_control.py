@@ -103,6 +103,25 @@ def case_listing_over_others(processor, directory):
     assert done.returncode == 2 and (directory / "TEMPOLINE.LST").read_bytes() == b"broken", done.stderr
 
 
+def case_results_over_inputs(processor, directory):
+    """A result with the name of an input is refused, and the raw data stay."""
+    surface(directory, good_day())
+    data = (directory / "a.sfc").read_bytes()
+    day_control(directory)
+    good = (directory / "c.inp").read_bytes().decode("latin-1")
+    for name in ("out.frq", "out.tab", "out.tsf"):
+        (directory / name).write_bytes(data)
+        (directory / "c.inp").write_bytes(set_key(good, "METINP", name).encode("latin-1"))
+        done = run(processor, directory, "c.inp")
+        expected = 'tempoline: the result "%s" would take the place of an input\n' % name
+        assert done.returncode == 2 and done.stderr == expected, (done.returncode, done.stderr)
+        assert (directory / name).read_bytes() == data
+        (directory / name).unlink()
+    (directory / "c.inp").write_bytes(set_key(good, "METINP", "out.sfc").encode("latin-1"))
+    (directory / "out.sfc").write_bytes(data)
+    assert run(processor, directory, "c.inp").returncode == 0
+
+
 def case_names_taken(processor, directory):
     """A result that cannot take its name ends the run before the data are read, and the others stay as they are."""
     day_control(directory)  # of data that are not there
