@@ -1,5 +1,7 @@
 #include "platform/Memory.h"
 
+#include <QPixmapCache>
+
 #if __has_include(<malloc.h>)
 #include <malloc.h>
 #endif
@@ -14,6 +16,8 @@ void useMemorySparingly() {
 }
 
 void giveBackMemory() {
+    // The icons of each file dialog are kept under names of their own, so that they are never found again.
+    QPixmapCache::clear();
 #ifdef __GLIBC__
     malloc_trim(0);
 #endif

@@ -6,7 +6,8 @@ namespace zg {
 /// are free. To be called before the first window. Does nothing where the C library has no such choice.
 void useMemorySparingly();
 
-/// Gives back what lies free between the blocks in use.
+/// Drops painted icons, which are made again when they are needed, and gives back what lies free between the
+/// blocks in use.
 void giveBackMemory();
 
 }  // namespace zg
