@@ -49,6 +49,7 @@ frmChangeDir::frmChangeDir(Host& host, std::string& directory, const std::string
     Dir1->setAccessibleName(QStringLiteral("Directory"));
     Dir1->setModel(model_);
     Dir1->setHeaderHidden(true);
+    Dir1->sortByColumn(0, Qt::AscendingOrder);
     for (int column = 1; column < model_->columnCount(); ++column) Dir1->hideColumn(column);
     cmdOK = new QPushButton(QStringLiteral("OK"));
     cmdOK->setObjectName(QStringLiteral("cmdOK"));

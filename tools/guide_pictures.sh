@@ -28,7 +28,7 @@ expressions frmExpr
 grid_fonts frmGridFonts
 labels frmAddLabel
 legend frmOptionsLegend
-options frmOptions
+options frmOptions_Details
 projection frmProjectionInfo_LCC
 properties frmProperties_Font_Patterns
 radius frmChangeRadius

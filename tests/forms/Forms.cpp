@@ -156,7 +156,10 @@ FormPointer tableForm(FormWorld& world) {
 }
 
 FormPointer directoryForm(FormWorld& world) {
-    return std::make_unique<frmChangeDir>(world.host, world.chosenDirectory, world.directory.path());
+    std::string start = world.chosenDirectory;
+    if (start.empty()) start = world.directory.path() + "/met data/Lovett";
+    std::filesystem::create_directories(start);
+    return std::make_unique<frmChangeDir>(world.host, world.chosenDirectory, start);
 }
 
 /// Its period ends where it begins, of which a box tells.
@@ -226,7 +229,6 @@ FormPointer projectionForm(FormWorld& world) {
 FormPointer deepDirectoryForm(FormWorld& world) {
     world.chosenDirectory = world.directory.path();
     for (int level = 0; level < 12; ++level) world.chosenDirectory += "/directory_within_directory";
-    std::filesystem::create_directories(world.chosenDirectory);
     return directoryForm(world);
 }
 
