@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t windowSize = 64 * 1024;
+constexpr std::size_t windowSize = 65536;
 
 /// The first CR or LF of the bytes, or npos. Searched piece by piece: in a file without any LF a search for
 /// the next one would pass over all that is left, for every line.

@@ -18,19 +18,31 @@ inline constexpr bool handles = std::is_invocable_v<Handler&, Values...> || std:
 /// The boundary round an event handler: what is thrown inside is shown, and the program goes on with the
 /// state as it stands.
 template <typename Handler>
-auto guarded(Host& host, Handler handler) {
-    // Told in the signature, so that who tries it with other arguments is refused there and not in the body.
-    return [&host, handler = std::move(handler)](
-               auto&&... arguments) mutable -> std::enable_if_t<handles<Handler, decltype(arguments)...>> {
+class Guarded {
+ public:
+    Guarded(Host& host, Handler handler) : host_(&host), handler_(std::move(handler)) {}
+
+    /// Told in the signature, so that who tries it with other values is refused there and not in the body.
+    template <typename... Values>
+    auto operator()(Values&&... values) -> std::enable_if_t<handles<Handler, Values...>> {
         try {
-            if constexpr (std::is_invocable_v<Handler&, decltype(arguments)...>)
-                handler(std::forward<decltype(arguments)>(arguments)...);
+            if constexpr (std::is_invocable_v<Handler&, Values...>)
+                handler_(std::forward<Values>(values)...);
             else
-                handler();
+                handler_();
         } catch (...) {
-            showError(host, std::current_exception());
+            showError(*host_, std::current_exception());
         }
-    };
+    }
+
+ private:
+    Host* host_;
+    Handler handler_;
+};
+
+template <typename Handler>
+Guarded<Handler> guarded(Host& host, Handler handler) {
+    return {host, std::move(handler)};
 }
 
 }  // namespace zg

@@ -10,6 +10,7 @@ namespace {
 /// Hands the rows to a rule and shows what came of it.
 void applyTo(QListWidget& list, void (*rule)(std::vector<ListRow>&)) {
     std::vector<ListRow> rows;
+    rows.reserve(static_cast<std::size_t>(list.count()));
     for (int i = 0; i < list.count(); ++i)
         rows.push_back({list.item(i)->text().toStdString(), list.item(i)->isSelected()});
     rule(rows);

@@ -61,7 +61,8 @@ PolarGraphWidget::PolarGraphWidget(Host& host, const PropertyBag& designed, QWid
     picRulerJ_->setToolTip(QString::fromLatin1(PolarGraph::cornerToolTip));
     for (QScrollBar* bar : {hsScroll_, vsScroll_})
         connect(bar, &QScrollBar::valueChanged, this, guarded(host_, [this] { scrolled(); }));
-    graph_.reset(new PolarGraph(*this, host_, designed));  // only this class may show itself as the window
+    // Only this class may show itself as the window.
+    graph_ = std::make_unique<PolarGraph>(static_cast<ControlWindow&>(*this), host_, designed);
     layoutChanged();
 }
 

@@ -198,6 +198,7 @@ void frmExpr::cmdRemov_Click() {
 
 void frmExpr::cmdSave_Click() {
     std::vector<std::string> expressions;
+    expressions.reserve(static_cast<std::size_t>(lstExpr->count()));
     for (int row = 0; row < lstExpr->count(); ++row) expressions.push_back(typed(lstExpr->item(row)->text()));
     if (writeExpressions(ExprFilePath, expressions)) ExprDirty = false;
 }

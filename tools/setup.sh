@@ -10,7 +10,7 @@ packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libcli11-dev nlohmann-j
           fonts-liberation fonts-dejavu-core libreoffice-impress-nogui libreoffice-writer-nogui)
 tests=(libgtest-dev libbenchmark-dev libmuparser-dev parallel python3 clang libclang-rt-14-dev)
 e2e=(xvfb openbox xdotool imagemagick)
-checks=(clang-format cppcheck git debootstrap dpkg-dev file)
+checks=(clang-format clang-tidy cppcheck git debootstrap dpkg-dev file)
 
 case "${1:-}" in
     "") ;;

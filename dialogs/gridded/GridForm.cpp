@@ -207,8 +207,9 @@ std::vector<std::string> GridForm::rows(const char* list) const {
 
 std::vector<bool> GridForm::selectedRows(const char* list) const {
     const QListWidget& widget = as<QListWidget>(list);
-    std::vector<bool> marks;
-    for (int i = 0; i < widget.count(); ++i) marks.push_back(widget.item(i)->isSelected());
+    std::vector<bool> marks(static_cast<std::size_t>(widget.count()));
+    for (int i = 0; i < widget.count(); ++i)
+        marks[static_cast<std::size_t>(i)] = widget.item(i)->isSelected();
     return marks;
 }
 

@@ -121,13 +121,14 @@ void GridWizard::takeStations() {
         periodInName(values_.IBYR, values_.IBMO, values_.IBDY, values_.IEYR, values_.IEMO, values_.IEDY);
     const std::string height = trim(view_.text("txtExtractionHeight2"));
     NumberOfLocations = 0;
+    const std::string ending = variation_.tag + period + "_" + height + "m";
     for (std::size_t row = 0; row < names.size(); ++row) {
         if (!selected[row]) continue;
         const std::int32_t i = ++NumberOfLocations;
         slot(LocationX, i) = stations.gsStationCol8.at(row);
         slot(LocationY, i) = stations.gsStationCol7.at(row);
         slot(LocationID, i) = stations.gsStationCol0.at(row);
-        slot(LocationFRQName, i) = trim(names[row]) + variation_.tag + period + "_" + height + "m";
+        slot(LocationFRQName, i) = trim(names[row]).append(ending);
     }
     values_.projection.PMAP = "LL";
     values_.projection.DATUM = stations.gsStationCol9.at(0);

@@ -67,7 +67,8 @@ class MonitorReader {
         const Stamp first = stampOf(fieldOf(record, dateColumn));
         passOver(record);
         const Stamp last = stampOf(fieldOf(removeQuotes(record), dateColumn));
-        header_.begin = addSeconds(AddTimeToDate(first.date, first.time), -60 * header_.averagingMinutes);
+        header_.begin =
+            addSeconds(AddTimeToDate(first.date, first.time), std::int64_t{-60} * header_.averagingMinutes);
         header_.end = AddTimeToDate(last.date, last.time);
         return std::move(header_);
     }

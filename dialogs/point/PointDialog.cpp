@@ -297,7 +297,7 @@ RunHooks PointDialog::sharedHooks() {
     hooks.outputDirectory = [this] { return outputDirectory(); };
     hooks.showName = [this](const std::string& name) { txtFRQOutputFilename->setText(shown(name)); };
     hooks.setStatus = [this](const std::string& text) { lblStatus->setText(shown(text)); };
-    hooks.setBusy = [this](bool busy) {
+    hooks.setBusy = [](bool busy) {
         // The pointer of the whole screen, which is set and not stacked: runs may overlap.
         while (QGuiApplication::overrideCursor() != nullptr) QGuiApplication::restoreOverrideCursor();
         if (busy) QGuiApplication::setOverrideCursor(Qt::WaitCursor);

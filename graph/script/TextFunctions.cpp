@@ -39,27 +39,23 @@ std::string foldedText(const Value& value, bool ignoreCase) {
     return ignoreCase ? lcase(toText(value)) : toText(value);
 }
 
-template <std::string (*operation)(std::string)>
+template <std::string (*operation)(const std::string&)>
 Value changed(HostContext& context, Arguments arguments) {
     if (arguments[0].is(ValueType::Null)) return arguments[0];
-    std::string text = toText(arguments[0]);
+    const std::string text = toText(arguments[0]);
     context.spend(text.size());
-    return context.text(operation(std::move(text)));
+    return context.text(operation(text));
 }
 
-std::string upper(std::string text) { return ucase(text); }
-std::string lower(std::string text) { return lcase(text); }
-std::string bothTrimmed(std::string text) { return trim(text); }
+std::string upper(const std::string& text) { return ucase(text); }
+std::string lower(const std::string& text) { return lcase(text); }
+std::string bothTrimmed(const std::string& text) { return trim(text); }
 
-std::string leftTrimmed(std::string text) {
-    text.erase(0, std::min(text.find_first_not_of(' '), text.size()));
-    return text;
+std::string leftTrimmed(const std::string& text) {
+    return text.substr(std::min(text.find_first_not_of(' '), text.size()));
 }
 
-std::string rightTrimmed(std::string text) {
-    text.erase(text.find_last_not_of(' ') + 1);
-    return text;
-}
+std::string rightTrimmed(const std::string& text) { return text.substr(0, text.find_last_not_of(' ') + 1); }
 
 Value len(HostContext&, Arguments arguments) {
     if (arguments[0].is(ValueType::Null)) return arguments[0];
