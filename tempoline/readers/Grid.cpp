@@ -17,7 +17,7 @@ constexpr double halfCell = 0.5;
 /// The same longitude, counted on from the western edge of the grid: grids go over the date line, or from 0
 /// to 360 degrees.
 double longitudeIn(const Grid& grid, double longitude) {
-    const double west = grid.x1 + (grid.firstI - 1 - halfCell) * grid.cellSize;
+    const double west = grid.x1 + (grid.firstI - 1 - halfCell - noise) * grid.cellSize;
     return longitude + 360 * std::ceil((west - longitude) / 360);
 }
 
@@ -53,8 +53,9 @@ int nearest(double place, int first, int last) {
 
 std::vector<CellShare> cellsAround(const OutputRequest& output, const Control& control, const Grid& grid) {
     const MapPoint place = cellPlace(output, control, grid);
-    const bool inside = place.x >= grid.firstI - halfCell && place.x <= grid.lastI + halfCell &&
-                        place.y >= grid.firstJ - halfCell && place.y <= grid.lastJ + halfCell;
+    const double rim = halfCell + noise;
+    const bool inside = place.x >= grid.firstI - rim && place.x <= grid.lastI + rim &&
+                        place.y >= grid.firstJ - rim && place.y <= grid.lastJ + rim;
     if (!inside)
         throw Failure(ExitStatus::Failed, "the location " + fixedText(output.x, 4) + ", " +
                                               fixedText(output.y, 4) + " of output " + output.name +

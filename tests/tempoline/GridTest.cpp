@@ -87,6 +87,10 @@ TEST(Grid, LongitudesCountOnOverTheDateLine) {
     }
     EXPECT_EQ(firstCell(190, -170.5, "WGS-84"), 1) << "the western edge belongs to the grid";
     EXPECT_EQ(firstCell(190, -167.5, "WGS-84"), 3) << "the eastern one too";
+    grid.cellSize = 0.1;  // of which no fraction is a whole number of bits
+    EXPECT_EQ(firstCell(-179.85, -179.9, "WGS-84"), 1);
+    EXPECT_EQ(firstCell(-179.85, -179.6, "WGS-84"), 3);
+    EXPECT_NE(failureOf([&] { firstCell(-179.85, -179.9001, "WGS-84"); }), "");
 }
 
 TEST(Grid, OneMissingCellMakesTheWindMissing) {
