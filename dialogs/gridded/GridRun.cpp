@@ -88,8 +88,8 @@ void GridWizard::readValues() {
     v.seasonNames.assign(settings.SeasonNames.begin(), settings.SeasonNames.begin() + settings.SeasonCount);
     v.MSN = settings.MonthSeasonString;
     if (variation_.asksProfiling) v.MPROF = profilingNumber(view_.text("cboVertProfilingMethod"));
-    const bool cells = UseCellCoordinates && !byStation();
-    if (variation_.offersCells) v.MCELL = cells ? "1" : "0";
+    // Stations do not ask for cells again: the last answer holds for them too.
+    if (variation_.offersCells) v.MCELL = UseCellCoordinates ? "1" : "0";
     RunRoot = variation_.rootPrefix + fileBaseOf(v.inputFiles.at(0)) +
               periodInName(v.IBYR, v.IBMO, v.IBDY, v.IEYR, v.IEMO, v.IEDY);
     v.base = RunRoot;
@@ -98,10 +98,8 @@ void GridWizard::readValues() {
         takeStations();
     else if (usesLatitudes() && variation_.oneCoordinatePair)
         takeCoordinatesOnShow();
-    if (cells)
-        values_.projection.PMAP = "NONE";
-    else if (!byStation())
-        values_.projection = projection;
+    if (!byStation()) values_.projection = projection;
+    if (!byStation() && UseCellCoordinates) values_.projection.PMAP = "NONE";
     outputs_.clear();
     const std::string height = view_.text("txtExtractionHeight2");
     for (std::int32_t i = 1; i <= NumberOfLocations; ++i) {
@@ -145,8 +143,7 @@ void GridWizard::takeCoordinatesOnShow() {
 }
 
 std::string GridWizard::placeOf(std::int32_t location) {
-    if (!byStation() && UseCellCoordinates)
-        return slot(LocationI, location) + ", " + slot(LocationJ, location);
+    if (UseCellCoordinates) return slot(LocationI, location) + ", " + slot(LocationJ, location);
     if (byStation() || !usesLatitudes() || variation_.oneCoordinatePair)
         return slot(LocationX, location) + ", " + slot(LocationY, location);
     const std::string west = slot(LocationWE, location) == "W" ? "-" : "";

@@ -848,10 +848,8 @@ TEST_F(M3dWizard, EachLocationKeepsItsDegrees) {
     EXPECT_EQ(status(), "Error has occurred.");
 }
 
-TEST_F(M3dWizard, TheControlFileOfStationsAfterCells) {
+TEST_F(M3dWizard, TheControlFileOfStations) {
     openFile(m3dText());
-    boxOf([this] { wizard_->cmdNext2_Click(); }, BoxAnswer::Yes, "");
-    wizard_->cmdPrevious3_Click();
     view_.checkedOption = "optByStation";
     view_.texts["txtTitleLine"] = "";
     wizard_->cmdNext2_Click();
@@ -860,6 +858,24 @@ TEST_F(M3dWizard, TheControlFileOfStationsAfterCells) {
     wizard_->cmdNext3_Click();
     wizard_->cmdPROCESS_Click();
     EXPECT_EQ(controlFile(), expected("wizard_m3d_stations.inp"));
+}
+
+TEST_F(M3dWizard, TheAnswerAboutCellsHoldsForStationsToo) {
+    openFile(m3dText());
+    boxOf([this] { wizard_->cmdNext2_Click(); }, BoxAnswer::Yes, "");
+    fillLocation("3.2", "15.88", "one");
+    wizard_->cmdNext3_Click();
+    wizard_->cmdPrevious4_Click();
+    wizard_->cmdPrevious3_Click();
+    view_.checkedOption = "optByStation";
+    wizard_->cmdNext2_Click();
+    view_.selected = {false, true, false};
+    view_.texts["txtExtractionHeight2"] = "12.5";
+    wizard_->cmdNext3_Click();
+    wizard_->cmdPROCESS_Click();
+    const std::string file = controlFile();
+    for (const char* line : {"! MCELL = 1 !", "! PMAP = LL !", "! MET = 3.2, 15.88, 12.5, -1., -1., -1. !"})
+        EXPECT_NE(file.find(line), std::string::npos) << line;
 }
 
 TEST_F(M3dWizard, TheProfilingMethodsHaveTheirNumbers) {
