@@ -37,8 +37,6 @@ bool isSameFile(const std::string& a, const std::string& b) {
                       first.st_dev == second.st_dev && first.st_ino == second.st_ino);
 }
 
-std::string listingNameOf(std::string_view text) { return listingOf(readableAssignments(text)).value; }
-
 std::string freeListingName(std::string_view text, const std::string& controlFile) {
     const std::vector<Assignment> assignments = readableAssignments(text);
     const Assignment listing = listingOf(assignments);

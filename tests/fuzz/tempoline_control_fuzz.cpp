@@ -11,7 +11,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     try {
-        zg::tempoline::listingNameOf(text);
+        zg::tempoline::freeListingName(text, "c.inp");
         zg::tempoline::readControl(text, "c.inp");
     } catch (const zg::tempoline::Failure&) {
         return 0;  // told to the user

@@ -186,16 +186,17 @@ TEST(ControlReader, ThePeriodMustHoldASoundNumberOfSteps) {
 }
 
 TEST(ControlLexer, FindsTheListingInABrokenFile) {
-    EXPECT_EQ(listingNameOf("x\ny\n! TSFLST = a.lst !\n! MDATA = "), "a.lst");
-    EXPECT_EQ(listingNameOf("x\ny\n! TSFLST = \n! TSFLST = a.lst !"), "a.lst");
-    EXPECT_EQ(listingNameOf("x\ny\n! TSFLST = a.lst"), "TEMPOLINE.LST");
-    EXPECT_EQ(listingNameOf("x\ny\n! TSFLST = ../a.lst !"), "TEMPOLINE.LST");
-    EXPECT_EQ(listingNameOf(""), "TEMPOLINE.LST");
+    EXPECT_EQ(freeListingName("x\ny\n! TSFLST = a.lst !\n! MDATA = ", "c.inp"), "a.lst");
+    EXPECT_EQ(freeListingName("x\ny\n! TSFLST = \n! TSFLST = a.lst !", "c.inp"), "a.lst");
+    EXPECT_EQ(freeListingName("x\ny\n! TSFLST = a.lst", "c.inp"), "TEMPOLINE.LST");
+    EXPECT_EQ(freeListingName("x\ny\n! TSFLST = ../a.lst !", "c.inp"), "TEMPOLINE.LST");
+    EXPECT_EQ(freeListingName("", "c.inp"), "TEMPOLINE.LST");
 }
 
 TEST(ControlLexer, TheTitleNamesNoListing) {
-    EXPECT_EQ(listingNameOf("TEMPOLINE.INP\n! TSFLST = other.lst !\n! TSFLST = a.lst !\n"), "a.lst");
-    EXPECT_EQ(listingNameOf("! TSFLST = b.lst !\n! TSFLST = other.lst !"), "TEMPOLINE.LST");
+    EXPECT_EQ(freeListingName("TEMPOLINE.INP\n! TSFLST = other.lst !\n! TSFLST = a.lst !\n", "c.inp"),
+              "a.lst");
+    EXPECT_EQ(freeListingName("! TSFLST = b.lst !\n! TSFLST = other.lst !", "c.inp"), "TEMPOLINE.LST");
 }
 
 TEST(ControlLexer, ControlCharactersAreRefused) {
