@@ -11,6 +11,7 @@
 #include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
+#include "platform/FormParts.h"
 #include "platform/KeyFilter.h"
 #include "platform/Pickers.h"
 #include "platform/QtText.h"
@@ -19,20 +20,6 @@
 namespace zg {
 
 namespace {
-
-template <typename Control>
-Control* named(Control* control, const char* name) {
-    control->setObjectName(QString::fromLatin1(name));
-    return control;
-}
-
-QPushButton* browseButton(const char* caption, const char* name, const char* what) {
-    auto* button = named(new QPushButton(QString::fromLatin1(caption)), name);
-    button->setAccessibleName(QString::fromLatin1(what));
-    return button;
-}
-
-std::string pathIn(const QLineEdit& field) { return filePath(field.text()); }
 
 void enable(QLineEdit& field, bool enabled) {
     field.setEnabled(enabled);

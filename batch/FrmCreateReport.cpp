@@ -10,6 +10,7 @@
 #include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
+#include "platform/FormParts.h"
 #include "platform/Pickers.h"
 #include "platform/QtText.h"
 #include "processing/Directories.h"
@@ -21,26 +22,6 @@ namespace {
 constexpr float slideLeft = 102.12F;
 constexpr float slideTop = 0;
 constexpr float slideSide = 539.88F;
-
-template <typename Control>
-Control* named(Control* control, const char* name) {
-    control->setObjectName(QString::fromLatin1(name));
-    return control;
-}
-
-QPushButton* browseButton(const char* caption, const char* name, const char* what) {
-    auto* button = named(new QPushButton(QString::fromLatin1(caption)), name);
-    button->setAccessibleName(QString::fromLatin1(what));
-    return button;
-}
-
-QLabel* labelFor(const char* text, QWidget* buddy) {
-    auto* label = new QLabel(QString::fromLatin1(text));
-    label->setBuddy(buddy);
-    return label;
-}
-
-std::string pathIn(const QLineEdit& field) { return filePath(field.text()); }
 
 }  // namespace
 

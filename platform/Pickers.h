@@ -8,6 +8,11 @@
 
 namespace zg {
 
+/// The kinds of picture that a person may choose.
+inline constexpr const char* pictureFilter =
+    "Bitmap Files (*.bmp) | *.bmp; |JPEG (*.JPG,*.JPEG) | *.jpg; *.jpeg; |GIF (*.GIF) | *.GIF; |"
+    "All Picture Files | *.bmp; *.gif; *.jpg; *.jpeg; |All Files (*.*) | *.*";
+
 /// Asks for one file to open, with an empty name to start from; "" when cancelled.
 std::string ShowFileOpen(Host& host, const std::string& filter, int index, const std::string& initDir);
 

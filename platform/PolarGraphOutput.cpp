@@ -17,8 +17,6 @@ namespace {
 
 constexpr int printerError = 482;
 
-const QImage& imageOf(const Picture& picture) { return static_cast<const QtPicture&>(picture).image(); }
-
 }  // namespace
 
 PicturePointer PolarGraphWidget::copyPage(const Rect& part) {

@@ -66,8 +66,6 @@ QString shownLine(const std::string& text, const std::string& face) {
     return needsSymbols(face) ? symbolText(visible) : shown(visible);
 }
 
-const QImage& imageOf(const Picture& picture) { return static_cast<const QtPicture&>(picture).image(); }
-
 }  // namespace
 
 QColor toQColor(Colour colour) {

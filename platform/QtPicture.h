@@ -25,6 +25,11 @@ class QtPicture : public Picture {
     QPoint hotSpot_;
 };
 
+/// The image of a picture that this side has decoded.
+inline const QImage& imageOf(const Picture& picture) {
+    return static_cast<const QtPicture&>(picture).image();
+}
+
 /// Loads a picture file of any kind the toolkit reads; raises 481, "Invalid picture", or the error of the
 /// file.
 PicturePointer loadPicture(const std::string& path);

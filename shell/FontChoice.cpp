@@ -3,26 +3,17 @@
 #include <QHBoxLayout>
 
 #include "platform/Errors.h"
+#include "platform/FormParts.h"
 #include "platform/QtText.h"
 
 namespace zg {
 
-namespace {
-
-QPushButton* button(const char* caption, const std::string& name) {
-    auto* made = new QPushButton(QString::fromLatin1(caption));
-    made->setObjectName(QString::fromStdString(name));
-    return made;
-}
-
-}  // namespace
-
 FontChoice::FontChoice(Host& host, const FontRecord& font, const FontRecord& factory,
                        const std::string& suffix, const Captions& captions)
     : font_(font), sample_(new QLabel) {
-    QPushButton* cmdSelectFont = button(captions.font, "cmdSelectFont" + suffix);
-    QPushButton* cmdSelectColor = button(captions.colour, "cmdSelectColor" + suffix);
-    QPushButton* cmdReset = button(captions.reset, "cmdResetToDefaults" + suffix);
+    QPushButton* cmdSelectFont = namedButton(captions.font, ("cmdSelectFont" + suffix).c_str());
+    QPushButton* cmdSelectColor = namedButton(captions.colour, ("cmdSelectColor" + suffix).c_str());
+    QPushButton* cmdReset = namedButton(captions.reset, ("cmdResetToDefaults" + suffix).c_str());
     sample_->setObjectName(QString::fromStdString("lblSample" + suffix));
     sample_->setAutoFillBackground(true);
     sample_->setAlignment(Qt::AlignCenter);

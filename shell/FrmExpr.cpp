@@ -8,6 +8,7 @@
 #include "graph/control/EquationCheck.h"
 #include "platform/Captions.h"
 #include "platform/Errors.h"
+#include "platform/FormParts.h"
 #include "platform/QtText.h"
 #include "shell/settings/ExprFile.h"
 
@@ -19,12 +20,6 @@ constexpr const char* addCaption = "Add";
 constexpr const char* editCaption = "Edit";
 constexpr int gap = 6;
 constexpr int gapsOfTheTray = 5;
-
-QPushButton* button(const char* text, const char* name) {
-    auto* made = new QPushButton(QString::fromLatin1(text));
-    made->setObjectName(QString::fromLatin1(name));
-    return made;
-}
 
 }  // namespace
 
@@ -52,13 +47,13 @@ QLayout* frmExpr::makeList() {
     lstExpr->setObjectName(QStringLiteral("lstExpr"));
     lstExpr->setAccessibleName(QStringLiteral("Expressions"));
     lblMsg->setBuddy(lstExpr);
-    cmdOk = button("OK", "cmdOk");
+    cmdOk = namedButton("OK", "cmdOk");
     cmdOk->setDefault(true);
-    cmdCancel = button("&Cancel", "cmdCancel");
-    cmdAdd = button("&Add", "cmdAdd");
-    cmdEdit = button("&Edit", "cmdEdit");
-    cmdRemov = button("&Remove", "cmdRemov");
-    cmdSave = button("&Save", "cmdSave");
+    cmdCancel = namedButton("&Cancel", "cmdCancel");
+    cmdAdd = namedButton("&Add", "cmdAdd");
+    cmdEdit = namedButton("&Edit", "cmdEdit");
+    cmdRemov = namedButton("&Remove", "cmdRemov");
+    cmdSave = namedButton("&Save", "cmdSave");
     auto* column = new QVBoxLayout;
     for (QPushButton* each : {cmdOk, cmdCancel}) column->addWidget(each);
     column->addSpacing(2 * gap);
@@ -88,9 +83,9 @@ void frmExpr::makeTray() {
     txtExpr = new QLineEdit;
     txtExpr->setObjectName(QStringLiteral("txtExpr"));
     lblPrompt->setBuddy(txtExpr);
-    cmdOkExpr = button("OK", "cmdOkExpr");
+    cmdOkExpr = namedButton("OK", "cmdOkExpr");
     cmdOkExpr->setEnabled(false);
-    cmdCancelExpr = button("Cancel", "cmdCancelExpr");
+    cmdCancelExpr = namedButton("Cancel", "cmdCancelExpr");
     auto* rows = new QVBoxLayout(fraTray);
     rows->addWidget(lblPrompt);
     auto* row = new QHBoxLayout;

@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
+#include "platform/FormParts.h"
 #include "platform/QtText.h"
 #include "shell/Resources.h"
 
@@ -16,18 +17,12 @@ namespace zg {
 
 namespace {
 
-constexpr int gap = 2;
+constexpr int rowGap = 2;
 constexpr int twipsPerPixel = 15;
 constexpr int barScale = 200;
 constexpr int legendColumnWidth = 800 / twipsPerPixel;
 constexpr int titleMargins = 8;
 constexpr int tableSlack = 60 / twipsPerPixel;
-
-template <typename Control>
-Control* named(Control* control, const char* name) {
-    control->setObjectName(QString::fromLatin1(name));
-    return control;
-}
 
 /// Properties of the plot that the window is designed with.
 PropertyBag designedProperties() {
@@ -63,8 +58,8 @@ void makeToolbar(FrmMainControls& ui) {
                                           {"copy", "tblToolbar_copy", "Copy"}}};
     ui.tblToolbar = named(new QWidget, "tblToolbar");
     auto* layout = new QHBoxLayout(ui.tblToolbar);
-    layout->setContentsMargins(gap, gap, gap, gap);
-    layout->setSpacing(gap);
+    layout->setContentsMargins(rowGap, rowGap, rowGap, rowGap);
+    layout->setSpacing(rowGap);
     for (const Row& row : rows) {
         QToolButton* button = toolButton(row.name, row.key, row.toolTip);
         ui.toolbarButtons[row.key] = button;
@@ -100,8 +95,8 @@ void makeToolbox(FrmMainControls& ui) {
     ui.fraToolbox = named(new QFrame, "fraToolbox");
     ui.tblToolbox = named(new QWidget, "tblToolbox");
     auto* column = new QVBoxLayout(ui.tblToolbox);
-    column->setContentsMargins(gap, gap, gap, gap);
-    column->setSpacing(gap);
+    column->setContentsMargins(rowGap, rowGap, rowGap, rowGap);
+    column->setSpacing(rowGap);
     auto* group = new QButtonGroup(ui.tblToolbox);
     for (std::size_t i = 0; i < rows.size(); ++i) {
         ui.toolboxButtons[i] = toolButton(rows[i].name, rows[i].icon, rows[i].toolTip);
@@ -117,16 +112,10 @@ void makeToolbox(FrmMainControls& ui) {
                              "350%", "400%", "450%", "500%", "Custom..."});
     auto* row = new QHBoxLayout(ui.fraToolbox);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(gap);
+    row->setSpacing(rowGap);
     row->addWidget(ui.tblToolbox);
     row->addWidget(ui.lstAspect);
     row->addWidget(ui.lstZoom);
-}
-
-QLabel* labelFor(const char* text, QWidget* buddy) {
-    auto* label = new QLabel(QString::fromLatin1(text));
-    label->setBuddy(buddy);
-    return label;
 }
 
 void makeEquationRow(FrmMainControls& ui) {
@@ -262,11 +251,11 @@ FrmMainControls makeFrmMainControls(QMainWindow& window, Host& host) {
 
     auto* centre = new QWidget;
     auto* rows = new QVBoxLayout(centre);
-    rows->setContentsMargins(gap, 0, gap, 0);
-    rows->setSpacing(gap);
+    rows->setContentsMargins(rowGap, 0, rowGap, 0);
+    rows->setSpacing(rowGap);
     rows->addWidget(ui.tblToolbar);
     auto* middle = new QHBoxLayout;
-    middle->setSpacing(gap);
+    middle->setSpacing(rowGap);
     middle->addWidget(ui.fraToolbox);
     middle->addWidget(ui.pgPolarGraph, 1);
     rows->addLayout(middle, 1);

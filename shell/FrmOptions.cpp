@@ -9,6 +9,7 @@
 #include "graph/frq/ModPolarGraph.h"
 #include "platform/Captions.h"
 #include "platform/Errors.h"
+#include "platform/FormParts.h"
 #include "platform/Pickers.h"
 #include "platform/QtPicture.h"
 #include "platform/QtText.h"
@@ -19,26 +20,12 @@ namespace zg {
 namespace {
 
 constexpr double percentPerUnit = 5;
-constexpr const char* pictureFilter =
-    "Bitmap Files (*.bmp) | *.bmp; |JPEG (*.JPG,*.JPEG) | *.jpg; *.jpeg; |GIF (*.GIF) | *.GIF; |"
-    "All Picture Files | *.bmp; *.gif; *.jpg; *.jpeg; |All Files (*.*) | *.*";
-
-template <typename Control>
-Control* named(Control* control, const char* name) {
-    control->setObjectName(QString::fromLatin1(name));
-    return control;
-}
 
 QLineEdit* box(const char* name, bool readOnly = false) {
     auto* made = named(new QLineEdit, name);
     made->setReadOnly(readOnly);
     made->setMinimumWidth(digitsWide(*made, 11));
     made->setMaximumWidth(digitsWide(*made, 15));
-    return made;
-}
-
-QPushButton* plainButton(const char* caption, const char* name) {
-    auto* made = named(new QPushButton(QString::fromLatin1(caption)), name);
     return made;
 }
 
@@ -92,7 +79,7 @@ frmOptions::frmOptions(Host& host, PolarGraph& graph, QWidget* parent)
     row->addWidget(pgPreview, 1);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(row, 1);
-    QPushButton* cmdDefault = plainButton("&Default", "cmdDefault");
+    QPushButton* cmdDefault = namedButton("&Default", "cmdDefault");
     connect(cmdDefault, &QPushButton::clicked, this, guarded(host_, [this] { cmdDefault_Click(); }));
     addButtons(*layout, cmdDefault);
     showFields();
@@ -147,7 +134,7 @@ QLayout* frmOptions::colourRow(const char* caption, const char* name, Colour Pol
     auto* swatch = new ColourBox(preview().Polar().*colour);
     swatch->setAccessibleName(spoken(QString::fromLatin1(caption)) + QStringLiteral(" on show"));
     swatch->setObjectName(QString::fromLatin1(name).replace(QLatin1String("cmd"), QLatin1String("pic")));
-    QPushButton* button = plainButton(caption, name);
+    QPushButton* button = namedButton(caption, name);
     colours_.emplace_back(swatch, colour);
     const auto pick = guarded(host_, [this, swatch, colour] {
         const auto picked = host_.pickColour(swatch->colour());
@@ -170,9 +157,9 @@ QWidget* frmOptions::makeBackground() {
     auto* column = new QVBoxLayout(page);
     picBkColor = named(new ColourBox(preview().BackColor()), "picBkColor");
     picBkColor->setAccessibleName(QStringLiteral("Background color on show"));
-    QPushButton* cmdBkColor = plainButton("Background colo&r...", "cmdBkColor");
-    QPushButton* cmdBitmap = plainButton("Bi&tmap...", "cmdBitmap");
-    QPushButton* cmdClear = plainButton("Clear Bitma&p", "cmdClear");
+    QPushButton* cmdBkColor = namedButton("Background colo&r...", "cmdBkColor");
+    QPushButton* cmdBitmap = namedButton("Bi&tmap...", "cmdBitmap");
+    QPushButton* cmdClear = namedButton("Clear Bitma&p", "cmdClear");
     for (QWidget* each : std::initializer_list<QWidget*>{picBkColor, cmdBkColor, cmdBitmap, cmdClear})
         column->addWidget(each);
     optBmp = new QButtonGroup(this);

@@ -20,9 +20,6 @@ namespace {
 constexpr double angleEnd = 1000000;
 constexpr double largestStep = 10000;
 constexpr int stepDecimals = 4;
-constexpr const char* pictureFilter =
-    "Bitmap Files (*.bmp) | *.bmp; |JPEG (*.JPG,*.JPEG) | *.jpg; *.jpeg; |GIF (*.GIF) | *.GIF; |"
-    "All Picture Files | *.bmp; *.gif; *.jpg; *.jpeg; |All Files (*.*) | *.*";
 
 std::optional<double> numberIn(const QLineEdit& box) {
     try {

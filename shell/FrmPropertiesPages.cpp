@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "platform/Captions.h"
+#include "platform/FormParts.h"
 #include "platform/KeyFilter.h"
 #include "platform/QtText.h"
 #include "processing/KeyFilters.h"
@@ -14,20 +15,8 @@ namespace zg {
 namespace {
 
 template <typename Control>
-Control* named(Control* control, const char* name) {
-    control->setObjectName(QString::fromLatin1(name));
-    return control;
-}
-
-template <typename Control>
 Control* captioned(const char* caption, const char* name) {
     return named(new Control(QString::fromLatin1(caption)), name);
-}
-
-QLabel* labelFor(const char* text, QWidget* buddy) {
-    auto* label = new QLabel(QString::fromLatin1(text));
-    label->setBuddy(buddy);
-    return label;
 }
 
 QLineEdit* numberBox(const char* name, KeyFunction keys) {
@@ -36,11 +25,6 @@ QLineEdit* numberBox(const char* name, KeyFunction keys) {
     box->setMinimumWidth(digitsWide(*box, 7));
     box->setMaximumWidth(digitsWide(*box, 11));
     return box;
-}
-
-QPushButton* plainButton(const char* caption, const char* name) {
-    auto* button = captioned<QPushButton>(caption, name);
-    return button;
 }
 
 }  // namespace
@@ -67,7 +51,7 @@ QGroupBox* frmProperties::makeLine() {
     chkLshading = captioned<QCheckBox>("Allow &shading", "chkLshading");
     picLcolor = named(new ColourBox(black), "picLcolor");
     picLcolor->setAccessibleName(QStringLiteral("Line color"));
-    cmdLcolor = plainButton("Color...", "cmdLcolor");
+    cmdLcolor = namedButton("Color...", "cmdLcolor");
     imcLstyle = lineStyleList();
     imcLweight = lineWeightList();
     auto* grid = new QGridLayout(frame);
@@ -124,8 +108,8 @@ QWidget* frmProperties::makeFontEffect() {
     fontEffect_ = new QWidget;
     picMcolor = named(new ColourBox(black), "picMcolor");
     picMcolor->setAccessibleName(QStringLiteral("Marker color"));
-    cmdMcolor = plainButton("Color...", "cmdMcolor");
-    cmdMfont = plainButton("&Font...", "cmdMfont");
+    cmdMcolor = namedButton("Color...", "cmdMcolor");
+    cmdMfont = namedButton("&Font...", "cmdMfont");
     cmbMstyle = named(new QComboBox, "cmbMstyle");
     cmbMstyle->setMaxVisibleItems(16);
     auto* grid = new QGridLayout(fontEffect_);
@@ -151,7 +135,7 @@ QWidget* frmProperties::makePictureEffect() {
         const int row = static_cast<int>(i);
         const std::string index = std::to_string(i);
         txtMpicloc[i] = named(new QLineEdit, ("txtMpicloc_" + index).c_str());
-        cmdMpicloc[i] = plainButton("...", ("cmdMpicloc_" + index).c_str());
+        cmdMpicloc[i] = namedButton("...", ("cmdMpicloc_" + index).c_str());
         cmdMpicloc[i]->setFixedWidth(32);
         cmdMpicloc[i]->setAccessibleName(QString::fromLatin1(choices[i]));
         cmdMpicloc[i]->setToolTip(cmdMpicloc[i]->accessibleName());
@@ -206,8 +190,8 @@ QWidget* frmProperties::makeOptions() {
 QLayout* frmProperties::makeButtons() {
     cmdOK = captioned<QPushButton>("OK", "cmdOK");
     cmdOK->setDefault(true);
-    cmdCancel = plainButton("Cancel", "cmdCancel");
-    cmdApply = plainButton("&Apply", "cmdApply");
+    cmdCancel = namedButton("Cancel", "cmdCancel");
+    cmdApply = namedButton("&Apply", "cmdApply");
     auto* row = new QHBoxLayout;
     row->addStretch();
     for (QPushButton* each : {cmdOK, cmdCancel, cmdApply}) row->addWidget(each);

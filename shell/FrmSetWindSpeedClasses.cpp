@@ -7,6 +7,7 @@
 #include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
+#include "platform/FormParts.h"
 #include "platform/KeyFilter.h"
 #include "platform/QtText.h"
 
@@ -16,12 +17,6 @@ namespace {
 
 QString indexed(const char* name, std::size_t index) {
     return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index);
-}
-
-QPushButton* button(const char* name, const char* caption) {
-    auto* made = new QPushButton(QString::fromLatin1(caption));
-    made->setObjectName(QString::fromLatin1(name));
-    return made;
 }
 
 }  // namespace
@@ -66,9 +61,9 @@ void frmSetWindSpeedClasses::layOut() {
         inFrame->addStretch();
         rows->addWidget(frame);
     }
-    cmdDefault = button("cmdDefault", "&Default");
-    cmdOK = button("cmdOK", "&OK");
-    cmdCancel = button("cmdCancel", "&Cancel");
+    cmdDefault = namedButton("&Default", "cmdDefault");
+    cmdOK = namedButton("&OK", "cmdOK");
+    cmdCancel = namedButton("&Cancel", "cmdCancel");
     cmdOK->setDefault(true);
     auto* buttons = new QHBoxLayout;
     buttons->setContentsMargins(0, 6, 0, 0);

@@ -12,28 +12,12 @@
 #include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
+#include "platform/FormParts.h"
 #include "platform/QtText.h"
 
 namespace zg {
 
 namespace {
-
-template <typename Control>
-Control* named(Control* control, const char* name) {
-    control->setObjectName(QString::fromLatin1(name));
-    return control;
-}
-
-QLabel* labelFor(const char* text, QWidget* buddy) {
-    auto* label = new QLabel(QString::fromLatin1(text));
-    label->setBuddy(buddy);
-    return label;
-}
-
-QPushButton* button(const char* caption, const char* name) {
-    auto* made = named(new QPushButton(QString::fromLatin1(caption)), name);
-    return made;
-}
 
 const char* labelOf(const ProjectionChoice& choice, std::string ProjectionRecord::*value) {
     using R = ProjectionRecord;
@@ -71,7 +55,7 @@ frmProjectionInfo::frmProjectionInfo(Host& host, QWidget* parent) : QDialog(pare
     top->addWidget(cboProj, 1);
     layout->addLayout(top);
     layout->addWidget(makeFrames());
-    auto* native = button("Set to &Native Projection of the Input Data", "cmdNativeProjection");
+    auto* native = namedButton("Set to &Native Projection of the Input Data", "cmdNativeProjection");
     layout->addWidget(native);
     layout->addWidget(makeDatum());
     layout->addLayout(makeButtons());
@@ -174,9 +158,9 @@ QGroupBox* frmProjectionInfo::makeDatum() {
 
 QLayout* frmProjectionInfo::makeButtons() {
     auto* row = new QHBoxLayout;
-    auto* ok = button("OK", "cmdOK");
+    auto* ok = namedButton("OK", "cmdOK");
     ok->setDefault(true);
-    auto* cancel = button("Cancel", "cmdCancel");
+    auto* cancel = namedButton("Cancel", "cmdCancel");
     row->addStretch();
     row->addWidget(ok);
     row->addWidget(cancel);

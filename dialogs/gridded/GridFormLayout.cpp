@@ -3,23 +3,13 @@
 #include <QVBoxLayout>
 
 #include "dialogs/gridded/GridForm.h"
+#include "platform/FormParts.h"
 #include "platform/KeyFilter.h"
 #include "processing/KeyFilters.h"
 
 namespace zg {
 
 namespace {
-
-template <typename Control>
-Control* named(Control* control, const char* name) {
-    control->setObjectName(QString::fromLatin1(name));
-    return control;
-}
-
-QPushButton* button(const char* caption, const char* name) {
-    auto* made = named(new QPushButton(QString::fromLatin1(caption)), name);
-    return made;
-}
 
 QLineEdit* box(const char* name, KeyFunction keys = nullptr) {
     auto* made = named(new QLineEdit, name);
@@ -33,12 +23,6 @@ QComboBox* combo(const char* name, const QStringList& entries, const char* spoke
     made->addItems(entries);
     made->setAccessibleName(QString::fromLatin1(spoken));
     return made;
-}
-
-QLabel* labelFor(const char* text, QWidget* buddy) {
-    auto* label = new QLabel(QString::fromLatin1(text));
-    label->setBuddy(buddy);
-    return label;
 }
 
 /// A list of two letters behind a short label.
@@ -80,12 +64,12 @@ QGroupBox* GridForm::makeStep1() {
     note->setWordWrap(true);
     auto* grid = new QGridLayout(step);
     grid->addWidget(list, 0, 0, 5, 1);
-    grid->addWidget(button("&Browse...", "cmdBrowseDataFiles"), 0, 1);
-    grid->addWidget(button("Move &Up", "cmdMoveUP"), 1, 1);
-    grid->addWidget(button("Move &Down", "cmdMoveDOWN"), 2, 1);
-    grid->addWidget(button("&Remove Selection", "cmdRemoveSelection"), 3, 1);
+    grid->addWidget(namedButton("&Browse...", "cmdBrowseDataFiles"), 0, 1);
+    grid->addWidget(namedButton("Move &Up", "cmdMoveUP"), 1, 1);
+    grid->addWidget(namedButton("Move &Down", "cmdMoveDOWN"), 2, 1);
+    grid->addWidget(namedButton("&Remove Selection", "cmdRemoveSelection"), 3, 1);
     grid->addWidget(note, 5, 0, 1, 2);
-    grid->addLayout(moves(nullptr, button("&NEXT", "cmdNext1")), 6, 0, 1, 2);
+    grid->addLayout(moves(nullptr, namedButton("&NEXT", "cmdNext1")), 6, 0, 1, 2);
     grid->setColumnStretch(0, 1);
     grid->setRowStretch(4, 1);
     return step;
@@ -156,11 +140,12 @@ void GridForm::addMethods(QGridLayout& grid) {
     grid.addWidget(labelFor("&Title Line (Optional):", title), row, 0);
     grid.addWidget(title, row++, 1, 1, 4);
     auto* settingsRow = new QHBoxLayout;
-    settingsRow->addWidget(button("Set Se&asons", "cmdSetSeasons"));
-    settingsRow->addWidget(button("Set &Wind Speed Classes", "cmdSetWindSpeedClasses"));
+    settingsRow->addWidget(namedButton("Set Se&asons", "cmdSetSeasons"));
+    settingsRow->addWidget(namedButton("Set &Wind Speed Classes", "cmdSetWindSpeedClasses"));
     settingsRow->addStretch();
     grid.addLayout(settingsRow, row++, 0, 1, 5);
-    grid.addLayout(moves(button("&PREVIOUS", "cmdPrevious2"), button("&NEXT", "cmdNext2")), row, 0, 1, 5);
+    grid.addLayout(moves(namedButton("&PREVIOUS", "cmdPrevious2"), namedButton("&NEXT", "cmdNext2")), row, 0,
+                   1, 5);
 }
 
 QGroupBox* GridForm::makeStep2() {
@@ -182,8 +167,8 @@ QGroupBox* GridForm::makeStations() {
     list->setAccessibleName(QStringLiteral("Stations"));
     auto* grid = new QGridLayout(stationsFrame);
     grid->addWidget(list, 0, 0, 3, 1);
-    grid->addWidget(button("Select &All", "cmdSelectAll"), 0, 1);
-    grid->addWidget(button("&Deselect All", "cmdDeselectAll"), 1, 1);
+    grid->addWidget(namedButton("Select &All", "cmdSelectAll"), 0, 1);
+    grid->addWidget(namedButton("&Deselect All", "cmdDeselectAll"), 1, 1);
     grid->setRowStretch(2, 1);
     return stationsFrame;
 }
@@ -253,12 +238,12 @@ QGroupBox* GridForm::makeStep3() {
     column->addWidget(makeCoordinates());
     column->addWidget(makeOutputName());
     auto* between = new QHBoxLayout;
-    between->addWidget(button("Pre&vious Location", "cmdPrevLocation"));
-    between->addWidget(button("Nex&t Location", "cmdNextLocation"));
+    between->addWidget(namedButton("Pre&vious Location", "cmdPrevLocation"));
+    between->addWidget(namedButton("Nex&t Location", "cmdNextLocation"));
     between->addStretch();
     column->addLayout(between);
     column->addStretch();
-    column->addLayout(moves(button("&PREVIOUS", "cmdPrevious3"), button("&NEXT", "cmdNext3")));
+    column->addLayout(moves(namedButton("&PREVIOUS", "cmdPrevious3"), namedButton("&NEXT", "cmdNext3")));
     return step;
 }
 
@@ -270,9 +255,10 @@ QGroupBox* GridForm::makeStep4() {
     auto* grid = new QGridLayout(step);
     grid->addWidget(labelFor("&Output Directory:", directory), 0, 0);
     grid->addWidget(directory, 0, 1);
-    grid->addWidget(button("&Browse...", "cmdBrowseDirectory"), 0, 2);
+    grid->addWidget(namedButton("&Browse...", "cmdBrowseDirectory"), 0, 2);
     grid->addWidget(status, 1, 0, 1, 3);
-    grid->addLayout(moves(button("&PREVIOUS", "cmdPrevious4"), button("P&ROCESS", "cmdPROCESS")), 2, 0, 1, 3);
+    grid->addLayout(moves(namedButton("&PREVIOUS", "cmdPrevious4"), namedButton("P&ROCESS", "cmdPROCESS")), 2,
+                    0, 1, 3);
     return step;
 }
 

@@ -10,6 +10,7 @@
 #include "platform/Combos.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
+#include "platform/FormParts.h"
 #include "platform/KeyFilter.h"
 #include "platform/Pickers.h"
 #include "platform/QtText.h"
@@ -22,12 +23,6 @@
 namespace zg {
 
 namespace {
-
-template <typename Control>
-Control* named(Control* control, const char* name) {
-    control->setObjectName(QString::fromLatin1(name));
-    return control;
-}
 
 QDateEdit* datePicker(const char* name) {
     auto* picker = named(new QDateEdit, name);

@@ -1,0 +1,42 @@
+#pragma once
+
+// The small parts that every form is put together from.
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <string>
+
+#include "platform/QtText.h"
+
+namespace zg {
+
+/// The control, known from now on by this name.
+template <typename Control>
+Control* named(Control* control, const char* name) {
+    control->setObjectName(QString::fromLatin1(name));
+    return control;
+}
+
+inline QPushButton* namedButton(const char* caption, const char* name) {
+    return named(new QPushButton(QString::fromLatin1(caption)), name);
+}
+
+/// A button whose caption tells too little by itself: what it does, for screen readers.
+inline QPushButton* browseButton(const char* caption, const char* name, const char* what) {
+    QPushButton* button = namedButton(caption, name);
+    button->setAccessibleName(QString::fromLatin1(what));
+    return button;
+}
+
+/// The label of a control, whose accelerator leads there.
+inline QLabel* labelFor(const char* text, QWidget* buddy) {
+    auto* label = new QLabel(QString::fromLatin1(text));
+    label->setBuddy(buddy);
+    return label;
+}
+
+/// The path that was typed into a box, as the file system has it.
+inline std::string pathIn(const QLineEdit& field) { return filePath(field.text()); }
+
+}  // namespace zg
