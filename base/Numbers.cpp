@@ -219,7 +219,9 @@ std::string format00(double value) {
     if (!(std::abs(value) < 1e15)) raise(ErrorNumber::Overflow);
     const auto rounded = static_cast<std::int64_t>(std::round(value));
     const std::string digits = std::to_string(std::abs(rounded));
-    return (rounded < 0 ? "-" : "") + std::string(digits.size() < 2 ? 1 : 0, '0') + digits;
+    std::string text = rounded < 0 ? "-" : "";
+    if (digits.size() < 2) text += '0';
+    return text + digits;
 }
 
 std::string format00(std::string_view text) { return format00(toDouble(text)); }

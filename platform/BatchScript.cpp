@@ -8,7 +8,7 @@ namespace zg {
 
 namespace {
 
-std::string quoted(std::string_view word) {
+std::string shellQuoted(std::string_view word) {
     std::string out = "'";
     for (const char character : word) {
         if (character == '\'')
@@ -44,9 +44,9 @@ std::vector<std::string> wordsOf(std::string_view line) {
 
 /// A program made for Windows runs by way of wine where that is installed.
 std::string programLine(const std::vector<std::string>& words) {
-    const std::string program = quoted(words[0]);
+    const std::string program = shellQuoted(words[0]);
     std::string rest;
-    for (std::size_t i = 1; i < words.size(); ++i) rest += " " + quoted(words[i]);
+    for (std::size_t i = 1; i < words.size(); ++i) rest += " " + shellQuoted(words[i]);
     return "if [ \"$(head -c 2 " + program +
            " 2>/dev/null)\" = MZ ] && command -v wine >/dev/null; then wine " + program + rest + "; else " +
            program + rest + "; fi\n";
@@ -56,9 +56,9 @@ std::string scriptLine(const std::string& line) {
     const std::vector<std::string> words = wordsOf(line);
     if (words.empty()) return {};
     const std::string command = lcase(words[0]);
-    if (command == "cd" && words.size() == 2) return "cd " + quoted(words[1]) + "\n";
+    if (command == "cd" && words.size() == 2) return "cd " + shellQuoted(words[1]) + "\n";
     if (command == "copy")
-        return words.size() == 3 ? "cp -- " + quoted(words[1]) + " " + quoted(words[2]) + "\n"
+        return words.size() == 3 ? "cp -- " + shellQuoted(words[1]) + " " + shellQuoted(words[2]) + "\n"
                                  : std::string("echo 'copy: wrong number of words' >&2\n");
     if (line.starts_with("\"")) return programLine(words);
     return {};

@@ -25,7 +25,7 @@ bool isAmong(const std::array<std::string_view, N>& keys, std::string_view key) 
     return std::find(keys.begin(), keys.end(), key) != keys.end();
 }
 
-std::string quoted(std::string_view text) { return "\"" + std::string(text.substr(0, 60)) + "\""; }
+std::string inQuotes(std::string_view text) { return "\"" + std::string(text.substr(0, 60)) + "\""; }
 
 }  // namespace
 
@@ -90,7 +90,7 @@ void ControlKeys::needCount(std::string_view key, std::size_t found, std::size_t
 
 int ControlKeys::wholeIn(std::string_view key, const std::string& item, int lowest, int highest) {
     const std::optional<int> value = tempoline::wholeOf(item);
-    if (!value) throw failure(key, quoted(item) + " is no whole number");
+    if (!value) throw failure(key, inQuotes(item) + " is no whole number");
     if (*value < lowest || *value > highest)
         throw failure(key, std::to_string(*value) + " is not between " + std::to_string(lowest) + " and " +
                                std::to_string(highest));
@@ -112,7 +112,7 @@ int ControlKeys::wholeOr(std::string_view key, int fallback, int lowest, int hig
 
 double ControlKeys::number(std::string_view key, const std::string& item) {
     const std::optional<double> value = item.empty() ? std::nullopt : valueOf(item);
-    if (!value || !std::isfinite(*value)) throw failure(key, quoted(item) + " is no number");
+    if (!value || !std::isfinite(*value)) throw failure(key, inQuotes(item) + " is no number");
     return *value;
 }
 
@@ -133,7 +133,7 @@ double ControlKeys::degrees(std::string_view key, char positive, char negative, 
         value.pop_back();
     }
     const double angle = sign * number(key, value);
-    if (std::abs(angle) > limit) throw failure(key, quoted(text(key)) + " is out of range");
+    if (std::abs(angle) > limit) throw failure(key, inQuotes(text(key)) + " is out of range");
     return angle;
 }
 

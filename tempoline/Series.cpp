@@ -10,7 +10,7 @@ namespace zg::tempoline {
 
 namespace {
 
-constexpr double degree = std::numbers::pi / 180;
+constexpr double radiansADegree = std::numbers::pi / 180;
 constexpr std::int64_t stepsBetweenLooks = 1024;
 constexpr double noDirection = 1e-9;  // mean unit vectors shorter than this point nowhere
 
@@ -83,8 +83,8 @@ void Series::addPart(std::int64_t index, const Wind& wind, bool valid, double se
     // A record that fills its step is alone there, and passes through without its vector.
     const bool alone = average_.count == 1 && !instant_ && seconds == static_cast<double>(step_);
     if (!alone && wind.speed > 0 && hasDirection(wind)) {
-        average_.east += seconds * std::sin(wind.direction * degree);
-        average_.north += seconds * std::cos(wind.direction * degree);
+        average_.east += seconds * std::sin(wind.direction * radiansADegree);
+        average_.north += seconds * std::cos(wind.direction * radiansADegree);
     }
 }
 
@@ -94,7 +94,7 @@ Wind Series::averaged() const {
     Wind mean;
     mean.speed = roundedToMillionth(average_.speed / average_.weight);
     if (std::hypot(average_.east, average_.north) > noDirection * average_.weight) {
-        mean.direction = roundedToMillionth(std::atan2(average_.east, average_.north) / degree);
+        mean.direction = roundedToMillionth(std::atan2(average_.east, average_.north) / radiansADegree);
         mean.direction = mean.direction < 0 ? mean.direction + 360 : std::abs(mean.direction);
     }
     return mean;

@@ -10,7 +10,7 @@ namespace zg {
 namespace {
 
 constexpr std::size_t stationField = 5;
-constexpr std::size_t bytesBetweenCalls = 4'000'000;
+constexpr std::size_t bytesBetweenSteps = 4'000'000;
 
 DateTime momentOfLine(std::string_view line, AermetKind kind) {
     const std::string squeezed = squeezeBlanks(line);
@@ -34,7 +34,7 @@ AermetPeriod readLines(LineReader& lines, AermetKind kind, const std::function<v
     while (!lines.atEnd()) {
         const std::string_view line = lines.readLine();
         bytes += line.size();
-        if (onProgress && bytes >= bytesBetweenCalls) {
+        if (onProgress && bytes >= bytesBetweenSteps) {
             onProgress();
             bytes = 0;
         }

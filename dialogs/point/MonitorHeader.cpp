@@ -14,7 +14,7 @@ namespace zg {
 
 namespace {
 
-constexpr std::int64_t stationField = 2;  // of all records but the first
+constexpr std::int64_t recordStationField = 2;  // of all records but the first
 constexpr std::size_t bytesBetweenCalls = 4'000'000;
 
 struct Stamp {
@@ -92,7 +92,7 @@ class MonitorReader {
                 bytes = 0;
             }
             if (trimmed(line).empty()) continue;
-            const std::string_view raw = rawField(line, stationField);
+            const std::string_view raw = rawField(line, recordStationField);
             if (raw != current) takeTurn(raw, current);
             record.assign(line);
         }

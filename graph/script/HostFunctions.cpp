@@ -9,8 +9,8 @@ namespace {
 
 using Table = std::unordered_map<std::string_view, const HostFunction*>;
 
-void addAll(Table& table, std::span<const HostFunction> functions) {
-    for (const HostFunction& function : functions) table.emplace(function.name, &function);
+void addAll(Table& table, std::span<const HostFunction> some) {
+    for (const HostFunction& function : some) table.emplace(function.name, &function);
 }
 
 const HostFunction* find(const Table& table, std::string_view name) {

@@ -11,7 +11,7 @@ namespace zg::tempoline {
 namespace {
 
 constexpr std::size_t fieldCount = 8;  // as far as the wind
-constexpr std::size_t heightField = 4;
+constexpr std::size_t levelHeightField = 4;
 constexpr double farAway = 10;  // metres between the asked height and the level that are told
 
 struct NearestLevel {
@@ -49,7 +49,7 @@ class AermetProfile : public InputReader {
 
  private:
     void takeLevel(const LineSource& lines, const std::array<std::string_view, fieldCount>& fields) {
-        const double height = valueField(lines, fields[heightField], "height");
+        const double height = valueField(lines, fields[levelHeightField], "height");
         const Wind wind = {valueField(lines, fields[7], "wind speed"),
                            valueField(lines, fields[6], "wind direction")};
         if (!hasValue(height)) return;

@@ -11,7 +11,7 @@ namespace zg::tempoline {
 
 namespace {
 
-constexpr int mostLevels = 100'000;
+constexpr int mostSoundingLevels = 100'000;
 constexpr double missingHeight = 9999;
 constexpr std::size_t levelFields = 5;
 constexpr std::size_t levelsALine = 4;
@@ -81,7 +81,7 @@ class Up : public InputReader {
         else
             begin_ -= secondsAnHour;
         const int count = wholeField(lines, fields[needed - 1], "number of levels");
-        if (count < 0 || count > mostLevels)
+        if (count < 0 || count > mostSoundingLevels)
             throw lines.failure("number of levels", std::to_string(count) + " is out of range");
         return count;
     }

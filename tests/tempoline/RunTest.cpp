@@ -53,7 +53,7 @@ std::string lastLineOf(const std::string& controlFile,
 }
 
 const std::string surfHead = "SURF.DAT        2.1\n0\nx\n";
-const std::string upHead = "UP.DAT          2.1\n0\nx\nUTC+0000\n2004 1 0 0 2004 2 0 0\nx\n6201 4417\n";
+const std::string upHeader = "UP.DAT          2.1\n0\nx\nUTC+0000\n2004 1 0 0 2004 2 0 0\nx\n6201 4417\n";
 const std::string csvHead = "DATETIME,STNCODE,DATAAVID,WD,WS\n";
 const std::string tsfHead =
     "TIMESERIES.TSF 1.3\n0 - none\nx\nMET\nx\nUTC-0500\nGREGORIAN_YMD\n2004 1 1 0 0 2004 1 2 0 0 3600\n";
@@ -82,7 +82,7 @@ TEST(Run, SaysWhatIsWrongInASurfFile) {
 }
 
 TEST(Run, SaysWhatIsWrongInASounding) {
-    const auto last = [](const std::string& data) { return lastLineOf("up.inp", {}, upHead + data); };
+    const auto last = [](const std::string& data) { return lastLineOf("up.inp", {}, upHeader + data); };
     EXPECT_EQ(last("6201 4417 2004 1 1 0 0 2004 1 1 1 0 1\n"), "ERROR: in.dat:8: time: 14 fields are needed");
     const std::string stamp = "6201 4417 2004 1 1 0 0 2004 1 1 1 0 9 2\n";
     EXPECT_EQ(last(stamp + "1000,10,280,90\n"), "ERROR: in.dat:9: wind speed: the line ends within a level");

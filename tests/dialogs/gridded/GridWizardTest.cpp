@@ -24,7 +24,7 @@ namespace zg {
 namespace {
 
 /// Ends at once and makes the outputs it was told to make.
-class StandInProcessor : public ProcessStarter {
+class WatchedProcessor : public ProcessStarter {
  public:
     void start(const std::string& program, WindowStyle) override {
         ++starts;
@@ -115,7 +115,7 @@ class GridWizardTest : public ::testing::Test {
     const GridVariation& variation_;
     TempDirectory directory_;
     TestHost host_;
-    StandInProcessor starter_;
+    WatchedProcessor starter_;
     FakeGridView view_;
     std::vector<std::string> plotted_;
     std::optional<GridWizard> wizard_;

@@ -34,12 +34,12 @@ class PointReaders : public ::testing::Test {
     std::string where_;
 };
 
-const std::string up21 =
+const std::string up21Text =
     "UP.DAT          2.1             Hour Start and End Times with Seconds\r\n1\r\nc\r\nNONE\r\nUTC+0000\r\n"
     "  1990   8  0 1830  1990  15 24  0  500.\r\n  F F F F\r\n   6201     4417   1990\r\n";
 
 TEST_F(PointReaders, Up21HasItsFieldsAndZone) {
-    const UpHeader header = readUpHeader(host_, file(up21));
+    const UpHeader header = readUpHeader(host_, file(up21Text));
     EXPECT_TRUE(header.isUp);
     EXPECT_EQ(header.version, "2.1");
     EXPECT_EQ(header.timeZone, "UTC+0000");
@@ -71,8 +71,8 @@ TEST_F(PointReaders, UpOfAnotherKindOrVersion) {
 }
 
 TEST_F(PointReaders, UpCutAnywhereIsTheEndOfTheFile) {
-    for (std::size_t at = up21.find("\r\n") + 2; at < up21.size(); at = up21.find("\r\n", at) + 2)
-        EXPECT_EQ(errorOf([&] { readUpHeader(host_, file(up21.substr(0, at))); }), 62) << at;
+    for (std::size_t at = up21Text.find("\r\n") + 2; at < up21Text.size(); at = up21Text.find("\r\n", at) + 2)
+        EXPECT_EQ(errorOf([&] { readUpHeader(host_, file(up21Text.substr(0, at))); }), 62) << at;
 }
 
 const std::string csv =
@@ -170,13 +170,13 @@ TEST_F(PointReaders, LongFilesTellTheirProgress) {
     EXPECT_EQ(calls, 2);
 }
 
-const std::string tsf =
+const std::string tsfText =
     "TIMESERIES.TSF  1.3  a\r\n2 - comments\r\nc1\r\nc2\r\nskipped\r\nMET DATA\r\n"
     "Location: STATION ID = 14735 \r\nother\r\nUTC-0500 \r\nGREGORIAN_YMD\r\n"
     "2005 3 7 6 1815 2005 12 31 23 0 3600\r\n2 - variables\r\nWDIR deg\r\nWSPEED m/s\r\n";
 
 TEST_F(PointReaders, ATimeSeriesHasItsPeriodAsWritten) {
-    const TsfHeader header = readTsfHeader(file(tsf));
+    const TsfHeader header = readTsfHeader(file(tsfText));
     EXPECT_EQ(header.outcome, TsfOutcome::Read);
     EXPECT_EQ(header.station, "14735");
     EXPECT_EQ(header.timeZone, "UTC-0500");
@@ -191,18 +191,19 @@ std::string changed(std::string text, const std::string& from, const std::string
 
 TEST_F(PointReaders, TimeSeriesThatAreRefused) {
     EXPECT_EQ(readTsfHeader(file("x\n")).outcome, TsfOutcome::NotTsf);
-    EXPECT_EQ(readTsfHeader(file(changed(tsf, "1.3", "1.2"))).outcome, TsfOutcome::Refused);
-    EXPECT_EQ(readTsfHeader(file(changed(tsf, "GREGORIAN_YMD", "JULIAN"))).outcome, TsfOutcome::Refused);
-    EXPECT_EQ(readTsfHeader(file(changed(tsf, "WSPEED", "SPEED"))).outcome, TsfOutcome::NotMeteorological);
-    EXPECT_EQ(errorOf([&] { readTsfHeader(file(changed(tsf, "UTC-0500", "GMT"))); }), 62);
-    EXPECT_EQ(errorOf([&] { readTsfHeader(file(changed(tsf, "2 - variables", "100000 - v"))); }), 6);
-    EXPECT_EQ(errorOf([&] { readTsfHeader(file(changed(tsf, "6 1815", "24 0"))); }), 13)
+    EXPECT_EQ(readTsfHeader(file(changed(tsfText, "1.3", "1.2"))).outcome, TsfOutcome::Refused);
+    EXPECT_EQ(readTsfHeader(file(changed(tsfText, "GREGORIAN_YMD", "JULIAN"))).outcome, TsfOutcome::Refused);
+    EXPECT_EQ(readTsfHeader(file(changed(tsfText, "WSPEED", "SPEED"))).outcome,
+              TsfOutcome::NotMeteorological);
+    EXPECT_EQ(errorOf([&] { readTsfHeader(file(changed(tsfText, "UTC-0500", "GMT"))); }), 62);
+    EXPECT_EQ(errorOf([&] { readTsfHeader(file(changed(tsfText, "2 - variables", "100000 - v"))); }), 6);
+    EXPECT_EQ(errorOf([&] { readTsfHeader(file(changed(tsfText, "6 1815", "24 0"))); }), 13)
         << "hour 24 is no time here";
 }
 
 TEST_F(PointReaders, ATimeSeriesMayLackItsStation) {
-    EXPECT_EQ(readTsfHeader(file(changed(tsf, "Location: STATION ID = 14735 ", ""))).station, "");
-    EXPECT_EQ(readTsfHeader(file(changed(tsf, "STATION ID", "STATION"))).station, "");
+    EXPECT_EQ(readTsfHeader(file(changed(tsfText, "Location: STATION ID = 14735 ", ""))).station, "");
+    EXPECT_EQ(readTsfHeader(file(changed(tsfText, "STATION ID", "STATION"))).station, "");
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace {
 const std::string head20 = "SURF.DAT        2.0             Hour Start and End Times with Seconds\r\n";
 const std::string head21 = "SURF.DAT        2.1             Hour Start and End Times with Seconds\r\n";
 
-std::string textOf(DateTime moment) { return formatDate(moment) + " " + longTime(timeOf(moment)); }
+std::string momentText(DateTime moment) { return formatDate(moment) + " " + longTime(timeOf(moment)); }
 
 class SurfHeaderTest : public ::testing::Test {
  protected:
@@ -44,25 +44,25 @@ TEST_F(SurfHeaderTest, Version21HasSecondsAndItsZone) {
              "  1990   8  0 1800  1990  15 23  3599   2\r\n  14606\r\n  14611\r\nrecords\r\n");
     EXPECT_EQ(header.outcome, SurfOutcome::Read);
     EXPECT_EQ(header.timeZone, "UTC-0500");
-    EXPECT_EQ(textOf(header.begin), "Jan 8, 1990 12:30:00 AM");
-    EXPECT_EQ(textOf(header.end), "Jan 15, 1990 11:59:59 PM");
+    EXPECT_EQ(momentText(header.begin), "Jan 8, 1990 12:30:00 AM");
+    EXPECT_EQ(momentText(header.end), "Jan 15, 1990 11:59:59 PM");
     EXPECT_EQ(header.stations, (std::vector<std::string>{"14606", "14611"}));
 }
 
 TEST_F(SurfHeaderTest, Version20BeginsAnHourEarlierAndEndsAsWritten) {
     SurfHeader header = read(head20 + "0\r\nNONE\r\n1990 8 1 1990 15 23 5.0 1\r\n14606\r\n");
-    EXPECT_EQ(textOf(header.begin), "Jan 8, 1990 12:00:00 AM");
-    EXPECT_EQ(textOf(header.end), "Jan 15, 1990 11:00:00 PM");
+    EXPECT_EQ(momentText(header.begin), "Jan 8, 1990 12:00:00 AM");
+    EXPECT_EQ(momentText(header.end), "Jan 15, 1990 11:00:00 PM");
     EXPECT_EQ(header.timeZone, "UTC-0500");
     header = read(head20 + "0\r\nNONE\r\n1990 8 0 1990 15 23 -3.0 1\r\n14606\r\n");
-    EXPECT_EQ(textOf(header.begin), "Jan 7, 1990 11:00:00 PM");
+    EXPECT_EQ(momentText(header.begin), "Jan 7, 1990 11:00:00 PM");
     EXPECT_EQ(header.timeZone, "UTC+0300");
 }
 
 TEST_F(SurfHeaderTest, Hour24IsMidnightOfTheNextDay) {
     const SurfHeader header = read(head21 + "0\r\nNONE\r\nUTC+0000\r\n1990 59 24 0 1990 365 24 0 0\r\n");
-    EXPECT_EQ(textOf(header.begin), "Mar 1, 1990 12:00:00 AM");
-    EXPECT_EQ(textOf(header.end), "Jan 1, 1991 12:00:00 AM");
+    EXPECT_EQ(momentText(header.begin), "Mar 1, 1990 12:00:00 AM");
+    EXPECT_EQ(momentText(header.end), "Jan 1, 1991 12:00:00 AM");
 }
 
 TEST_F(SurfHeaderTest, AnotherKindOrVersionIsNoHeader) {

@@ -9,13 +9,13 @@ namespace {
 
 const PolarGeometry geometry{0, 0, 150, 160, 20};
 
-struct Direction {
+struct TrackedDirection {
     float dx;
     float dy;  ///< downwards
     float bearing;
 };
 
-class TrackBearing : public ::testing::TestWithParam<Direction> {};
+class TrackBearing : public ::testing::TestWithParam<TrackedDirection> {};
 
 TEST_P(TrackBearing, IsCountedClockwiseFromNorth) {
     const auto [dx, dy, bearing] = GetParam();
@@ -23,10 +23,11 @@ TEST_P(TrackBearing, IsCountedClockwiseFromNorth) {
 }
 
 INSTANTIATE_TEST_SUITE_P(AllRound, TrackBearing,
-                         ::testing::Values(Direction{0, -40, 0}, Direction{40, -40, 45}, Direction{40, 0, 90},
-                                           Direction{40, 40, 135}, Direction{0, 40, 180},
-                                           Direction{-40, 40, 225}, Direction{-40, 0, 270},
-                                           Direction{-40, -40, 315}, Direction{0, 0, 180}));
+                         ::testing::Values(TrackedDirection{0, -40, 0}, TrackedDirection{40, -40, 45},
+                                           TrackedDirection{40, 0, 90}, TrackedDirection{40, 40, 135},
+                                           TrackedDirection{0, 40, 180}, TrackedDirection{-40, 40, 225},
+                                           TrackedDirection{-40, 0, 270}, TrackedDirection{-40, -40, 315},
+                                           TrackedDirection{0, 0, 180}));
 
 TEST(TrackPosition, GivesPolarUnitsRightAndUpPositive) {
     const TrackedPosition at = trackPosition(190, 100, geometry, 0.5F, {});
