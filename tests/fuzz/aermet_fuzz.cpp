@@ -1,9 +1,10 @@
 // Any bytes as a file of this kind: what it holds, or a RunTimeError, and nothing else.
 
 #include "dialogs/point/AermetPeriod.h"
+#include "tests/fuzz/Fuzz.h"
 #include "tests/fuzz/PointFuzz.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(aermet) {
     readAsFile(data, size, [&]([[maybe_unused]] zg::Host& host, const std::string& path) {
         zg::readAermetPeriod(path, size % 2 == 0 ? zg::AermetKind::Surface : zg::AermetKind::Profile);
     });

@@ -1,9 +1,10 @@
 // Any bytes as the table of datums: its rows come back whole, or a RunTimeError.
 
 #include "dialogs/gridded/DatumTable.h"
+#include "tests/fuzz/Fuzz.h"
 #include "tests/fuzz/PointFuzz.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(datum) {
     readAsFile(data, size, [](zg::Host&, const std::string& path) {
         static char directory[] = "/tmp/datum_fuzz_XXXXXX";
         static const bool made = (useAsApplicationDirectory(directory, path, {"datums.csv"}), true);

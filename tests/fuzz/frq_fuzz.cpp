@@ -11,6 +11,7 @@
 #include "graph/frq/ClassLimits.h"
 #include "graph/frq/FreqBlock.h"
 #include "graph/frq/OpenFreqFile.h"
+#include "tests/fuzz/Fuzz.h"
 
 namespace {
 
@@ -54,7 +55,7 @@ void checkLoaded(const zg::ModPolarGraph& tables) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(frq) {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
     zg::ModPolarGraph tables;
     RefusalHost host;

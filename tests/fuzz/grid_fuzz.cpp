@@ -1,9 +1,10 @@
 // Any bytes as a gridded file of either kind: a header, or a text that tells what is wrong.
 
 #include "dialogs/gridded/GridFileHeader.h"
+#include "tests/fuzz/Fuzz.h"
 #include "tests/fuzz/PointFuzz.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(grid) {
     readAsFile(data, size, [&](zg::Host&, const std::string& path) {
         for (const zg::GridKind kind : {zg::GridKind::M3d, zg::GridKind::Ventos}) {
             zg::InfoViewResult result;

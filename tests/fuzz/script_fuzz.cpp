@@ -12,6 +12,7 @@
 #include <string_view>
 
 #include "graph/script/ScriptEngine.h"
+#include "tests/fuzz/Fuzz.h"
 
 namespace {
 
@@ -52,7 +53,7 @@ Outcome outcomeOf(std::string_view text, Action action) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(script) {
     const std::string_view input(reinterpret_cast<const char*>(data), size);
     const std::size_t lineEnd = std::min(input.find('\n'), input.size());
     const std::string_view expression = input.substr(0, lineEnd);

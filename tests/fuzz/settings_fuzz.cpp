@@ -6,6 +6,7 @@
 #include "shell/settings/CfgFile.h"
 #include "shell/settings/ExprFile.h"
 #include "shell/settings/Settings.h"
+#include "tests/fuzz/Fuzz.h"
 #include "tests/fuzz/PointFuzz.h"
 
 namespace {
@@ -18,7 +19,7 @@ std::string bytesOf(const std::string& path) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(settings) {
     static char directory[] = "/tmp/settings_fuzz_XXXXXX";
     static const bool made = mkdtemp(directory) != nullptr;
     if (!made) std::abort();

@@ -4,6 +4,7 @@
 #include "graph/control/SuiteConfiguration.h"
 #include "processing/Stations.h"
 #include "processing/Zones.h"
+#include "tests/fuzz/Fuzz.h"
 #include "tests/fuzz/PointFuzz.h"
 
 namespace {
@@ -27,7 +28,7 @@ void readZones() {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(tables) {
     readAsFile(data, size, [](zg::Host&, const std::string& path) {
         static char directory[] = "/tmp/tables_fuzz_XXXXXX";
         static const bool made =

@@ -7,8 +7,9 @@
 #include "tempoline/ControlReader.h"
 #include "tempoline/Failure.h"
 #include "tempoline/ListingName.h"
+#include "tests/fuzz/Fuzz.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(tempoline_control) {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     try {
         zg::tempoline::freeListingName(text, "c.inp");

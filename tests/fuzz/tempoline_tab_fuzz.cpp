@@ -7,8 +7,9 @@
 #include "tempoline/Failure.h"
 #include "tempoline/FrqWriter.h"
 #include "tempoline/TabFile.h"
+#include "tests/fuzz/Fuzz.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(tempoline_tab) {
     using namespace zg::tempoline;
     RoseReport report;
     try {

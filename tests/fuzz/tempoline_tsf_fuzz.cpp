@@ -1,6 +1,7 @@
+#include "tests/fuzz/Fuzz.h"
 #include "tests/fuzz/TempolineFuzz.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(tempoline_tsf) {
     zg::tempoline::readAnyBytes(zg::tempoline::InputKind::Tsf, data, size);
     return 0;
 }

@@ -1,9 +1,10 @@
 // Any bytes as a file of this kind: what it holds, or a RunTimeError, and nothing else.
 
 #include "dialogs/point/UpHeader.h"
+#include "tests/fuzz/Fuzz.h"
 #include "tests/fuzz/PointFuzz.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(up) {
     readAsFile(data, size, [&]([[maybe_unused]] zg::Host& host, const std::string& path) {
         zg::readUpHeader(host, path);
     });

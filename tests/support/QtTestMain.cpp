@@ -1,11 +1,11 @@
-#include <gtest/gtest.h>
-
 #include <QApplication>
+
+#include "tests/support/TestStart.h"
 
 int main(int argc, char** argv) {
     // No test opens a window on a screen that somebody looks at.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("LC_ALL", "C.UTF-8");
     QApplication application(argc, argv);
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
+    return startTests(argc, argv);
 }

@@ -1,0 +1,45 @@
+# What only tests or benchmarks need may be missing.
+
+# zg_optional(OPTION WHAT FOUND PACKAGE): makes a plain truth of AUTO, ON or OFF.
+function(zg_optional option what found package)
+    if(${option} STREQUAL "AUTO")
+        if(found)
+            set(${option} ON PARENT_SCOPE)
+        else()
+            set(${option} OFF PARENT_SCOPE)
+            message(STATUS "${what} are left out: Debian's ${package} is missing (tools/setup.sh --tests installs it)")
+        endif()
+    elseif(${option} AND NOT found)
+        message(FATAL_ERROR "${what} need Debian's ${package} (tools/setup.sh --tests installs it)")
+    endif()
+endfunction()
+
+# A program compiled for the fuzzer has neither tests nor benchmarks beside it.
+if(ZG_FUZZER)
+    set(ZG_TESTS OFF)
+    set(ZG_BENCH OFF)
+endif()
+
+if(ZG_TESTS)
+    find_package(GTest QUIET)
+    find_package(Qt6 QUIET COMPONENTS Test)
+    if(TARGET Qt6::Test)
+        # It gives each folder its own words for a macro that is not used here, and those would keep precompiled headers from being shared.
+        set_property(TARGET Qt6::Test PROPERTY INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
+    endif()
+    find_package(Python3 QUIET COMPONENTS Interpreter)
+endif()
+if(ZG_BENCH)
+    find_package(benchmark QUIET)
+    find_library(ZG_MUPARSER muparser)
+endif()
+find_program(ZG_CLANG NAMES clang++-14 clang++)
+
+zg_optional(ZG_TESTS "The tests" "${GTest_FOUND}" libgtest-dev)
+if(ZG_TESTS)
+    zg_optional(ZG_TESTS "The tests" "${Python3_FOUND}" python3)
+endif()
+zg_optional(ZG_BENCH "The benchmarks" "${benchmark_FOUND}" libbenchmark-dev)
+if(ZG_TESTS)
+    zg_optional(ZG_FUZZ "The fuzz targets" "${ZG_CLANG}" clang)
+endif()

@@ -1,0 +1,37 @@
+# Headers that nearly every file of a kind reads, compiled once for each kind of target. A source still includes what it uses: nothing may depend on
+# these, and a build with -DZG_PRECOMPILED=OFF shows it.
+option(ZG_PRECOMPILED "Compile the headers of the standard library, the toolkit and the test framework once" ON)
+
+# zg_precompiled(NAME LINKS ... HEADERS ...): a kind. Those who use it must be compiled with the same options.
+function(zg_precompiled name)
+    cmake_parse_arguments(ARG "" "" "LINKS;OPTIONS;HEADERS" ${ARGN})
+    if(NOT ZG_PRECOMPILED)
+        return()
+    endif()
+    file(GENERATE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp CONTENT "// Only its precompiled header is wanted.\n")
+    add_library(${name} OBJECT EXCLUDE_FROM_ALL ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+    target_link_libraries(${name} PRIVATE ${ARG_LINKS} zg_flags)
+    target_compile_options(${name} PRIVATE ${ARG_OPTIONS})
+    target_precompile_headers(${name} PRIVATE ${ARG_HEADERS})
+endfunction()
+
+function(zg_precompile target kind)
+    if(ZG_PRECOMPILED)
+        target_precompile_headers(${target} REUSE_FROM ${kind})
+    endif()
+endfunction()
+
+set(ZG_STANDARD_HEADERS <algorithm> <array> <charconv> <cmath> <cstdint> <cstdio> <cstdlib> <cstring> <filesystem> <fstream> <functional> <limits>
+                        <map> <memory> <optional> <set> <sstream> <stdexcept> <string> <string_view> <utility> <variant> <vector>)
+set(ZG_TOOLKIT_HEADERS <QApplication> <QBoxLayout> <QCheckBox> <QComboBox> <QDialog> <QEvent> <QFile> <QGroupBox> <QHeaderView> <QImage> <QKeyEvent>
+                       <QLabel> <QLineEdit> <QListWidget> <QMainWindow> <QMenu> <QMouseEvent> <QPainter> <QPushButton> <QRadioButton>
+                       <QScrollBar> <QSignalBlocker> <QString> <QTimer> <QToolButton> <QWidget>)
+set(ZG_TOOLKIT Qt6::Widgets Qt6::PrintSupport)
+
+zg_precompiled(zg_pch_plain HEADERS ${ZG_STANDARD_HEADERS})
+zg_precompiled(zg_pch_qt LINKS ${ZG_TOOLKIT} OPTIONS ${ZG_FORM_OPTIMISATION} HEADERS ${ZG_STANDARD_HEADERS} ${ZG_TOOLKIT_HEADERS})
+if(ZG_TESTS)
+    zg_precompiled(zg_pch_test LINKS GTest::gtest OPTIONS -O0 HEADERS ${ZG_STANDARD_HEADERS} <gtest/gtest.h>)
+    zg_precompiled(zg_pch_qt_test LINKS ${ZG_TOOLKIT} Qt6::Test GTest::gtest OPTIONS -O0
+                   HEADERS ${ZG_STANDARD_HEADERS} ${ZG_TOOLKIT_HEADERS} <QTest> <gtest/gtest.h>)
+endif()

@@ -1,0 +1,77 @@
+# Fewer than in a library: tests are changed more often than they are built from nothing.
+set(ZG_UNITY_SOURCES 5)
+
+# What a test itself computes is little, and optimising it is dear.
+set(ZG_TEST_OPTIMISATION -O0)
+
+# zg_test_library(NAME [QT] SOURCES a.cpp ... LINKS ...): what several test programs share.
+function(zg_test_library name)
+    cmake_parse_arguments(ARG "QT" "" "SOURCES;LINKS" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+    target_link_libraries(${name} PUBLIC ${ARG_LINKS} GTest::gtest PRIVATE zg_flags)
+    target_compile_definitions(${name} PRIVATE ZG_SOURCE_DIR="${PROJECT_SOURCE_DIR}" ZG_BINARY_DIR="${PROJECT_BINARY_DIR}")
+    target_compile_options(${name} PRIVATE ${ZG_TEST_OPTIMISATION})
+    if(ARG_QT)
+        zg_compile_together(${name} zg_pch_qt_test)
+    else()
+        zg_compile_together(${name} zg_pch_test)
+    endif()
+endfunction()
+
+# zg_test(NAME [QT] SOURCES a.cpp ... LINKS zg_base ... [NEEDS target ...] [PARTS n])
+# One test program, which can also be run by itself. ctest runs it whole, or in n parts side by side. Its labels are the folders on its way
+# from tests/ and "toolkit" or "fast". NEEDS names the programs and libraries that it starts or loads: they are built with it.
+function(zg_test name)
+    cmake_parse_arguments(ARG "QT" "PARTS" "SOURCES;LINKS;NEEDS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_LINKS} zg_test_support zg_flags GTest::gtest)
+    target_compile_definitions(${name} PRIVATE ZG_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
+                                               ZG_BINARY_DIR="${PROJECT_BINARY_DIR}")
+    target_compile_options(${name} PRIVATE ${ZG_TEST_OPTIMISATION})
+    if(ARG_QT)
+        target_link_libraries(${name} PRIVATE zg_qt_test_main Qt6::Test)
+        zg_compile_together(${name} zg_pch_qt_test)
+        set(kind toolkit)
+    else()
+        target_link_libraries(${name} PRIVATE zg_test_main)
+        zg_compile_together(${name} zg_pch_test)
+        set(kind fast)
+    endif()
+
+    set(needs "")
+    foreach(target IN LISTS ARG_NEEDS)
+        add_dependencies(${name} ${target})
+        string(APPEND needs "${target} $<TARGET_FILE:${target}>\n")
+    endforeach()
+    file(GENERATE OUTPUT ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${name}.needs CONTENT "${needs}")
+
+    if(NOT ARG_PARTS)
+        set(ARG_PARTS 1)
+    endif()
+    foreach(part RANGE 1 ${ARG_PARTS})
+        math(EXPR index "${part} - 1")
+        if(ARG_PARTS EQUAL 1)
+            set(run ${name})
+        else()
+            set(run ${name}.${part})
+        endif()
+        zg_add_test_run(${run} ${name} ${kind} GTEST_TOTAL_SHARDS=${ARG_PARTS} GTEST_SHARD_INDEX=${index})
+    endforeach()
+endfunction()
+
+# zg_add_test_run(RUN PROGRAM KIND [VARIABLE=VALUE ...]): the program as a test of ctest, with these words in its environment.
+function(zg_add_test_run run program kind)
+    add_test(NAME ${run} COMMAND ${program} --gtest_brief=1)
+    zg_label(${run} ${kind})
+    set_property(TEST ${run} PROPERTY ENVIRONMENT "QT_QPA_PLATFORM=offscreen"
+                 "GTEST_OUTPUT=xml:${PROJECT_BINARY_DIR}/Testing/cases/${run}.xml" ${ARGN})
+    set_property(TEST ${run} PROPERTY TIMEOUT 600)
+endfunction()
+
+# zg_label(TEST LABEL ...): these and the folders on the way from tests/ to here as labels.
+function(zg_label test)
+    file(RELATIVE_PATH folders ${PROJECT_SOURCE_DIR}/tests ${CMAKE_CURRENT_SOURCE_DIR})
+    string(REPLACE "/" ";" folders "${folders}")
+    set_property(TEST ${test} PROPERTY LABELS ${folders} ${ARGN})
+endfunction()
