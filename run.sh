@@ -5,9 +5,8 @@ set -euo pipefail
 cd "$(dirname "$0")"
 
 tools/setup.sh
-[ -f build/run/build.ninja ] ||
-    cmake -S . -B build/run -G Ninja -DCMAKE_BUILD_TYPE=Release -DZG_TESTS=OFF -DZG_BENCH=OFF >/dev/null
-cmake --build build/run
+[ -f build/run/build.ninja ] || cmake --preset run --log-level=WARNING
+cmake --build --preset run
 
 sample=data/samples/LOVETT_1988.frq
 if [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Makes both packages, installs each into a clean Debian 12 made for it, and starts the programs there as a user without rights. Needs the
 # superuser (for chroot) and the network the first time; the clean system is kept in build/package-check.
+#   tools/check_packages.sh [BUILD]   the programs of that build directory; build/run, which is built first, if nothing is said
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -9,13 +10,13 @@ if [ "$(id -u)" -ne 0 ]; then
     exit 1
 fi
 
-[ -f build/package/build.ninja ] ||
-    cmake -S . -B build/package -G Ninja -DCMAKE_BUILD_TYPE=Release -DZG_TESTS=OFF -DZG_BENCH=OFF >/dev/null
-cmake --build build/package
-rm -f build/package/zephyrgraph*.tar.gz build/package/zephyrgraph*.deb
-(cd build/package && cpack >cpack.log) || { cat build/package/cpack.log; exit 1; }
-deb=$(ls "$PWD"/build/package/zephyrgraph*.deb)
-folder=$(ls "$PWD"/build/package/zephyrgraph*.tar.gz)
+build=${1:-build/run}
+[ -f "$build/build.ninja" ] || cmake --preset run --log-level=WARNING
+cmake --build "$build"
+rm -f "$build"/zephyrgraph*.tar.gz "$build"/zephyrgraph*.deb
+(cd "$build" && cpack >cpack.log) || { cat "$build/cpack.log"; exit 1; }
+deb=$(ls "$PWD/$build"/zephyrgraph*.deb)
+folder=$(ls "$PWD/$build"/zephyrgraph*.tar.gz)
 
 work=$PWD/build/package-check
 root=$work/root
