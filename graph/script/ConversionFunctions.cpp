@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -64,6 +65,20 @@ Value digits(HostContext& context, const Value& value, int base) {
 Value hex(HostContext& context, Arguments arguments) { return digits(context, arguments[0], 16); }
 Value oct(HostContext& context, Arguments arguments) { return digits(context, arguments[0], 8); }
 
+/// Red, green and blue, each 0 to 255, as the number of the colour: red in its lowest byte. What is above 255
+/// counts as 255.
+Value rgb(HostContext&, Arguments arguments) {
+    double colour = 0;
+    double place = 1;
+    for (const Value& argument : arguments) {
+        const std::int16_t part = toInt16(toNumber(argument));
+        if (part < 0) raise(ErrorNumber::InvalidProcedureCall);
+        colour += place * std::min<std::int16_t>(part, 255);
+        place *= 256;
+    }
+    return {ValueType::Long, colour};
+}
+
 Value isNumeric(HostContext&, Arguments arguments) {
     if (!arguments[0].is(ValueType::Text)) return Value::boolean(arguments[0].isNumber());
     try {
@@ -99,6 +114,7 @@ constexpr HostFunction functions[] = {
     {"isnull", 1, 1, isNull},
     {"isnumeric", 1, 1, isNumeric},
     {"oct", 1, 1, oct},
+    {"rgb", 3, 3, rgb},
     {"typename", 1, 1, typeNameOf},
     {"vartype", 1, 1, varType},
 };

@@ -44,12 +44,14 @@ INSTANTIATE_TEST_SUITE_P(
         Evaluation{"CStr(Empty)", "String "}, Evaluation{"Hex(255)", "String FF"},
         Evaluation{"Hex(-1)", "String FFFF"}, Evaluation{"Hex(CLng(-1))", "String FFFFFFFF"},
         Evaluation{"Hex(10.5)", "String A"}, Evaluation{"Hex(Null)", "Null"},
-        Evaluation{"Oct(8)", "String 10"}, Evaluation{"Oct(-1)", "String 177777"},
-        Evaluation{"IsNumeric(\"1.5\")", "Boolean True"}, Evaluation{"IsNumeric(\"x\")", "Boolean False"},
-        Evaluation{"IsNumeric(\"1E999\")", "Boolean False"}, Evaluation{"IsNumeric(Empty)", "Boolean True"},
-        Evaluation{"IsNumeric(Null)", "Boolean False"}, Evaluation{"IsEmpty(unknown)", "Boolean True"},
-        Evaluation{"IsEmpty(0)", "Boolean False"}, Evaluation{"IsNull(Null)", "Boolean True"},
-        Evaluation{"IsNull(Empty)", "Boolean False"}));
+        Evaluation{"RGB(0, 0, 0)", "Long 0"}, Evaluation{"RGB(255, 0, 0)", "Long 255"},
+        Evaluation{"RGB(0, 255, 0)", "Long 65280"}, Evaluation{"rgb(1, 2, 3)", "Long 197121"},
+        Evaluation{"RGB(300, 1.5, \"2\")", "Long 131839"}, Evaluation{"Oct(8)", "String 10"},
+        Evaluation{"Oct(-1)", "String 177777"}, Evaluation{"IsNumeric(\"1.5\")", "Boolean True"},
+        Evaluation{"IsNumeric(\"x\")", "Boolean False"}, Evaluation{"IsNumeric(\"1E999\")", "Boolean False"},
+        Evaluation{"IsNumeric(Empty)", "Boolean True"}, Evaluation{"IsNumeric(Null)", "Boolean False"},
+        Evaluation{"IsEmpty(unknown)", "Boolean True"}, Evaluation{"IsEmpty(0)", "Boolean False"},
+        Evaluation{"IsNull(Null)", "Boolean True"}, Evaluation{"IsNull(Empty)", "Boolean False"}));
 
 INSTANTIATE_TEST_SUITE_P(
     Types, Functions,
@@ -119,6 +121,9 @@ TEST(FunctionErrors, NameTheCause) {
     EXPECT_EQ(evalError("Sin(Null)"), "line 1, column 1: 94 Invalid use of Null");
     EXPECT_EQ(evalError("Sgn(Null)"), "line 1, column 1: 94 Invalid use of Null");
     EXPECT_EQ(evalError("sin(\"x\")"), "line 1, column 1: 13 Type mismatch");
+    EXPECT_EQ(evalError("RGB(-1, 0, 0)"), "line 1, column 1: 5 Invalid procedure call or argument");
+    EXPECT_EQ(evalError("RGB(0, 40000, 0)"), "line 1, column 1: 6 Overflow");
+    EXPECT_EQ(evalError("RGB(0, 0, Null)"), "line 1, column 1: 94 Invalid use of Null");
     EXPECT_EQ(evalError("Round(1, -1)"), "line 1, column 1: 5 Invalid procedure call or argument");
     EXPECT_EQ(evalError("Left(\"a\", -1)"), "line 1, column 1: 5 Invalid procedure call or argument");
     EXPECT_EQ(evalError("Mid(\"a\", 0)"), "line 1, column 1: 5 Invalid procedure call or argument");
