@@ -14,6 +14,7 @@
 #include "base/Paths.h"
 #include "graph/frq/ModPolarGraph.h"
 #include "platform/PolarGraphWidget.h"
+#include "tests/support/Pixels.h"
 #include "tests/support/Raises.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
@@ -51,7 +52,7 @@ TEST_F(PageOutput, ABitmapIsTheWholePageAsItWasPaintedWithoutTheToolsShapes) {
     EXPECT_EQ(bytes.substr(30, 4), std::string(4, '\0')) << "it is not compressed";
     const QImage read(QString::fromStdString(path));
     EXPECT_EQ(read.size(), QSize(600, 600));
-    EXPECT_EQ(read.convertToFormat(QImage::Format_RGB32), before.convertToFormat(QImage::Format_RGB32));
+    EXPECT_TRUE(samePicture(read, before));
 }
 
 TEST_F(PageOutput, TheClipboardGetsTheSelectionPixelForPixel) {
@@ -62,7 +63,7 @@ TEST_F(PageOutput, TheClipboardGetsTheSelectionPixelForPixel) {
     const QImage expected = widget_->pageImage().copy(QRect(290, 280, 30, 20));
     plot().EditCopy();
     const QImage got = QGuiApplication::clipboard()->image();
-    EXPECT_EQ(got.convertToFormat(QImage::Format_RGB32), expected.convertToFormat(QImage::Format_RGB32));
+    EXPECT_TRUE(samePicture(got, expected));
 }
 
 TEST_F(PageOutput, AFailedSaveIsToldAndLeavesTheOldFile) {

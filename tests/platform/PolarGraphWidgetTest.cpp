@@ -8,6 +8,7 @@
 #include "base/RunTimeError.h"
 #include "platform/PageWidget.h"
 #include "platform/QtText.h"
+#include "tests/support/Pixels.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 
@@ -47,7 +48,7 @@ TEST_F(PolarGraphWidgetTest, TheShadowLiesThreePixelsToTheRightAndBelow) {
 TEST_F(PolarGraphWidgetTest, ThePageShowsWhatTheControlPaints) {
     widget_->graph().BackColor(rgb(10, 20, 30));
     const QImage grabbed = child("picGraph")->grab().toImage();
-    EXPECT_EQ(fromQColor(grabbed.pixelColor(3, 3)), rgb(10, 20, 30));
+    EXPECT_TRUE(pixelIs(grabbed, 3, 3, rgb(10, 20, 30)));
 }
 
 TEST_F(PolarGraphWidgetTest, TheAngleIsToldOnAGroundOfTheTheme) {
