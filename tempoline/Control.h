@@ -25,7 +25,8 @@ struct OutputRequest {
     std::string station;   ///< empty for gridded data
     double x = 0;          ///< as the projection says: km, degrees or cells
     double y = 0;
-    double height = 0;  ///< metres above the ground; negative where the run knows none
+    double height = 0;     ///< metres above the ground; negative where the run knows none
+    std::size_t line = 0;  ///< of its name in the control file
 };
 
 struct Season {

@@ -80,6 +80,7 @@ class OutputReader {
             throw idFailure(entry, " has been given before");
         keys_.at(entry);
         output.name = plainFileName(keys_, "TSFOUT", entry.value);
+        output.line = entry.line;
         outputs_.push_back(output);
         close();
     }
@@ -125,6 +126,8 @@ std::vector<OutputRequest> readRoseName(ControlKeys& keys) {
     OutputRequest output;
     output.id = 1;
     output.name = plainFileName(keys, "ROSEPLT", keys.text("ROSEPLT"));
+    for (const Assignment& entry : keys.all())
+        if (entry.key == "ROSEPLT") output.line = entry.line;
     output.height = -1;
     return {output};
 }

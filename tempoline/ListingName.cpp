@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "tempoline/ControlLexer.h"
+#include "tempoline/OlderResults.h"
 
 namespace zg::tempoline {
 
@@ -25,7 +26,11 @@ Assignment listingOf(const std::vector<Assignment>& assignments) {
 
 bool isResult(const std::string& name, const Assignment& entry) {
     if (entry.key != "TSFOUT" && entry.key != "ROSEPLT") return false;
-    return name == entry.value + ".frq" || name == entry.value + ".tab" || name == entry.value + ".tsf";
+    for (const char* const ending : {".frq", ".tab", ".tsf"}) {
+        const std::string result = entry.value + ending;
+        if (name == result || name == asideName(result)) return true;
+    }
+    return false;
 }
 
 }  // namespace

@@ -1,11 +1,16 @@
 #include "tempoline/Merge.h"
 
 #include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <system_error>
 #include <tuple>
 
 #include "tempoline/Failure.h"
 #include "tempoline/FrqWriter.h"
 #include "tempoline/Interrupt.h"
+#include "tempoline/ListingName.h"
+#include "tempoline/OlderResults.h"
 #include "tempoline/OutputFile.h"
 #include "tempoline/TabFile.h"
 #include "tempoline/WholeText.h"
@@ -31,6 +36,41 @@ void addRose(RoseCounts& sum, const RoseCounts& part) {
     for (std::size_t sector = 0; sector < sectorCount; ++sector) {
         for (std::size_t i = 0; i < classCount; ++i) sum.cells[sector][i] += part.cells[sector][i];
     }
+}
+
+RoseReport sumOf(const std::vector<std::string>& files) {
+    RoseReport sum = readTabFile(files.at(0));
+    for (std::size_t i = 1; i < files.size(); ++i) addCounts(sum, readTabFile(files[i]), files[0], files[i]);
+    needDistinctRuns(sum.runs);
+    return sum;
+}
+
+/// Where older results are kept nothing is read: they may be replaced before, and are removed after it.
+void needNoneAside(const std::vector<std::string>& files, const std::string& name, const ResultSet& results) {
+    if (isKeptForOlder(name))
+        throw Failure(ExitStatus::BadControl,
+                      "--out: \"" + name + "\" is a name under which older results are kept");
+    for (const std::string& file : files)
+        for (const std::string& result : results)
+            if (isSameFile(file, asideName(result)))
+                throw Failure(ExitStatus::BadControl,
+                              file + ": older results of \"" + name + "\" are kept under this name");
+}
+
+/// Moves older results aside. Gives the files by their names after that, as older results may be among them.
+std::vector<std::string> moveAside(std::vector<std::string> files, const ResultSet& results,
+                                   OlderResults& older) {
+    std::vector<std::pair<std::string*, std::string>> own;
+    std::error_code ignored;
+    for (std::string& file : files)
+        for (const std::string& result : results)
+            if (std::filesystem::exists(file, ignored) && isSameFile(file, result))
+                own.emplace_back(&file, asideName(result));
+    const std::string fault = older.putAside({results});
+    if (!fault.empty()) throw Failure(ExitStatus::Failed, fault);
+    for (const auto& [file, aside] : own)
+        if (!std::filesystem::exists(*file, ignored)) *file = aside;
+    return files;
 }
 
 }  // namespace
@@ -71,17 +111,29 @@ void needDistinctRuns(std::vector<CountedRun> runs) {
 }
 
 void mergeTabs(const std::vector<std::string>& files, const std::string& name) {
-    OutputFile frq(name + ".frq");
-    OutputFile tab(name + ".tab");
-    RoseReport sum = readTabFile(files.at(0));
-    for (std::size_t i = 1; i < files.size(); ++i) addCounts(sum, readTabFile(files[i]), files[0], files[i]);
-    needDistinctRuns(sum.runs);
-    frq.write(frqText(sum));
-    tab.write(tabText(sum));
-    frq.finish();
-    tab.finish();
-    throwIfInterrupted();
-    OutputFile::commitAll({&tab, &frq});
+    const ResultSet results = {name + ".tab", name + ".frq"};
+    needNoneAside(files, name, results);
+    const std::shared_ptr<Temporaries> temporaries = Temporaries::ofThisRun();
+    temporaries->removeRemains();
+    OlderResults older;
+    try {
+        const std::vector<std::string> sources = moveAside(files, results, older);
+        OutputFile tab(results[0]);
+        OutputFile frq(results[1]);
+        const RoseReport sum = sumOf(sources);
+        tab.write(tabText(sum));
+        frq.write(frqText(sum));
+        tab.finish();
+        frq.finish();
+        throwIfInterrupted();
+        moveAside({}, results, older);  // another run may have made results of this name meanwhile
+        OutputFile::commitAll({&tab, &frq});
+    } catch (...) {
+        const std::string kept = keptText(older.kept());
+        if (!kept.empty()) std::fprintf(stderr, "tempoline: %s\n", kept.c_str());
+        throw;
+    }
+    older.remove();
 }
 
 }  // namespace zg::tempoline

@@ -2,9 +2,12 @@
 
 // A result takes its name only when it is whole: it is written under another name beside it and then renamed.
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "tempoline/Temporaries.h"
 
 namespace zg::tempoline {
 
@@ -29,7 +32,8 @@ class OutputFile {
     /// Takes its name, in place of an older file.
     void commit();
 
-    /// All of them take their names, in this order, or none: where one cannot, the older files come back.
+    /// All of them take their names, in this order, or none. An older file that has one of the names is lost:
+    /// see OlderResults.
     static void commitAll(const std::vector<OutputFile*>& files);
 
     const std::string& name() const { return name_; }
@@ -39,19 +43,15 @@ class OutputFile {
     static constexpr std::size_t bufferSize = 16384;
 
     void flush();
-    void keepOld();
     void replace();
-    void takeBack() noexcept;
-    void settle() noexcept;
 
     std::string name_;
+    std::shared_ptr<Temporaries> temporaries_;
     std::string temporary_;
-    std::string old_;  ///< where the older file is kept until all have their names
     std::string buffer_;
 };
 
 /// Throws where no file can take that name: a directory has it, or the file system takes none as long.
-/// Whether a file has it.
-bool needFreeName(const std::string& name);
+void needFreeName(const std::string& name);
 
 }  // namespace zg::tempoline

@@ -10,8 +10,11 @@
 #include "tempoline/Interrupt.h"
 #include "tempoline/Listing.h"
 #include "tempoline/ListingName.h"
+#include "tempoline/OlderResults.h"
 #include "tempoline/OutputFile.h"
+#include "tempoline/ResultNames.h"
 #include "tempoline/TabFile.h"
+#include "tempoline/Temporaries.h"
 #include "tempoline/Texts.h"
 #include "tempoline/TsfFile.h"
 #include "tempoline/WholeText.h"
@@ -50,6 +53,11 @@ std::string pathsText(const Control& control) {
     return text;
 }
 
+void putAside(const Control& control, OlderResults& older) {
+    const std::string fault = older.putAside(resultsOf(control));
+    if (!fault.empty()) throw Failure(ExitStatus::Failed, fault);
+}
+
 /// The results of one output until they all take their names.
 struct Results {
     std::unique_ptr<TsfFile> series;
@@ -59,7 +67,8 @@ struct Results {
 
 class Runner {
  public:
-    Runner(const Control& control, Listing& listing) : control_(control), listing_(listing) {}
+    Runner(const Control& control, Listing& listing, OlderResults& older)
+        : control_(control), listing_(listing), older_(older) {}
 
     void run() {
         for (std::size_t i = 0; i < control_.outputs.size(); ++i) series_.emplace_back(control_);
@@ -105,6 +114,8 @@ class Runner {
     }
 
     void openResults() {
+        for (const ResultSet& set : resultsOf(control_))
+            for (const std::string& name : set) needFreeName(asideName(name));  // for the next run
         for (std::size_t i = 0; control_.wantsRoses && i < control_.outputs.size(); ++i) {
             const std::string& name = control_.outputs[i].name;
             results_[i].frequencies = std::make_unique<OutputFile>(name + ".frq");
@@ -169,8 +180,10 @@ class Runner {
         }
     }
 
-    /// The FRQ file comes last: where it stands, the others do.
+    /// The FRQ file comes last: where it stands, the others do. Another run may have made results of these
+    /// names meanwhile.
     void commit() {
+        putAside(control_, older_);
         std::vector<OutputFile*> files;
         for (Results& results : results_) {
             if (results.series) files.push_back(&results.series->file());
@@ -182,66 +195,92 @@ class Runner {
 
     const Control& control_;
     Listing& listing_;
+    OlderResults& older_;
     std::vector<Series> series_;
     std::vector<Results> results_;
     std::unique_ptr<InputReader> reader_;
 };
 
-/// The raw data stay, whatever a result is called.
-void needInputsApart(const Control& control) {
-    std::vector<const char*> endings;
-    if (control.wantsSeries) endings.push_back(".tsf");
-    if (control.wantsRoses) endings.insert(endings.end(), {".tab", ".frq"});
-    for (const OutputRequest& output : control.outputs)
-        for (const char* ending : endings)
-            for (const std::string& input : control.inputs)
-                if (isSameFile(output.name + ending, input))
-                    throw Failure(ExitStatus::BadControl, "the result \"" + output.name + ending +
-                                                              "\" would take the place of an input");
+Control checkedControl(const std::string& text, const std::string& controlFile) {
+    Control control = readControl(text, controlFile);
+    needNamesApart(control);
+    return control;
 }
 
-void runControl(const std::string& text, const std::string& controlFile, Listing& listing) {
-    const Control control = readControl(text, controlFile);
-    needInputsApart(control);
+void runControl(const std::string& controlFile, Listing& listing, OlderResults& older) {
+    const std::string text = readControlText(controlFile);
+    listing.rename("");  // nothing is written until its name is known to be free
+    const std::string name = freeListingName(text, controlFile);
+    needFreeName(name);
+    const std::shared_ptr<Temporaries> temporaries = Temporaries::ofThisRun();
+    listing.rename(name);
+    const Control control = [&] {
+        try {
+            return checkedControl(text, controlFile);
+        } catch (const Failure&) {  // of this run there will be no results under these names
+            const std::string fault = older.putAside(readableResults(text, controlFile));
+            if (!fault.empty()) listing.line("WARNING: " + fault);
+            throw;
+        }
+    }();
+    putAside(control, older);
+    listing.write("ERROR: the run goes on, or was ended from outside");
+    const std::string remains = temporaries->removeRemains();
+    if (!remains.empty()) listing.line("WARNING: " + remains);
     listing.describe(control);
-    Runner(control, listing).run();
+    Runner(control, listing, older).run();
+    for (const std::string& left : older.remove())
+        listing.line("WARNING: " + left + ", an older result, cannot be removed");
+}
+
+struct Outcome {
+    ExitStatus status = ExitStatus::Completed;
+    std::string error;
+};
+
+template <typename Work>
+Outcome outcomeOf(Work work) {
+    try {
+        work();
+        return {};
+    } catch (const Failure& failure) {
+        return {failure.status, failure.what()};
+    } catch (const std::bad_alloc&) {
+        return {ExitStatus::Failed, "there is not enough memory"};
+    } catch (const std::exception& error) {  // of the system, such as a thread that it does not give
+        return {ExitStatus::Failed, error.what()};
+    }
+}
+
+/// The fault itself is the last line of both.
+void tellFault(const Outcome& outcome, const OlderResults& older, Listing& listing) {
+    const std::vector<std::string> kept = older.kept();
+    if (!kept.empty()) {
+        tellError(keptText(kept));
+        listing.line("");
+        listing.line("The results of an earlier run are kept as");
+        for (const std::string& name : kept) listing.line("  " + name);
+    }
+    tellError(outcome.error);
 }
 
 }  // namespace
 
 ExitStatus run(const std::string& controlFile) {
     Listing listing(isSameFile(controlFile, defaultListing) ? "" : defaultListing);
-    std::string lastLine = "RUN COMPLETED";
-    ExitStatus status = ExitStatus::Completed;
     listing.line("TEMPOLINE: winds of " + controlFile);
-    try {
-        const std::string text = readControlText(controlFile);
-        listing.rename("");  // nothing is written until its name is known to be free
-        const std::string name = freeListingName(text, controlFile);
-        needFreeName(name);
-        listing.rename(name);
-        runControl(text, controlFile, listing);
-    } catch (const Failure& failure) {
-        status = failure.status;
-        lastLine = std::string("ERROR: ") + failure.what();
-        tellError(failure.what());
-    } catch (const std::bad_alloc&) {
-        status = ExitStatus::Failed;
-        lastLine = "ERROR: there is not enough memory";
-        tellError("there is not enough memory");
-    } catch (const std::exception& error) {  // of the system, such as a thread that it does not give
-        status = ExitStatus::Failed;
-        lastLine = std::string("ERROR: ") + error.what();
-        tellError(error.what());
-    }
+    OlderResults older;
+    Outcome outcome = outcomeOf([&] { runControl(controlFile, listing, older); });
+    const bool completed = outcome.status == ExitStatus::Completed;
+    if (!completed) tellFault(outcome, older, listing);
     try {
         listing.line("");
-        listing.write(lastLine);
+        listing.write(completed ? "RUN COMPLETED" : "ERROR: " + outcome.error);
     } catch (const Failure& failure) {
         tellError(failure.what());
-        if (status == ExitStatus::Completed) status = ExitStatus::Failed;
+        if (completed) outcome.status = ExitStatus::Failed;
     }
-    return status;
+    return outcome.status;
 }
 
 }  // namespace zg::tempoline

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t timeFields = 10;
 constexpr std::size_t mostVariables = 200;
-constexpr double missingMark = 9999;
+constexpr double missingCode = 9999;
 
 /// A series that the processor wrote.
 class Tsf : public InputReader {
@@ -93,7 +93,7 @@ class Tsf : public InputReader {
         if (!hasDirection || !hasSpeed) throw lines.failure("variables", "WDIR and WSPEED are needed");
     }
 
-    static double known(double value) { return value == missingMark ? missingValue : value; }
+    static double known(double value) { return value == missingCode ? missingValue : value; }
 
     const Control& control_;
     Seconds fileOffset_ = 0;

@@ -81,7 +81,7 @@ TEST(Merge, ANameThatCannotBeTakenEndsItBeforeAnyFileIsRead) {
     std::filesystem::create_directory("sum.frq");
     EXPECT_EQ(failureOf([] { mergeTabs({"none.tab"}, "sum"); }),
               "sum.frq: cannot be written: Is a directory");
-    EXPECT_EQ(inside.directory.read("sum.tab"), "old");
+    EXPECT_EQ(inside.directory.read("sum.previous.tab"), "old");
 }
 
 TEST(Merge, WritesBothFilesOrNone) {

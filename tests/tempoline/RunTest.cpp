@@ -2,33 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include <regex>
-
-#include "base/Lines.h"
 #include "dialogs/point/TsfHeader.h"
 #include "graph/frq/OpenFreqFile.h"
 #include "tempoline/Interrupt.h"
 #include "tempoline/Merge.h"
 #include "tests/support/TestHost.h"
+#include "tests/tempoline/FileCalls.h"
+#include "tests/tempoline/RunSupport.h"
 #include "tests/tempoline/TempolineSupport.h"
 
 namespace zg::tempoline {
 
 namespace {
-
-/// What the desktop program writes, with other values.
-std::string control(const std::string& file,
-                    const std::vector<std::pair<std::string, std::string>>& changes) {
-    std::string text = readWholeFile(std::string(ZG_SOURCE_DIR) + "/tests/processing/control/" + file);
-    for (const auto& [key, value] : changes)
-        text = std::regex_replace(text, std::regex("! " + key + "( *)=[^!\\r\\n]*!"),
-                                  "! " + key + " = " + value + " !");
-    return text;
-}
-
-const std::vector<std::pair<std::string, std::string>> firstDay = {
-    {"IBYR", "2004"}, {"IBMO", "1"}, {"IBDY", "1"}, {"IBHR", "0"}, {"IBSEC", "0"},
-    {"IEYR", "2004"}, {"IEMO", "1"}, {"IEDY", "2"}, {"IEHR", "0"}, {"IESEC", "0"}};
 
 /// The result of reading the text as the input of that control file: the last line of the listing.
 std::string lastLineOf(const std::string& controlFile,
@@ -217,21 +202,24 @@ TEST(Run, WithoutARecordInThePeriodTheDesktopSaysThatAllAreMissing) {
     EXPECT_EQ(tables.GraphCaption, "ALL DATA ARE MISSING");
 }
 
-TEST(Run, AnInterruptLeavesOldResultsWhole) {
+TEST(Run, AnInterruptLeavesOldResultsWholeAndAside) {
     const InDirectory inside;
     inside.directory.write("in.sfc", "header\n");
     inside.directory.write("out.frq", "old");
     auto changes = firstDay;
     changes.emplace_back("METINP", "in.sfc");
     inside.directory.write("c.inp", control("aermsfc.inp", changes));
-    setInterrupted(true);
+    FileCalls::before(6, [] { setInterrupted(true); });
     testing::internal::CaptureStderr();
     EXPECT_EQ(run("c.inp"), ExitStatus::Interrupted);
     setInterrupted(false);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "tempoline: interrupted\n");
-    EXPECT_EQ(inside.directory.read("out.frq"), "old");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "tempoline: the results of an earlier run are kept as out.previous.frq\n"
+              "tempoline: interrupted\n");
+    EXPECT_EQ(inside.directory.read("out.previous.frq"), "old");
     EXPECT_EQ(run("c.inp"), ExitStatus::Completed);
     EXPECT_NE(inside.directory.read("out.frq"), "old");
+    EXPECT_FALSE(std::filesystem::exists("out.previous.frq"));
 }
 
 }  // namespace zg::tempoline

@@ -7,6 +7,7 @@ import os
 import re
 import resource
 import signal
+import socket
 import subprocess
 import sys
 import time
@@ -14,7 +15,8 @@ import time
 import make_inputs
 from check_roses import LISTING, ONE, YEAR, roses_of_frq
 from control_files import write_control
-from run_support import HEADER, OLD, SKIPPED, day_control, good_day, limited, main, names, needs_failure, old_results, run, surface, surface_line
+from run_support import (HEADER, SKIPPED, day_control, good_day, limited, main, names, needs_aside, needs_failure, old_results, run, surface,
+                         surface_line, temporaries)
 
 
 def case_bad_data(processor, directory):
@@ -60,7 +62,7 @@ def case_long_line(processor, directory):
         old_results(directory)
         done = run(processor, directory, "c.inp", preexec_fn=limited(64))
         assert done.returncode == 1 and "a.sfc:%d: the line is longer than 1048576 bytes" % (at + 1) in done.stderr, done.stderr
-        assert (directory / "out.frq").read_bytes() == OLD
+        needs_aside(directory)
     (directory / "a.sfc").unlink()
 
 
@@ -108,15 +110,21 @@ def with_hangup():
     signal.signal(signal.SIGHUP, signal.SIG_DFL)  # under nohup it is off, and inherited so
 
 
+def has_begun(directory):
+    found = names(directory)
+    return LISTING in found and any(name.endswith(".tmp") for name in found)
+
+
 def fifo_run(processor, directory, name, text):
-    """A run in the middle of its input."""
+    """A run in the middle of its input: its listing has been begun, and its results."""
+    (directory / LISTING).unlink(missing_ok=True)
     os.mkfifo(directory / name)
     process = subprocess.Popen([processor, "c.inp"], cwd=directory, stderr=subprocess.PIPE, text=True, preexec_fn=with_hangup)
     pipe = open(directory / name, "w")
     pipe.write(text)
     pipe.flush()
     deadline = time.time() + 60
-    while not [found for found in names(directory) if found.endswith(".tmp")] and time.time() < deadline:
+    while not has_begun(directory) and time.time() < deadline:
         time.sleep(0.01)
     return process, pipe
 
@@ -124,14 +132,13 @@ def fifo_run(processor, directory, name, text):
 def interrupt(processor, directory, number, name, text):
     old_results(directory)
     process, pipe = fifo_run(processor, directory, name, text)
-    assert [found for found in names(directory) if found.endswith(".tmp")], "nothing had begun"
+    assert has_begun(directory), "nothing had begun"
     process.send_signal(number)
     error = process.communicate(timeout=60)[1]
     pipe.close()
     assert process.returncode == 130 and "interrupted" in error, (process.returncode, error)
-    for end in ("frq", "tab", "tsf"):
-        assert (directory / ("out." + end)).read_bytes() == OLD
-    assert not [found for found in names(directory) if found.endswith(".tmp")], names(directory)
+    needs_aside(directory)
+    assert not temporaries(directory), names(directory)
     assert (directory / LISTING).read_text().rstrip().endswith("ERROR: interrupted")
     (directory / name).unlink()
 
@@ -162,7 +169,41 @@ def case_interrupted_opening(processor, directory):
         process.send_signal(signal.SIGINT)
         error = process.communicate(timeout=60)[1]
         assert process.returncode == 130 and error == "tempoline: interrupted\n", (process.returncode, error)
-        assert not [found for found in names(directory) if found.endswith(".tmp")], names(directory)
+        assert not temporaries(directory), names(directory)
+
+
+def case_killed(processor, directory):
+    """Of runs that were killed the next one removes what they left, unless they go on or are of another machine."""
+    day_control(directory)
+    text = "\n".join([HEADER] + good_day()[:5]) + "\n"
+    for _ in range(3):
+        process, pipe = fifo_run(processor, directory, "a.sfc", text)
+        process.kill()
+        process.wait(timeout=60)
+        pipe.close()
+        (directory / "a.sfc").unlink()
+    assert temporaries(directory), "nothing was left to remove"
+    last = (directory / LISTING).read_text().rstrip().splitlines()[-1]
+    assert last == "ERROR: the run goes on, or was ended from outside", last
+    strangers = [".tempoline-elsewhere-12-1.lock", ".tempoline-elsewhere-12-1-1.tmp"]
+    for name in strangers:
+        (directory / name).write_bytes(b"")
+    living, pipe = fifo_run(processor, directory, "a.sfc", text)
+    own = strangers + [".tempoline-%s-%d-1%s" % (socket.gethostname(), living.pid, end)
+                                          for end in (".lock", "-2.tmp", "-3.tmp", "-4.tmp")]
+    deadline = time.time() + 60
+    while temporaries(directory) != sorted(own) and time.time() < deadline:
+        time.sleep(0.01)
+    assert temporaries(directory) == sorted(own), names(directory)
+    surface(directory, good_day(), "b.sfc")
+    other = (directory / "c.inp").read_bytes().replace(b"a.sfc", b"b.sfc").replace(b"= out !", b"= other !")
+    (directory / "d.inp").write_bytes(other.replace(LISTING.encode(), b"d.lst"))
+    done = run(processor, directory, "d.inp")
+    assert done.returncode == 0 and temporaries(directory) == sorted(own), (done.stderr, names(directory))
+    listing = (directory / "d.lst").read_text()
+    assert "WARNING: of runs that may go on elsewhere there are .tempoline-elsewhere-12-1* (2 files)\n" in listing, listing
+    pipe.close()
+    assert living.wait(timeout=60) == 0 and temporaries(directory) == sorted(strangers), names(directory)
 
 
 def case_failed_counts(processor, directory):
@@ -203,8 +244,8 @@ def case_shrinking_file(processor, directory):
             return SKIPPED
         assert 0 < position and process.returncode == 1, (position, process.returncode, error)
         assert re.search(r"a\.sfc: the file became shorter while it was read|a\.sfc:\d+: ", error), error
-        assert (directory / "out.frq").read_bytes() == OLD
-        assert not [name for name in names(directory) if name.endswith(".tmp")]
+        needs_aside(directory)
+        assert not temporaries(directory), names(directory)
     return 0
 
 
@@ -228,9 +269,8 @@ def case_full_disk(processor, directory):
         old_results(directory)
         done = run(processor, directory, "c.inp", preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (limit, limit)))
         assert done.returncode == 1 and re.search(r"out\.tsf: cannot be written: File too large", done.stderr), done.stderr
-        for end in ("frq", "tab", "tsf"):
-            assert (directory / ("out." + end)).read_bytes() == OLD
-        assert not [name for name in names(directory) if name.endswith(".tmp")]
+        needs_aside(directory)
+        assert not temporaries(directory), names(directory)
     assert run(processor, directory, "c.inp").returncode == 0  # and with room it is made
     assert roses_of_frq(directory / "out.frq")["All Periods"][2] == 59 * 24
 

@@ -56,6 +56,13 @@ def case_merged(processor, directory):
         assert done.returncode == 1 and re.search(pattern, done.stderr), done.stderr
         assert not (directory / "none.frq").exists() and not (directory / "none.tab").exists()
     assert run(processor, directory, "--merge").returncode == 2
+    done = run(processor, directory, "--merge", "part0.tab", "none.tab")  # of which there were results
+    kept = "tempoline: the results of an earlier run are kept as merged.previous.frq, merged.previous.tab"
+    assert done.returncode == 1 and done.stderr.splitlines()[0] == kept, done.stderr
+    assert not (directory / "merged.frq").exists() and not (directory / "merged.tab").exists()
+    assert run(processor, directory, "--merge", "part2.tab", "part0.tab", "part1.tab").returncode == 0
+    same_results(directory, "merged", "whole")
+    assert not [name for name in names(directory) if "previous" in name], names(directory)
 
 
 def case_huge_tab(processor, directory):

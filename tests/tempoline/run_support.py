@@ -44,23 +44,41 @@ def good_day():
 def old_results(directory):
     for end in ("frq", "tab", "tsf"):
         (directory / ("out." + end)).write_bytes(OLD)
+        (directory / ("out.previous." + end)).unlink(missing_ok=True)
 
 
-def needs_failure(processor, directory, pattern, status=1):
-    """The run fails with that one line on standard error and in the listing; old results stay whole."""
+def temporaries(directory):
+    return [name for name in names(directory) if name.startswith(".tempoline")]
+
+
+def needs_aside(directory, ends=("frq", "tab", "tsf")):
+    """The old results are whole, and none of them can be taken for one of the failed run."""
+    for end in ends:
+        assert not (directory / ("out." + end)).exists(), "out.%s looks like a result of the failed run" % end
+        assert (directory / ("out.previous." + end)).read_bytes() == OLD, "out.previous.%s has been touched" % end
+
+
+KEPT = "tempoline: the results of an earlier run are kept as out.previous.frq, out.previous.tab, out.previous.tsf"
+
+
+def needs_failure(processor, directory, pattern, status=1, aside=True):
+    """The run fails with that last line on standard error and in the listing; old results stay whole, aside."""
     old_results(directory)
     done = run(processor, directory, "c.inp")
     assert done.returncode == status, "status %d: %s" % (done.returncode, done.stderr)
     lines = done.stderr.splitlines()
-    assert len(lines) == 1, done.stderr
-    assert re.search(pattern, lines[0]), "%s does not say %s" % (lines[0], pattern)
-    for end in ("frq", "tab", "tsf"):
-        assert (directory / ("out." + end)).read_bytes() == OLD, "out.%s has been touched" % end
-    assert not [name for name in names(directory) if name.endswith(".tmp")], names(directory)
+    assert lines[:-1] == ([KEPT] if aside else []), done.stderr
+    assert re.search(pattern, lines[-1]), "%s does not say %s" % (lines[-1], pattern)
+    if aside:
+        needs_aside(directory)
+    else:
+        assert all((directory / ("out." + end)).read_bytes() == OLD for end in ("frq", "tab", "tsf"))
+    assert not temporaries(directory), names(directory)
     listings = [name for name in names(directory) if name.lower().endswith("lst")]
     assert len(listings) == 1, names(directory)
-    last = (directory / listings[0]).read_text(encoding="latin-1").rstrip().splitlines()[-1]
-    assert last == "ERROR: " + lines[0][len("tempoline: "):], last
+    told = (directory / listings[0]).read_text(encoding="latin-1").rstrip().splitlines()
+    assert told[-1] == "ERROR: " + lines[-1][len("tempoline: "):], told[-1]
+    assert ("  out.previous.frq" in told) == aside, told
     (directory / listings[0]).unlink()
 
 
