@@ -80,7 +80,8 @@ struct Control {
     bool wantsSeries = true;
     Seconds begin = 0;  ///< in the zone of the run
     Seconds end = 0;
-    std::string zone;  ///< key
+    std::size_t endLine = 0;  ///< of its year in the control file
+    std::string zone;         ///< key
     Seconds zoneOffset = 0;
     Seconds step = secondsAnHour;
     SpatialMethod method = SpatialMethod::Bilinear;

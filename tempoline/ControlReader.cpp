@@ -86,6 +86,8 @@ class Reader {
     void readPeriod() {
         control_.begin = readMoment("IB");
         control_.end = readMoment("IE");
+        for (const Assignment& entry : keys_.all())
+            if (entry.key == "IEYR") control_.endLine = entry.line;
         control_.zone = ucase(keys_.text("ABTZ"));
         const std::optional<Seconds> offset = zoneOffset(control_.zone);
         if (!offset) throw keys_.failure("ABTZ", "\"" + control_.zone + "\" is no zone such as UTC-0500");

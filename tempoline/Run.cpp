@@ -12,6 +12,7 @@
 #include "tempoline/ListingName.h"
 #include "tempoline/OlderResults.h"
 #include "tempoline/OutputFile.h"
+#include "tempoline/PeriodLimit.h"
 #include "tempoline/ResultNames.h"
 #include "tempoline/TabFile.h"
 #include "tempoline/Temporaries.h"
@@ -204,6 +205,7 @@ class Runner {
 Control checkedControl(const std::string& text, const std::string& controlFile) {
     Control control = readControl(text, controlFile);
     needNamesApart(control);
+    needDataForPeriod(control);
     return control;
 }
 

@@ -337,6 +337,22 @@ TEST(RunResults, AnOutputOfANameForOlderResultsIsRefused) {
                                              "which older results are kept\n")));
 }
 
+TEST(RunResults, APeriodThatTheDataCannotFillIsRefusedBeforeAnythingIsWritten) {
+    const InDirectory inside;
+    writeControl(inside, "aermsfc.inp", {{"IEYR", "9999"}});
+    writeData(inside, "4.0");
+    const Ended refused = runHere();
+    EXPECT_EQ(refused.status, ExitStatus::BadControl);
+    EXPECT_TRUE(std::regex_search(
+        refused.error,
+        std::regex("c\\.inp:\\d+: IEYR: the period has 70082760 steps, more than 10 times as many as "
+                   "54 bytes of data can fill\n")))
+        << refused.error;
+    EXPECT_EQ(allNames().size(), 3U);
+    writeControl(inside, "aermsfc.inp", {{"IEYR", "2099"}});
+    EXPECT_EQ(runHere().status, ExitStatus::Completed) << "a century may be empty";
+}
+
 TEST(RunResults, AFailedMergeLeavesNoneOfItsName) {
     const InDirectory inside;
     writeControl(inside, "aermsfc.inp", {{"TSFOUT", "part"}});
