@@ -65,7 +65,7 @@ class Source:
             elif open_at and word.text == OPENING[self.words[open_at[-1]].text]:
                 self.closing[open_at.pop()] = i
         for i, word in enumerate(self.words):
-            if word.text in ("assert", "static_assert", "Q_ASSERT") and i + 1 in self.closing:
+            if word.text in ("assert", "static_assert", "Q_ASSERT", "reserve") and i + 1 in self.closing:
                 self.asserted.update(range(i, self.closing[i + 1] + 1))
 
     def word(self, i):

@@ -1,6 +1,8 @@
 #include "graph/frq/FreqBlock.h"
 
+#include <iterator>
 #include <string>
+#include <vector>
 
 #include "base/Numbers.h"
 #include "tests/graph/frq/FreqLoad.h"
@@ -116,10 +118,17 @@ TEST_F(FreqBlock, EveryNumberIsTheNearestDouble) {
                                  "1234567890123456789",
                                  "0.1234567890123456789",
                                  "12345678901234567890123456789"};
-    for (const std::string text : texts) {
-        loadRow("N : " + text + "%  " + text + " %" + text + "%2%3%" + text + "%");
-        for (const int c : {1, 2, 3, 6}) EXPECT_EQ(tables.FrqFraction(1, c), toDouble(text) / 100) << text;
-        EXPECT_EQ(tables.FrqFraction(1, 4), 0.02);
+    std::vector<std::string> numbers(std::begin(texts), std::end(texts));
+    for (std::size_t decimals = 1; decimals <= 15; ++decimals)
+        numbers.push_back(std::string("123456789012345").insert(15 - decimals, "."));
+    for (const std::string& text : numbers) {
+        // A blank before one "%" has the whole row read by the general way.
+        for (const char* end : {"%", " %"}) {
+            loadRow("N : " + text + "%  " + text + end + text + "%2%3%" + text + "%");
+            for (const int c : {1, 2, 3, 6})
+                EXPECT_EQ(tables.FrqFraction(1, c), toDouble(text) / 100) << text << end;
+            EXPECT_EQ(tables.FrqFraction(1, 4), 0.02);
+        }
     }
 }
 

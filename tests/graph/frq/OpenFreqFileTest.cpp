@@ -1,5 +1,6 @@
 #include "graph/frq/OpenFreqFile.h"
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -281,6 +282,27 @@ TEST_F(OpenFreqFile, ARefusedFileBeforeAnyLoadLeavesNothingLoaded) {
     EXPECT_FALSE(tables.FrqLoaded);
     EXPECT_EQ(tables.FrqVersion, "");
     EXPECT_EQ(tables.CurrentRose, 1);
+}
+
+/// How many open files of this process are that one.
+int openHandlesOn(const std::string& path) {
+    int count = 0;
+    std::error_code closedMeanwhile;
+    for (const auto& handle : std::filesystem::directory_iterator("/proc/self/fd"))
+        count += std::filesystem::read_symlink(handle.path(), closedMeanwhile) == path;
+    return count;
+}
+
+TEST_F(OpenFreqFile, ARefusedFileStaysOpenAndALoadedOneDoesNot) {
+    host.boxAnswers = {BoxAnswer::Ok, BoxAnswer::Ok};
+    const std::string path = std::filesystem::canonical(directory.write("wind.frq", "no wind\r\n"));
+    EXPECT_EQ(loadFreqFile(path, tables, host), FreqFileOutcome::Refused);
+    EXPECT_EQ(openHandlesOn(path), 1);
+    EXPECT_EQ(loadFreqFile(path, tables, host), FreqFileOutcome::Refused);
+    EXPECT_EQ(openHandlesOn(path), 2);
+    directory.write("wind.frq", freqtext::bytes(freqtext::file("2.2", 1)));
+    EXPECT_EQ(loadFreqFile(path, tables, host), FreqFileOutcome::Loaded);
+    EXPECT_EQ(openHandlesOn(path), 2);
 }
 
 TEST_F(OpenFreqFile, RefusesAFileOfOneEndlessLine) {

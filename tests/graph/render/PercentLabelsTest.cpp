@@ -22,7 +22,7 @@ struct PercentLabels : ::testing::Test {
         redrawFrame(settings, polar, tables, canvas, geometry);
         std::vector<drawn::Text> labels;
         for (const drawn::Text& text : canvas.all<drawn::Text>())
-            if (text.text.size() <= 4 && text.text.back() == '%') labels.push_back(text);
+            if (text.text.size() <= 4 && text.text.ends_with('%')) labels.push_back(text);
         return labels;
     }
 };
