@@ -36,6 +36,18 @@ INSTANTIATE_TEST_SUITE_P(
                     DayOfYear{2000, 31, 1, 31}, DayOfYear{2000, 335, 11, 30}, DayOfYear{2001, 334, 11, 30},
                     DayOfYear{90, 59, 2, 28}, DayOfYear{0, 60, 2, 29}, DayOfYear{-4, 366, 12, 31}));
 
+TEST(DaysOfYears, EveryDayOfTheYearIsThatOfTheCalendar) {
+    TestHost host;
+    for (const auto& [year, days] : {std::pair{2001, 365}, std::pair{2004, 366}})
+        for (int day = 1; day <= days; ++day) {
+            const CalendarDate expected = dateOf(addDays(makeDate(year, 1, 1), day - 1));
+            const MonthAndDay date =
+                VBGRDAY(host, static_cast<std::int16_t>(year), static_cast<std::int16_t>(day));
+            EXPECT_EQ(date.month(), expected.month) << day;
+            EXPECT_EQ(date.day(), expected.day) << day;
+        }
+}
+
 class NoDayOfYearTest : public testing::TestWithParam<std::pair<std::int16_t, std::int16_t>> {};
 
 TEST_P(NoDayOfYearTest, ShowsTheMessageAndLeavesTheResultEmpty) {

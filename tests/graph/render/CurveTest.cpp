@@ -9,8 +9,8 @@
 namespace zg {
 namespace {
 
-constexpr Point from{10, 20};
-constexpr Point to{30, 50};
+constexpr Point segmentStart{10, 20};
+constexpr Point segmentEnd{30, 50};
 
 TEST(Segments, HaveThePensColourWidthAndStyle) {
     RecordingCanvas canvas;
@@ -18,11 +18,12 @@ TEST(Segments, HaveThePensColourWidthAndStyle) {
     pen.FillColor = rgb(1, 2, 3);
     pen.Weight = 4;
     pen.Style = 2;
-    paintSegment(canvas, from, to, pen, 7.5);
+    paintSegment(canvas, segmentStart, segmentEnd, pen, 7.5);
     pen.Style = 0;
-    paintSegment(canvas, from, to, pen, 7.5);
-    EXPECT_EQ(canvas.commands, (std::vector<drawn::Command>{drawn::Line{from, to, {rgb(1, 2, 3), 4, 2, 7.5}},
-                                                            drawn::Line{from, to, {rgb(1, 2, 3), 4, 0, 0}}}))
+    paintSegment(canvas, segmentStart, segmentEnd, pen, 7.5);
+    EXPECT_EQ(canvas.commands,
+              (std::vector<drawn::Command>{drawn::Line{segmentStart, segmentEnd, {rgb(1, 2, 3), 4, 2, 7.5}},
+                                           drawn::Line{segmentStart, segmentEnd, {rgb(1, 2, 3), 4, 0, 0}}}))
         << "a solid line has no dashes to run through";
 }
 
@@ -32,10 +33,10 @@ TEST(Shading, FillsTheTriangleAndTheEdgeThatNeighboursShare) {
     pen.FillColor = rgb(1, 2, 3);
     pen.Weight = 4;
     pen.Style = 2;
-    paintShading(canvas, {5, 6}, from, to, pen);
-    EXPECT_EQ(canvas.commands,
-              (std::vector<drawn::Command>{drawn::FillPolygon{{{5, 6}, from, to}, rgb(1, 2, 3)},
-                                           drawn::Line{{5, 6}, from, {rgb(1, 2, 3), 1, 0, 0}}}));
+    paintShading(canvas, {5, 6}, segmentStart, segmentEnd, pen);
+    EXPECT_EQ(canvas.commands, (std::vector<drawn::Command>{
+                                   drawn::FillPolygon{{{5, 6}, segmentStart, segmentEnd}, rgb(1, 2, 3)},
+                                   drawn::Line{{5, 6}, segmentStart, {rgb(1, 2, 3), 1, 0, 0}}}));
 }
 
 TEST(MarkerCorners, FollowBothFlagsAndUnknownOnesAreTheFirst) {
