@@ -14,8 +14,11 @@ function(zg_optional option what found package)
     endif()
 endfunction()
 
-# A program compiled for the fuzzer has neither tests nor benchmarks beside it.
+# A program compiled for the fuzzer has neither tests nor benchmarks beside it, and both need the toolkit.
 if(ZG_FUZZER)
+    set(ZG_TOOLKIT OFF)
+endif()
+if(NOT ZG_TOOLKIT)
     set(ZG_TESTS OFF)
     set(ZG_BENCH OFF)
 endif()

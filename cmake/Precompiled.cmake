@@ -26,12 +26,15 @@ set(ZG_STANDARD_HEADERS <algorithm> <array> <charconv> <cmath> <cstdint> <cstdio
 set(ZG_TOOLKIT_HEADERS <QApplication> <QBoxLayout> <QCheckBox> <QComboBox> <QDialog> <QEvent> <QFile> <QGroupBox> <QHeaderView> <QImage> <QKeyEvent>
                        <QLabel> <QLineEdit> <QListWidget> <QMainWindow> <QMenu> <QMouseEvent> <QPainter> <QPushButton> <QRadioButton>
                        <QScrollBar> <QSignalBlocker> <QString> <QTimer> <QToolButton> <QWidget>)
-set(ZG_TOOLKIT Qt6::Widgets Qt6::PrintSupport)
+set(ZG_TOOLKIT_LIBRARIES Qt6::Widgets Qt6::PrintSupport)
 
 zg_precompiled(zg_pch_plain HEADERS ${ZG_STANDARD_HEADERS})
-zg_precompiled(zg_pch_qt LINKS ${ZG_TOOLKIT} OPTIONS ${ZG_FORM_OPTIMISATION} HEADERS ${ZG_STANDARD_HEADERS} ${ZG_TOOLKIT_HEADERS})
+zg_precompiled(zg_pch_hot OPTIONS -O3 HEADERS ${ZG_STANDARD_HEADERS})
+if(ZG_TOOLKIT)
+    zg_precompiled(zg_pch_qt LINKS ${ZG_TOOLKIT_LIBRARIES} OPTIONS ${ZG_FORM_OPTIMISATION} HEADERS ${ZG_STANDARD_HEADERS} ${ZG_TOOLKIT_HEADERS})
+endif()
 if(ZG_TESTS)
     zg_precompiled(zg_pch_test LINKS GTest::gtest OPTIONS -O0 HEADERS ${ZG_STANDARD_HEADERS} <gtest/gtest.h>)
-    zg_precompiled(zg_pch_qt_test LINKS ${ZG_TOOLKIT} Qt6::Test GTest::gtest OPTIONS -O0
+    zg_precompiled(zg_pch_qt_test LINKS ${ZG_TOOLKIT_LIBRARIES} Qt6::Test GTest::gtest OPTIONS -O0
                    HEADERS ${ZG_STANDARD_HEADERS} ${ZG_TOOLKIT_HEADERS} <QTest> <gtest/gtest.h>)
 endif()

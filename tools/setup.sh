@@ -4,6 +4,7 @@
 #   tools/setup.sh --tests    and what ./test.sh needs
 #   tools/setup.sh --e2e      and what the walk through the program in a real window needs
 #   tools/setup.sh --checks   and what the stricter checks need
+#   tools/setup.sh --windows  and the compiler for Windows
 set -euo pipefail
 
 packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libcli11-dev nlohmann-json3-dev libproj-dev
@@ -17,6 +18,7 @@ case "${1:-}" in
     --tests) packages+=("${tests[@]}") ;;
     --e2e) packages+=("${tests[@]}" "${e2e[@]}") ;;
     --checks) packages+=("${tests[@]}" "${e2e[@]}" "${checks[@]}") ;;
+    --windows) packages+=(g++-mingw-w64-x86-64-posix) ;;
     *) echo "tools/setup.sh: unknown option $1" >&2; exit 2 ;;
 esac
 
