@@ -33,6 +33,8 @@ std::string rebuildLegendLimits(ModPolarGraph& tables) {
         unit = "m/s";
     }
     if (tables.ClassesInKnots) {
+        // The unit may have come with the settings after the file, and not by a choice made for it.
+        if (!tables.KnotTableReady) buildKnotTable(tables);
         tables.LegendClassLimit = tables.KnotClassLimit;
         unit = "knots";
     }

@@ -14,7 +14,8 @@ namespace zg {
 void buildKnotTable(ModPolarGraph& tables);
 
 /// Rebuilds LegendClassLimit for the unit chosen and gives the unit's word, "m/s" or "knots". Where neither
-/// is chosen, the word and the seven limits are empty.
+/// is chosen, the word and the seven limits are empty. A knot table that is not ready is built first, with
+/// the errors of buildKnotTable.
 std::string rebuildLegendLimits(ModPolarGraph& tables);
 
 }  // namespace zg

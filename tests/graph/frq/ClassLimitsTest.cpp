@@ -73,8 +73,19 @@ TEST(ClassLimits, LegendCopiesTheTableOfItsUnit) {
 
     tables.ClassesFromFile = false;
     tables.ClassesInKnots = true;
+    tables.KnotTableReady = true;
     EXPECT_EQ(rebuildLegendLimits(tables), "knots");
-    EXPECT_EQ(textsOf(tables.LegendClassLimit), textsOf(tables.KnotClassLimit));
+    EXPECT_EQ(textsOf(tables.LegendClassLimit), (Texts{"k0", "k1", "k2", "k3", "k4", "k5", "k6"}));
+}
+
+TEST(ClassLimits, LegendInKnotsBuildsTheTableOfTheLoadedFile) {
+    ModPolarGraph tables = withLimits({"0.5", "1", "2", "3", "4", "5", "6"});
+    tables.KnotClassLimit.assign({"of", "the", "file", "that", "was", "loaded", "before"});
+    tables.ClassesInKnots = true;
+    EXPECT_EQ(rebuildLegendLimits(tables), "knots");
+    EXPECT_EQ(textsOf(tables.LegendClassLimit),
+              (Texts{"9.72E-01", "1.94", "3.89", "5.83", "7.78", "9.72", "11.66"}));
+    EXPECT_TRUE(tables.KnotTableReady);
 }
 
 TEST(ClassLimits, LegendWithoutUnitIsEmpty) {

@@ -91,6 +91,7 @@ TEST_F(Legend, KnotsChangeLimitsAndUnitEverywhereAtOnce) {
     tables.KnotClassLimit.assign({"9.72E-01", "0.97", "3.5", "6.41", "10.5", "16.52", "20.99"});
     tables.ClassesFromFile = false;
     tables.ClassesInKnots = true;
+    tables.KnotTableReady = true;
     EXPECT_EQ(legendTexts(), (std::vector<std::string>{"Calm Winds [<9.72E-01 knots] = 1.50%",
                                                        "  =  0.97 to 3.5 knots", "  =  3.5 to 6.41 knots",
                                                        "  =  6.41 to 10.5 knots", "  =  10.5 to 16.52 knots",
