@@ -25,9 +25,10 @@ std::optional<EquationFault> checkEquation(const std::string& coefficient, const
         where = EquationFault::Where::Equation;
         engine.Eval(trim(equation));
     } catch (const ScriptError& error) {
-        const bool forgiven = where == EquationFault::Where::Equation &&
-                              error.number == static_cast<int>(ErrorNumber::DivisionByZero);
-        if (!forgiven) return EquationFault{where, error.description, error.column};
+        const bool byZero =
+            error.isZeroByZero || error.number == static_cast<int>(ErrorNumber::DivisionByZero);
+        if (where == EquationFault::Where::Coefficient || !byZero)
+            return EquationFault{where, error.description, error.column};
     }
     return std::nullopt;
 }

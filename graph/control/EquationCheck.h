@@ -16,7 +16,8 @@ struct EquationFault {
 };
 
 /// Runs the coefficient and evaluates the equation once in an engine of its own, where t is nothing yet.
-/// A division by zero is no fault of the equation: that value of t may be the only one that hits it.
+/// A division by zero, 0/0 included, is no fault of the equation: that value of t may be the only one that
+/// hits it.
 std::optional<EquationFault> checkEquation(const std::string& coefficient, const std::string& equation,
                                            ScriptEngine::Clock clock);
 

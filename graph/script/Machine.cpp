@@ -23,7 +23,8 @@ Value Machine::run(const CodeBlock& block, std::int64_t timeoutMs) {
         reset();
         throw;
     } catch (const RunTimeError& error) {
-        rethrowWithPlace(error.number, error.description);
+        const bool isZeroByZero = dynamic_cast<const ZeroByZero*>(&error) != nullptr;
+        rethrowWithPlace(error.number, error.description, isZeroByZero);
     } catch (const std::bad_alloc&) {
         rethrowWithPlace(static_cast<int>(ScriptErrorNumber::OutOfMemory),
                          errorDescription(ScriptErrorNumber::OutOfMemory));
@@ -40,9 +41,10 @@ void Machine::reset() {
 }
 
 /// The place is that of the instruction being carried out.
-void Machine::rethrowWithPlace(int number, const std::string& description) {
+void Machine::rethrowWithPlace(int number, const std::string& description, bool isZeroByZero) {
     const auto at = static_cast<std::size_t>(next_ - block_->code.data()) - 1;
-    const ScriptError error(number, description, block_->unit->text, block_->offsets[at]);
+    ScriptError error(number, description, block_->unit->text, block_->offsets[at]);
+    error.isZeroByZero = isZeroByZero;
     reset();
     throw error;
 }

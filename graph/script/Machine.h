@@ -31,7 +31,7 @@ class Machine {
     void execute();
     void checkClock();
     void reset();
-    [[noreturn]] void rethrowWithPlace(int number, const std::string& description);
+    [[noreturn]] void rethrowWithPlace(int number, const std::string& description, bool isZeroByZero = false);
 
     // The stack. Whatever lies above its top is Empty.
     Value& top(std::size_t below = 0) { return stack_[top_ - 1 - below]; }

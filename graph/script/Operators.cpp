@@ -42,7 +42,7 @@ Value typedResult(ValueType type, double result) {
 
 Value divide(ValueType type, double left, double right) {
     if (right == 0) {
-        if (left == 0) raise(ErrorNumber::Overflow);
+        if (left == 0) throw ZeroByZero();
         raise(ErrorNumber::DivisionByZero);
     }
     return type == ValueType::Single ? singleOrDouble(left / right) : checkedDouble(left / right);

@@ -112,6 +112,9 @@ ScriptError::ScriptError(int errorNumber, std::string errorDescription, std::str
 ScriptError::ScriptError(ScriptErrorNumber errorNumber, std::string_view text, std::size_t offset)
     : ScriptError(static_cast<int>(errorNumber), zg::errorDescription(errorNumber), text, offset) {}
 
+ZeroByZero::ZeroByZero()
+    : RunTimeError(static_cast<int>(ErrorNumber::Overflow), zg::errorDescription(ErrorNumber::Overflow)) {}
+
 void raise(ScriptErrorNumber number) {
     throw RunTimeError(static_cast<int>(number), errorDescription(number));
 }

@@ -62,11 +62,20 @@ class ScriptError : public RunTimeError {
     ScriptError(int errorNumber, std::string errorDescription, std::string_view text, std::size_t offset);
     ScriptError(ScriptErrorNumber errorNumber, std::string_view text, std::size_t offset);
 
+    /// It is the overflow of 0 divided by 0, which is a division by zero too.
+    bool isZeroByZero = false;
+
     int line;    ///< from 1; lines end with CR LF, CR or LF
     int column;  ///< from 1, in characters: the bytes of one UTF-8 sequence count once
     /// What stands around the position in its line, at most 80 characters, and below it a line with "^" under
     /// the position.
     std::string snippet;
+};
+
+/// What 0 divided by 0 raises: an overflow by its number.
+class ZeroByZero : public RunTimeError {
+ public:
+    ZeroByZero();
 };
 
 /// Throws the error of that number where the place in the text is added later, by whoever runs the code.

@@ -15,6 +15,18 @@ TEST(EquationCheck, PassesGoodTextsAndADivisionByZeroOfTheEquation) {
     EXPECT_FALSE(checkEquation(" a=2:b=3 ", " a/t ", still));
 }
 
+TEST(EquationCheck, NothingDividedByNothingIsADivisionByZeroOfTheEquationToo) {
+    EXPECT_FALSE(checkEquation("", "sin(t)/t", still));
+    EXPECT_FALSE(checkEquation("a=2", "a + 0/0", still));
+    const auto inCode = checkEquation("a=0/0", "1", still);
+    ASSERT_TRUE(inCode);
+    EXPECT_EQ(inCode->where, EquationFault::Where::Coefficient);
+    const auto overflow = checkEquation("", "1E308*10", still);
+    ASSERT_TRUE(overflow) << "another overflow is one";
+    EXPECT_EQ(overflow->description, "Overflow");
+    EXPECT_EQ(expressionFault("sin(t)/t", still), "Overflow") << "the list of expressions forgives nothing";
+}
+
 TEST(EquationCheck, TellsWhichTextIsAtFaultAndWhere) {
     const auto inCode = checkEquation("a=1/0", "1", still);
     ASSERT_TRUE(inCode);
