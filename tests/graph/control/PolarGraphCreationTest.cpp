@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "graph/control/CreatePolar.h"
 #include "tests/graph/control/PolarGraphFixture.h"
 
@@ -33,6 +35,22 @@ TEST_F(PolarGraphCreation, KeepsFontsThatHaveBeenChosen) {
     const PolarGraph graph(window, host);
     EXPECT_EQ(modPolarGraph.LegendFont, (FontRecord{255, "Courier", 9, true, true}));
     EXPECT_EQ(modPolarGraph.LabelFont, (FontRecord{0, "Arial", 8, false, false}));
+}
+
+TEST_F(PolarGraphCreation, KeepsTheColoursOnceTheFontsAreNamed) {
+    modPolarGraph.LabelFont = {0, "Courier", 9, false, false};
+    modPolarGraph.WindClassColor = {1, 2, 3, 4, 5, 6};
+    modPolarGraph.GridLineColor = 7;
+    const PolarGraph graph(window, host);
+    EXPECT_EQ(modPolarGraph.WindClassColor, (std::array<float, 6>{1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(modPolarGraph.GridLineColor, 7.0F);
+    EXPECT_EQ(modPolarGraph.DirectionFont.name, "Arial") << "a font without a name still gets its own";
+}
+
+TEST_F(PolarGraphCreation, AConfigurationOfTheSuiteThatCannotBeReadIsNoReasonNotToStart) {
+    std::filesystem::create_symlink("/proc/self/mem", directory.file("orbita.cfg"));
+    EXPECT_NO_THROW(PolarGraph(window, host));
+    EXPECT_TRUE(host.boxes.empty());
 }
 
 TEST_F(PolarGraphCreation, ReadsTheWorkingDirectoryOfTheSuite) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "tests/support/TempDirectory.h"
 
 namespace zg {
@@ -26,6 +28,15 @@ TEST(SuiteConfiguration, DirectoryOfThatNameIsNoFile) {
     std::string workDir = "old";
     readSuiteWorkDir(directory.path(), workDir);
     EXPECT_EQ(workDir, "");
+}
+
+TEST(SuiteConfiguration, FileThatCannotBeReadKeepsTheOldValueAndIsNotTold) {
+    const TempDirectory directory;
+    // It opens, and its first byte cannot be read.
+    std::filesystem::create_symlink("/proc/self/mem", directory.file("orbita.cfg"));
+    std::string workDir = "old";
+    EXPECT_NO_THROW(readSuiteWorkDir(directory.file("orbita.cfg"), workDir));
+    EXPECT_EQ(workDir, "old");
 }
 
 TEST(SuiteConfiguration, FileWithoutTheKeyKeepsTheOldValue) {
