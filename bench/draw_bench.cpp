@@ -11,6 +11,7 @@
 #include "graph/control/CreatePolar.h"
 #include "graph/control/CurveSweep.h"
 #include "graph/frq/OpenFreqFile.h"
+#include "graph/render/CanvasRecord.h"
 #include "graph/render/RedrawGraph.h"
 #include "platform/QtCanvas.h"
 #include "platform/QtText.h"
@@ -53,6 +54,20 @@ void redraw(benchmark::State& state) {
     }
 }
 BENCHMARK(redraw)->Unit(benchmark::kMillisecond);
+
+/// The same with the record that a print is made of.
+void redrawWithRecord(benchmark::State& state) {
+    zg::Polar& polar = loadedPolar();
+    QImage page = zg::makePageImage(side, side);
+    zg::CanvasRecord record;
+    for (auto _ : state) {
+        zg::QtCanvas surface(page, side, side);
+        zg::RecordedCanvas canvas(surface, record);
+        zg::PolarGeometry geometry;
+        zg::redrawFrame(zg::PlotSettings{}, polar, zg::modPolarGraph, canvas, geometry);
+    }
+}
+BENCHMARK(redrawWithRecord)->Unit(benchmark::kMillisecond);
 
 /// Paints one recorded command with plain painter calls.
 struct Straight {

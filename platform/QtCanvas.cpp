@@ -108,13 +108,13 @@ void QtCanvas::clear(Colour colour) {
     position_ = {};
 }
 
-void QtCanvas::blit(const Picture& picture, const Rect& target) {
-    painter_.drawImage(toQRectF(target), imageOf(picture));
+void QtCanvas::blit(const PicturePointer& picture, const Rect& target) {
+    painter_.drawImage(toQRectF(target), imageOf(*picture));
 }
 
-void QtCanvas::blitMasked(const Picture& picture, const Picture& mask, const Rect& target) {
-    QImage shownPart = imageOf(picture).convertToFormat(QImage::Format_ARGB32);
-    QImage opaque = imageOf(mask).scaled(shownPart.size()).convertToFormat(QImage::Format_Grayscale8);
+void QtCanvas::blitMasked(const PicturePointer& picture, const PicturePointer& mask, const Rect& target) {
+    QImage shownPart = imageOf(*picture).convertToFormat(QImage::Format_ARGB32);
+    QImage opaque = imageOf(*mask).scaled(shownPart.size()).convertToFormat(QImage::Format_Grayscale8);
     opaque.invertPixels();
     shownPart.setAlphaChannel(opaque);
     painter_.drawImage(toQRectF(target), shownPart);

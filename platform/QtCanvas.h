@@ -22,8 +22,8 @@ class QtCanvas : public Canvas {
 
     void clear(Colour colour) override;
     void keepPicture() override {}
-    void blit(const Picture& picture, const Rect& target) override;
-    void blitMasked(const Picture& picture, const Picture& mask, const Rect& target) override;
+    void blit(const PicturePointer& picture, const Rect& target) override;
+    void blitMasked(const PicturePointer& picture, const PicturePointer& mask, const Rect& target) override;
     void fillRectangle(const Rect& rectangle, Colour colour) override;
     void circle(Point centre, double radius, Colour colour) override;
     void disc(Point centre, double radius, Colour fill, Colour outline) override;

@@ -126,7 +126,10 @@ bool PolarGraph::ActiveSelection() const {
 }
 
 void PolarGraph::ClearGraph() {
-    if (!window_.restorePicture()) window_.pageCanvas().clear(settings_.BackColor);
+    if (window_.restorePicture())
+        record_.restore();
+    else
+        page().clear(settings_.BackColor);
     window_.pagePainted();
 }
 
@@ -144,17 +147,22 @@ void PolarGraph::ShowAbout() { window_.showAbout("About"); }
 void PolarGraph::RedrawGraph(std::int16_t mode) {
     if (!own_.AutoUpdate || suspended_) return;
     try {
-        redrawFrame(settings_, polar_, modPolarGraph, window_.pageCanvas(), geometry_);
+        RecordedCanvas canvas = page();
+        redrawFrame(settings_, polar_, modPolarGraph, canvas, geometry_);
     } catch (...) {
-        window_.keepPicture();
-        window_.pagePainted();  // what an error left is what the page shows
+        keepPicture();  // what an error left is what the page shows
         throw;
     }
-    window_.keepPicture();
-    window_.pagePainted();
+    keepPicture();
     const AfterFrame after = afterFrame(mode);
     if (after.curves) drawAll(false);
     if (after.rulers) window_.rulersChanged();
+}
+
+void PolarGraph::keepPicture() {
+    record_.keep();
+    window_.keepPicture();
+    window_.pagePainted();
 }
 
 void PolarGraph::changedOnPage() {

@@ -15,7 +15,7 @@
 #include "graph/frq/OpenFreqFile.h"
 #include "graph/model/Plot.h"
 #include "graph/model/Polar.h"
-#include "graph/render/Canvas.h"
+#include "graph/render/CanvasRecord.h"
 #include "graph/render/Curve.h"
 #include "graph/render/PlotSettings.h"
 #include "graph/render/PolarGeometry.h"
@@ -123,7 +123,7 @@ class PolarGraph {
         "Left click to reset the drawing area: Right click to change the ruler mode.";
 
     /// Arranges the children and paints the page with the designed properties. The window is called while
-    /// this runs. Raises what an unreadable suite configuration or a designed value of the wrong kind raises.
+    /// this runs. Raises what a designed value of the wrong kind raises.
     PolarGraph(ControlWindow& window, Host& host, const PropertyBag& designed = {});
     PolarGraph(const PolarGraph&) = delete;
     PolarGraph& operator=(const PolarGraph&) = delete;
@@ -215,7 +215,7 @@ class PolarGraph {
     void EditCopyTo();
     void EditCopyTo(const std::string& path);
 
-    /// Asks for a printer and prints the page, drawn anew at its resolution.
+    /// Asks for a printer and prints what is on the page, at the printer's resolution.
     void SentToPrinter();
 
     /// Writes the curves as a text file; an error is told in a box, and the file stays as far as it was
@@ -298,7 +298,9 @@ class PolarGraph {
     void arrangeChildren();
     Rect onPage(const ChildSurface& shape) const;
     PicturePointer FillBuffer(bool selectionOnly);
-    void paintOn(Canvas& canvas);
+    void print(Canvas& canvas) const;
+    RecordedCanvas page() { return {window_.pageCanvas(), record_}; }
+    void keepPicture();
     MarkerPictures markerPictures(const Series& series);
     void endTool();
     void beginTool();
@@ -324,6 +326,7 @@ class PolarGraph {
     ScrollRange horizontalScroll_;
     ScrollRange verticalScroll_;
     PolarGeometry geometry_;
+    CanvasRecord record_;  ///< of what is on the page
 
     struct Place {
         std::int16_t x = 0;

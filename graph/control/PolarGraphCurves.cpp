@@ -80,8 +80,8 @@ void PolarGraph::DrawCurve(const GrapInfo& graph) {
     const AtEnd done([this, animated, endless] {
         if (animated || endless) own_.StopAni = true;
         window_.pagePainted();
-        if (animated) showTrackAngle({});
         raiseDrawBegin(true);
+        if (animated) showTrackAngle({});
     });
     sweep(graph);
 }
@@ -95,13 +95,15 @@ void PolarGraph::sweep(const GrapInfo& graph) {
     const bool yields = curve.Delay > 0 || curve.Step == 0;
     for (SweepAngles angles(curve); !angles.done(); angles.advance()) {
         const CurvePoint point = sampler.at(angles.angle(), geometry_);
-        painter.paint(window_.pageCanvas(), point);
+        RecordedCanvas canvas = page();
+        painter.paint(canvas, point);
         if (events.DrawProgress)
             events.DrawProgress(point.angle, point.radius, static_cast<float>(point.x),
                                 static_cast<float>(point.y), curve.EndingAngle);
         if (yields && !waitForNextStep(curve.Delay, point.angle)) break;
     }
-    painter.finish(window_.pageCanvas());
+    RecordedCanvas canvas = page();
+    painter.finish(canvas);
 }
 
 /// Serves events until the delay has passed; false when the sweep is to end.

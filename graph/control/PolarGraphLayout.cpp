@@ -61,6 +61,7 @@ void PolarGraph::cornerPressed(std::int16_t button) {
 void PolarGraph::resizePage() {
     page_.page = pageSize(settings_.Zoom);
     window_.pageResized(page_.page, page_.page);
+    record_.reset();
     arrangeChildren();
 }
 

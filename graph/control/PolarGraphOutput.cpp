@@ -2,11 +2,8 @@
 
 #include "base/RunTimeError.h"
 #include "base/Text.h"
-#include "graph/control/CurveSweep.h"
 #include "graph/control/GraphFile.h"
 #include "graph/control/PolarGraph.h"
-#include "graph/frq/ModPolarGraph.h"
-#include "graph/render/RedrawGraph.h"
 
 namespace zg {
 
@@ -51,21 +48,15 @@ void PolarGraph::EditCopyTo(const std::string& path) {
 
 void PolarGraph::SentToPrinter() {
     const auto side = static_cast<double>(page_.page);
-    window_.print(side, [this](Canvas& canvas) { paintOn(canvas); });
+    window_.print(side, [this](Canvas& canvas) { print(canvas); });
 }
 
-void PolarGraph::paintOn(Canvas& canvas) {
-    PolarGeometry geometry;
-    redrawFrame(settings_, polar_, modPolarGraph, canvas, geometry);
-    for (std::int32_t i = 1; i <= plot_.Count(); ++i) {
-        const GrapInfo& graph = plot_.Item(std::int64_t{i});
-        if (!graph.Visible || graph.Step == 0) continue;  // one without a step never ends
-        CurveSampler sampler(engine_, graph);
-        CurvePainter painter(graph.Series, markerPictures(graph.Series), geometry);
-        for (SweepAngles angles(graph); !angles.done(); angles.advance())
-            painter.paint(canvas, sampler.at(angles.angle(), geometry));
-        painter.finish(canvas);
-    }
+/// What is on the page, stroke by stroke; of more strokes than anyone could tell apart, the pixels.
+void PolarGraph::print(Canvas& canvas) const {
+    if (record_.isComplete()) return record_.replay(canvas);
+    const auto side = static_cast<double>(page_.page);
+    const Rect whole{0, 0, side, side};
+    if (const PicturePointer picture = window_.copyPage(whole)) canvas.blit(picture, whole);
 }
 
 MarkerPictures PolarGraph::markerPictures(const Series& series) {

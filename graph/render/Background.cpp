@@ -42,9 +42,9 @@ std::vector<Rect> backgroundPlaces(double width, double height, double pictureWi
     return places;
 }
 
-void drawBackground(Canvas& canvas, const Picture& picture, std::int32_t pictureStyle) {
+void drawBackground(Canvas& canvas, const PicturePointer& picture, std::int32_t pictureStyle) {
     for (const Rect& place :
-         backgroundPlaces(canvas.width(), canvas.height(), picture.width(), picture.height(), pictureStyle))
+         backgroundPlaces(canvas.width(), canvas.height(), picture->width(), picture->height(), pictureStyle))
         canvas.blit(picture, place);
 }
 

@@ -11,6 +11,6 @@ namespace zg {
 std::vector<Rect> backgroundPlaces(double width, double height, double pictureWidth, double pictureHeight,
                                    std::int32_t pictureStyle);
 
-void drawBackground(Canvas& canvas, const Picture& picture, std::int32_t pictureStyle);
+void drawBackground(Canvas& canvas, const PicturePointer& picture, std::int32_t pictureStyle);
 
 }  // namespace zg

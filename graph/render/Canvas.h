@@ -75,11 +75,13 @@ class Canvas {
     /// What is on the surface becomes its persistent picture, which transient drawing is erased to.
     virtual void keepPicture() = 0;
 
-    /// A plain copy of the whole picture into the target, stretched to it.
-    virtual void blit(const Picture& picture, const Rect& target) = 0;
+    /// A plain copy of the whole picture into the target, stretched to it. Pictures are shared, so that a
+    /// canvas may keep them.
+    virtual void blit(const PicturePointer& picture, const Rect& target) = 0;
 
     /// The picture copied only where the mask is black.
-    virtual void blitMasked(const Picture& picture, const Picture& mask, const Rect& target) = 0;
+    virtual void blitMasked(const PicturePointer& picture, const PicturePointer& mask,
+                            const Rect& target) = 0;
 
     /// Interior and edge in one colour.
     virtual void fillRectangle(const Rect& rectangle, Colour colour) = 0;

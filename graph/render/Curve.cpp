@@ -15,9 +15,9 @@ void paintPicture(Canvas& canvas, Point at, const Marker& marker, const MarkerPi
     const Point corner = alignedCorner(at, size, marker.GetHorizAlign, marker.GetVertAlign);
     const Rect target{corner.x, corner.y, corner.x + size.width, corner.y + size.height};
     if (!marker.Transparent)
-        canvas.blit(*pictures.picture, target);
+        canvas.blit(pictures.picture, target);
     else if (pictures.mask)
-        canvas.blitMasked(*pictures.picture, *pictures.mask, target);
+        canvas.blitMasked(pictures.picture, pictures.mask, target);
 }
 
 void paintCharacter(Canvas& canvas, Point at, const Marker& marker) {

@@ -56,7 +56,7 @@ void redrawFrame(const PlotSettings& settings, Polar& polar, ModPolarGraph& tabl
     const double width = canvas.width();
     const double height = canvas.height();
     canvas.clear(settings.BackColor);
-    if (settings.Picture) drawBackground(canvas, *settings.Picture, settings.PictureStyle);
+    if (settings.Picture) drawBackground(canvas, settings.Picture, settings.PictureStyle);
     placeCentre(polar.Origin, settings.Zoom, width, height, geometry);
     geometry.UnitLength = unitLength(width, height, polar.Radius, settings.AspectRatio);
 

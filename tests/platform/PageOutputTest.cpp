@@ -108,6 +108,28 @@ TEST_F(PageOutput, APrintIsCentredKeepsItsProportionsAndIsSharp) {
     EXPECT_EQ(pdf.find("/Subtype /Image"), std::string::npos) << "drawn, not copied as a picture";
 }
 
+TEST_F(PageOutput, APrintShowsWhatThePageShowsWhateverHasBeenSetSince) {
+    const auto printed = [this](const char* name) {
+        const std::string path = directory_.file(name);
+        widget_->askPrinter = [&path](QPrinter& printer) {
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(QString::fromStdString(path));
+            return true;
+        };
+        plot().SentToPrinter();
+        std::string pdf = directory_.read(name);
+        const std::size_t date = pdf.find("/CreationDate");
+        if (date != std::string::npos) pdf.erase(date, pdf.find('\n', date) - date);
+        return pdf;
+    };
+    const std::string before = printed("a.pdf");
+    modPolarGraph.ClassesFromFile = false;
+    modPolarGraph.GraphTitle = "not painted yet";
+    EXPECT_EQ(printed("b.pdf"), before);
+    plot().Refresh();
+    EXPECT_NE(printed("c.pdf"), before);
+}
+
 TEST_F(PageOutput, ACancelledPrinterDialogEndsSilently) {
     widget_->askPrinter = [](QPrinter&) { return false; };
     plot().SentToPrinter();

@@ -147,7 +147,7 @@ TEST(QtCanvas, BlitStretchesThePictureToItsTarget) {
     source.setPixelColor(0, 0, Qt::red);
     source.setPixelColor(1, 0, Qt::blue);
     QImage page = makePageImage(100, 100);
-    QtCanvas(page, 100, 100).blit(QtPicture(source), {0, 0, 100, 100});
+    QtCanvas(page, 100, 100).blit(std::make_shared<QtPicture>(source), {0, 0, 100, 100});
     EXPECT_TRUE(pixelIs(page, 5, 50, red));
     EXPECT_TRUE(pixelIs(page, 95, 50, blue));
 }
@@ -160,7 +160,8 @@ TEST(QtCanvas, MaskedBlitShowsThePictureWhereTheMaskIsBlack) {
     for (int y = 0; y < 20; ++y)
         for (int x = 0; x < 10; ++x) mask.setPixelColor(x, y, Qt::black);
     QImage page = makePageImage(20, 20);
-    QtCanvas(page, 20, 20).blitMasked(QtPicture(source), QtPicture(mask), {0, 0, 20, 20});
+    QtCanvas(page, 20, 20)
+        .blitMasked(std::make_shared<QtPicture>(source), std::make_shared<QtPicture>(mask), {0, 0, 20, 20});
     EXPECT_TRUE(pixelIs(page, 3, 10, red));
     EXPECT_TRUE(pixelIs(page, 16, 10, white));
 }

@@ -23,7 +23,7 @@ void PrintTo(const LineStyle& style, std::ostream* out) {
 
 }  // namespace zg
 
-namespace drawn {
+namespace zg::drawn {
 
 namespace {
 
@@ -85,7 +85,7 @@ std::string describe(const Command& command) {
     return out.str();
 }
 
-}  // namespace drawn
+}  // namespace zg::drawn
 
 std::vector<std::string> RecordingCanvas::texts() const {
     std::vector<std::string> found;
@@ -122,13 +122,13 @@ void RecordingCanvas::clear(zg::Colour colour) { commands.push_back(drawn::Clear
 
 void RecordingCanvas::keepPicture() { commands.push_back(drawn::KeepPicture{}); }
 
-void RecordingCanvas::blit(const zg::Picture& picture, const zg::Rect& target) {
-    commands.push_back(drawn::Blit{&picture, target});
+void RecordingCanvas::blit(const zg::PicturePointer& picture, const zg::Rect& target) {
+    commands.push_back(drawn::Blit{picture, target});
 }
 
-void RecordingCanvas::blitMasked(const zg::Picture& picture, const zg::Picture& mask,
+void RecordingCanvas::blitMasked(const zg::PicturePointer& picture, const zg::PicturePointer& mask,
                                  const zg::Rect& target) {
-    commands.push_back(drawn::BlitMasked{&picture, &mask, target});
+    commands.push_back(drawn::BlitMasked{picture, mask, target});
 }
 
 void RecordingCanvas::fillRectangle(const zg::Rect& rectangle, zg::Colour colour) {

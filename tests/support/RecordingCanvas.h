@@ -2,10 +2,9 @@
 
 #include <ostream>
 #include <string>
-#include <variant>
 #include <vector>
 
-#include "graph/render/Canvas.h"
+#include "graph/render/CanvasRecord.h"
 
 namespace zg {
 
@@ -16,74 +15,7 @@ void PrintTo(const LineStyle& style, std::ostream* out);
 
 }  // namespace zg
 
-/// The drawing commands as plain data.
-namespace drawn {
-
-struct Clear {
-    zg::Colour colour;
-    bool operator==(const Clear&) const = default;
-};
-struct KeepPicture {
-    bool operator==(const KeepPicture&) const = default;
-};
-struct Blit {
-    const zg::Picture* picture;
-    zg::Rect target;
-    bool operator==(const Blit&) const = default;
-};
-struct BlitMasked {
-    const zg::Picture* picture;
-    const zg::Picture* mask;
-    zg::Rect target;
-    bool operator==(const BlitMasked&) const = default;
-};
-struct FillRectangle {
-    zg::Rect rectangle;
-    zg::Colour colour;
-    bool operator==(const FillRectangle&) const = default;
-};
-struct Circle {
-    zg::Point centre;
-    double radius;
-    zg::Colour colour;
-    bool operator==(const Circle&) const = default;
-};
-struct Disc {
-    zg::Point centre;
-    double radius;
-    zg::Colour fill;
-    zg::Colour outline;
-    bool operator==(const Disc&) const = default;
-};
-struct Line {
-    zg::Point from;
-    zg::Point to;
-    zg::LineStyle style;
-    bool operator==(const Line&) const = default;
-};
-struct Pie {
-    zg::Point centre;
-    double radius;
-    double start;
-    double end;
-    zg::Colour fill;
-    zg::Colour outline;
-    bool operator==(const Pie&) const = default;
-};
-struct FillPolygon {
-    std::vector<zg::Point> corners;
-    zg::Colour colour;
-    bool operator==(const FillPolygon&) const = default;
-};
-struct Text {
-    zg::Point at;
-    std::string text;
-    zg::TextStyle style;
-    bool operator==(const Text&) const = default;
-};
-
-using Command = std::variant<Clear, KeepPicture, Blit, BlitMasked, FillRectangle, Circle, Disc, Line, Pie,
-                             FillPolygon, Text>;
+namespace zg::drawn {
 
 /// The command's kind and values, for the messages of failed tests.
 std::string describe(const Command& command);
@@ -100,7 +32,9 @@ void PrintTo(const Pie& command, std::ostream* out);
 void PrintTo(const FillPolygon& command, std::ostream* out);
 void PrintTo(const Text& command, std::ostream* out);
 
-}  // namespace drawn
+}  // namespace zg::drawn
+
+namespace drawn = zg::drawn;
 
 /// Keeps every drawing command in a list. Its text metrics are fixed: a character is 6 wide at size 8 and
 /// grows with the size, a line is one and a half sizes high, an empty text too.
@@ -135,8 +69,9 @@ class RecordingCanvas : public zg::Canvas {
     double height() const override { return height_; }
     void clear(zg::Colour colour) override;
     void keepPicture() override;
-    void blit(const zg::Picture& picture, const zg::Rect& target) override;
-    void blitMasked(const zg::Picture& picture, const zg::Picture& mask, const zg::Rect& target) override;
+    void blit(const zg::PicturePointer& picture, const zg::Rect& target) override;
+    void blitMasked(const zg::PicturePointer& picture, const zg::PicturePointer& mask,
+                    const zg::Rect& target) override;
     void fillRectangle(const zg::Rect& rectangle, zg::Colour colour) override;
     void circle(zg::Point centre, double radius, zg::Colour colour) override;
     void disc(zg::Point centre, double radius, zg::Colour fill, zg::Colour outline) override;

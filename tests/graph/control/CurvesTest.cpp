@@ -268,6 +268,18 @@ TEST_F(Curves, AnAnimationWaitsAtEachStepAndTellsItsAngle) {
     EXPECT_EQ(lines().size(), 2U);
 }
 
+TEST_F(Curves, TheAngleStaysUntilTheEndHasBeenTold) {
+    GrapInfo& curve = add("2");
+    curve.Step = 180;
+    curve.Delay = 10;
+    std::vector<bool> labelShown;
+    graph.events.DrawBegin = [&](bool&) { labelShown.push_back(graph.surfaces().lblTrackAngle.visible); };
+    graph.DrawGraph(std::int16_t{1}, true);
+    EXPECT_EQ(labelShown, (std::vector<bool>{false, true}))
+        << "not before its beginning, and still at its end";
+    EXPECT_FALSE(graph.surfaces().lblTrackAngle.visible);
+}
+
 TEST_F(Curves, StopAniEndsTheSweep) {
     GrapInfo& curve = add("2");
     curve.Delay = 10;

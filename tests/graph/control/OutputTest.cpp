@@ -98,22 +98,102 @@ TEST_F(Output, CopyToAlwaysTakesTheWholePageAndAsksWithAnOverwritePrompt) {
     EXPECT_TRUE(host.savePicks[0].overwritePrompt);
 }
 
-TEST_F(Output, ThePrinterGetsThePageDrawnAnewWithItsCurves) {
+TEST_F(Output, ThePrinterGetsWhatThePageShowsStrokeByStroke) {
     modPolarGraph = roseTables();
-    GrapInfo& hidden = graph.Plot().Add("", "1", rgb(9, 0, 0), 0);
-    hidden.Visible = false;
+    graph.Plot().Add("", "1", rgb(9, 0, 0), 0).Visible = false;
     graph.Plot().Add("", "2", rgb(0, 9, 0), 0).Step = 90;
+    window.canvas.commands.clear();
+    graph.Refresh();
+    const std::vector<drawn::Command> shown = window.canvas.commands;
     window.canvas.commands.clear();
     graph.SentToPrinter();
     EXPECT_TRUE(window.canvas.commands.empty()) << "the page on screen is left alone";
     EXPECT_EQ(window.printed.width(), 600);
     EXPECT_EQ(window.printed.all<drawn::Pie>().size(), 96U);
-    int green = 0;
-    for (const drawn::Line& line : window.printed.all<drawn::Line>()) {
-        EXPECT_NE(line.style.colour, rgb(9, 0, 0));
-        if (line.style.colour == rgb(0, 9, 0)) ++green;
-    }
-    EXPECT_EQ(green, 4);
+    EXPECT_EQ(window.printed.commands, shown);
+    EXPECT_TRUE(window.copied.empty()) << "no pixels are copied";
+}
+
+TEST_F(Output, SettingsChangedSinceAreNotPrinted) {
+    modPolarGraph = roseTables();
+    graph.Refresh();
+    modPolarGraph.ClassesFromFile = false;
+    modPolarGraph.GraphTitle = "later";
+    graph.Plot().Add("", "2", rgb(0, 9, 0), 0);
+    graph.Polar().Radius = 0;
+    graph.SentToPrinter();
+    EXPECT_EQ(window.printed.texts().front(), "Calm Winds [<0.5 m/s] = 1.50%");
+    EXPECT_EQ(window.printed.texts()[7], "Title");
+    for (const drawn::Line& line : window.printed.all<drawn::Line>())
+        EXPECT_NE(line.style.colour, rgb(0, 9, 0));
+}
+
+TEST_F(Output, ACurveThatWasStoppedIsPrintedAsFarAsItCame) {
+    GrapInfo& curve = graph.Plot().Add("", "2", rgb(0, 9, 0), 0);
+    curve.Step = 90;
+    curve.Delay = 10;
+    int pumps = 0;
+    host.onPump = [&] {
+        if (++pumps == 5) graph.StopAni(true);
+    };
+    graph.ClearGraph();
+    graph.DrawGraph(std::int16_t{1}, true);
+    const auto green = [](const RecordingCanvas& canvas) {
+        long count = 0;
+        for (const drawn::Line& line : canvas.all<drawn::Line>()) count += line.style.colour == rgb(0, 9, 0);
+        return count;
+    };
+    ASSERT_GT(green(window.canvas), 0);
+    ASSERT_LT(green(window.canvas), 4);
+    graph.SentToPrinter();
+    EXPECT_EQ(green(window.printed), green(window.canvas));
+}
+
+TEST_F(Output, ACurveThatFailedIsPrintedAsItStandsAndSilently) {
+    GrapInfo& curve = graph.Plot().Add("", "2/(t<1.6)", rgb(0, 9, 0), 0);  // fails beyond 90 degrees
+    curve.Step = 45;
+    EXPECT_THROW(graph.DrawGraph(), RunTimeError);
+    EXPECT_NO_THROW(graph.SentToPrinter());
+    EXPECT_TRUE(host.boxes.empty());
+    long green = 0;
+    for (const drawn::Line& line : window.printed.all<drawn::Line>())
+        green += line.style.colour == rgb(0, 9, 0);
+    EXPECT_EQ(green, 2);
+}
+
+TEST_F(Output, AClearedPageIsPrintedWithoutItsCurves) {
+    graph.Plot().Add("", "2", rgb(0, 9, 0), 0).Step = 90;
+    graph.Refresh();
+    graph.ClearGraph();
+    graph.SentToPrinter();
+    for (const drawn::Line& line : window.printed.all<drawn::Line>())
+        EXPECT_NE(line.style.colour, rgb(0, 9, 0));
+    EXPECT_EQ(window.printed.all<drawn::Disc>().size(), 1U) << "the frame stays";
+}
+
+TEST_F(Output, OfMoreThanTheRecordHoldsThePixelsArePrinted) {
+    GrapInfo& curve = graph.Plot().Add("", "4*sin(100000*t)", rgb(0, 9, 0), 0);
+    curve.Step = 0.002F;
+    graph.Refresh();
+    ASSERT_GT(window.canvas.all<drawn::Line>().size(), CanvasRecord::mostCommands);
+    graph.SentToPrinter();
+    ASSERT_EQ(window.copied.size(), 1U);
+    EXPECT_EQ(window.copied[0], (Rect{0, 0, 600, 600}));
+    ASSERT_EQ(window.printed.commands.size(), 1U);
+    EXPECT_EQ(window.printed.all<drawn::Blit>()[0].target, (Rect{0, 0, 600, 600}));
+    graph.ClearGraph();
+    window.printed.commands.clear();
+    graph.SentToPrinter();
+    EXPECT_EQ(window.printed.all<drawn::Disc>().size(), 1U) << "without the curve it is strokes again";
+}
+
+TEST_F(Output, ANewPageSizeLeavesNothingOfTheOldPage) {
+    modPolarGraph = roseTables();
+    graph.Refresh();
+    graph.suspendUpdates(true);
+    graph.Zoom(50);
+    graph.SentToPrinter();
+    EXPECT_TRUE(window.printed.commands.empty()) << "the page is blank until it is painted";
 }
 
 }  // namespace

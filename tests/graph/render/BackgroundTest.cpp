@@ -66,12 +66,12 @@ TEST(Background, TilingAPictureWithoutSizeIsADivisionByZero) {
 
 TEST(Background, CopiesAreBlittedInOrder) {
     RecordingCanvas canvas(50, 50);
-    const BlankPicture picture(50, 100);
+    const auto picture = std::make_shared<BlankPicture>(50, 100);
     drawBackground(canvas, picture, 3);
-    EXPECT_EQ(canvas.all<drawn::Blit>(), (std::vector<drawn::Blit>{{&picture, {0, 0, 50, 100}},
-                                                                   {&picture, {50, 0, 100, 100}},
-                                                                   {&picture, {0, 100, 50, 200}},
-                                                                   {&picture, {50, 100, 100, 200}}}));
+    EXPECT_EQ(canvas.all<drawn::Blit>(), (std::vector<drawn::Blit>{{picture, {0, 0, 50, 100}},
+                                                                   {picture, {50, 0, 100, 100}},
+                                                                   {picture, {0, 100, 50, 200}},
+                                                                   {picture, {50, 100, 100, 200}}}));
 }
 
 }  // namespace

@@ -83,19 +83,17 @@ TEST_F(Markers, AreACharacterInTheirFontAlignedByItsSize) {
 TEST_F(Markers, AreAPictureStretchedToItsSize) {
     marker.UsePicture = true;
     marker.Transparent = false;
-    EXPECT_EQ(paint(),
-              (std::vector<drawn::Command>{drawn::Blit{pictures.picture.get(), {100, 195, 120, 205}}}));
+    EXPECT_EQ(paint(), (std::vector<drawn::Command>{drawn::Blit{pictures.picture, {100, 195, 120, 205}}}));
     marker.GetHorizAlign = 0;
     marker.GetVertAlign = 4;
-    EXPECT_EQ(paint(),
-              (std::vector<drawn::Command>{drawn::Blit{pictures.picture.get(), {80, 190, 100, 200}}}));
+    EXPECT_EQ(paint(), (std::vector<drawn::Command>{drawn::Blit{pictures.picture, {80, 190, 100, 200}}}));
 }
 
 TEST_F(Markers, ThatAreTransparentWantAMask) {
     marker.UsePicture = true;
     marker.Transparent = true;
-    EXPECT_EQ(paint(), (std::vector<drawn::Command>{drawn::BlitMasked{
-                           pictures.picture.get(), pictures.mask.get(), {100, 195, 120, 205}}}));
+    EXPECT_EQ(paint(), (std::vector<drawn::Command>{
+                           drawn::BlitMasked{pictures.picture, pictures.mask, {100, 195, 120, 205}}}));
     pictures.mask = nullptr;
     EXPECT_TRUE(paint().empty());
 }

@@ -89,7 +89,7 @@ TEST_F(RedrawGraph, LaysThePictureUnderEverythingElse) {
     settings.Picture = std::make_shared<BlankPicture>(100, 80);
     redraw();
     ASSERT_EQ(canvas.all<drawn::Blit>().size(), 1U);
-    EXPECT_EQ(canvas.commands[1], drawn::Command(drawn::Blit{settings.Picture.get(), Rect{0, 0, 100, 80}}));
+    EXPECT_EQ(canvas.commands[1], drawn::Command(drawn::Blit{settings.Picture, Rect{0, 0, 100, 80}}));
 }
 
 TEST_F(RedrawGraph, OuterRingTakesTwoThirdsOfTheHalfSizeByDefault) {
@@ -212,6 +212,16 @@ TEST_F(RedrawGraph, NoticeKeepsFaceAndSlantOfTheTextBeforeIt) {
     tables.PercentFont = {0, "Courier", 7, false, true};
     redraw();
     EXPECT_EQ(canvas.all<drawn::Text>().back().style, (TextStyle{"Courier", 18, true, true, black}));
+}
+
+TEST_F(RedrawGraph, NoticeIsBlackAfterATextOfAnotherColour) {
+    tables.FrqRoseCount = 0;
+    tables.PercentFont.colour = 255;
+    tables.PlotForeColor = rgb(1, 2, 3);
+    redraw();
+    const auto texts = canvas.all<drawn::Text>();
+    ASSERT_EQ(texts[texts.size() - 2].style.colour, rgb(255, 0, 0)) << "the text before it";
+    EXPECT_EQ(texts.back().style.colour, black);
 }
 
 TEST_F(RedrawGraph, NoNoticeBeforeTheFirstLoad) {
