@@ -11,6 +11,7 @@
 #include "dialogs/point/PointDialog.h"
 #include "platform/BatchStarter.h"
 #include "shell/FrmMainControls.h"
+#include "shell/MenuTree.h"
 
 namespace zg {
 
@@ -69,6 +70,9 @@ class frmMain : public QMainWindow {
     void pressTool(Tool tool);
     Tool activeTool() const { return activeToolButton_; }
 
+    /// The window was closed, or Exit was chosen: the program is about to end.
+    bool ending() const { return ending_; }
+
     PolarGraph& pgPolarGraph() { return ui_.pgPolarGraph->graph(); }
     const FrmMainControls& controls() const { return ui_; }
 
@@ -90,7 +94,7 @@ class frmMain : public QMainWindow {
     ProcessingWindow processingWindow();
     void toggleShown(const char* entry, QWidget& bar);
     void viewFrqFile();
-    void showAbout();
+    void showAbout(const QString& title = {});
     struct CurveTexts {
         std::string coefficient;
         std::string equation;
@@ -132,6 +136,9 @@ class frmMain : public QMainWindow {
     void followSelection();
     void beginProgress(const GrapInfo& graph);
     bool hasCommand(const std::string& entry) const { return commands_.contains(entry); }
+    bool isOfUse(const MenuEntry& entry) const {
+        return entry.kind == EntryKind::Menu || hasCommand(entry.name);
+    }
 
     Host& host_;
     FrmMainControls ui_;

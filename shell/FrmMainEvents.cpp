@@ -19,19 +19,6 @@ constexpr std::int16_t escapeKey = 27;
 
 QString twoDecimals(double value) { return shown(doubleText(roundHalfEven(value, 2))); }
 
-bool startsWith(const std::string& text, const char* start) { return text.rfind(start, 0) == 0; }
-
-/// The entries that a curve being painted locks.
-bool isLockedByDrawing(const MenuEntry& entry) {
-    if (entry.kind == EntryKind::Separator) return false;
-    const std::string name = entry.name;
-    if (startsWith(name, "mnuPolarOption_")) return !entry.hidden;
-    for (const char* array : {"mnuFileOption_", "mnuViewAspectOption_", "mnuViewZoomSize_",
-                              "mnuPolarGridOption_", "mnuEditOption_"})
-        if (startsWith(name, array)) return true;
-    return name == "mnuViewRefresh";
-}
-
 }  // namespace
 
 void frmMain::followPlot() {
@@ -72,11 +59,11 @@ void frmMain::followPlot() {
     };
     events.DrawProgress = [this](float, float, float, float, float) { ui_.pgbProgressBar->advance(); };
     connect(ui_.pgPolarGraph, &PolarGraphWidget::aboutRequested, this,
-            guarded(host_, [this] { showAbout(); }));
+            guarded(host_, [this](const QString& title) { showAbout(title); }));
 }
 
 /// False at the start of a curve and true at its end: what could disturb it is out of reach meanwhile. An
-/// entry without a command stays disabled.
+/// entry that neither runs a command nor opens a menu stays disabled.
 void frmMain::lockWhileDrawing(bool value) {
     const std::map<std::string, std::string> entryOf = toolbarEntries();
     for (const auto& [key, button] : ui_.toolbarButtons) {
@@ -84,7 +71,7 @@ void frmMain::lockWhileDrawing(bool value) {
         button->setEnabled(value && entry != entryOf.end() && hasCommand(entry->second));
     }
     for (const MenuEntry& entry : menuTree())
-        if (isLockedByDrawing(entry)) actions_.at(entry.name)->setEnabled(value && hasCommand(entry.name));
+        if (entry.lock == Lock::WhileDrawing) actions_.at(entry.name)->setEnabled(value && isOfUse(entry));
     ui_.cmbFunction->setEnabled(value);
     ui_.cmdReplace->setEnabled(value && ui_.cmbFunction->count() > 0);
     for (const Tool tool : {Tool::Select, Tool::Aspect, Tool::Zoom}) toolButton(tool).setEnabled(value);

@@ -300,7 +300,11 @@ void frmMain::viewFrqFile() {
     ViewTextFile(host_, starter_, settings.CurrentFrqPath, applicationDirectory);
 }
 
-void frmMain::showAbout() { frmAboutZephyrgraph(this).exec(); }
+void frmMain::showAbout(const QString& title) {
+    frmAboutZephyrgraph about(this);
+    if (!title.isEmpty()) about.setWindowTitle(title);
+    about.exec();
+}
 
 void frmMain::toolDropsSelection() {
     if (pgPolarGraph().SetActiveTool() != selectTool) return;

@@ -48,7 +48,7 @@ frmSplashScreen::frmSplashScreen(Host& host, std::function<void()> showMain)
 
 void frmSplashScreen::run() {
     show();
-    WaitMs(host_, splashMilliseconds);
+    WaitMs(host_, splashMilliseconds, [this] { return SplashClicked; });
     if (!SplashClicked) unloadAndShowMain();
 }
 

@@ -17,11 +17,15 @@ enum class EntryKind {
     Separator,
 };
 
+/// Whether an entry is out of reach while a curve is being painted.
+enum class Lock { Never, WhileDrawing };
+
 /// One row of the menu tree. The name is the entry's objectName; an entry of an array has its index behind
 /// "_".
 struct MenuEntry {
     int level;  ///< 0 stands on the menu bar
     EntryKind kind;
+    Lock lock;
     const char* name;
     const char* caption;
     const char* shortcut = "";

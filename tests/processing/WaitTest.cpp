@@ -46,6 +46,14 @@ TEST(WaitMsTest, AWaitWithinAWaitIsServed) {
     EXPECT_EQ(ends, (std::vector<std::int64_t>{0, 1300, 1300}));
 }
 
+TEST(WaitMsTest, IsOverAtOnceWhenItIsNoLongerWanted) {
+    BusyHost host;
+    WaitMs(host, 500, [&host] { return host.idles.size() == 2; });
+    EXPECT_EQ(host.idles, (std::vector<int>{500, 300}));
+    WaitMs(host, 500, [] { return true; });
+    EXPECT_EQ(host.idles.size(), 2U);
+}
+
 TEST(WaitMsTest, NoTimeIsNoWait) {
     TestHost host;
     WaitMs(host, 0);

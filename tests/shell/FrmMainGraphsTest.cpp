@@ -438,6 +438,44 @@ TEST_F(FrmMainGraphs, ACommentIsShownAfterALoad) {
     EXPECT_EQ(plot().Comment(), "second");
 }
 
+TEST_F(FrmMainGraphs, ACancelledCommentStays) {
+    plot().Comment("first");
+    QTimer::singleShot(0, [] {
+        auto* dialog = QApplication::activeModalWidget();
+        ASSERT_NE(dialog, nullptr);
+        dialog->findChild<QPlainTextEdit*>("txtComment")->setPlainText("second");
+        QTest::mouseClick(dialog->findChild<QWidget*>("cmdCancel"), Qt::LeftButton);
+    });
+    window_->PlotFrqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
+    EXPECT_EQ(plot().Comment(), "first");
+}
+
+TEST_F(FrmMainGraphs, PlotPressesTheArrowFirst) {
+    window_->pressTool(Tool::Zoom);
+    EXPECT_TRUE(child("lstZoom")->isVisible());
+    host_.boxAnswers = {BoxAnswer::Ok};
+    host_.onBox = [this] {
+        EXPECT_EQ(window_->activeTool(), Tool::Arrow) << "before the texts are looked at";
+        EXPECT_FALSE(child("lstZoom")->isVisible());
+    };
+    plotCurve("2*(");
+    EXPECT_EQ(host_.boxes.size(), 1U);
+    EXPECT_TRUE(child<QToolButton>("tblToolbox_Arrow")->isChecked());
+    EXPECT_EQ(plot().MousePointer(), 1);
+}
+
+TEST_F(FrmMainGraphs, ZeroDividedByZeroAtTheCheckStillPlots) {
+    host_.boxAnswers = {BoxAnswer::Ok};
+    plotCurve("sin(t)/t");
+    ASSERT_EQ(host_.boxes.size(), 1U);
+    EXPECT_EQ(host_.boxes[0].title, "Zephyrgraph") << "the sweep tells of its first angle, not the check";
+    EXPECT_EQ(plot().Plot().Count(), 1);
+    EXPECT_EQ(table().topLevelItemCount(), 1);
+    graph(1).StartingAngle = 1;
+    plot().Refresh();
+    EXPECT_GT(bluePixels(), 20);
+}
+
 TEST_F(FrmMainGraphs, AZoomClickOnThePlotAtTheLastPercentageWraps) {
     window_->pressTool(Tool::Zoom);
     auto* list = child<QListWidget>("lstZoom");

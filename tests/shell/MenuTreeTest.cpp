@@ -52,6 +52,41 @@ TEST_F(MenuTreeTest, ShortcutsAreThoseOfTheCommands) {
     EXPECT_EQ(actions_.at("mnuEditOption_1")->shortcut(), QKeySequence("Ctrl+A"));
 }
 
+/// What a menu shows from top to bottom, "-" for a separator.
+QStringList shownIn(const QAction& menu) {
+    QStringList rows;
+    for (const QAction* entry : menu.menu()->actions())
+        if (entry->isVisible()) rows.append(entry->isSeparator() ? QStringLiteral("-") : entry->text());
+    return rows;
+}
+
+TEST_F(MenuTreeTest, EveryMenuShowsItsEntriesInOrder) {
+    EXPECT_EQ(shownIn(*actions_.at("mnuFile")),
+              (QStringList{
+                  "Plot Wind Rose from FRQ File", "-", "Process 3D.DAT Data", "Process AERMET Surface Data",
+                  "Process AERMET Profile Data", "Process AMMNET Met. Data", "Process VENTOS Data",
+                  "Process SURF.DAT Data", "Process UP.DAT Data", "Process TSF Data", "-", "&Save (As BMP)",
+                  "&Batch Save (As BMP)", "-", "&Create Report (From BMP)", "&Print", "-", "E&xit"}));
+    EXPECT_EQ(shownIn(*actions_.at("mnuEdit")), (QStringList{"Copy", "Select &All", "-", "Copy To..."}));
+    EXPECT_EQ(shownIn(*actions_.at("mnuView")),
+              (QStringList{"Wind Rose  (Seasonal, etc...)", "FRQ File", "-", "Toolbar", "Toolbox", "-",
+                           "Ruler", "-", "Aspect &Ratio", "Zoom", "-", "Reset Drawing Area"}));
+    EXPECT_EQ(shownIn(*actions_.at("mnuViewRuler")), (QStringList{"Show", "Mode"}));
+    EXPECT_EQ(shownIn(*actions_.at("mnuViewRulerMode")), (QStringList{"Axis", "Unit"}));
+    EXPECT_EQ(shownIn(*actions_.at("mnuViewAspect")),
+              (QStringList{"1.5", "2.5", "3.5", "4.5", "-", "&Custom..."}));
+    EXPECT_EQ(shownIn(*actions_.at("mnuViewZoom")), (QStringList{"Normal Size", "Large Size", "Custom..."}));
+    EXPECT_EQ(shownIn(*actions_.at("mnuPolar")),
+              (QStringList{"Set Seasons", "Set Wind Speed Classes", "-", "Change Radius", "-", "Edit Label",
+                           "Edit Wind Speed Classes Legend", "Edit Grid Fonts and Colors", "-",
+                           "Show Grid Lines", "Show Grid Labels", "Show Legend"}));
+    EXPECT_EQ(shownIn(*actions_.at("mnuPolarOption_0")), (QStringList{"None", "Minor", "Major"}));
+    EXPECT_EQ(shownIn(*actions_.at("mnuGraph")),
+              (QStringList{"&Hide", "&Show", "&Delete", "-", "Select &All", "-", "&Play", "Sto&p", "-",
+                           "&Table...", "-", "&Properties"}));
+    EXPECT_EQ(shownIn(*actions_.at("mnuHelp")), (QStringList{"&About Zephyrgraph..."}));
+}
+
 TEST_F(MenuTreeTest, CaptionsKeepTheirDoubleBlanks) {
     EXPECT_EQ(actions_.at("mnuAvePeriod")->text(), "Wind Rose  (Seasonal, etc...)");
 }

@@ -1,0 +1,35 @@
+#include "shell/ProgramStart.h"
+
+#include <QApplication>
+#include <QStandardPaths>
+#include <QTimer>
+#include <memory>
+
+#include "platform/Errors.h"
+#include "platform/QtText.h"
+#include "shell/FrmMain.h"
+#include "shell/FrmSplashScreen.h"
+#include "shell/ReadOnlyPlace.h"
+
+namespace zg {
+
+int runProgram(Host& host) {
+    std::unique_ptr<frmMain> window;
+    const auto showMain = [&host, &window] {
+        window = std::make_unique<frmMain>(host);
+        guarded(host, [&window] { window->Form_Load(); })();
+        window->show();
+        // After the splash has gone.
+        QTimer::singleShot(0, window.get(), guarded(host, [&host] {
+                               const auto notes = QStandardPaths::AppConfigLocation;
+                               tellReadOnlyPlace(host, filePath(QStandardPaths::writableLocation(notes)));
+                           }));
+    };
+    frmSplashScreen splash(host, showMain);
+    splash.run();
+    // What ended before the loop began would not end the loop.
+    const bool goesOn = window && window->isVisible() && !window->ending();
+    return goesOn ? QApplication::exec() : 0;
+}
+
+}  // namespace zg

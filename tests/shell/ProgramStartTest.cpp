@@ -1,0 +1,89 @@
+// From the splash to the end of the program.
+
+#include "shell/ProgramStart.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTest>
+#include <QTimer>
+
+#include "base/Paths.h"
+#include "shell/FrmMain.h"
+#include "shell/settings/Settings.h"
+#include "shell/settings/StartSequence.h"
+#include "tests/support/TempDirectory.h"
+#include "tests/support/TestHost.h"
+
+namespace zg {
+namespace {
+
+constexpr int stillRunning = 7;
+
+class ProgramStart : public ::testing::Test {
+ protected:
+    void SetUp() override {
+        modPolarGraph = ModPolarGraph();
+        settings = Settings();
+        applicationDirectory = directory_.path();
+        startSettings();
+        // A program that does not end by itself ends here.
+        QTimer::singleShot(5000, &guard_, [] { QCoreApplication::exit(stillRunning); });
+    }
+
+    template <typename Window>
+    static Window* shownWindow(const char* name) {
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (widget->objectName() == QLatin1String(name) && widget->isVisible())
+                return dynamic_cast<Window*>(widget);
+        return nullptr;
+    }
+
+    /// What the user does once, in the first moment of the splash.
+    void during(const std::function<void()>& act) {
+        host_.onPump = [this, act] {
+            host_.onPump = nullptr;
+            act();
+        };
+    }
+
+    static frmMain& clickSplash() {
+        QTest::mouseClick(shownWindow<QWidget>("frmSplashScreen"), Qt::LeftButton);
+        return *shownWindow<frmMain>("frmMain");
+    }
+
+    TempDirectory directory_;
+    TestHost host_;
+    QObject guard_;
+};
+
+TEST_F(ProgramStart, ExitChosenWhileTheSplashStillWaitsEndsTheProgram) {
+    during([] { clickSplash().menuAction("mnuFileOption_18")->trigger(); });
+    EXPECT_EQ(runProgram(host_), 0);
+}
+
+TEST_F(ProgramStart, AWindowClosedWhileTheSplashStillWaitsEndsTheProgram) {
+    during([] { clickSplash().close(); });
+    EXPECT_EQ(runProgram(host_), 0);
+}
+
+TEST_F(ProgramStart, AfterTheSplashTheProgramGoesOnUntilItIsEnded) {
+    during([] {
+        clickSplash();
+        QTimer::singleShot(0, [] { QCoreApplication::exit(stillRunning); });
+    });
+    EXPECT_EQ(runProgram(host_), stillRunning);
+}
+
+TEST_F(ProgramStart, ExitAfterTheSplashEndsTheProgram) {
+    QTimer user;
+    QObject::connect(&user, &QTimer::timeout, [] {
+        if (auto* window = shownWindow<frmMain>("frmMain")) window->menuAction("mnuFileOption_18")->trigger();
+    });
+    user.start(10);
+    EXPECT_EQ(runProgram(host_), 0);
+    EXPECT_GE(host_.now, 1750);
+}
+
+}  // namespace
+}  // namespace zg
