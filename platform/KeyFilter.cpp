@@ -85,6 +85,13 @@ class EnterIsTab : public QObject {
 
 void enterIsTab(QWidget& field) { new EnterIsTab(field); }
 
+KeyFunction asciiOnly(KeyFunction function) {
+    return [function = std::move(function)](std::int16_t key) -> std::int16_t {
+        constexpr std::int16_t lastAscii = 127;
+        return key > lastAscii ? std::int16_t{0} : function(key);
+    };
+}
+
 void filterKeys(QLineEdit& box, KeyFunction function) {
     static const QString name = QStringLiteral("typedKeys");
     delete box.findChild<QObject*>(name, Qt::FindDirectChildrenOnly);

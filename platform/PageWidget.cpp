@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "platform/Errors.h"
-#include "platform/QtPicture.h"
+#include "platform/Pointers.h"
 
 namespace zg {
 
@@ -30,6 +30,10 @@ std::int16_t shiftState(Qt::KeyboardModifiers modifiers) {
     return state;
 }
 
+std::int16_t keyCodeOf(const QKeyEvent& event) {
+    return zg::keyCodeOf(event.key(), event.modifiers().testFlag(Qt::KeypadModifier));
+}
+
 Qt::CursorShape shapeOf(std::int16_t pointer) {
     constexpr std::array<std::pair<std::int16_t, Qt::CursorShape>, 9> shapes = {{{1, Qt::ArrowCursor},
                                                                                  {2, Qt::CrossCursor},
@@ -47,30 +51,28 @@ Qt::CursorShape shapeOf(std::int16_t pointer) {
 
 }  // namespace
 
-std::int16_t keyCodeOf(int key) {
+std::int16_t keyCodeOf(int key, bool onKeypad) {
+    using Codes = std::initializer_list<std::pair<int, std::int16_t>>;
+    static constexpr Codes keypad = {
+        {Qt::Key_Asterisk, 106}, {Qt::Key_Plus, 107}, {Qt::Key_Minus, 109}, {Qt::Key_Slash, 111}};
+    // "+" and "=" are one key, "-" and "_" another.
+    static constexpr Codes codes = {
+        {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},      {Qt::Key_Return, 13},     {Qt::Key_Enter, 13},
+        {Qt::Key_Shift, 16},    {Qt::Key_Control, 17}, {Qt::Key_Alt, 18},        {Qt::Key_AltGr, 18},
+        {Qt::Key_Escape, 27},   {Qt::Key_PageUp, 33},  {Qt::Key_PageDown, 34},   {Qt::Key_End, 35},
+        {Qt::Key_Home, 36},     {Qt::Key_Left, 37},    {Qt::Key_Up, 38},         {Qt::Key_Right, 39},
+        {Qt::Key_Down, 40},     {Qt::Key_Insert, 45},  {Qt::Key_Delete, 46},     {Qt::Key_Plus, 187},
+        {Qt::Key_Equal, 187},   {Qt::Key_Minus, 189},  {Qt::Key_Underscore, 189}};
     if ((key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9) ||
         key == Qt::Key_Space)
         return static_cast<std::int16_t>(key);
     if (key >= Qt::Key_F1 && key <= Qt::Key_F16) return static_cast<std::int16_t>(112 + key - Qt::Key_F1);
-    constexpr std::array<std::pair<int, std::int16_t>, 15> codes = {{{Qt::Key_Backspace, 8},
-                                                                     {Qt::Key_Tab, 9},
-                                                                     {Qt::Key_Return, 13},
-                                                                     {Qt::Key_Enter, 13},
-                                                                     {Qt::Key_Shift, 16},
-                                                                     {Qt::Key_Control, 17},
-                                                                     {Qt::Key_Escape, 27},
-                                                                     {Qt::Key_PageUp, 33},
-                                                                     {Qt::Key_PageDown, 34},
-                                                                     {Qt::Key_End, 35},
-                                                                     {Qt::Key_Home, 36},
-                                                                     {Qt::Key_Left, 37},
-                                                                     {Qt::Key_Up, 38},
-                                                                     {Qt::Key_Right, 39},
-                                                                     {Qt::Key_Down, 40}}};
+    if (onKeypad)
+        for (const auto& [qtKey, code] : keypad)
+            if (qtKey == key) return code;
     for (const auto& [qtKey, code] : codes)
         if (qtKey == key) return code;
-    if (key == Qt::Key_Insert) return 45;
-    return key == Qt::Key_Delete ? 46 : 0;
+    return 0;
 }
 
 PageWidget::PageWidget(PolarGraphWidget& owner) : QWidget(&owner), owner_(owner) {
@@ -86,8 +88,7 @@ void PageWidget::showPointer(std::int16_t pointer, const PicturePointer& icon) {
         setCursor(shapeOf(pointer));
         return;
     }
-    const auto& picture = static_cast<const QtPicture&>(*icon);
-    setCursor(QCursor(QPixmap::fromImage(picture.image()), picture.hotSpot().x(), picture.hotSpot().y()));
+    setCursor(cursorOf(*icon));
 }
 
 void PageWidget::paintEvent(QPaintEvent* event) {
@@ -173,7 +174,7 @@ void PageWidget::mouseDoubleClickEvent(QMouseEvent* event) {
 void PageWidget::keyPressEvent(QKeyEvent* event) {
     guarded(owner_.host_, [this, event] {
         const PolarGraphEvents& events = owner_.graph_->events;
-        std::int16_t code = keyCodeOf(event->key());
+        std::int16_t code = keyCodeOf(*event);
         if (events.KeyDown) events.KeyDown(code, shiftState(event->modifiers()));
         constexpr std::int16_t escape = 27;
         if (code == escape) owner_.graph_->cancelTool();  // unless the host has made use of the key
@@ -188,7 +189,7 @@ void PageWidget::keyPressEvent(QKeyEvent* event) {
 
 void PageWidget::keyReleaseEvent(QKeyEvent* event) {
     guarded(owner_.host_, [this, event] {
-        std::int16_t code = keyCodeOf(event->key());
+        std::int16_t code = keyCodeOf(*event);
         if (owner_.graph_->events.KeyUp) owner_.graph_->events.KeyUp(code, shiftState(event->modifiers()));
     })();
     event->ignore();

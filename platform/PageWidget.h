@@ -42,7 +42,8 @@ class PageWidget : public QWidget {
 };
 
 /// A key's number as the control's events give it: letters and digits by their upper-case character, others
-/// by the usual virtual key codes; 0 for keys without one.
-std::int16_t keyCodeOf(int key);
+/// by the usual virtual key codes, those of the
+/// keypad where they are pressed there; 0 for keys without one.
+std::int16_t keyCodeOf(int key, bool onKeypad = false);
 
 }  // namespace zg

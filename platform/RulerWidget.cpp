@@ -28,7 +28,7 @@ RulerWidget::RulerWidget(PolarGraphWidget& owner, RulerPart part, QWidget* paren
     : QWidget(parent), owner_(owner), part_(part) {
     setObjectName(nameOf(part));
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setCursor(part == RulerPart::Corner ? Qt::PointingHandCursor : Qt::SizeAllCursor);
+    setCursor(rulerCursor(part));
 }
 
 void RulerWidget::showTrackingLine(const ChildSurface& line) {

@@ -3,12 +3,11 @@
 #include <QWidget>
 
 #include "graph/control/PageLayout.h"
+#include "platform/Pointers.h"
 
 namespace zg {
 
 class PolarGraphWidget;
-
-enum class RulerPart { Top, Left, Corner };
 
 /// picRulerH, picRulerV and the corner picRulerJ, which resets the drawing area on a left click and changes
 /// the ruler mode on a right one. Dragging a ruler moves the page.

@@ -1,11 +1,8 @@
 #include "shell/Resources.h"
 
-#include <QGuiApplication>
-#include <QPainter>
-#include <QSvgRenderer>
 #include <map>
 
-#include "platform/QtPicture.h"
+#include "platform/Pointers.h"
 
 // Outside any namespace, as the toolkit's macro wants it: a library's resources have to be asked for.
 static void loadResources() { Q_INIT_RESOURCE(shell); }
@@ -13,8 +10,6 @@ static void loadResources() { Q_INIT_RESOURCE(shell); }
 namespace zg {
 
 namespace {
-
-constexpr int cursorSide = 32;
 
 /// Where each pointer points, in its 32 by 32 units.
 const std::map<int, QPoint>& hotSpots() {
@@ -35,21 +30,12 @@ PicturePointer cursorPicture(int id) {
     const auto spot = hotSpots().find(id);
     if (spot == hotSpots().end()) return nullptr;
     loadResources();
-    const double scale = qGuiApp->devicePixelRatio();
-    QImage image(qRound(cursorSide * scale), qRound(cursorSide * scale), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    QSvgRenderer(QStringLiteral(":/shell/icons/cursor_%1.svg").arg(id)).render(&painter);
-    painter.end();
-    image.setDevicePixelRatio(scale);
-    return std::make_shared<QtPicture>(image, spot->second);
+    return pointerPicture(QStringLiteral(":/shell/icons/cursor_%1.svg").arg(id), spot->second);
 }
 
 QCursor programCursor(int id) {
     const PicturePointer picture = cursorPicture(id);
-    if (!picture) return {};
-    const auto& drawn = static_cast<const QtPicture&>(*picture);
-    return QCursor(QPixmap::fromImage(drawn.image()), drawn.hotSpot().x(), drawn.hotSpot().y());
+    return picture ? cursorOf(*picture) : QCursor();
 }
 
 }  // namespace zg

@@ -13,6 +13,10 @@ namespace {
 constexpr Colour bandColour = rgb(172, 168, 153);
 constexpr Colour outlineGrey = rgb(128, 128, 128);
 constexpr double bandWidth = 2;
+constexpr double stripInset = 5;    // of the page's white strip, across the ruler
+constexpr double outlineInset = 4;  // of the grey line around it
+constexpr double numberedMark = 4;
+constexpr double shortMark = 2;
 constexpr double readableGap = 34;  // pixels that a number needs
 constexpr double smallestGap = 4;
 constexpr double textPlacing = 0.8;
@@ -72,13 +76,14 @@ void paintMark(Canvas& canvas, const RulerView& view, const RulerMark& mark) {
     const bool numbered = !mark.text.empty();
     const double at = std::round(mark.position);
     const double inner = view.thickness - bandWidth;
-    canvas.fillRectangle(onRuler(view, at, at + 1, inner - (numbered ? 6 : 3), inner), black);
+    canvas.fillRectangle(onRuler(view, at, at + 1, inner - (numbered ? numberedMark : shortMark), inner),
+                         black);
     if (!numbered) return;
     const TextSize size = canvas.measure(mark.text, numberStyle);
     if (view.horizontal)
-        canvas.setTextPosition({at - textPlacing * size.width / 2, 0});
+        canvas.setTextPosition({at - textPlacing * size.width / 2, stripInset});
     else
-        canvas.setTextPosition({1, at - textPlacing * size.height});
+        canvas.setTextPosition({stripInset, at - textPlacing * size.height});
     canvas.text(mark.text, numberStyle);
 }
 
@@ -91,8 +96,11 @@ std::vector<RulerMark> rulerMarks(const RulerView& view) {
 void paintRuler(Canvas& canvas, const RulerView& view) {
     canvas.clear(buttonFaceColour);
     const double pageEnd = view.pageStart + view.pageLength;
-    canvas.fillRectangle(onRuler(view, view.pageStart - 1, pageEnd + 1, 0, view.thickness), outlineGrey);
-    canvas.fillRectangle(onRuler(view, view.pageStart, pageEnd, 0, view.thickness), white);
+    canvas.fillRectangle(
+        onRuler(view, view.pageStart - 1, pageEnd + 1, outlineInset, view.thickness - outlineInset),
+        outlineGrey);
+    canvas.fillRectangle(onRuler(view, view.pageStart, pageEnd, stripInset, view.thickness - stripInset),
+                         white);
     canvas.fillRectangle(onRuler(view, 0, view.length, view.thickness - bandWidth, view.thickness),
                          bandColour);
     for (const RulerMark& mark : rulerMarks(view))

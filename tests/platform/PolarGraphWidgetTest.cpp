@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QMouseEvent>
 #include <QTest>
+#include <algorithm>
 
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
@@ -97,6 +100,90 @@ TEST_F(PolarGraphWidgetTest, KeysReachTheHostByTheirCodes) {
     QTest::keyClick(child("picGraph"), Qt::Key_A);
     QTest::keyClick(child("picGraph"), Qt::Key_Left);
     EXPECT_EQ(codes, (std::vector<int>{65, 1097, 37}));
+}
+
+TEST_F(PolarGraphWidgetTest, KeysHaveTheirUsualCodes) {
+    std::vector<int> codes;
+    widget_->graph().events.KeyDown = [&codes](std::int16_t& code, std::int16_t) { codes.push_back(code); };
+    for (const Qt::Key key : {Qt::Key_Minus, Qt::Key_Plus, Qt::Key_Equal, Qt::Key_Alt, Qt::Key_Shift,
+                              Qt::Key_F5, Qt::Key_Insert, Qt::Key_Delete, Qt::Key_MediaPlay})
+        QTest::keyClick(child("picGraph"), key);
+    QTest::keyClick(child("picGraph"), Qt::Key_Minus, Qt::KeypadModifier);
+    QTest::keyClick(child("picGraph"), Qt::Key_Plus, Qt::KeypadModifier);
+    EXPECT_EQ(codes, (std::vector<int>{189, 187, 187, 18, 16, 116, 45, 46, 0, 109, 107}));
+}
+
+TEST_F(PolarGraphWidgetTest, ADoubleClickIsToldAfterItsPresses) {
+    std::vector<std::string> seen;
+    PolarGraphEvents& events = widget_->graph().events;
+    events.MouseDown = [&seen](std::int16_t, std::int16_t, float, float) { seen.emplace_back("down"); };
+    events.Click = [&seen] { seen.emplace_back("click"); };
+    events.DblClick = [&seen] { seen.emplace_back("double"); };
+    QTest::mouseDClick(child("picGraph"), Qt::LeftButton, Qt::NoModifier, QPoint(20, 30));
+    EXPECT_EQ(std::count(seen.begin(), seen.end(), "double"), 1);
+    const auto at = std::find(seen.begin(), seen.end(), "double");
+    EXPECT_EQ(*(at - 1), "down");
+}
+
+TEST_F(PolarGraphWidgetTest, TheRulersSurfacesHavePointersOfTheirOwn) {
+    std::vector<QImage> pointers;
+    for (const char* name : {"picRulerH", "picRulerV", "picRulerJ"}) {
+        const QCursor cursor = child(name)->cursor();
+        EXPECT_EQ(cursor.shape(), Qt::BitmapCursor) << name;
+        pointers.push_back(cursor.pixmap().toImage());
+        EXPECT_FALSE(pointers.back().isNull()) << name;
+    }
+    EXPECT_NE(pointers[0], pointers[1]);
+    EXPECT_NE(pointers[0], pointers[2]);
+    EXPECT_NE(pointers[1], pointers[2]);
+}
+
+TEST_F(PolarGraphWidgetTest, DraggingEitherRulerMovesThePageAlongBothAxes) {
+    widget_->graph().ShowRuler(true);
+    for (const char* name : {"picRulerH", "picRulerV"}) {
+        QWidget* ruler = child(name);
+        widget_->graph().OffsetDrawingAreaX(50);
+        widget_->graph().OffsetDrawingAreaY(60);
+        QTest::mousePress(ruler, Qt::LeftButton, Qt::NoModifier, QPoint(8, 9));
+        QMouseEvent move(QEvent::MouseMove, QPointF(18, 4), ruler->mapToGlobal(QPointF(18, 4)), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(ruler, &move);
+        EXPECT_EQ(widget_->graph().OffsetDrawingAreaX(), 60) << name;
+        EXPECT_EQ(widget_->graph().OffsetDrawingAreaY(), 55) << name;
+        QTest::mouseRelease(ruler, Qt::LeftButton, Qt::NoModifier, QPoint(18, 4));
+        QMouseEvent free(QEvent::MouseMove, QPointF(30, 30), ruler->mapToGlobal(QPointF(30, 30)),
+                         Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(ruler, &free);
+        EXPECT_EQ(widget_->graph().OffsetDrawingAreaX(), 60) << name << ": without the button it stays";
+    }
+}
+
+TEST_F(PolarGraphWidgetTest, TheCornerResetsByItsLeftButtonAndChangesTheModeByItsRight) {
+    widget_->graph().ShowRuler(true);
+    widget_->graph().OffsetDrawingAreaX(150);
+    QTest::mousePress(child("picRulerJ"), Qt::LeftButton);
+    EXPECT_EQ(child("picGraph")->pos(), QPoint(25, 25));
+    EXPECT_EQ(widget_->graph().SetRulerMode(), 1);
+    QTest::mousePress(child("picRulerJ"), Qt::RightButton);
+    EXPECT_EQ(widget_->graph().SetRulerMode(), 0);
+    QTest::mousePress(child("picRulerJ"), Qt::MiddleButton);
+    EXPECT_EQ(widget_->graph().SetRulerMode(), 0);
+}
+
+TEST_F(PolarGraphWidgetTest, TheTrackingLinesGoWhenThePointerLeavesThePage) {
+    widget_->graph().ShowRuler(true);
+    widget_->graph().ResetDrawingArea();
+    const auto tracked = [this](const char* name, QPoint at) {
+        return child(name)->grab().toImage().pixelColor(at) == QColor(200, 0, 0);
+    };
+    QTest::mouseMove(child("picGraph"), QPoint(100, 200));
+    // The page lies 25 pixels from the edges, the rulers' holders begin at 20.
+    EXPECT_TRUE(tracked("picRulerH", QPoint(105, 2)));
+    EXPECT_TRUE(tracked("picRulerV", QPoint(2, 205)));
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(child("picGraph"), &leave);
+    EXPECT_FALSE(tracked("picRulerH", QPoint(105, 2)));
+    EXPECT_FALSE(tracked("picRulerV", QPoint(2, 205)));
 }
 
 TEST_F(PolarGraphWidgetTest, AnErrorInAHandlerIsShownAndTheControlGoesOn) {

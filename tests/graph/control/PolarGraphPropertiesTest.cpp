@@ -80,6 +80,13 @@ TEST_F(PolarGraphProperties, AspectRatioKeepsFourDecimals) {
     EXPECT_EQ(graph.AspectRatio(), 0.0001F);
 }
 
+TEST_F(PolarGraphProperties, AspectRatioHalfwayBetweenTwoRoundsToTheEvenOne) {
+    graph.AspectRatio(0.03125F);
+    EXPECT_EQ(graph.AspectRatio(), 0.0312F);
+    graph.AspectRatio(0.09375F);
+    EXPECT_EQ(graph.AspectRatio(), 0.0938F);
+}
+
 TEST_F(PolarGraphProperties, AspectRatioThatRoundsToZeroBecomesTheSmallest) {
     graph.AspectRatio(0.00001F);
     EXPECT_EQ(graph.AspectRatio(), 0.0001F);
@@ -275,6 +282,16 @@ TEST_F(PolarGraphProperties, ReloadingFromAnEmptyStoreGivesTheDefaults) {
     EXPECT_EQ(graph.Comment(), "");
     EXPECT_EQ(window.pageSizes, (std::vector<std::pair<int, int>>{{300, 300}}));
     EXPECT_EQ(window.frames(), 1U);
+}
+
+TEST_F(PolarGraphProperties, ReloadingKeepsTheSizeOfTheControl) {
+    graph.layout(500, 400);
+    PropertyBag bag;
+    bag.WriteProperty("ShowRuler", "True");
+    graph.ReadProperties(bag);
+    EXPECT_EQ(graph.surfaces().hsScroll.top, 400 - scrollBarThickness);
+    EXPECT_EQ(graph.surfaces().vsScroll.left, 500 - scrollBarThickness);
+    EXPECT_EQ(graph.surfaces().picHolderRH.width, 500 - scrollBarThickness - rulerThickness);
 }
 
 TEST_F(PolarGraphProperties, StoredValueOfTheWrongKindIsAnErrorAndChangesNothing) {

@@ -64,14 +64,24 @@ TEST(Rulers, NothingIsMarkedBeforeTheFirstDrawing) {
     EXPECT_TRUE(rulerMarks(view).empty());
 }
 
-TEST(Rulers, TheBaseIsTheButtonFaceWithABandNextToThePage) {
+/// What is filled, the marks left out.
+std::vector<drawn::FillRectangle> ground(const RecordingCanvas& canvas) {
+    std::vector<drawn::FillRectangle> found;
+    for (const drawn::FillRectangle& one : canvas.all<drawn::FillRectangle>())
+        if (one.colour != black) found.push_back(one);
+    return found;
+}
+
+TEST(Rulers, TheBaseIsTheButtonFaceWithThePagesOutlineAndABandNextToThePage) {
     RecordingCanvas canvas(700, 20);
     paintRuler(canvas, viewOfSixHundred());
-    EXPECT_EQ(canvas.all<drawn::Clear>().at(0).colour, buttonFaceColour);
-    const auto rectangles = canvas.all<drawn::FillRectangle>();
-    EXPECT_EQ(rectangles.at(1).rectangle, (Rect{5, 0, 605, 20}));
-    EXPECT_EQ(rectangles.at(2).rectangle, (Rect{0, 18, 700, 20}));
-    EXPECT_EQ(rectangles.at(2).colour, rgb(172, 168, 153));
+    EXPECT_EQ(canvas.all<drawn::Clear>(), (std::vector<drawn::Clear>{{buttonFaceColour}}));
+    const Colour grey = rgb(128, 128, 128);
+    const Colour band = rgb(172, 168, 153);
+    EXPECT_EQ(ground(canvas),
+              (std::vector<drawn::FillRectangle>{
+                  {{4, 4, 606, 16}, grey}, {{5, 5, 605, 15}, white}, {{0, 18, 700, 20}, band}}))
+        << "white five off, grey four off, its ends one pixel outside the page";
 }
 
 TEST(Rulers, AnUprightRulerRunsDownThePage) {
@@ -79,7 +89,55 @@ TEST(Rulers, AnUprightRulerRunsDownThePage) {
     view.horizontal = false;
     RecordingCanvas canvas(20, 700);
     paintRuler(canvas, view);
-    EXPECT_EQ(canvas.all<drawn::FillRectangle>().at(1).rectangle, (Rect{0, 5, 20, 605}));
+    const auto filled = ground(canvas);
+    EXPECT_EQ(filled.at(0).rectangle, (Rect{4, 4, 16, 606}));
+    EXPECT_EQ(filled.at(1).rectangle, (Rect{5, 5, 15, 605}));
+    EXPECT_EQ(filled.at(2).rectangle, (Rect{18, 0, 20, 700}));
+}
+
+TEST(Rulers, MarksStandOnTheBandAndNumberedOnesAreLonger) {
+    RecordingCanvas canvas(700, 20);
+    paintRuler(canvas, viewOfSixHundred());
+    std::vector<Rect> marks;
+    for (const drawn::FillRectangle& one : canvas.all<drawn::FillRectangle>())
+        if (one.colour == black) marks.push_back(one.rectangle);
+    ASSERT_EQ(marks.size(), 31U);
+    EXPECT_EQ(marks[15], (Rect{305, 14, 306, 18}));
+    EXPECT_EQ(marks[16], (Rect{325, 16, 326, 18}));
+}
+
+TEST(Rulers, NumbersArePlacedAtTheirMarkByFourFifthsOfTheirSize) {
+    RulerView view = viewOfSixHundred();
+    RecordingCanvas canvas(700, 20);
+    paintRuler(canvas, view);
+    const drawn::Text zero = canvas.textReading("0");
+    const TextSize size = canvas.measure("0", zero.style);
+    EXPECT_DOUBLE_EQ(zero.at.x, 305 - 0.8 * size.width / 2);
+    view.horizontal = false;
+    RecordingCanvas upright(20, 700);
+    paintRuler(upright, view);
+    EXPECT_DOUBLE_EQ(upright.textReading("0").at.y, 305 - 0.8 * size.height);
+}
+
+TEST(Rulers, MarksOutOfSightAreNotPainted) {
+    RulerView view = viewOfSixHundred();
+    view.length = 100;
+    RecordingCanvas canvas(100, 20);
+    paintRuler(canvas, view);
+    for (const drawn::FillRectangle& one : canvas.all<drawn::FillRectangle>())
+        if (one.colour == black) {
+            EXPECT_LE(one.rectangle.left, 100 + 34);
+        }
+    EXPECT_EQ(ground(canvas).at(2).rectangle, (Rect{0, 18, 100, 20})) << "the band ends with the ruler";
+}
+
+TEST(Rulers, TheCornerShowsACrossOnTheButtonFace) {
+    RecordingCanvas canvas(20, 20);
+    paintRulerCorner(canvas);
+    EXPECT_EQ(canvas.all<drawn::Clear>(), (std::vector<drawn::Clear>{{buttonFaceColour}}));
+    EXPECT_EQ(ground(canvas).at(0).rectangle, (Rect{18, 0, 20, 20}));
+    EXPECT_EQ(ground(canvas).at(1).rectangle, (Rect{0, 18, 20, 20}));
+    EXPECT_EQ(canvas.all<drawn::Line>().size(), 2U);
 }
 
 }  // namespace

@@ -1,0 +1,52 @@
+#include "platform/Pointers.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <QSvgRenderer>
+
+#include "platform/QtPicture.h"
+
+// Outside any namespace, as the toolkit's macro wants it: a library's resources have to be asked for.
+static void loadResources() { Q_INIT_RESOURCE(platform); }
+
+namespace zg {
+
+namespace {
+
+constexpr int pointerSide = 32;
+
+}  // namespace
+
+PicturePointer pointerPicture(const QString& resource, QPoint hotSpot) {
+    const double scale = qGuiApp->devicePixelRatio();
+    const int side = qRound(pointerSide * scale);
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    QSvgRenderer(resource).render(&painter);
+    painter.end();
+    image.setDevicePixelRatio(scale);
+    return std::make_shared<QtPicture>(image, hotSpot);
+}
+
+QCursor cursorOf(const Picture& pointer) {
+    const auto& picture = static_cast<const QtPicture&>(pointer);
+    return QCursor(QPixmap::fromImage(picture.image()), picture.hotSpot().x(), picture.hotSpot().y());
+}
+
+QCursor rulerCursor(RulerPart part) {
+    loadResources();
+    switch (part) {
+        case RulerPart::Top:
+            return cursorOf(
+                *pointerPicture(QStringLiteral(":/platform/pointers/ruler_top.svg"), QPoint(16, 18)));
+        case RulerPart::Left:
+            return cursorOf(
+                *pointerPicture(QStringLiteral(":/platform/pointers/ruler_left.svg"), QPoint(18, 16)));
+        case RulerPart::Corner:
+            break;
+    }
+    return cursorOf(*pointerPicture(QStringLiteral(":/platform/pointers/ruler_corner.svg"), QPoint(6, 6)));
+}
+
+}  // namespace zg
