@@ -28,7 +28,7 @@ frmAspect::frmAspect(Host& host, PolarGraph& graph, QWidget* parent)
     filterKeys(*txtAspect, [this](std::int16_t key) -> std::int16_t {
         const bool secondPoint = key == '.' && txtAspect->text().contains(QLatin1Char('.')) &&
                                  !txtAspect->selectedText().contains(QLatin1Char('.'));
-        return secondPoint ? std::int16_t{0} : KeyNumericPositive(key);
+        return secondPoint ? std::int16_t{0} : asciiOnly(KeyNumericPositive)(key);
     });
 
     auto* inFrame = new QVBoxLayout(frame);

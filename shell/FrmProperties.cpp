@@ -2,6 +2,7 @@
 
 #include <QVBoxLayout>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 #include "base/Numbers.h"
@@ -27,6 +28,20 @@ std::optional<double> numberIn(const QLineEdit& box) {
     } catch (const RunTimeError&) {
         return std::nullopt;  // also a pasted text that is no number
     }
+}
+
+/// A size of a picture: nothing for a text that is no number, or a number that rounds to none.
+std::optional<double> roundedSize(const QLineEdit& box) {
+    const std::optional<double> number = numberIn(box);
+    if (!number || !(roundHalfEven(*number) > 0)) return std::nullopt;
+    return roundHalfEven(*number);
+}
+
+/// The same as far as a size has room for it.
+std::optional<std::int32_t> sizeIn(const QLineEdit& box) {
+    const std::optional<double> size = roundedSize(box);
+    if (!size || *size > std::numeric_limits<std::int32_t>::max()) return std::nullopt;
+    return static_cast<std::int32_t>(*size);
 }
 
 }  // namespace
@@ -153,11 +168,8 @@ Series frmProperties::shownSeries() const {
     marker.Style = chosenCharacter(*cmbMstyle);
     marker.Transparent = chkMtrans->isChecked();
     marker.UsePicture = optMtype[0]->isChecked();
-    const auto size = [](const QLineEdit& box, std::int32_t stored) {
-        const double value = numberIn(box).value_or(0);
-        return value >= 1 && value <= 32767 ? static_cast<std::int32_t>(value) : stored;
-    };
-    marker.SetPictureSize(size(*txtMsize[0], marker.PictureWidth), size(*txtMsize[1], marker.PictureHeight));
+    marker.SetPictureSize(sizeIn(*txtMsize[0]).value_or(marker.PictureWidth),
+                          sizeIn(*txtMsize[1]).value_or(marker.PictureHeight));
     if (!txtMpicloc[0]->text().isEmpty()) marker.PicturePath = filePath(txtMpicloc[0]->text());
     if (!txtMpicloc[1]->text().isEmpty()) marker.MaskPicturePath = filePath(txtMpicloc[1]->text());
     return series;
@@ -167,6 +179,7 @@ void frmProperties::drawSample() {
     Series series = shownSeries();
     MarkerPictures pictures;
     if (series.Marker.UsePicture) {
+        series.Marker.Transparent = true;  // the sample shows a picture through its mask, or not at all
         pictures = {loadMarkerPicture(filePath(txtMpicloc[0]->text())),
                     loadMarkerPicture(filePath(txtMpicloc[1]->text()))};
         if (chkMautosize->isChecked() && pictures.picture)
@@ -196,8 +209,23 @@ void frmProperties::checkDelay() {
 
 void frmProperties::checkSize(std::size_t index) {
     if (chkMautosize->isChecked()) return;
-    const std::optional<double> size = numberIn(*txtMsize[index]);
-    if (size && *size > 0) return;
+    if (const std::optional<double> size = roundedSize(*txtMsize[index])) {
+        const QString whole = shown(doubleText(*size));
+        if (txtMsize[index]->text() != whole) txtMsize[index]->setText(whole);
+        return;
+    }
+    showStoredSize(index);
+}
+
+/// What the box shows is what is applied: a size beyond any is told, as a delay that is too long, and a
+/// locked box takes back the stored one.
+void frmProperties::takeSize(std::size_t index) {
+    if (sizeIn(*txtMsize[index])) return;
+    if (!chkMautosize->isChecked()) zg::raise(ErrorNumber::Overflow);
+    showStoredSize(index);
+}
+
+void frmProperties::showStoredSize(std::size_t index) {
     const Marker& marker = graph_.Series.Marker;
     txtMsize[index]->setText(QString::number(index == 0 ? marker.PictureWidth : marker.PictureHeight));
 }
@@ -239,6 +267,7 @@ void frmProperties::cmdMpicloc_Click(std::size_t index) {
 
 void frmProperties::cmdApply_Click() {
     checkAll();
+    for (std::size_t i = 0; i < 2; ++i) takeSize(i);
     graph_.Series = shownSeries();
     graph_.StartingAngle = toSingle(typed(txtAngle[0]->text()));
     graph_.EndingAngle = toSingle(typed(txtAngle[1]->text()));

@@ -50,6 +50,8 @@ class frmProperties : public QDialog {
     void checkStep();
     void checkDelay();
     void checkSize(std::size_t index);
+    void takeSize(std::size_t index);
+    void showStoredSize(std::size_t index);
     void checkAll();
 
     void pickColour(ColourBox& box);

@@ -43,9 +43,10 @@ frmZoom::frmZoom(Host& host, PolarGraph& graph, QWidget* parent)
     cmbZoom->setAccessibleName(spoken(frame->title()));
     cmbZoom->setEditable(true);
     cmbZoom->setInsertPolicy(QComboBox::NoInsert);
+    cmbZoom->setCompleter(nullptr);  // it would make 125 of a typed 12
     cmbZoom->addItems(zoomRows());
     cmbZoom->setCurrentText(QString::number(graph.Zoom()));
-    filterKeys(*cmbZoom->lineEdit(), KeyNumericInteger);
+    filterKeys(*cmbZoom->lineEdit(), asciiOnly(KeyNumericInteger));
 
     auto* inFrame = new QVBoxLayout(frame);
     inFrame->addWidget(lblLabel);

@@ -231,6 +231,43 @@ TEST_F(FrmProperties, ASizeReturnsToTheStoredOneWhileAutosizeIsOff) {
     EXPECT_FALSE(box("txtMsize_0").isEnabled());
 }
 
+TEST_F(FrmProperties, ALargeSizeReachesTheGraphAndOneBeyondAnyIsTold) {
+    graph_.Series.AllowMarker = true;
+    graph_.Series.Marker.UsePicture = true;
+    graph_.Series.Marker.AutoSize = 0;
+    open();
+    EXPECT_EQ(left("txtMsize_0", "40000"), "40000");
+    EXPECT_EQ(left("txtMsize_1", "2147483647"), "2147483647");
+    click("cmdApply");
+    EXPECT_EQ(graph_.Series.Marker.PictureWidth, 40000);
+    EXPECT_EQ(graph_.Series.Marker.PictureHeight, 2147483647);
+    EXPECT_EQ(left("txtMsize_0", "2147483648"), "2147483648");
+    host_.boxAnswers = {BoxAnswer::Ok};
+    click("cmdApply");
+    EXPECT_EQ(host_.boxes[0].text, "Run-time error '6':\n\nOverflow");
+    EXPECT_EQ(graph_.Series.Marker.PictureWidth, 40000);
+    EXPECT_TRUE(canApply());
+    EXPECT_TRUE(form_->isVisible());
+}
+
+TEST_F(FrmProperties, TheBoxShowsTheSizeThatIsApplied) {
+    graph_.Series.AllowMarker = true;
+    graph_.Series.Marker.UsePicture = true;
+    graph_.Series.Marker.AutoSize = 0;
+    open();
+    box("txtMsize_0").setText("12.5");
+    box("txtMsize_1").setText("0.4");
+    click("cmdApply");
+    EXPECT_EQ(box("txtMsize_0").text(), "12") << "a pasted fraction is rounded to the even one";
+    EXPECT_EQ(graph_.Series.Marker.PictureWidth, 12);
+    EXPECT_EQ(box("txtMsize_1").text(), "16") << "what rounds to none takes back the stored size";
+    check("chkMautosize");
+    box("txtMsize_0").setText("9999999999");
+    click("cmdApply");
+    EXPECT_EQ(box("txtMsize_0").text(), "12") << "a locked box too";
+    EXPECT_TRUE(host_.boxes.empty());
+}
+
 TEST_F(FrmProperties, TheSampleFollowsTheFields) {
     graph_.Series.Marker.Font = {"Arial", 20, true, false};
     open();
@@ -262,7 +299,11 @@ TEST_F(FrmProperties, APictureIsDrawnThroughItsMaskAndAMissingOneIsNot) {
         open();
         EXPECT_EQ(inked(), 100) << kind;
     }
+    check("chkMtrans");
+    EXPECT_EQ(inked(), 100) << "through its mask whether transparent or not";
     box("txtMpicloc_1").setText("/nowhere.bmp");
+    EXPECT_EQ(inked(), 0) << "one file that is missing draws nothing";
+    check("chkMtrans");
     EXPECT_EQ(inked(), 0);
     EXPECT_TRUE(host_.boxes.empty());
 }
@@ -275,8 +316,11 @@ TEST_F(FrmProperties, AGifIsAPictureToo) {
     graph_.Series.Marker.UsePicture = true;
     graph_.Series.Marker.AutoSize = 0;
     graph_.Series.Marker.SetPictureSize(6, 6);
-    graph_.Series.Marker.Transparent = false;
     graph_.Series.Marker.PicturePath = directory_.write("red.gif", gif.toStdString());
+    QImage mask(1, 1, QImage::Format_RGB32);
+    mask.fill(Qt::black);
+    ASSERT_TRUE(mask.save(QString::fromStdString(directory_.file("mask.bmp"))));
+    graph_.Series.Marker.MaskPicturePath = directory_.file("mask.bmp");
     open();
     EXPECT_GE(inked(), 36) << "its edges may lie between pixels";
 }

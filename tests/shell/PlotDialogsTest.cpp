@@ -4,6 +4,7 @@
 
 #include <QTest>
 #include <filesystem>
+#include <fstream>
 
 #include "base/Paths.h"
 #include "base/Text.h"
@@ -27,6 +28,11 @@ namespace zg {
 namespace {
 
 const std::string sample = ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq";
+
+std::string readBytes(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
 
 class PlotOptions : public ::testing::Test {
  protected:
@@ -87,6 +93,53 @@ TEST_F(PlotOptions, ARoseIsChosenByItsNumber) {
     EXPECT_EQ(modPolarGraph.FrqDirectionLabel(1), label);
     EXPECT_NE(page(), before);
     EXPECT_FALSE(form_->isVisible());
+}
+
+TEST_F(PlotOptions, TheChoiceStartsAtTheRoseOnShowAndTheSubtitleStays) {
+    load();
+    modPolarGraph.CurrentRose = 4;
+    modPolarGraph.GraphSubTitle = "kept too";
+    open<frmSelectWindRose>();
+    auto* list = child<QComboBox>("cboWindRoseNumber");
+    EXPECT_EQ(list->currentIndex(), 3);
+    EXPECT_EQ(list->currentText().toStdString(), "4 - " + modPolarGraph.FrqRoseTitle(4));
+    list->setCurrentIndex(8);
+    click("cmdOk");
+    EXPECT_EQ(modPolarGraph.CurrentRose, 9);
+    EXPECT_EQ(modPolarGraph.GraphSubTitle, "kept too");
+}
+
+TEST_F(PlotOptions, EscapeLeavesTheRoseAndEnterTakesIt) {
+    load();
+    open<frmSelectWindRose>();
+    child<QComboBox>("cboWindRoseNumber")->setCurrentIndex(5);
+    QTest::keyClick(form_.get(), Qt::Key_Escape);
+    EXPECT_FALSE(form_->isVisible());
+    EXPECT_EQ(modPolarGraph.CurrentRose, 1);
+    open<frmSelectWindRose>();
+    auto* list = child<QComboBox>("cboWindRoseNumber");
+    list->setFocus();
+    list->setCurrentIndex(5);
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_FALSE(form_->isVisible());
+    EXPECT_EQ(modPolarGraph.CurrentRose, 6);
+    EXPECT_EQ(modPolarGraph.GraphCaption, modPolarGraph.FrqRoseCaption(6));
+}
+
+TEST_F(PlotOptions, AFileOfOneRoseLeavesNothingToChoose) {
+    // The heading of the sample and its first block.
+    const std::string text = readBytes(sample);
+    std::size_t end = 0;
+    for (int line = 0; line < 9 + 22; ++line) end = text.find('\n', end) + 1;
+    plot().OpenFreqFile(directory_.write("one.frq", text.substr(0, end)));
+    ASSERT_EQ(modPolarGraph.FrqRoseCount, 1);
+    open<frmSelectWindRose>();
+    EXPECT_EQ(child<QComboBox>("cboWindRoseNumber")->count(), 0);
+    EXPECT_FALSE(child("cboWindRoseNumber")->isEnabled());
+    EXPECT_EQ(fieldMark(*child("cboWindRoseNumber")), buttonFaceColour);
+    EXPECT_FALSE(child("cmdOk")->isEnabled());
+    QTest::keyClick(form_.get(), Qt::Key_Return);
+    EXPECT_EQ(modPolarGraph.CurrentRose, 1);
 }
 
 TEST_F(PlotOptions, ATitleWithAHyphenDoesNoHarm) {

@@ -263,5 +263,41 @@ TEST_F(PlotDialogs, ZoomOffersItsRowsAndTakesDigits) {
     EXPECT_EQ(list->currentText(), "150");
 }
 
+TEST_F(PlotDialogs, ATypedZoomIsNotCompletedToARowOfTheList) {
+    frmZoom form(host_, plot());
+    form.show();
+    auto* list = form.findChild<QComboBox*>("cmbZoom");
+    list->lineEdit()->selectAll();
+    QTest::keyClicks(list->lineEdit(), "12");
+    EXPECT_EQ(list->currentText(), "12");
+    list->lineEdit()->selectAll();
+    QTest::keyClicks(list->lineEdit(), "42");
+    QTest::mouseClick(form.findChild<QPushButton*>("cmdOk"), Qt::LeftButton);
+    EXPECT_EQ(plot().Zoom(), 42);
+}
+
+/// Key presses that carry their characters, as those of a keyboard that has them.
+void typeEach(QWidget& box, const QString& text) {
+    for (const QChar character : text) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(character));
+        QApplication::sendEvent(&box, &press);
+    }
+}
+
+TEST_F(PlotDialogs, NoCharacterAboveTheDigitsOfTheKeyboardGetsIn) {
+    frmZoom zoom(host_, plot());
+    zoom.show();
+    auto* list = zoom.findChild<QComboBox*>("cmbZoom");
+    list->clearEditText();
+    typeEach(*list->lineEdit(), QString::fromUtf8("2\u00E95\u20AC\u0663"));
+    EXPECT_EQ(list->currentText(), "25");
+    frmAspect aspect(host_, plot());
+    aspect.show();
+    auto* text = aspect.findChild<QLineEdit*>("txtAspect");
+    text->clear();
+    typeEach(*text, QString::fromUtf8("2\u00E9.5\u20AC"));
+    EXPECT_EQ(text->text(), "2.5");
+}
+
 }  // namespace
 }  // namespace zg
