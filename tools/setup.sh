@@ -5,6 +5,7 @@
 #   tools/setup.sh --e2e      and what the walk through the program in a real window needs
 #   tools/setup.sh --checks   and what the stricter checks need
 #   tools/setup.sh --windows  and the compiler for Windows
+#   tools/setup.sh --cluster  what tests/cluster/slurm.sh needs, and nothing else
 set -euo pipefail
 
 packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libcli11-dev nlohmann-json3-dev libproj-dev
@@ -12,12 +13,17 @@ packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libcli11-dev nlohmann-j
 tests=(libgtest-dev libbenchmark-dev libmuparser-dev parallel python3 clang libclang-rt-14-dev)
 e2e=(xvfb openbox xdotool imagemagick)
 checks=(clang-format clang-tidy cppcheck git debootstrap dpkg-dev file)
+cluster=(slurmctld slurmd slurm-client munge python3)
 
 case "${1:-}" in
     "") ;;
     --tests) packages+=("${tests[@]}") ;;
     --e2e) packages+=("${tests[@]}" "${e2e[@]}") ;;
-    --checks) packages+=("${tests[@]}" "${e2e[@]}" "${checks[@]}") ;;
+    --checks)
+        packages+=("${tests[@]}" "${e2e[@]}" "${checks[@]}")
+        "$0" --cluster || echo "tools/setup.sh: no Slurm can be had here: tests/cluster/slurm.sh will be skipped" >&2
+        ;;
+    --cluster) packages=("${cluster[@]}") ;;
     --windows) packages+=(g++-mingw-w64-x86-64-posix) ;;
     *) echo "tools/setup.sh: unknown option $1" >&2; exit 2 ;;
 esac
@@ -49,3 +55,10 @@ export DEBIAN_FRONTEND=noninteractive
 install() { "${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null; }
 # The package lists may be missing or too old: only then are they fetched.
 install 2>/dev/null || { "${as_root[@]}" apt-get update -qq && install; }
+
+# The checks start daemons of their own; those of the packages that came just now are not to run.
+if [ "${1:-}" = --cluster ] && [ -d /run/systemd/system ]; then
+    for service in munge slurmctld slurmd; do
+        case " ${missing[*]} " in *" $service "*) "${as_root[@]}" systemctl disable --now --quiet $service || true ;; esac
+    done
+fi
