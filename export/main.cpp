@@ -11,6 +11,7 @@
 #endif
 
 #include "base/Paths.h"
+#include "base/Version.h"
 #include "export/ExportRoses.h"
 
 namespace {
@@ -54,6 +55,8 @@ int main(int argc, char** argv) {
         ->capture_default_str()
         ->check(CLI::Range(1, zg::mostJobs))
         ->type_name("N");
+    app.set_version_flag("--version", std::string("zephyrgraph-export ") + zg::versionNumber,
+                         "Tell the version and exit");
     bool quiet = false;
     app.add_flag("--quiet", quiet, "Show no progress bar on a terminal");
     app.add_flag("--tables", job.tables,

@@ -98,7 +98,8 @@ class Run {
     void await(const RunOutput& output) {
         awaitMarker();
         hooks_.showName(output.name);
-        const std::string result = existingFile(directory_ + output.name + ".frq");
+        // Blanks around a value of the control file are no part of it.
+        const std::string result = existingFile(directory_ + trim(output.name) + ".frq");
         made_ = !result.empty();
         if (made_) {
             step([&] { hooks_.load(result); });

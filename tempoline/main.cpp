@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Version.h"
 #include "tempoline/Interrupt.h"
 #include "tempoline/Merge.h"
 #include "tempoline/Run.h"
@@ -17,7 +18,19 @@ using zg::tempoline::Failure;
 
 constexpr const char* usage =
     "usage: tempoline.exe CONTROLFILE\n"
-    "       tempoline.exe --merge [--out NAME] A.tab B.tab ...\n";
+    "       tempoline.exe --merge [--out NAME] A.tab B.tab ...\n"
+    "       tempoline.exe --help | --version\n";
+
+constexpr const char* help =
+    "\n"
+    "Counts the winds of raw data and writes roses (FRQ), their counts (TAB) and the winds step by step "
+    "(TSF)\n"
+    "into the current directory, as the control file asks, with a listing that tells the run.\n"
+    "--merge adds the counts of runs over parts of the data: NAME.frq and NAME.tab, \"merged\" without "
+    "--out.\n"
+    "\n"
+    "Exit status: 0 completed, 1 the data or the disk, 2 the control file or the command line, 130 "
+    "interrupted.\n";
 
 ExitStatus merge(const std::vector<std::string>& arguments) {
     std::string name = "merged";
@@ -36,8 +49,16 @@ ExitStatus merge(const std::vector<std::string>& arguments) {
     return ExitStatus::Completed;
 }
 
+ExitStatus say(const std::string& text) {
+    const bool written = std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
+    return written ? ExitStatus::Completed : ExitStatus::Failed;
+}
+
 ExitStatus start(const std::vector<std::string>& arguments) {
     if (!arguments.empty() && arguments[0] == "--merge") return merge(arguments);
+    if (arguments.size() == 1 && arguments[0] == "--help") return say(std::string(usage) + help);
+    if (arguments.size() == 1 && arguments[0] == "--version")
+        return say(std::string("tempoline ") + zg::versionNumber + "\n");
     if (arguments.size() != 1 || arguments[0].empty() || arguments[0][0] == '-') {
         std::fputs(usage, stderr);
         return ExitStatus::BadControl;

@@ -8,7 +8,7 @@ _zephyrgraph_export() {
         --size|--jobs|--min-valid) return ;;
     esac
     if [[ $word == -* ]]; then
-        COMPREPLY=($(compgen -W "--help --rose --size --format --out --min-valid --jobs --quiet --tables" -- "$word"))
+        COMPREPLY=($(compgen -W "--help --version --rose --size --format --out --min-valid --jobs --quiet --tables" -- "$word"))
     else
         COMPREPLY=($(compgen -d -- "$word") $(compgen -f -X '!*.[fF][rR][qQ]' -- "$word"))
     fi

@@ -42,6 +42,13 @@ TEST(Companion, HelpTellsItsWords) {
         EXPECT_TRUE(result.out.contains(word)) << word;
 }
 
+TEST(Companion, TellsItsVersion) {
+    const Result result = runCompanion({"--version"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.out.trimmed().toStdString(), "zephyrgraph-export 4.9");
+    EXPECT_TRUE(result.errors.isEmpty()) << result.errors.toStdString();
+}
+
 TEST(Companion, WrongUsageIsStatusTwo) {
     EXPECT_EQ(runCompanion({}).status, 2);
     EXPECT_EQ(runCompanion({sample, "--format", "gif"}).status, 2);

@@ -217,6 +217,15 @@ TEST_F(ProcessorRun, AResultInCapitalsIsLoadedByItsRealName) {
     EXPECT_EQ(std::count(log_.begin(), log_.end(), "load ONE.FRQ"), 1);
 }
 
+TEST_F(ProcessorRun, BlanksAroundANameAreNoPartOfIt) {
+    outputs_ = {{"one ", "1001"}, {" two  ", "1002"}};
+    starter_.onStart = [this] { finish({"one", "two"}); };
+    run(RunForm::Heights);
+    EXPECT_EQ(log_,
+              (Texts{"busy", "values", "name one ", "control", "name one ", "load one.frq", "status Finished",
+                     "name  two  ", "load two.frq", "status Finished", "exit", "idle", "zone"}));
+}
+
 TEST_F(ProcessorRun, HeightsTellEachResultAndNoHeightLeavesTheLabel) {
     starter_.onStart = [this] { finish({"one", "three"}); };
     run(RunForm::Heights);

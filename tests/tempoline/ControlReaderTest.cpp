@@ -49,7 +49,8 @@ TEST(ControlReader, TakesWhatTheDialogsWrite) {
 }
 
 TEST(ControlReader, AGriddedRunWithoutALocationIsRefused) {
-    EXPECT_EQ(refused(written("ventos_utm.inp")), "c.inp:43: NTSFOUT: at least one output is needed");
+    EXPECT_EQ(refused(written("ventos_utm.inp")),
+              "c.inp:43: NTSFOUT: 0 outputs are asked for, and at least one is needed");
 }
 
 TEST(ControlReader, StationsOfSurf) {

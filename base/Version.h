@@ -1,0 +1,9 @@
+#pragma once
+
+// The version that all programs of the project tell.
+
+namespace zg {
+
+inline constexpr const char* versionNumber = "4.9";
+
+}  // namespace zg
