@@ -68,7 +68,9 @@ void RoseTable::findMonth(Seconds begin) {
 
 void RoseTable::add(Seconds begin, const Wind& wind) {
     findMonth(begin);
-    Seconds secondOfDay = (begin + step_) % secondsADay;
+    // An hour bears the number of its end, and a shorter step that of the hour in which it ends.
+    const Seconds toFullHour = step_ < secondsAnHour ? secondsAnHour - 1 : 0;
+    Seconds secondOfDay = (begin + step_ + toFullHour) % secondsADay;
     if (secondOfDay < 0) secondOfDay += secondsADay;
     const bool valid = isValid(wind, limits_[0]);
     const bool calm = valid && wind.speed < limits_[0];

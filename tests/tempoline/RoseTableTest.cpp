@@ -33,6 +33,29 @@ TEST(RoseTable, TimesBeforeTheEpochCountToo) {
     EXPECT_EQ(table.roses()[3].total, 1);
 }
 
+TEST(RoseTable, AStepUnderAnHourBelongsToTheHourThatItLiesIn) {
+    Control control = dayControl();
+    control.rules.hourRanges = {{1, 6}, {7, 12}, {13, 18}, {19, 0}};
+    for (const int step : {1, 60, 600, 1000, 1800, 3599}) {
+        RoseTable table(control.rules, step);
+        table.add(control.begin, {2, 0});
+        table.add(control.begin + 6 * secondsAnHour - step, {2, 0});
+        EXPECT_EQ(table.roses()[3].total, 2) << step;
+        table.add(control.begin + 6 * secondsAnHour, {2, 0});
+        EXPECT_EQ(table.roses()[4].total, 1) << step;
+        table.add(control.begin + 24 * secondsAnHour - step, {2, 0});
+        EXPECT_EQ(table.roses()[6].total, 1) << step;
+    }
+    RoseTable halves(control.rules, 2400);  // one that lies in two hours is of the later one
+    halves.add(control.begin + 5 * secondsAnHour + 2400, {2, 0});
+    EXPECT_EQ(halves.roses()[4].total, 1);
+    for (const int step : {3600, 7200}) {  // longer ones go by the clock at their end
+        RoseTable table(control.rules, step);
+        table.add(control.begin + 6 * secondsAnHour + 1800 - step, {2, 0});
+        EXPECT_EQ(table.roses()[3].total, 1) << step;
+    }
+}
+
 TEST(FrqWriter, RosesOfNoStepAreLeftOut) {
     const Control control = dayControl();
     RoseTable table(control.rules, 3600);

@@ -203,6 +203,12 @@ def case_ventos_nearest(d):
                   keys={"METSIM": 2, "PMAP": "UTM", "IUTMZN": 18, "UTMHEM": "S", "DATUM": "NAR-C"})
 
 
+def case_monitor_ten_minutes(d):
+    """Steps of ten minutes: the range of an hour holds the six that lie in it."""
+    make_inputs.monitor(d / "m.csv", 10)
+    write_control(d / "c.inp", "monitorw.inp", ["m.csv"], ONE, [2004, 2, 1, 0, 0, 2004, 6, 1, 0, 0], step=600)
+
+
 def case_real_profile(d):
     shutil.copy(SAMPLES / "AERMET2.PFL", d)
     write_control(d / "c.inp", "aermpfl.inp", ["AERMET2.PFL"], ONE, [1988, 3, 1, 0, 0, 1988, 3, 5, 0, 0])

@@ -442,6 +442,9 @@ def roses_of(winds, begin, step, limits, seasons, months, ranges):
     for index, (speed, direction) in enumerate(winds):
         moment = begin + timedelta(seconds=index * step)
         hour = (moment + timedelta(seconds=step)).hour
+        if step < 3600:  # the hour in which it ends, by the number of that hour's end
+            hour = (moment + timedelta(seconds=step) - timedelta(microseconds=1)).hour + 1
+            hour %= 24
         mine = [roses[0]]
         mine += [rose for rose, (number, _) in zip(roses[1:], seasons) if months[moment.month - 1] == number]
         for rose, (first, last) in zip(roses[1 + len(seasons):], ranges):
