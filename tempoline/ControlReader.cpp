@@ -141,6 +141,8 @@ class Reader {
             map.longitude0 = keys_.longitude("RLON0");
         }
         if (code == "LCC" || code == "PS") map.latitude1 = keys_.latitude("XLAT1");
+        if (code == "PS" && map.latitude1 == 0)
+            throw keys_.failure("XLAT1", "a polar map needs the parallel that it is true at");
         if (code == "LCC") map.latitude2 = keys_.latitude("XLAT2");
     }
 

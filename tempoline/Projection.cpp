@@ -2,6 +2,7 @@
 
 #include <proj.h>
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 #include <vector>
@@ -13,6 +14,10 @@
 namespace zg::tempoline {
 
 namespace {
+
+constexpr double sevenDigits = 1e-6;
+constexpr double smallAngle = 1e-4;  // degrees: what seven digits leave open, some 10 m
+constexpr double poleWidth = 1e-7;   // degrees: a centimetre
 
 struct DatumRow {
     const char* code;
@@ -148,6 +153,17 @@ std::string definitionOf(const MapSetting& map) {
     return text;
 }
 
+/// Without what makes it a part of the earth: shape and size.
+std::string shapeOf(const std::string& datum) {
+    const std::size_t shift = std::min(datum.find(" +towgs84="), datum.find(" +nadgrids="));
+    return datum.substr(0, shift);
+}
+
+bool agree(double a, double b) { return std::abs(a - b) <= sevenDigits * std::max(std::abs(a), std::abs(b)); }
+
+/// Of two longitudes or of two latitudes, which a full turn does not change.
+bool agreeInAngle(double a, double b) { return std::abs(std::remainder(a - b, 360)) <= smallAngle; }
+
 MapPoint transformed(MapPoint point, const MapSetting& from, const MapSetting& to) {
     const std::unique_ptr<PJ_CONTEXT, ContextCloser> context(proj_context_create());
     proj_log_level(context.get(), PJ_LOG_NONE);
@@ -192,6 +208,50 @@ std::optional<std::string> datumDefinition(const std::string& code) {
 
 std::string unknownDatum(const std::string& code) {
     return "\"" + code.substr(0, 20) + "\" is no datum code that is known here";
+}
+
+bool isSameMap(const MapSetting& a, const MapSetting& b) {
+    const std::string& code = a.projection;
+    if (code != b.projection || datumDefinition(a.datum) != datumDefinition(b.datum)) return false;
+    if (code == "LL") return true;
+    if (code == "UTM") return a.utmZone == b.utmZone && a.southern == b.southern;
+    if (!agreeInAngle(a.longitude0, b.longitude0)) return false;
+    const bool sameFirst = agreeInAngle(a.latitude1, b.latitude1);
+    if (code == "EM") return sameFirst;  // it counts from the equator
+    if (!agreeInAngle(a.latitude0, b.latitude0)) return false;
+    if (code == "PS") return sameFirst;
+    if (!agree(a.falseEasting, b.falseEasting) || !agree(a.falseNorthing, b.falseNorthing)) return false;
+    return code != "LCC" || (sameFirst && agreeInAngle(a.latitude2, b.latitude2));
+}
+
+MapSetting completed(MapSetting asked, const MapSetting& data) {
+    if (asked.projection == "EM" && data.projection == "EM" &&
+        agreeInAngle(asked.longitude0, data.longitude0))
+        asked.latitude1 = data.latitude1;
+    return asked;
+}
+
+double convergenceAt(MapPoint point, const MapSetting& map) {
+    if (map.projection == "LL") return 0;
+    MapSetting degrees;
+    degrees.projection = "LL";
+    degrees.datum = map.datum;
+    const MapPoint place = converted(point, map, degrees);
+    if (std::abs(place.y) > 90 - poleWidth)
+        throw projectionFailure(map, "the point " + fixedText(point.x, 4) + ", " + fixedText(point.y, 4) +
+                                         " is a pole, where no direction is north");
+    const std::unique_ptr<PJ_CONTEXT, ContextCloser> context(proj_context_create());
+    proj_log_level(context.get(), PJ_LOG_NONE);
+    const std::string definition =
+        projectionDefinition(map) + " " + shapeOf(datumDefinition(map.datum).value_or(""));
+    const Transform projection(proj_create(context.get(), definition.c_str()));
+    if (!projection) throw projectionFailure(map, "it makes no projection");
+    const PJ_COORD where = proj_coord(proj_torad(place.x), proj_torad(place.y), 0, 0);
+    const double angle = proj_factors(projection.get(), where).meridian_convergence;
+    if (proj_errno(projection.get()) != 0 || !std::isfinite(angle))
+        throw projectionFailure(map, "the point " + fixedText(point.x, 4) + ", " + fixedText(point.y, 4) +
+                                         " has no direction to the north");
+    return proj_todeg(angle);
 }
 
 MapPoint converted(MapPoint point, const MapSetting& from, const MapSetting& to) {

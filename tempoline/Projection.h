@@ -22,6 +22,18 @@ std::optional<std::string> datumDefinition(const std::string& code);
 /// What is said of a code that is not known.
 std::string unknownDatum(const std::string& code);
 
+/// Whether X and Y of one map are those of the other, within the seven digits that headers and dialogs carry.
+bool isSameMap(const MapSetting& a, const MapSetting& b);
+
+/// The map of a control file over data of another: that of EM data along the same meridian is true where the
+/// data's is, since no control file can say it.
+MapSetting completed(MapSetting asked, const MapSetting& data);
+
+/// Degrees by which the grid's north lies clockwise of true north at a point of the map: what a direction by
+/// the grid lacks to one by the compass. 0 in degrees. Throws a Failure at a pole, where nothing is north,
+/// and as converted does.
+double convergenceAt(MapPoint point, const MapSetting& map);
+
 /// The point of one map in another. Throws a Failure where a setting makes no projection and where the point
 /// has no place in it.
 MapPoint converted(MapPoint point, const MapSetting& from, const MapSetting& to);

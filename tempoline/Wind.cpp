@@ -25,4 +25,10 @@ Wind windOf(Components components) {
     return {speed, direction};
 }
 
+Wind turned(const Wind& wind, double degrees) {
+    if (degrees == 0 || !hasDirection(wind)) return wind;
+    const double direction = roundedToMillionth(std::fmod(wind.direction + degrees, 360));
+    return {wind.speed, direction < 0 ? direction + 360 : std::abs(direction)};
+}
+
 }  // namespace zg::tempoline

@@ -45,6 +45,10 @@ Components componentsOf(const Wind& wind);
 /// of the arithmetic moves no value over a limit: 3.24 and 4.32 m/s are exactly 5.4 m/s.
 Wind windOf(Components components);
 
+/// The same wind by a north that lies so many degrees counterclockwise; rounded as windOf does. Without a
+/// direction, and by 0 degrees, it stays untouched.
+Wind turned(const Wind& wind, double degrees);
+
 /// To the nearest millionth.
 double roundedToMillionth(double value);
 

@@ -143,12 +143,17 @@ class Header {
         r_.RLON0 = map.angle("RLON0");
         r_.XLAT1 = map.angle("XLAT1");
         r_.XLAT2 = map.angle("XLAT2");
+        needPolarParallel(map);
         map.skip(3, "corner or cell size");
         for (const char* name : {"nx", "ny", "nz"}) map.wholeFrom(1, largestGrid, name);
         line("model options");
         r_.DATUM = sphereOfModels;
         r_.timeZone = "UTC+0000";
         readExtract();
+    }
+
+    void needPolarParallel(const Fields& map) const {
+        if (r_.PMAP == "PS" && r_.XLAT1 == 0) map.fail("XLAT1", "is missing: a polar map is true at it");
     }
 
     void readExtract() {
@@ -184,6 +189,7 @@ class Header {
         r_.RLON0 = map.angle("RLON0");
         r_.XLAT1 = map.angle("XLAT1");
         r_.XLAT2 = map.angle("XLAT2");
+        needPolarParallel(map);
         Fields grid = fields("grid");
         grid.wholeFrom(1, largestGrid, "nx");
         grid.wholeFrom(1, largestGrid, "ny");

@@ -21,17 +21,15 @@ double longitudeIn(const Grid& grid, double longitude) {
     return longitude + 360 * std::ceil((west - longitude) / 360);
 }
 
-/// The place in cells.
-MapPoint cellPlace(const OutputRequest& output, const Control& control, const Grid& grid) {
-    if (control.cellCoordinates) return {output.x, output.y};
-    MapPoint place = converted({output.x, output.y}, control.map, grid.map);
+/// X and Y on the map of the data are taken as they stand.
+MapPoint mapPlace(const OutputRequest& output, const Control& control, const Grid& grid) {
+    if (control.cellCoordinates)
+        return {grid.x1 + (output.x - 1) * grid.cellSize, grid.y1 + (output.y - 1) * grid.cellSize};
+    MapPoint place = {output.x, output.y};
+    const MapSetting asked = completed(control.map, grid.map);
+    if (!isSameMap(asked, grid.map)) place = converted(place, asked, grid.map);
     if (grid.map.projection == "LL") place.x = longitudeIn(grid, place.x);
-    MapPoint cells = {1 + (place.x - grid.x1) / grid.cellSize, 1 + (place.y - grid.y1) / grid.cellSize};
-    // A place on a centre shall be that of the cell alone.
-    for (double* const value : {&cells.x, &cells.y}) {
-        if (std::abs(*value - std::round(*value)) < noise) *value = std::round(*value);
-    }
-    return cells;
+    return place;
 }
 
 struct Pair {
@@ -51,8 +49,25 @@ int nearest(double place, int first, int last) {
 
 }  // namespace
 
-std::vector<CellShare> cellsAround(const OutputRequest& output, const Control& control, const Grid& grid) {
-    const MapPoint place = cellPlace(output, control, grid);
+GridPlace placeIn(const Grid& grid, const OutputRequest& output, const Control& control) {
+    GridPlace place;
+    place.onMap = mapPlace(output, control, grid);
+    if (control.cellCoordinates) {
+        place.inCells = {output.x, output.y};
+        return place;
+    }
+    place.inCells = {1 + (place.onMap.x - grid.x1) / grid.cellSize,
+                     1 + (place.onMap.y - grid.y1) / grid.cellSize};
+    // A place on a centre shall be that of the cell alone.
+    for (double* const value : {&place.inCells.x, &place.inCells.y}) {
+        if (std::abs(*value - std::round(*value)) < noise) *value = std::round(*value);
+    }
+    return place;
+}
+
+std::vector<CellShare> cellsAround(const GridPlace& gridPlace, const OutputRequest& output,
+                                   SpatialMethod method, const Grid& grid) {
+    const MapPoint place = gridPlace.inCells;
     const double rim = halfCell + noise;
     const bool inside = place.x >= grid.firstI - rim && place.x <= grid.lastI + rim &&
                         place.y >= grid.firstJ - rim && place.y <= grid.lastJ + rim;
@@ -60,7 +75,7 @@ std::vector<CellShare> cellsAround(const OutputRequest& output, const Control& c
         throw Failure(ExitStatus::Failed, "the location " + fixedText(output.x, 4) + ", " +
                                               fixedText(output.y, 4) + " of output " + output.name +
                                               " lies outside the grid");
-    if (control.method == SpatialMethod::Nearest)
+    if (method == SpatialMethod::Nearest)
         return {{nearest(place.x, grid.firstI, grid.lastI), nearest(place.y, grid.firstJ, grid.lastJ), 1}};
     const Pair x = pairAt(place.x, grid.firstI, grid.lastI);
     const Pair y = pairAt(place.y, grid.firstJ, grid.lastJ);

@@ -31,10 +31,18 @@ struct CellShare {
     double weight = 1;
 };
 
+/// Where an output lies. Throws a Failure that names it where it has no place in the projection.
+struct GridPlace {
+    MapPoint onMap;    ///< of the grid
+    MapPoint inCells;  ///< 1, 1 is the centre of the south-western cell
+};
+GridPlace placeIn(const Grid& grid, const OutputRequest& output, const Control& control);
+
 /// The cells around the place of an output, those with weight 0 left out. A place belongs to the grid up to
 /// the outer edges of its cells; in the outer half of these the outermost centres count. Throws a Failure
-/// that names the place where it lies outside.
-std::vector<CellShare> cellsAround(const OutputRequest& output, const Control& control, const Grid& grid);
+/// that names the output where it lies outside.
+std::vector<CellShare> cellsAround(const GridPlace& place, const OutputRequest& output, SpatialMethod method,
+                                   const Grid& grid);
 
 /// Sums the winds of the cells by their components; a single one stays untouched. Missing where one is
 /// missing.

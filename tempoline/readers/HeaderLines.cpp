@@ -47,6 +47,15 @@ double degreesField(const LineSource& place, std::string_view field, std::string
     return sign * numberField(place, text, name);
 }
 
+double kilometresField(const LineSource& place, std::string_view field, std::string_view name) {
+    return ucase(field) == "NONE" ? 0 : numberField(place, field, name);
+}
+
+void needPolarParallel(const LineSource& place, const MapSetting& map) {
+    if (map.projection == "PS" && map.latitude1 == 0)
+        throw place.failure("XLAT1", "a polar map needs the parallel that it is true at");
+}
+
 Seconds zoneField(const LineSource& place, std::string_view key) {
     const std::optional<Seconds> offset = zoneOffset(key);
     if (!offset)

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "tempoline/Control.h"
 #include "tempoline/LineSource.h"
 #include "tempoline/Times.h"
 
@@ -21,6 +22,12 @@ int countOf(LineSource& lines, std::string_view what);
 
 /// "45.5N", "-45.5" and "97W" are degrees; "NONE" and "0" stand for what is not used.
 double degreesField(const LineSource& place, std::string_view field, std::string_view name);
+
+/// Kilometres, which have no letter: "NONE" stands for what is not used.
+double kilometresField(const LineSource& place, std::string_view field, std::string_view name);
+
+/// What a polar map is true at; throws for 0 and NONE, at which no polar map is drawn.
+void needPolarParallel(const LineSource& place, const MapSetting& map);
 
 /// Seconds east of Greenwich; throws for what is no key of a zone.
 Seconds zoneField(const LineSource& place, std::string_view key);

@@ -85,6 +85,7 @@ class M3d : public InputReader {
         map.longitude0 = degreesField(lines, fields[2], "RLON0");
         map.latitude1 = degreesField(lines, fields[3], "XLAT1");
         map.latitude2 = degreesField(lines, fields[4], "XLAT2");
+        needPolarParallel(lines, map);
         grid_.x1 = numberField(lines, fields[5], "X of cell (1,1)");
         grid_.y1 = numberField(lines, fields[6], "Y of cell (1,1)");
         grid_.cellSize = numberField(lines, fields[7], "cell size");
@@ -126,7 +127,7 @@ class M3d : public InputReader {
         shares_.clear();
         std::map<std::pair<int, int>, std::size_t> columns;
         for (const OutputRequest& output : control_.outputs) {
-            shares_.push_back(cellsAround(output, control_, grid_));
+            shares_.push_back(cellsAround(placeIn(grid_, output, control_), output, control_.method, grid_));
             for (const CellShare& share : shares_.back())
                 columns.emplace(std::pair(share.i, share.j), columns.size());
         }

@@ -82,12 +82,13 @@ class Ventos : public InputReader {
         map.utmZone = ucase(fields[3]) == "NONE" ? 0 : wholeField(lines, fields[3], "IUTMZN");
         if (map.projection == "UTM" && (map.utmZone < 1 || map.utmZone > 60))
             throw lines.failure("IUTMZN", std::to_string(map.utmZone) + " is not between 1 and 60");
-        map.falseEasting = degreesField(lines, fields[4], "FEAST");
-        map.falseNorthing = degreesField(lines, fields[5], "FNORTH");
+        map.falseEasting = kilometresField(lines, fields[4], "FEAST");
+        map.falseNorthing = kilometresField(lines, fields[5], "FNORTH");
         map.latitude0 = degreesField(lines, fields[6], "RLAT0");
         map.longitude0 = degreesField(lines, fields[7], "RLON0");
         map.latitude1 = degreesField(lines, fields[8], "XLAT1");
         map.latitude2 = degreesField(lines, fields[9], "XLAT2");
+        needPolarParallel(lines, map);
     }
 
     void readGrid(LineSource& lines) {
@@ -152,10 +153,15 @@ class Ventos : public InputReader {
         shares_.clear();
         pairs_.clear();
         places_.clear();
+        turns_.clear();
         std::map<std::size_t, std::map<int, std::size_t>> rows;
         std::size_t count = 0;
         for (const OutputRequest& output : control_.outputs) {
-            shares_.push_back(cellsAround(output, control_, grid_));
+            const GridPlace place = placeIn(grid_, output, control_);
+            shares_.push_back(cellsAround(place, output, control_.method, grid_));
+            turns_.push_back(convergenceAt(place.onMap, grid_.map));
+            note("Grid north at output " + output.name + " lies " + fixedText(turns_.back(), 6) +
+                 " degrees clockwise of true north");
             pairs_.push_back(levelsAround(output.height));
             tellHeight(output, pairs_.back());
             places_.emplace_back();
@@ -163,9 +169,9 @@ class Ventos : public InputReader {
                 for (const CellShare& share : shares_.back()) {
                     const std::size_t row =
                         level * static_cast<std::size_t>(grid_.lastJ) + static_cast<std::size_t>(share.j - 1);
-                    const auto [place, isNew] = rows[row].emplace(share.i, count);
+                    const auto [value, isNew] = rows[row].emplace(share.i, count);
                     if (isNew) ++count;
-                    places_.back().push_back(place->second);
+                    places_.back().push_back(value->second);
                 }
             }
         }
@@ -242,7 +248,7 @@ class Ventos : public InputReader {
             low.u += share * (high.u - low.u);
             low.v += share * (high.v - low.v);
         }
-        const Wind wind = windOf(low);
+        const Wind wind = turned(windOf(low), turns_[output]);
         return isBelowFirst(height) ? neutralProfile(wind, heights_.front(), height) : wind;
     }
 
@@ -254,6 +260,7 @@ class Ventos : public InputReader {
     std::vector<double> heights_;                   ///< of the levels
     std::vector<std::vector<CellShare>> shares_;    ///< by output
     std::vector<LevelPair> pairs_;                  ///< by output
+    std::vector<double> turns_;                     ///< by output: from grid north to true north, degrees
     std::vector<std::vector<std::size_t>> places_;  ///< by output: values of its cells, low level first
     std::vector<NeededRow> rows_;                   ///< rising
     std::vector<double> u_;

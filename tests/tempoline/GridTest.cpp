@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "tests/tempoline/TempolineSupport.h"
 
 namespace zg::tempoline {
@@ -20,13 +22,18 @@ Grid fourByThree() {
     return grid;
 }
 
+std::vector<CellShare> cellsOf(const Control& control, const Grid& grid) {
+    const OutputRequest& output = control.outputs[0];
+    return cellsAround(placeIn(grid, output, control), output, control.method, grid);
+}
+
 std::vector<CellShare> around(double x, double y, SpatialMethod method = SpatialMethod::Bilinear) {
     Control control = dayControl();
     control.map = fourByThree().map;
     control.method = method;
     control.outputs[0].x = x;
     control.outputs[0].y = y;
-    return cellsAround(control.outputs[0], control, fourByThree());
+    return cellsOf(control, fourByThree());
 }
 
 }  // namespace
@@ -74,7 +81,7 @@ TEST(Grid, LongitudesCountOnOverTheDateLine) {
         control.outputs[0].x = longitude;
         control.outputs[0].y = 40;
         control.method = SpatialMethod::Nearest;
-        return cellsAround(control.outputs[0], control, grid)[0].i;
+        return cellsOf(control, grid)[0].i;
     };
     for (const char* const datum : {"WGS-84", "NAS-C"}) {
         EXPECT_EQ(firstCell(190, -169.1, datum), 2);
@@ -91,6 +98,25 @@ TEST(Grid, LongitudesCountOnOverTheDateLine) {
     EXPECT_EQ(firstCell(-179.85, -179.9, "WGS-84"), 1);
     EXPECT_EQ(firstCell(-179.85, -179.6, "WGS-84"), 3);
     EXPECT_NE(failureOf([&] { firstCell(-179.85, -179.9001, "WGS-84"); }), "");
+}
+
+TEST(Grid, OnTheMapOfTheDataXAndYAreTakenAsTheyStand) {
+    Grid grid = fourByThree();
+    grid.map.projection = "EM";
+    grid.map.datum = "NWS-84";
+    grid.map.longitude0 = -97;
+    grid.map.latitude1 = 20;
+    grid.x1 = 594;
+    Control control = dayControl();
+    control.map = grid.map;
+    control.map.latitude1 = 0;  // no control file can say it
+    control.outputs[0].x = 600;
+    control.outputs[0].y = 4500;
+    EXPECT_EQ(placeIn(grid, control.outputs[0], control).onMap.x, 600);
+    EXPECT_EQ(cellsOf(control, grid)[0].i, 4);
+    control.map.longitude0 = -96.9;  // 10.4 km aside at the equator, and true there
+    EXPECT_NEAR(placeIn(grid, control.outputs[0], control).onMap.x,
+                (600 + 11.1177) * std::cos(20 * 0.0174532925), 0.01);
 }
 
 TEST(Grid, OneMissingCellMakesTheWindMissing) {

@@ -189,6 +189,14 @@ def case_m3d_cone(d):
     write_control(d / "c.inp", "m3d_cell.inp", ["a.dat", "b.dat"], outputs, YEAR, gridded=True, keys=keys)
 
 
+def case_m3d_mercator(d):
+    """X and Y on the map of the data, whose parallel no control file can say."""
+    make_inputs.m3d([d / "a.dat", d / "b.dat"], make_inputs.MERCATOR)
+    outputs = [(1, "centre", "", 630, 2010, 10), (2, "between", "", 607.5, 1995, 60)]
+    keys = {"METSIM": 1, "MPROF": 3, "MCELL": 0, "PMAP": "EM", "RLAT0": "0.0N", "RLON0": "97.0W", "DATUM": "NWS-84"}
+    write_control(d / "c.inp", "m3d_cell.inp", ["a.dat", "b.dat"], outputs, YEAR, gridded=True, keys=keys)
+
+
 def case_ventos(d):
     make_inputs.ventos([d / "a.dat", d / "b.dat"])
     outputs = [(1, "centre", "", 503, 4503, 10), (2, "between", "", 502.5, 4503.25, 35), (3, "low", "", 505.0, 4502.0, 2),
@@ -201,6 +209,15 @@ def case_ventos_nearest(d):
     outputs = [(1, "centre", "", 503.9, 4503.9, 10), (2, "border", "", 507.99, 4505.99, 60)]
     write_control(d / "c.inp", "ventos_ll.inp", ["a.dat", "b.dat"], outputs, YEAR, gridded=True,
                   keys={"METSIM": 2, "PMAP": "UTM", "IUTMZN": 18, "UTMHEM": "S", "DATUM": "NAR-C"})
+
+
+def case_ventos_cone(d):
+    """Far east of the meridian of a conical grid, whose north is not that of the compass."""
+    make_inputs.ventos([d / "a.dat", d / "b.dat"], make_inputs.LAMBERT)
+    outputs = [(1, "centre", "", 1718, 118, 10), (2, "between", "", 1727.5, 113, 35), (3, "low", "", 1740, 130, 2)]
+    keys = {"METSIM": 1, "PMAP": "LCC", "DATUM": "NWS-84", "FEAST": 12.5, "FNORTH": -7.5, "RLAT0": "40.0N",
+            "RLON0": "97.0W", "XLAT1": "30.0N", "XLAT2": "60.0N"}
+    write_control(d / "c.inp", "ventos_utm.inp", ["a.dat", "b.dat"], outputs, YEAR, gridded=True, keys=keys)
 
 
 def case_monitor_ten_minutes(d):

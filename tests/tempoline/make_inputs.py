@@ -164,6 +164,7 @@ def tsf(path):
     write(path, lines)
 
 
+MERCATOR = "EM 0.0 -97.0 20.0 NONE 540.0 1950.0 30.0 20 20 30"
 DEGREES = "LL 40.0 -97.0 30.0 60.0 -75.0 40.0 0.25 20 20 30"
 CONE = "LCC 40.0 -97.0 30.0 60.0 -120.0 -90.0 30.0 20 20 30"
 
@@ -189,7 +190,11 @@ def m3d(paths, projection=DEGREES):
         write(path, lines)
 
 
-def ventos(paths):
+ZONE = "UTM NAR-C S 18 0 0 NONE NONE NONE NONE", "4 3 2 500.0 4500.0 2.0"
+LAMBERT = "LCC NWS-84 N NONE 12.5 -7.5 40.0 -97.0 30.0 60.0", "4 3 2 1700.0 100.0 12.0"
+
+
+def ventos(paths, grid=ZONE):
     """Two files after each other; components whose speeds fall on limits are among them."""
     winds = Winds(8, 0, 0)
     pairs = [(0.0, 0.0), (0.3, 0.4), (-0.3, -0.4), (3.24, 4.32), (-1.08, 1.44), (0.0, -8.5), (10.8, 0.0), (99.0, 99.0)]
@@ -199,7 +204,7 @@ def ventos(paths):
         stamp = lambda m: "%d %d %d %d 0" % (m.year, m.month, m.day, m.hour)
         lines = ["VENTOS.DAT      2.1             Header", "1", "a comment",
                  "%s %s UTC+0000 3600" % (stamp(moments[0]), stamp(last)),
-                 "UTM NAR-C S 18 0 0 NONE NONE NONE NONE", "4 3 2 500.0 4500.0 2.0", "0. 20. 100."]
+                 *grid, "0. 20. 100."]
         for moment in moments:
             lines.append(stamp(moment))
             drawn = []

@@ -288,7 +288,7 @@ def cone(projection, longitude, latitude):
 
 
 def m3d(paths, requests, zone, single):
-    """Places in cells, or degrees on a grid in degrees or on a cone."""
+    """Places in cells, degrees on a cone, or as the grid has them."""
     result = [[] for _ in requests]
     for path in paths:
         lines = lines_of(path)
@@ -299,7 +299,8 @@ def m3d(paths, requests, zone, single):
         levels, cells = k2 - k1 + 1, (i2 - i1 + 1) * (j2 - j1 + 1)
         at += 4 + levels + cells
         in_cells = single["MCELL"] == "1"
-        on_map = lambda r: cone(projection, r.x, r.y) if projection[0] == "LCC" else (r.x, r.y)
+        on_cone = projection[0] == "LCC" and single["PMAP"] == "LL"
+        on_map = lambda r: cone(projection, r.x, r.y) if on_cone else (r.x, r.y)
         in_grid = lambda x, y: (1 + (x - x1) / size, 1 + (y - y1) / size)
         places = [(r.x, r.y) if in_cells else in_grid(*on_map(r)) for r in requests]
         shares = [corners(x, y, (i1, j1), (i2, j2), single["METSIM"] == "2") for x, y in places]
@@ -328,6 +329,38 @@ def m3d(paths, requests, zone, single):
     return result
 
 
+def half_tangent(angle):
+    return math.tan(math.pi / 4 + angle / 2)
+
+
+def turn_of_cone(projection, x, y):
+    """Degrees from the meridian of a cone over a sphere: on its flat map they are those between the meridians."""
+    latitude0, _, latitude1, latitude2 = (math.radians(float(text)) for text in projection[6:10])
+    n = math.log(math.cos(latitude1) / math.cos(latitude2)) / math.log(half_tangent(latitude2) / half_tangent(latitude1))
+    to_origin = 6370 * math.cos(latitude1) * (half_tangent(latitude1) / half_tangent(latitude0)) ** n / n
+    return math.degrees(math.atan2(x - float(projection[4]), to_origin - (y - float(projection[5]))))
+
+
+def turn_of_zone(projection, x, y):
+    """Degrees of a transverse Mercator zone, by the series in the distance from its meridian (GRS 1980)."""
+    a, e2 = 6378.137, (2 - 1 / 298.257222101) / 298.257222101
+    north = (y - (10000 if projection[2] == "S" else 0)) / 0.9996
+    rho = lambda angle: a * (1 - e2) / (1 - e2 * math.sin(angle) ** 2) ** 1.5
+    foot = north / a
+    for _ in range(20):  # the latitude whose arc of the meridian is so long, by Simpson's rule
+        parts, width = 200, foot / 200
+        arc = sum((1 if i in (0, parts) else 4 if i % 2 else 2) * rho(i * width) for i in range(parts + 1)) * width / 3
+        foot += (north - arc) / rho(foot)
+    nu = a / math.sqrt(1 - e2 * math.sin(foot) ** 2)
+    t, psi, x = math.tan(foot), nu / rho(foot), (x - 500) / 0.9996 / nu
+    return math.degrees(t * x - t * x ** 3 / 3 * (t * t + 3 * psi - 2 * psi * psi))
+
+
+def turn_of_grid(projection, x, y):
+    """Degrees that grid north lies clockwise of true north."""
+    return {"LL": lambda *_: 0.0, "LCC": turn_of_cone, "UTM": turn_of_zone}[projection[0]](projection, x, y)
+
+
 def ventos(paths, requests, zone, single):
     """Places in the projection of the grid."""
     result = [[] for _ in requests]
@@ -336,6 +369,7 @@ def ventos(paths, requests, zone, single):
         at = header_end(lines, 1)
         period = lines[at].split()
         shift, step = zone - zone_of(period[10]), timedelta(seconds=int(period[11]))
+        turns = [turn_of_grid(lines[at + 1].split(), r.x, r.y) for r in requests]
         nx, ny, nz = (int(text) for text in lines[at + 2].split()[:3])
         x0, y0, size = (float(text) for text in lines[at + 2].split()[3:])
         faces = [float(text) for text in lines[at + 3].split()]
@@ -351,7 +385,7 @@ def ventos(paths, requests, zone, single):
                 rows = [[float(text) for text in line.split()] for line in lines[at:at + nz * ny]]
                 field.append([rows[k * ny:(k + 1) * ny] for k in range(nz)])
                 at += nz * ny
-            for request, share, records in zip(requests, shares, result):
+            for request, share, turn, records in zip(requests, shares, turns, result):
                 def level(k):
                     return [sum(w * f[k][j - 1][i - 1] for (i, j), w in share) for f in field]
 
@@ -376,6 +410,8 @@ def ventos(paths, requests, zone, single):
                         wind = wind_of(*high_uv)
                 if any(bad(k) for k in used):
                     wind = (None, None)
+                if wind[1] is not None:
+                    wind = (wind[0], round((wind[1] + turn) % 360, 6))
                 records.append((begin, begin + step, *wind))
     return result
 

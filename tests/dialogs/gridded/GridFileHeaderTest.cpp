@@ -80,6 +80,26 @@ TEST_F(GridFileHeader, AnglesMayEndInTheirHemisphere) {
               "line 6 (projection): RLAT0 \"\" is not a number");
 }
 
+TEST_F(GridFileHeader, APolarMapWithoutItsParallelIsBroken) {
+    for (const char* const parallel : {"0", "0N", "NONE"})
+        EXPECT_EQ(
+            read(GridKind::Ventos, ventosText(std::string("PS NWS-84 NONE 0 0 0 90N 97W ") + parallel + " 0"))
+                .errorText,
+            "line 6 (projection): XLAT1 is missing: a polar map is true at it");
+    const std::string model = replaced(m3dText(), "LCC", "PS");
+    EXPECT_EQ(read(GridKind::M3d, model).errorFlag, 0);
+    EXPECT_EQ(read(GridKind::M3d, replaced(model, " 33", " 0")).errorFlag, 1);
+}
+
+TEST_F(GridFileHeader, AFalseOriginHasNoLetter) {
+    for (const char* const fields : {"500W 0", "500E 0", "0 5N", "5S 0"})
+        EXPECT_NE(read(GridKind::Ventos,
+                       ventosText(std::string("TTM NWS-84 NONE 0 ") + fields + " 0N 97W NONE NONE"))
+                      .errorText,
+                  "")
+            << fields;
+}
+
 TEST_F(GridFileHeader, HourTwentyFourIsTheNextMidnight) {
     const InfoViewResult r =
         read(GridKind::Ventos, replaced(ventosText(), "2005 12 31 23 0", "2004 12 31 24 0"));
