@@ -67,6 +67,9 @@ struct MapSetting {
     double latitude2 = 0;
 };
 
+/// MPROF: the wind of 10 m that the data hold.
+constexpr int directProfile = 4;
+
 enum class SpatialMethod { Bilinear = 1, Nearest = 2 };
 
 struct Control {
@@ -89,6 +92,8 @@ struct Control {
     int profileMethod = 3;
     bool cellCoordinates = false;
     RoseRules rules;
+    std::vector<std::string> assignments;  ///< "KEY = value", as they stand
+    std::vector<std::string> assumed;      ///< the same for keys that do not stand there
     std::vector<std::string> warnings;
 };
 

@@ -6,6 +6,7 @@
 
 #include "base/Text.h"
 #include "tempoline/Fields.h"
+#include "tempoline/Texts.h"
 
 namespace zg::tempoline {
 
@@ -67,8 +68,14 @@ std::string ControlKeys::text(std::string_view key) {
     return entry->value;
 }
 
+void ControlKeys::assume(std::string_view key, std::string_view value) {
+    assumed_.push_back(std::string(key) + " = " + std::string(value));
+}
+
 std::string ControlKeys::textOr(std::string_view key, std::string_view fallback) {
-    return has(key) ? text(key) : std::string(fallback);
+    if (has(key)) return text(key);
+    assume(key, fallback);
+    return std::string(fallback);
 }
 
 std::vector<std::string> ControlKeys::texts(std::string_view key, std::size_t count,
@@ -107,7 +114,9 @@ int ControlKeys::whole(std::string_view key, int lowest, int highest) {
 }
 
 int ControlKeys::wholeOr(std::string_view key, int fallback, int lowest, int highest) {
-    return has(key) ? whole(key, lowest, highest) : fallback;
+    if (has(key)) return whole(key, lowest, highest);
+    assume(key, std::to_string(fallback));
+    return fallback;
 }
 
 double ControlKeys::number(std::string_view key, const std::string& item) {
@@ -122,7 +131,9 @@ double ControlKeys::numberOf(const Assignment& entry, const std::string& item) {
 }
 
 double ControlKeys::numberOr(std::string_view key, double fallback) {
-    return has(key) ? number(key, text(key)) : fallback;
+    if (has(key)) return number(key, text(key));
+    assume(key, shortText(fallback));
+    return fallback;
 }
 
 double ControlKeys::degrees(std::string_view key, char positive, char negative, double limit) {

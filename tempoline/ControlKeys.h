@@ -16,6 +16,9 @@ class ControlKeys {
     /// The text must outlive it. Throws for a key given twice that may stand once.
     explicit ControlKeys(const ControlText& text);
 
+    /// "KEY = value" for each key whose default was taken, in the order in which they were asked for.
+    const std::vector<std::string>& assumed() const { return assumed_; }
+
     /// Throws for a key that there is not.
     void needKnownKeys() const;
 
@@ -59,11 +62,13 @@ class ControlKeys {
 
  private:
     const Assignment* find(std::string_view key) const;
+    void assume(std::string_view key, std::string_view value);
     double degrees(std::string_view key, char positive, char negative, double limit);
 
     const ControlText& text_;
     std::map<std::string, const Assignment*, std::less<>> first_;
     const Assignment* current_ = nullptr;
+    std::vector<std::string> assumed_;
 };
 
 }  // namespace zg::tempoline

@@ -32,6 +32,8 @@ class Reader {
     explicit Reader(const ControlText& text) : keys_(text) {
         control_.file = text.file;
         control_.title = text.title;
+        for (const Assignment& entry : text.assignments)
+            control_.assignments.push_back(entry.key + " = " + entry.value);
     }
 
     Control read() {
@@ -42,6 +44,7 @@ class Reader {
         control_.outputs = readOutputs(keys_, control_.kind);
         if (isGridded(control_.kind)) readGridSettings();
         readRules();
+        control_.assumed = keys_.assumed();
         return std::move(control_);
     }
 

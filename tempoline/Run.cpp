@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/Paths.h"
+#include "base/Version.h"
 #include "tempoline/ControlReader.h"
 #include "tempoline/FrqWriter.h"
 #include "tempoline/Interrupt.h"
@@ -25,9 +26,17 @@ namespace zg::tempoline {
 
 namespace {
 
+constexpr std::size_t mostRemarks = 20;
 constexpr std::size_t longestControlFile = std::size_t{16} << 20;
 
 void tellError(const std::string& message) { std::fprintf(stderr, "tempoline: %s\n", message.c_str()); }
+
+/// So that they are seen although nobody reads the listing of a run that went well.
+void tellRemarks(const std::vector<std::string>& remarks) {
+    for (std::size_t i = 0; i < remarks.size() && i < mostRemarks; ++i) tellError(remarks[i]);
+    if (remarks.size() > mostRemarks)
+        tellError(std::to_string(remarks.size() - mostRemarks) + " more remarks stand in the listing");
+}
 
 std::string readControlText(const std::string& path) {
     try {
@@ -85,7 +94,7 @@ class Runner {
         }
         tellNotes();
         for (std::size_t i = 0; i < series_.size(); ++i)
-            listing_.describeOutput(control_.outputs[i], series_[i]);
+            listing_.describeOutput(control_.outputs[i], series_[i], control_, notesOf(i));
         if (control_.wantsRoses) writeRoses();
         for (Results& results : results_) {
             throwIfInterrupted();
@@ -102,7 +111,18 @@ class Runner {
     }
 
     void tellNotes() {
-        for (const std::string& note : reader_->facts.notes) listing_.line(note);
+        reader_->finish();
+        listing_.line("");
+        listing_.line("The data say");
+        if (!reader_->facts.station.empty()) listing_.line(entryLine("Station", reader_->facts.station));
+        if (reader_->facts.height >= 0)
+            listing_.line(entryLine("Height", metresText(reader_->facts.height) + " m"));
+        listing_.lines(reader_->facts.notes);
+    }
+
+    std::vector<std::string> notesOf(std::size_t output) const {
+        const auto& notes = reader_->facts.outputNotes;
+        return output < notes.size() ? notes[output] : std::vector<std::string>();
     }
 
     /// Of a run that failed.
@@ -111,7 +131,7 @@ class Runner {
         listing_.line("");
         listing_.line("What was counted until the run failed:");
         for (std::size_t i = 0; i < series_.size(); ++i)
-            listing_.describeRecords(control_.outputs[i], series_[i].records());
+            listing_.describeRecords(control_.outputs[i], series_[i].records(), notesOf(i));
     }
 
     void openResults() {
@@ -270,7 +290,7 @@ void tellFault(const Outcome& outcome, const OlderResults& older, Listing& listi
 
 ExitStatus run(const std::string& controlFile) {
     Listing listing(isSameFile(controlFile, defaultListing) ? "" : defaultListing);
-    listing.line("TEMPOLINE: winds of " + controlFile);
+    listing.line("TEMPOLINE " + std::string(versionNumber) + ": winds of " + controlFile);
     OlderResults older;
     Outcome outcome = outcomeOf([&] { runControl(controlFile, listing, older); });
     const bool completed = outcome.status == ExitStatus::Completed;
@@ -282,6 +302,7 @@ ExitStatus run(const std::string& controlFile) {
         tellError(failure.what());
         if (completed) outcome.status = ExitStatus::Failed;
     }
+    if (outcome.status == ExitStatus::Completed) tellRemarks(listing.remarks());
     return outcome.status;
 }
 

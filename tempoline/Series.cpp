@@ -40,32 +40,62 @@ bool Series::isNext(Seconds begin, Seconds end, const Place& place) {
     if (any_ && begin < lastEnd_)
         throw place.failure("time", "the record of " + isoText(begin) + " begins before the last one ends, " +
                                         isoText(lastEnd_));
+    if (any_) records_.spacing.add(begin - lastBegin_);
+    records_.length.add(end - begin);
     any_ = true;
     lastBegin_ = begin;
     lastEnd_ = end;
     return true;
 }
 
-void Series::add(Seconds begin, Seconds end, const Wind& wind, const Place& place) {
+bool Series::isInside(Seconds begin, Seconds end) {
+    const bool isWhole = end == begin || end - begin == step_;
+    const bool isEarly = isWhole ? begin < periodBegin_ : end <= periodBegin_;
+    if (isEarly || begin >= periodEnd_) {
+        ++records_.outside;
+        records_.early += isEarly ? 1 : 0;
+        return false;
+    }
+    const Seconds offset = (begin - periodBegin_) % step_;
+    if (end - begin == step_ && offset != 0 && records_.misaligned++ == 0) records_.misalignment = offset;
+    return true;
+}
+
+void Series::countMissing(const Wind& wind, MissingReason reason) {
+    ++records_.missing;
+    if (reason == MissingReason::NoLevel)
+        ++records_.noLevel;
+    else if (!hasSpeed(wind))
+        ++(hasValue(wind.speed) ? records_.wrongSpeed : records_.noSpeed);
+    else
+        ++(hasValue(wind.direction) ? records_.wrongDirection : records_.noDirection);
+}
+
+void Series::countUsed(Seconds begin, Seconds end, const Wind& wind, const Place& place) {
+    if (wind.speed < calmLimit_) ++records_.calm;
+    records_.lastUsed.begin = begin;
+    records_.lastUsed.end = end;
+    records_.lastUsed.line = place.line;
+    if (records_.lastUsed.path != place.path) records_.lastUsed.path = place.path;
+    if (records_.used++ == 0) records_.firstUsed = records_.lastUsed;
+}
+
+void Series::add(Seconds begin, Seconds end, const Wind& wind, const Place& place, MissingReason reason) {
     const bool counts = isNext(begin, end, place);
     ++records_.read;
-    if (!counts) return;
-    const Seconds from = std::max(begin, periodBegin_);
-    const Seconds to = std::min(end, periodEnd_);
-    const bool whole = end == begin || end - begin == step_;
-    if (whole ? begin < periodBegin_ || begin >= periodEnd_ : from >= to) {
-        ++records_.outside;
-        return;
-    }
+    if (!counts || !isInside(begin, end)) return;
     const bool valid = isValid(wind, calmLimit_);
-    ++(valid ? records_.used : records_.missing);
-    if (valid && wind.speed < calmLimit_) ++records_.calm;
-    if (whole) {
+    if (valid)
+        countUsed(begin, end, wind, place);
+    else
+        countMissing(wind, reason);
+    if (end == begin || end - begin == step_) {
         instant_ = end == begin;
         addPart((begin - periodBegin_) / step_, wind, valid, static_cast<double>(step_));
         return;
     }
-    for (Seconds at = from; at < to;) {
+    const Seconds to = std::min(end, periodEnd_);
+    for (Seconds at = std::max(begin, periodBegin_); at < to;) {
         const std::int64_t index = (at - periodBegin_) / step_;
         const Seconds next = std::min(to, periodBegin_ + (index + 1) * step_);
         addPart(index, wind, valid, static_cast<double>(next - at));
@@ -75,6 +105,7 @@ void Series::add(Seconds begin, Seconds end, const Wind& wind, const Place& plac
 
 void Series::addPart(std::int64_t index, const Wind& wind, bool valid, double seconds) {
     while (current_ < index) closeStep();
+    average_.isTouched = true;
     if (!valid) return;
     ++average_.count;
     average_.single = wind;
@@ -100,11 +131,24 @@ Wind Series::averaged() const {
     return mean;
 }
 
+void Series::countStep(const Wind& wind) {
+    ++steps_.total;
+    if (isValid(wind, calmLimit_))
+        ++steps_.valid;
+    else if (!average_.isTouched)
+        ++steps_.noRecord;
+    else if (average_.count == 0)
+        ++steps_.noWind;
+    else
+        ++(hasSpeed(wind) ? steps_.noDirection : steps_.tooShort);
+}
+
 void Series::closeStep() {
     // Between two records millions of steps may lie, and as many behind the last one.
     if (current_ % stepsBetweenLooks == 0) throwIfInterrupted();
     const Seconds begin = periodBegin_ + current_ * step_;
     const Wind wind = averaged();
+    countStep(wind);
     table_.add(begin, wind);
     if (file_ != nullptr) file_->add(begin, wind);
     average_ = {};

@@ -9,22 +9,12 @@
 
 #include "tempoline/Control.h"
 #include "tempoline/LineSource.h"
+#include "tempoline/RecordCounts.h"
 #include "tempoline/RoseTable.h"
 #include "tempoline/TsfFile.h"
 #include "tempoline/Wind.h"
 
 namespace zg::tempoline {
-
-/// read = used + missing + outside + duplicate; calm are among the used.
-struct RecordCounts {
-    std::int64_t read = 0;
-    std::int64_t used = 0;
-    std::int64_t missing = 0;
-    std::int64_t calm = 0;
-    std::int64_t outside = 0;    ///< of the period
-    std::int64_t duplicate = 0;  ///< of the same begin as the one before: the first counts
-    std::string firstDuplicate;  ///< "file:line"
-};
 
 class Series {
  public:
@@ -41,26 +31,34 @@ class Series {
     /// record as long as the step passes through to the step in which it begins; a shorter one takes part in
     /// the average of each step that it touches. Throws for a record that is longer than the step, ends
     /// before it begins, lies before the one ahead of it or overlaps it.
-    void add(Seconds begin, Seconds end, const Wind& wind, const Place& place);
+    void add(Seconds begin, Seconds end, const Wind& wind, const Place& place,
+             MissingReason reason = MissingReason::Values);
 
     /// Closes all steps to the end of the period.
     void finish();
 
     const RecordCounts& records() const { return records_; }
+    const StepCounts& steps() const { return steps_; }
 
     /// Some record, valid or not, lies in the period.
     bool hasRecords() const { return records_.used + records_.missing > 0; }
 
  private:
     struct Average {
-        int count = 0;
-        double weight = 0;  ///< seconds that valid records cover
+        bool isTouched = false;  ///< by some record, valid or not
+        int count = 0;           ///< of valid ones
+        double weight = 0;       ///< seconds that valid records cover
         double speed = 0;
         double east = 0;  ///< of the unit vectors
         double north = 0;
         Wind single;
     };
 
+    /// Whether the record lies in the period and may count.
+    bool isInside(Seconds begin, Seconds end);
+    void countMissing(const Wind& wind, MissingReason reason);
+    void countUsed(Seconds begin, Seconds end, const Wind& wind, const Place& place);
+    void countStep(const Wind& wind);
     bool isNext(Seconds begin, Seconds end, const Place& place);
     void addPart(std::int64_t index, const Wind& wind, bool valid, double seconds);
     void closeStep();
@@ -74,6 +72,7 @@ class Series {
     RoseTable table_;
     TsfFile* file_ = nullptr;
     RecordCounts records_;
+    StepCounts steps_;
     bool any_ = false;
     Seconds lastBegin_ = 0;
     Seconds lastEnd_ = 0;

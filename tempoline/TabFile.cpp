@@ -27,7 +27,8 @@ std::string limitsText(const RoseRules& rules) {
 
 std::string monthsText(const RoseRules& rules) {
     std::string text;
-    for (const int season : rules.seasonOfMonth) text += (text.empty() ? "" : ",") + std::to_string(season);
+    for (const int season : rules.seasonOfMonth)
+        text.append(text.empty() ? "" : ",").append(std::to_string(season));
     return text;
 }
 

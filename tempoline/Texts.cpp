@@ -5,10 +5,19 @@
 
 namespace zg::tempoline {
 
-std::string metresText(double metres) {
+std::string shortText(double value) {
     char digits[400];
-    const auto end = std::to_chars(digits, digits + sizeof digits, metres, std::chars_format::fixed).ptr;
-    std::string text(digits, end);
+    const auto end = std::to_chars(digits, digits + sizeof digits, value, std::chars_format::fixed).ptr;
+    return {digits, end};
+}
+
+std::string entryLine(const std::string& name, const std::string& value) {
+    constexpr std::size_t column = 24;
+    return "  " + name + std::string(name.size() < column ? column - name.size() : 1, ' ') + value;
+}
+
+std::string metresText(double metres) {
+    std::string text = shortText(metres);
     if (text.find('.') == std::string::npos) text += ".0";
     return text;
 }

@@ -100,6 +100,14 @@ std::optional<Seconds> zoneOffset(std::string_view key) {
     return text[3] == '-' ? -offset : offset;
 }
 
+std::string zoneText(Seconds offset) {
+    const Seconds minutes = std::abs(offset) / 60;
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "UTC%c%02d%02d", offset < 0 ? '-' : '+',
+                  static_cast<int>(minutes / 60), static_cast<int>(minutes % 60));
+    return text.data();
+}
+
 std::string periodText(Seconds moment) {
     const Calendar c = calendarOf(moment);
     return std::to_string(c.year) + ' ' + std::to_string(c.month) + ' ' + std::to_string(c.day) + ' ' +

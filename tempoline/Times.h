@@ -51,6 +51,9 @@ int fullYear(int year);
 /// Seconds east of Greenwich of a key such as "UTC-0330", letters in any case; none for any other text.
 std::optional<Seconds> zoneOffset(std::string_view key);
 
+/// The key of a zone: "UTC-0330".
+std::string zoneText(Seconds offset);
+
 /// "1988 1 1 0 0": year, month, day, hour, second within the hour.
 std::string periodText(Seconds moment);
 

@@ -1,5 +1,8 @@
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
+#include <map>
 
 #include "tempoline/Fields.h"
 #include "tempoline/Texts.h"
@@ -12,7 +15,8 @@ namespace {
 
 constexpr std::size_t fieldCount = 8;  // as far as the wind
 constexpr std::size_t levelHeightField = 4;
-constexpr double farAway = 10;  // metres between the asked height and the level that are told
+constexpr double farAway = 10;          // metres between the asked height and the level: a warning
+constexpr std::size_t mostToTell = 20;  // different levels
 
 struct NearestLevel {
     bool any = false;
@@ -20,10 +24,40 @@ struct NearestLevel {
     Wind wind;
 };
 
+/// Hours by the height of the level that was taken for an output; of a thousand heights, whatever the file.
+class LevelsUsed {
+ public:
+    void add(double height) {
+        lowest_ = std::min(lowest_, height);
+        highest_ = std::max(highest_, height);
+        const auto found = hours_.find(height);
+        if (found != hours_.end())
+            ++found->second;
+        else if (hours_.size() < mostHeights)
+            hours_.emplace(height, 1);
+        else
+            ++others_;
+    }
+
+    bool isEmpty() const { return hours_.empty(); }
+    const std::map<double, std::int64_t>& hours() const { return hours_; }
+    std::int64_t others() const { return others_; }
+    double lowest() const { return lowest_; }
+    double highest() const { return highest_; }
+
+ private:
+    static constexpr std::size_t mostHeights = 1000;
+    std::map<double, std::int64_t> hours_;
+    std::int64_t others_ = 0;
+    double lowest_ = std::numeric_limits<double>::infinity();
+    double highest_ = -std::numeric_limits<double>::infinity();
+};
+
 /// Several lines an hour, one a level, stamped at its end, in the zone of the run.
 class AermetProfile : public InputReader {
  public:
-    explicit AermetProfile(const Control& control) : control_(control), nearest_(control.outputs.size()) {}
+    explicit AermetProfile(const Control& control)
+        : control_(control), nearest_(control.outputs.size()), used_(control.outputs.size()) {}
 
     void read(const std::string& path, std::vector<Series>& series) override {
         LineSource lines(path);
@@ -47,7 +81,49 @@ class AermetProfile : public InputReader {
         if (open) giveHour(end, series, {path, firstLine});
     }
 
+    void finish() override {
+        for (std::size_t i = 0; i < used_.size(); ++i) {
+            if (used_[i].isEmpty()) continue;
+            tellLevels(i, control_.outputs[i].height);
+            tellDistance(i, control_.outputs[i].height);
+        }
+    }
+
  private:
+    static std::string levelLine(double height, double asked, std::int64_t hours) {
+        std::string text = metresText(height) + " m, ";
+        if (height != asked)
+            text += metresText(roundedToMillionth(std::abs(height - asked))) + " m " +
+                    (height < asked ? "below" : "above") + " the asked height, ";
+        return entryLine("Level used", text + "in " + std::to_string(hours) + " hours");
+    }
+
+    void tellLevels(std::size_t output, double asked) {
+        std::int64_t others = used_[output].others();
+        std::size_t told = 0;
+        for (const auto& [height, hours] : used_[output].hours()) {
+            if (told++ < mostToTell)
+                noteOutput(output, levelLine(height, asked, hours));
+            else
+                others += hours;
+        }
+        if (others > 0)
+            noteOutput(output, entryLine("Other levels", "in " + std::to_string(others) + " hours"));
+    }
+
+    /// In the listing and on standard error: the other results say the height that was asked.
+    void tellDistance(std::size_t output, double asked) {
+        const double lowest = used_[output].lowest();
+        const double highest = used_[output].highest();
+        const double distance = std::max(std::abs(lowest - asked), std::abs(highest - asked));
+        if (distance == 0) return;
+        std::string text = control_.outputs[output].name + ": the wind of " + metresText(asked) +
+                           " m is that of the nearest level, " + metresText(lowest) + " m";
+        if (highest > lowest) text += " to " + metresText(highest) + " m";
+        text += ", up to " + metresText(roundedToMillionth(distance)) + " m away";
+        noteOutput(output, (distance > farAway ? "WARNING: " : "NOTE: ") + text);
+    }
+
     void takeLevel(const LineSource& lines, const std::array<std::string_view, fieldCount>& fields) {
         const double height = valueField(lines, fields[levelHeightField], "height");
         const Wind wind = {valueField(lines, fields[7], "wind speed"),
@@ -65,17 +141,17 @@ class AermetProfile : public InputReader {
 
     void giveHour(Seconds end, std::vector<Series>& series, const Place& place) {
         for (std::size_t i = 0; i < nearest_.size(); ++i) {
-            const double asked = control_.outputs[i].height;
-            if (nearest_[i].any && std::abs(nearest_[i].height - asked) > farAway)
-                note("WARNING: in some hours the level nearest to " + metresText(asked) + " m is more than " +
-                     metresText(farAway) + " m away");
-            series[i].add(end - secondsAnHour, end, nearest_[i].wind, place);
+            const NearestLevel& nearest = nearest_[i];
+            if (nearest.any) used_[i].add(nearest.height);
+            series[i].add(end - secondsAnHour, end, nearest.wind, place,
+                          nearest.any ? MissingReason::Values : MissingReason::NoLevel);
             nearest_[i] = {};
         }
     }
 
     const Control& control_;
     std::vector<NearestLevel> nearest_;
+    std::vector<LevelsUsed> used_;
 };
 
 }  // namespace

@@ -10,6 +10,7 @@ namespace zg::tempoline {
 namespace {
 
 constexpr int mostComments = 1'000'000;
+constexpr int daysALeapYear = 366;
 
 }  // namespace
 
@@ -54,6 +55,26 @@ double kilometresField(const LineSource& place, std::string_view field, std::str
 void needPolarParallel(const LineSource& place, const MapSetting& map) {
     if (map.projection == "PS" && map.latitude1 == 0)
         throw place.failure("XLAT1", "a polar map needs the parallel that it is true at");
+}
+
+std::optional<Seconds> promisedEnd(std::string_view year, std::string_view month, std::string_view day,
+                                   std::string_view hour, std::string_view second) {
+    const std::optional<int> y = wholeOf(year);
+    const std::optional<int> m = wholeOf(month);
+    const std::optional<int> d = wholeOf(day);
+    const std::optional<int> h = wholeOf(hour);
+    const std::optional<int> s = wholeOf(second);
+    if (!y || !m || !d || !h || !s) return {};
+    const bool isMoment = faultOfDate(fullYear(*y), *m, *d).empty() && faultOfHour(*h, *s).empty();
+    return isMoment ? std::optional(momentOf(fullYear(*y), *m, *d, *h, *s)) : std::nullopt;
+}
+
+std::optional<Seconds> promisedEnd(std::string_view year, std::string_view julianDay, std::string_view hour,
+                                   std::string_view second) {
+    const std::optional<int> day = wholeOf(julianDay);
+    const std::optional<Seconds> first = promisedEnd(year, "1", "1", hour, second);
+    if (!first || !day || *day < 1 || *day > daysALeapYear) return {};
+    return *first + (*day - 1) * secondsADay;
 }
 
 Seconds zoneField(const LineSource& place, std::string_view key) {

@@ -2,6 +2,7 @@
 
 // What the headers of several kinds of files have in common.
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -28,6 +29,13 @@ double kilometresField(const LineSource& place, std::string_view field, std::str
 
 /// What a polar map is true at; throws for 0 and NONE, at which no polar map is drawn.
 void needPolarParallel(const LineSource& place, const MapSetting& map);
+
+/// The end that a header promises, from year, month, day, hour and second, or from year, day of the year,
+/// hour and second. Only a warning hangs on it, so that it is nothing where the fields are no moment.
+std::optional<Seconds> promisedEnd(std::string_view year, std::string_view month, std::string_view day,
+                                   std::string_view hour, std::string_view second);
+std::optional<Seconds> promisedEnd(std::string_view year, std::string_view julianDay, std::string_view hour,
+                                   std::string_view second);
 
 /// Seconds east of Greenwich; throws for what is no key of a zone.
 Seconds zoneField(const LineSource& place, std::string_view key);

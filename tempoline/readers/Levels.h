@@ -16,6 +16,9 @@ struct Level {
 /// Metres: heights that differ by less are one, since sums of heights carry the noise of arithmetic.
 constexpr double sameHeight = 1e-4;
 
+/// The lowest level at a height or above it; as many as there are levels where there is none.
+std::size_t firstLevelFrom(const std::vector<Level>& levels, double height);
+
 /// The wind at a height between levels that rise, components interpolated linearly in height; at a level its
 /// own wind, untouched. Missing below the first and above the last level, and where a level beside it has no
 /// wind.

@@ -1,9 +1,13 @@
+#include <algorithm>
 #include <array>
+#include <limits>
 #include <map>
 
 #include "base/Text.h"
 #include "tempoline/Fields.h"
+#include "tempoline/Texts.h"
 #include "tempoline/readers/Grid.h"
+#include "tempoline/readers/GridReport.h"
 #include "tempoline/readers/HeaderLines.h"
 #include "tempoline/readers/Levels.h"
 #include "tempoline/readers/Readers.h"
@@ -13,14 +17,22 @@ namespace zg::tempoline {
 
 namespace {
 
-constexpr int mostCells = 100'000;  // along one side
-constexpr int directMethod = 4;
+constexpr int mostCells = 100'000;         // along one side
 constexpr std::size_t surfaceFields = 12;  // as far as the 10 m wind
 
 /// What one cell says of an hour.
 struct Column {
     Wind tenMetres;
     std::vector<Level> levels;
+};
+
+/// How the winds of an output came about, cell by cell and hour by hour.
+struct LevelUse {
+    double lowest = std::numeric_limits<double>::infinity();    ///< level that took part, metres
+    double highest = -std::numeric_limits<double>::infinity();  ///< the same
+    std::int64_t between = 0;                                   ///< at a level or between two
+    std::int64_t below = 0;                                     ///< the first level
+    std::int64_t above = 0;                                     ///< the last level, or there is none
 };
 
 /// A needed cell: its number in the order of the file, and its place in the columns of the hour.
@@ -35,15 +47,29 @@ struct NeededCell {
 /// lines of the needed cells are read as numbers.
 class M3d : public InputReader {
  public:
-    explicit M3d(const Control& control) : control_(control) {}
+    explicit M3d(const Control& control) : control_(control), uses_(control.outputs.size()) {}
 
     void read(const std::string& path, std::vector<Series>& series) override {
         LineSource lines(path, ReadAhead::Yes);
         readHeader(lines);
         findCells(lines);
-        tellProfile();
+        last_.reset();
         std::string_view line;
         while (nextHour(lines, line)) readHour(lines, line, series);
+        noteEnd(path, promised_, last_);
+    }
+
+    void finish() override {
+        for (std::size_t i = 0; i < uses_.size(); ++i) {
+            const LevelUse& use = uses_[i];
+            std::string text = "by the heights of each cell and hour";
+            if (use.lowest <= use.highest)
+                text += ", " + metresText(use.lowest) + " m to " + metresText(use.highest) + " m";
+            noteOutput(i, entryLine("Levels used", text));
+            noteOutput(i, entryLine("  at and between them", std::to_string(use.between) + " times"));
+            noteOutput(i, entryLine("  below the first", std::to_string(use.below) + " times"));
+            noteOutput(i, entryLine("  above the last", std::to_string(use.above) + " times"));
+        }
     }
 
  private:
@@ -63,6 +89,8 @@ class M3d : public InputReader {
         lines.need("the options of the model");
         const std::array<int, 3> sizes = sizesOf(lines, lines.need("the first time"));
         readExtract(lines);
+        note(gridLines(grid_));
+        noteShift(control_, 0);
         if (sizes[0] != grid_.lastI - grid_.firstI + 1 || sizes[1] != grid_.lastJ - grid_.firstJ + 1 ||
             sizes[2] != levelCount_)
             throw lines.failure("bounds of the extract",
@@ -93,10 +121,17 @@ class M3d : public InputReader {
     }
 
     /// nx, ny and nz of the extract, behind the first time and the number of hours.
-    static std::array<int, 3> sizesOf(const LineSource& lines, std::string_view line) {
+    std::array<int, 3> sizesOf(const LineSource& lines, std::string_view line) {
         std::array<std::string_view, 5> fields;
         if (splitBlanks(line, fields) < fields.size())
             throw lines.failure("first time", "5 numbers are needed");
+        promised_.reset();
+        const std::string_view stamp = fields[0];
+        const std::optional<int> hours = wholeOf(fields[1]);
+        if (stamp.size() == 10 && hours)
+            promised_ = promisedEnd(stamp.substr(0, 4), stamp.substr(4, 2), stamp.substr(6, 2),
+                                    stamp.substr(8, 2), "0");
+        if (promised_) *promised_ += *hours * secondsAnHour + control_.zoneOffset;
         return {wholeField(lines, fields[2], "nx"), wholeField(lines, fields[3], "ny"),
                 wholeField(lines, fields[4], "nz")};
     }
@@ -127,7 +162,13 @@ class M3d : public InputReader {
         shares_.clear();
         std::map<std::pair<int, int>, std::size_t> columns;
         for (const OutputRequest& output : control_.outputs) {
-            shares_.push_back(cellsAround(placeIn(grid_, output, control_), output, control_.method, grid_));
+            const std::size_t number = shares_.size();
+            const GridPlace place = placeIn(grid_, output, control_);
+            shares_.push_back(cellsAround(place, output, control_.method, grid_));
+            noteOutput(number, placeLines(place, shares_.back(), control_, grid_));
+            noteOutput(number, entryLine("Grid north",
+                                         "does not count: the directions of the data are by "
+                                         "true north"));
             for (const CellShare& share : shares_.back())
                 columns.emplace(std::pair(share.i, share.j), columns.size());
         }
@@ -144,14 +185,6 @@ class M3d : public InputReader {
         if (needed_.size() != columns.size())
             throw lines.failure("cells", "a cell of the extract is missing or stands twice");
         columnOf_ = std::move(columns);
-    }
-
-    void tellProfile() {
-        if (control_.profileMethod != directMethod)
-            note(
-                "Winds below the first level follow the neutral logarithmic profile over a roughness of 0.1 "
-                "m (MPROF = " +
-                std::to_string(control_.profileMethod) + ")");
     }
 
     void readHour(LineSource& lines, std::string_view firstLine, std::vector<Series>& series) {
@@ -173,8 +206,13 @@ class M3d : public InputReader {
             order = cell.order + 1;
         }
         lines.skip((cellCount_ - order) * linesACell - (atFirst ? 1 : 0), "a cell of the hour");
-        for (std::size_t i = 0; i < series.size(); ++i)
-            series[i].add(begin, begin + secondsAnHour, windOfOutput(i), lines);
+        for (std::size_t i = 0; i < series.size(); ++i) {
+            const std::int64_t above = uses_[i].above;
+            const Wind wind = windOfOutput(i);
+            series[i].add(begin, begin + secondsAnHour, wind, lines,
+                          uses_[i].above > above ? MissingReason::NoLevel : MissingReason::Values);
+        }
+        last_ = begin + secondsAnHour;
     }
 
     static Seconds timeOf(const LineSource& lines, std::string_view line) {
@@ -211,19 +249,36 @@ class M3d : public InputReader {
         }
     }
 
-    Wind windOfColumn(const Column& column, double height) const {
-        if (column.levels.empty()) return {};
+    Wind windOfColumn(const Column& column, double height, LevelUse& use) const {
+        if (column.levels.empty() || height > column.levels.back().height + sameHeight) {
+            ++use.above;
+            return {};
+        }
         const Level& lowest = column.levels.front();
-        if (height >= lowest.height - sameHeight) return windAtHeight(column.levels, height);
-        if (control_.profileMethod == directMethod) return column.tenMetres;
+        if (height >= lowest.height - sameHeight) {
+            countLevels(column, height, use);
+            return windAtHeight(column.levels, height);
+        }
+        ++use.below;
+        if (control_.profileMethod == directProfile) return column.tenMetres;
+        use.lowest = std::min(use.lowest, lowest.height);
+        use.highest = std::max(use.highest, lowest.height);
         return neutralProfile(lowest.wind, lowest.height, height);
+    }
+
+    static void countLevels(const Column& column, double height, LevelUse& use) {
+        ++use.between;
+        const std::size_t high = firstLevelFrom(column.levels, height);
+        const bool isAtLevel = column.levels[high].height <= height + sameHeight;
+        use.lowest = std::min(use.lowest, column.levels[isAtLevel ? high : high - 1].height);
+        use.highest = std::max(use.highest, column.levels[high].height);
     }
 
     Wind windOfOutput(std::size_t output) {
         winds_.clear();
         for (const CellShare& share : shares_[output])
-            winds_.push_back(
-                windOfColumn(columns_[columnOf_.at({share.i, share.j})], control_.outputs[output].height));
+            winds_.push_back(windOfColumn(columns_[columnOf_.at({share.i, share.j})],
+                                          control_.outputs[output].height, uses_[output]));
         return combined(shares_[output], winds_);
     }
 
@@ -236,6 +291,9 @@ class M3d : public InputReader {
     std::vector<NeededCell> needed_;  ///< in the order of the file
     std::vector<Column> columns_;
     std::vector<Wind> winds_;
+    std::vector<LevelUse> uses_;       ///< by output
+    std::optional<Seconds> promised_;  ///< end of the data by the header, in the zone of the run
+    std::optional<Seconds> last_;      ///< end of the last hour of the file
 };
 
 }  // namespace

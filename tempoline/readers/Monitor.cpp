@@ -3,6 +3,7 @@
 
 #include "base/Text.h"
 #include "tempoline/Fields.h"
+#include "tempoline/Texts.h"
 #include "tempoline/readers/Readers.h"
 #include "tempoline/readers/Stamp.h"
 
@@ -44,6 +45,10 @@ class Monitor : public InputReader {
                                 "no record is of the station \"" + control_.outputs[0].station + "\"");
     }
 
+    void finish() override {
+        noteOutput(0, entryLine("Records passed over", std::to_string(others_) + ", of other stations"));
+    }
+
  private:
     void readHeadings(LineSource& lines) {
         std::string line(lines.need("the headings"));
@@ -75,7 +80,10 @@ class Monitor : public InputReader {
         const std::size_t count = splitCommas(line, std::span(fields_).first(columns_));
         if (count <= station_)
             throw lines.failure("STNCODE", "the record has only " + std::to_string(count) + " fields");
-        if (stripped(fields_[station_]) != control_.outputs[0].station) return;
+        if (stripped(fields_[station_]) != control_.outputs[0].station) {
+            ++others_;
+            return;
+        }
         found_ = true;
         if (count < columns_)
             throw lines.failure("", "the record has " + std::to_string(count) + " of at least " +
@@ -148,6 +156,7 @@ class Monitor : public InputReader {
     std::size_t columns_ = 0;
     int averaging_ = 0;  ///< minutes, of the first record of the station
     bool found_ = false;
+    std::int64_t others_ = 0;  ///< records, of other stations
 };
 
 }  // namespace

@@ -4,6 +4,7 @@
 // records of every output to its series.
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,8 +16,9 @@ namespace zg::tempoline {
 /// What a file tells about itself.
 struct InputFacts {
     std::string station;
-    double height = -1;              ///< metres; negative where it tells none
-    std::vector<std::string> notes;  ///< for the listing
+    double height = -1;                                 ///< metres; negative where it tells none
+    std::vector<std::string> notes;                     ///< for the listing
+    std::vector<std::vector<std::string>> outputNotes;  ///< the same of each output; may be shorter
 };
 
 class InputReader {
@@ -27,16 +29,37 @@ class InputReader {
     /// run. Throws a Failure with file, line and field.
     virtual void read(const std::string& path, std::vector<Series>& series) = 0;
 
+    /// Adds to the facts what is known only behind the last file, or where the run failed.
+    virtual void finish() {}
+
     InputFacts facts;
 
  protected:
     /// Facts about several files are told once.
-    void note(const std::string& text) {
-        for (const std::string& known : facts.notes) {
-            if (known == text) return;
-        }
-        if (facts.notes.size() < 100) facts.notes.push_back(text);
+    void note(const std::string& text) { addOnce(facts.notes, text); }
+    void note(const std::vector<std::string>& lines) {
+        for (const std::string& line : lines) note(line);
     }
+
+    /// Of one output, by its place in the control file.
+    void noteOutput(std::size_t output, const std::string& text) {
+        if (facts.outputNotes.size() <= output) facts.outputNotes.resize(output + 1);
+        addOnce(facts.outputNotes[output], text);
+    }
+    void noteOutput(std::size_t output, const std::vector<std::string>& lines) {
+        for (const std::string& line : lines) noteOutput(output, line);
+    }
+
+    /// By how much the times of the file are moved to those of the run.
+    void noteShift(const Control& control, Seconds fileOffset);
+
+    /// Warns of a file that ends before its header says it does; all in the zone of the run. `last` is the
+    /// end of its last record, and nothing more is due so many seconds behind it.
+    void noteEnd(const std::string& path, std::optional<Seconds> promised, std::optional<Seconds> last,
+                 Seconds due = 0);
+
+ private:
+    static void addOnce(std::vector<std::string>& lines, const std::string& text);
 };
 
 /// The reader of the kind of input that the control file names; it keeps a reference to the control file.

@@ -4,6 +4,7 @@
 #include <set>
 
 #include "tempoline/Fields.h"
+#include "tempoline/Texts.h"
 #include "tempoline/readers/HeaderLines.h"
 #include "tempoline/readers/Readers.h"
 #include "tempoline/readers/Stamp.h"
@@ -24,12 +25,15 @@ class Surf : public InputReader {
     void read(const std::string& path, std::vector<Series>& series) override {
         LineSource lines(path);
         readHeader(lines);
+        std::optional<Seconds> last;
         std::string_view line;
         while (lines.next(line)) {
             if (stripped(line).empty()) continue;
             readTimes(lines, line);
             readStations(lines, series);
+            last = end_;
         }
+        noteEnd(path, promised_, last);
     }
 
  private:
@@ -51,6 +55,10 @@ class Surf : public InputReader {
             if (std::abs(west) > 14) throw lines.failure("time zone", "more than 14 hours");
             fileOffset_ = -std::llround(west * static_cast<double>(secondsAnHour));
         }
+        promised_ = hasSeconds_ ? promisedEnd(fields[4], fields[5], fields[6], fields[7])
+                                : promisedEnd(fields[3], fields[4], fields[5], "0");
+        if (promised_) *promised_ += control_.zoneOffset - fileOffset_;
+        noteShift(control_, fileOffset_);
         stationCount_ = wholeField(lines, fields[needed - 1], "number of stations");
         if (stationCount_ < 1 || stationCount_ > mostStations)
             throw lines.failure("number of stations", std::to_string(stationCount_) + " is out of range");
@@ -83,6 +91,9 @@ class Surf : public InputReader {
             if (row == noRow)
                 throw lines.failure("stations", "there is no station \"" + output.station + "\"");
             rows_.emplace(row, i);
+            noteOutput(i, entryLine("Row of the station", std::to_string(row + 1) + " of " +
+                                                              std::to_string(stationCount_) +
+                                                              "; the others are passed over"));
         }
     }
 
@@ -127,6 +138,7 @@ class Surf : public InputReader {
     std::multimap<int, std::size_t> rows_;  ///< row of the station, and the output that wants it
     Seconds begin_ = 0;
     Seconds end_ = 0;
+    std::optional<Seconds> promised_;  ///< end of the data by the header, in the zone of the run
 };
 
 }  // namespace

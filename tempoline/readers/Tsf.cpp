@@ -24,6 +24,7 @@ class Tsf : public InputReader {
         readHeader(lines);
         const Seconds shift = control_.zoneOffset - fileOffset_;
         const std::size_t needed = timeFields + variables_;
+        std::optional<Seconds> last;
         std::string_view line;
         std::array<std::string_view, timeFields + mostVariables> fields;
         while (lines.next(line)) {
@@ -37,7 +38,9 @@ class Tsf : public InputReader {
             const Wind wind = {known(valueField(lines, fields[timeFields + speed_], "WSPEED")),
                                known(valueField(lines, fields[timeFields + direction_], "WDIR"))};
             series[0].add(begin + shift, end + shift, wind, lines);
+            last = end + shift;
         }
+        noteEnd(path, promised_, last);
     }
 
  private:
@@ -55,7 +58,8 @@ class Tsf : public InputReader {
         fileOffset_ = zoneField(lines, zone);
         if (ucase(stripped(lines.need("GREGORIAN_YMD"))) != "GREGORIAN_YMD")
             throw lines.failure("", "GREGORIAN_YMD is needed");
-        lines.need("the period");
+        readPeriod(lines.need("the period"));
+        noteShift(control_, fileOffset_);
         readVariables(lines);
     }
 
@@ -66,6 +70,14 @@ class Tsf : public InputReader {
         if (colon == std::string_view::npos || equals == std::string_view::npos || equals < colon) return;
         if (ucase(stripped(line.substr(colon + 1, equals - colon - 1))) == "STATION ID")
             facts.station = stripped(line.substr(equals + 1));
+    }
+
+    void readPeriod(std::string_view line) {
+        std::array<std::string_view, timeFields> fields;
+        promised_.reset();
+        if (splitBlanks(line, fields) < timeFields) return;
+        promised_ = promisedEnd(fields[5], fields[6], fields[7], fields[8], fields[9]);
+        if (promised_) *promised_ += control_.zoneOffset - fileOffset_;
     }
 
     void readVariables(LineSource& lines) {
@@ -100,6 +112,7 @@ class Tsf : public InputReader {
     std::size_t variables_ = 0;
     std::size_t direction_ = 0;
     std::size_t speed_ = 0;
+    std::optional<Seconds> promised_;  ///< end of the data by the header, in the zone of the run
 };
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "tempoline/Fields.h"
+#include "tempoline/Texts.h"
 #include "tempoline/readers/HeaderLines.h"
 #include "tempoline/readers/Levels.h"
 #include "tempoline/readers/Readers.h"
@@ -40,14 +41,28 @@ class Up : public InputReader {
     void read(const std::string& path, std::vector<Series>& series) override {
         LineSource lines(path);
         readHeader(lines);
+        std::optional<Seconds> last;
+        Seconds lastBegin = 0;
+        Seconds spacing = 0;  // of soundings, which are due so long behind each other
         std::string_view line;
         while (lines.next(line)) {
             if (stripped(line).empty()) continue;
             const int count = readTimes(lines, line);
             readLevels(lines, count);
-            for (std::size_t i = 0; i < series.size(); ++i)
-                series[i].add(begin_, end_, windAbove(control_.outputs[i].height), lines);
+            for (std::size_t i = 0; i < series.size(); ++i) giveWind(series[i], i, lines);
+            if (last) spacing = begin_ - lastBegin;
+            last = end_;
+            lastBegin = begin_;
         }
+        noteEnd(path, promised_, last, spacing);
+    }
+
+    void finish() override {
+        for (std::size_t i = 0; i < control_.outputs.size(); ++i)
+            noteOutput(i,
+                       entryLine("Levels used", "the two around " + metresText(control_.outputs[i].height) +
+                                                    " m above the lowest level, by the heights of each "
+                                                    "sounding"));
     }
 
  private:
@@ -59,12 +74,28 @@ class Up : public InputReader {
         skipComments(lines);
         lines.need("the line behind the comments");
         if (hasSeconds_) fileOffset_ = zoneField(lines, lines.need("the time zone"));
-        lines.need("the period");
+        readPeriod(lines.need("the period"));
+        noteShift(control_, fileOffset_);
         lines.need("the line behind the period");
         std::array<std::string_view, 2> fields;
         if (splitBlanks(lines.need("the station"), fields) < 2)
             throw lines.failure("station", "the second field is missing");
         facts.station = fields[1];
+    }
+
+    void readPeriod(std::string_view line) {
+        std::array<std::string_view, 8> fields;
+        const std::size_t count = splitBlanks(line, fields);
+        promised_.reset();
+        if (hasSeconds_ && count == 8) promised_ = promisedEnd(fields[4], fields[5], fields[6], fields[7]);
+        if (!hasSeconds_ && count >= 6) promised_ = promisedEnd(fields[3], fields[4], fields[5], "0");
+        if (promised_) *promised_ += control_.zoneOffset - fileOffset_;
+    }
+
+    void giveWind(Series& series, std::size_t output, const LineSource& lines) const {
+        const Wind wind = windAbove(control_.outputs[output].height);
+        series.add(begin_, end_, wind, lines,
+                   hasSpeed(wind) ? MissingReason::Values : MissingReason::NoLevel);
     }
 
     int readTimes(const LineSource& lines, std::string_view line) {
@@ -136,6 +167,7 @@ class Up : public InputReader {
     double ground_ = missingValue;  ///< height of the lowest level
     double last_ = 0;               ///< height of the level before
     std::vector<Level> levels_;
+    std::optional<Seconds> promised_;  ///< end of the data by the header, in the zone of the run
 };
 
 }  // namespace

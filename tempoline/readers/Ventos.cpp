@@ -7,6 +7,7 @@
 #include "tempoline/Fields.h"
 #include "tempoline/Texts.h"
 #include "tempoline/readers/Grid.h"
+#include "tempoline/readers/GridReport.h"
 #include "tempoline/readers/HeaderLines.h"
 #include "tempoline/readers/Levels.h"
 #include "tempoline/readers/Readers.h"
@@ -36,6 +37,7 @@ class Ventos : public InputReader {
         LineSource lines(path, ReadAhead::Yes);
         readHeader(lines);
         findRows();
+        std::optional<Seconds> last;
         std::string_view line;
         while (lines.next(line)) {
             if (stripped(line).empty()) continue;
@@ -46,8 +48,10 @@ class Ventos : public InputReader {
             readComponent(lines, u_, "a row of u");
             readComponent(lines, v_, "a row of v");
             for (std::size_t i = 0; i < series.size(); ++i)
-                series[i].add(begin, begin + fileStep_, windOfOutput(i), lines);
+                series[i].add(begin, begin + fileStep_, windOfOutput(i), lines, reasonOf(i));
+            last = begin + fileStep_;
         }
+        noteEnd(path, promised_, last);
     }
 
  private:
@@ -61,9 +65,14 @@ class Ventos : public InputReader {
         fileOffset_ = zoneField(lines, fields[10]);
         fileStep_ = wholeField(lines, fields[11], "step");
         if (fileStep_ < 1) throw lines.failure("step", "it must be above 0");
+        promised_ = promisedEnd(fields[5], fields[6], fields[7], fields[8], fields[9]);
+        if (promised_) *promised_ += control_.zoneOffset - fileOffset_;
+        noteShift(control_, fileOffset_);
         readProjection(lines);
         readGrid(lines);
         readFaces(lines);
+        note(gridLines(grid_));
+        tellLevels();
     }
 
     void readProjection(LineSource& lines) {
@@ -157,13 +166,16 @@ class Ventos : public InputReader {
         std::map<std::size_t, std::map<int, std::size_t>> rows;
         std::size_t count = 0;
         for (const OutputRequest& output : control_.outputs) {
+            const std::size_t number = shares_.size();
             const GridPlace place = placeIn(grid_, output, control_);
             shares_.push_back(cellsAround(place, output, control_.method, grid_));
-            turns_.push_back(convergenceAt(place.onMap, grid_.map));
-            note("Grid north at output " + output.name + " lies " + fixedText(turns_.back(), 6) +
-                 " degrees clockwise of true north");
             pairs_.push_back(levelsAround(output.height));
-            tellHeight(output, pairs_.back());
+            turns_.push_back(convergenceAt(place.onMap, grid_.map));
+            noteOutput(number, placeLines(place, shares_.back(), control_, grid_));
+            noteOutput(number, entryLine("Grid north", fixedText(turns_.back(), 6) +
+                                                           " degrees clockwise of true north; added to the "
+                                                           "directions of the data"));
+            tellHeight(number, pairs_.back());
             places_.emplace_back();
             for (const std::size_t level : {pairs_.back().low, pairs_.back().high}) {
                 for (const CellShare& share : shares_.back()) {
@@ -188,14 +200,33 @@ class Ventos : public InputReader {
         v_.assign(count, missingValue);
     }
 
-    void tellHeight(const OutputRequest& output, const LevelPair& pair) {
-        if (pair.isAbove)
+    void tellLevels() {
+        std::string text;
+        for (const double height : heights_) text += (text.empty() ? "" : ", ") + metresText(height);
+        note(entryLine("Levels of the data (m)", text));
+    }
+
+    void tellHeight(std::size_t number, const LevelPair& pair) {
+        const OutputRequest& output = control_.outputs[number];
+        const std::string low = metresText(heights_[pair.low]) + " m";
+        if (pair.isAbove) {
             note("WARNING: " + metresText(output.height) + " m lies above the last level, " +
                  metresText(heights_.back()) + " m: there is no wind");
-        else if (isBelowFirst(output.height))
-            note(
-                "Winds below the first level follow the neutral logarithmic profile over a roughness of 0.1 "
-                "m");
+        } else if (isBelowFirst(output.height)) {
+            noteOutput(number, entryLine("Level used", low + ", by the neutral logarithmic profile over a "
+                                                             "roughness of 0.1 m"));
+        } else if (pair.low == pair.high) {
+            noteOutput(number, entryLine("Level used", low));
+        } else {
+            const double share = shareOfHigh(pair, output.height);
+            noteOutput(number, entryLine("Levels and weights", low + " by " + fixedText(1 - share, 6) + "; " +
+                                                                   metresText(heights_[pair.high]) +
+                                                                   " m by " + fixedText(share, 6)));
+        }
+    }
+
+    double shareOfHigh(const LevelPair& pair, double height) const {
+        return (height - heights_[pair.low]) / (heights_[pair.high] - heights_[pair.low]);
     }
 
     void readComponent(LineSource& lines, std::vector<double>& values, std::string_view what) {
@@ -244,7 +275,7 @@ class Ventos : public InputReader {
         Components high;
         if (pair.isAbove || !sumAt(output, 0, low) || !sumAt(output, 1, high)) return {};
         if (pair.low != pair.high) {
-            const double share = (height - heights_[pair.low]) / (heights_[pair.high] - heights_[pair.low]);
+            const double share = shareOfHigh(pair, height);
             low.u += share * (high.u - low.u);
             low.v += share * (high.v - low.v);
         }
@@ -252,10 +283,15 @@ class Ventos : public InputReader {
         return isBelowFirst(height) ? neutralProfile(wind, heights_.front(), height) : wind;
     }
 
+    MissingReason reasonOf(std::size_t output) const {
+        return pairs_[output].isAbove ? MissingReason::NoLevel : MissingReason::Values;
+    }
+
     const Control& control_;
     Grid grid_;
     Seconds fileOffset_ = 0;
     Seconds fileStep_ = secondsAnHour;
+    std::optional<Seconds> promised_;  ///< end of the data by the header, in the zone of the run
     std::size_t levelCount_ = 0;
     std::vector<double> heights_;                   ///< of the levels
     std::vector<std::vector<CellShare>> shares_;    ///< by output

@@ -105,6 +105,54 @@ TEST_F(SeriesTest, TheFirstOfTwoWithOneTimeCounts) {
     EXPECT_EQ(all(series).cells[4][1], 1);
 }
 
+TEST_F(SeriesTest, WhyRecordsAndStepsAreMissing) {
+    Series series(control_);
+    add(series, -60, 0, {2, 90});
+    add(series, 0, 60, {missingValue, 90});
+    add(series, 60, 120, {91, 90});
+    add(series, 120, 180, {2, missingValue});
+    add(series, 180, 240, {2, 361});
+    series.add(at(240), at(300), {}, place_, MissingReason::NoLevel);
+    add(series, 300, 329, {2, 90});
+    add(series, 360, 390, {2, 90});
+    add(series, 390, 420, {2, 270});
+    add(series, 420, 480, {2, 90});
+    add(series, 24 * 60, 25 * 60, {2, 90});
+    series.finish();
+    const RecordCounts& records = series.records();
+    EXPECT_EQ(records.noSpeed, 1);
+    EXPECT_EQ(records.wrongSpeed, 1);
+    EXPECT_EQ(records.noDirection, 1);
+    EXPECT_EQ(records.wrongDirection, 1);
+    EXPECT_EQ(records.noLevel, 1);
+    EXPECT_EQ(records.missing, 5);
+    EXPECT_EQ(records.outside, 2);
+    EXPECT_EQ(records.early, 1);
+    EXPECT_EQ(records.firstUsed.begin, at(300));
+    EXPECT_EQ(records.firstUsed.end, at(329));
+    EXPECT_EQ(records.firstUsed.path, path_);
+    EXPECT_EQ(records.firstUsed.line, 1U);
+    EXPECT_EQ(records.lastUsed.begin, at(420));
+    const StepCounts& steps = series.steps();
+    EXPECT_EQ(steps.total, 24);
+    EXPECT_EQ(steps.valid, 1);
+    EXPECT_EQ(steps.noWind, 5);
+    EXPECT_EQ(steps.tooShort, 1);
+    EXPECT_EQ(steps.noDirection, 1);
+    EXPECT_EQ(steps.noRecord, 16);
+}
+
+TEST_F(SeriesTest, WholeRecordsThatBeginWithinAStepAreCounted) {
+    Series series(control_);
+    add(series, 30, 90, {2, 90});
+    add(series, 90, 150, {2, 90});
+    add(series, 180, 240, {2, 90});
+    add(series, 250, 280, {2, 90});
+    EXPECT_EQ(series.records().misaligned, 2);
+    EXPECT_EQ(series.records().misalignment, 1800);
+    EXPECT_EQ(series.records().length.commonest(), 3600);
+}
+
 TEST_F(SeriesTest, DisorderIsAFailure) {
     Series series(control_);
     add(series, 60, 120, {2, 90});

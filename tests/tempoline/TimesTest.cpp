@@ -63,4 +63,9 @@ TEST(Times, FaultsAreNamed) {
     EXPECT_EQ(faultOfHour(25, 0), "hour 25 is not between 0 and 24");
 }
 
+TEST(Times, TheKeyOfAZone) {
+    for (const char* const key : {"UTC+0000", "UTC-0330", "UTC+0545", "UTC+1400"})
+        EXPECT_EQ(zoneText(*zoneOffset(key)), key);
+}
+
 }  // namespace zg::tempoline
