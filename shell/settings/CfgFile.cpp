@@ -13,6 +13,8 @@ namespace zg {
 
 namespace {
 
+constexpr const char* lineEnd = "\r\n";
+
 constexpr std::array<const char*, 68> defaultLines = {
     "(UTC-05:00) Eastern Time (US & Canada)",
     // season and custom season of each month
@@ -38,7 +40,7 @@ constexpr std::array<const char*, 68> defaultLines = {
 
 class ValueReader {
  public:
-    explicit ValueReader(const std::string& path) : lines_(path) {}
+    explicit ValueReader(LineReader lines) : lines_(std::move(lines)) {}
 
     void operator()(std::string& value) { value = trim(lines_.readLine()); }
     void operator()(float& value) { value = toSingle(lines_.readLine()); }
@@ -52,17 +54,15 @@ class ValueReader {
 
 class ValueWriter {
  public:
-    explicit ValueWriter(const std::string& path) : lines_(path) {}
-
-    void operator()(const std::string& value) { lines_.writeLine(value); }
-    void operator()(const float& value) { lines_.writeLine(singleText(value)); }
-    void operator()(const std::int16_t& value) { lines_.writeLine(std::to_string(value)); }
-    void operator()(const bool& value) { lines_.writeLine(boolText(value)); }
-    void timeZone(const std::string& value) { lines_.writeLine(trimmed(value)); }
-    void close() { lines_.close(); }
+    void operator()(const std::string& value) { text_ += value + lineEnd; }
+    void operator()(const float& value) { (*this)(singleText(value)); }
+    void operator()(const std::int16_t& value) { (*this)(std::to_string(value)); }
+    void operator()(const bool& value) { (*this)(std::string(boolText(value))); }
+    void timeZone(const std::string& value) { (*this)(trim(value)); }
+    std::string text() && { return std::move(text_); }
 
  private:
-    LineWriter lines_;
+    std::string text_;
 };
 
 template <typename Visitor>
@@ -72,6 +72,31 @@ void visitFont(Visitor& visit, FontRecord& font) {
     visit(font.size);
     visit(font.bold);
     visit(font.italic);
+}
+
+std::string factoryText() {
+    std::string text;
+    for (const char* line : defaultLines) text += line + std::string(lineEnd);
+    return text;
+}
+
+/// False where the bytes did not reach the file.
+bool writeFile(const std::string& path, const std::string& text) {
+    try {
+        LineWriter file(path);
+        file.write(text);
+        file.close();
+        return true;
+    } catch (const RunTimeError&) {
+        return false;
+    }
+}
+
+/// The text is in the file, or stands for it in memory.
+bool keep(const std::string& text) {
+    const bool written = writeFile(settings.CfgFilePath, text);
+    settings.CfgInMemory = written ? std::string() : text;
+    return written;
 }
 
 /// The one order of the lines, for reading and writing.
@@ -101,8 +126,9 @@ void visitLines(Visitor& visit) {
 }  // namespace
 
 void ReadCfgFile(const std::string& path) {
+    const std::string inMemory = path == settings.CfgFilePath ? settings.CfgInMemory : std::string();
     try {
-        ValueReader reader(path);
+        ValueReader reader(inMemory.empty() ? LineReader(path) : LineReader::ofText(inMemory));
         visitLines(reader);
     } catch (const RunTimeError&) {
         WriteDefaultCfgFile();
@@ -110,23 +136,16 @@ void ReadCfgFile(const std::string& path) {
 }
 
 void WriteCfgFile(const std::string& path) {
-    try {
-        ValueWriter writer(path);
-        visitLines(writer);
-        writer.close();
-    } catch (const RunTimeError&) {
-        WriteDefaultCfgFile();
+    ValueWriter writer;
+    visitLines(writer);
+    const std::string text = std::move(writer).text();
+    if (path != settings.CfgFilePath) {
+        if (!writeFile(path, text)) WriteDefaultCfgFile();
+    } else if (!keep(text) && writeFile(path, factoryText())) {
+        settings.CfgInMemory.clear();
     }
 }
 
-void WriteDefaultCfgFile() {
-    try {
-        LineWriter lines(settings.CfgFilePath);
-        for (const char* line : defaultLines) lines.writeLine(line);
-        lines.close();
-    } catch (const RunTimeError&) {
-        // The program runs on with what it has; the next start tries again.
-    }
-}
+void WriteDefaultCfgFile() { keep(factoryText()); }
 
 }  // namespace zg

@@ -14,6 +14,7 @@ using ClassTexts = std::array<std::string, 6>;
 
 struct Settings {
     std::string CfgFilePath;  ///< Zephyrgraph.cfg in the program's directory
+    std::string CfgInMemory;  ///< its lines where they could not be written; "" where they could
 
     std::string DefaultTimeZone;  ///< label of the time zone offered first
     MonthTexts SeasonOfMonth;

@@ -57,11 +57,37 @@ TEST_F(StartSequenceTest, StoredSeasonThatTheListLacksIsReplacedInTheFile) {
     EXPECT_EQ(settings.SeasonOfMonth[1], "Winter");
 }
 
-TEST_F(StartSequenceTest, WithoutAWritableFileTheSeasonsAreStillDerived) {
+TEST_F(StartSequenceTest, WithoutAWritableFileTheFactoryValuesAreInMemory) {
     std::filesystem::create_directory(cfgPath());
     startSettings();
+    EXPECT_EQ(settings.DefaultTimeZone, "(UTC-05:00) Eastern Time (US & Canada)");
     EXPECT_EQ(settings.MonthSeasonString, "1,1,2,2,2,3,3,3,4,4,4,1");
-    EXPECT_EQ(settings.WindClassString, ",,,,,") << "no file gave the classes";
+    EXPECT_EQ(settings.WindClassString, "0.5,1.8,3.3,5.4,8.5,10.8");
+    EXPECT_EQ(settings.RadiusText, "25%");
+    EXPECT_EQ(modPolarGraph.LegendFont, (FontRecord{0, "Arial", 7, false, false}));
+    EXPECT_EQ(modPolarGraph.GridLineColor, 14737630.0F);
+    EXPECT_TRUE(std::filesystem::is_empty(cfgPath())) << "nothing is written anywhere";
+}
+
+TEST_F(StartSequenceTest, WithoutAWritableFileChangesHoldUntilTheEnd) {
+    std::filesystem::create_directory(cfgPath());
+    startSettings();
+    acceptWindClasses({"1", "2", "3", "4", "5", "6"});
+    resetWindClassMin();
+    EXPECT_EQ(loadWindClasses(), (ClassTexts{"1", "2", "3", "4", "5", "6"})) << "as the file would have them";
+    std::filesystem::remove(cfgPath());
+    WriteCfgFile(settings.CfgFilePath);
+    EXPECT_EQ(linesOf(cfgBytes()).at(25), "1") << "the file takes over as soon as it can be written";
+    writeCfg(defaultBytes());
+    EXPECT_EQ(loadWindClasses().at(0), "0.5");
+}
+
+TEST_F(StartSequenceTest, ADamagedFileThatCannotBeReplacedIsReadNoMore) {
+    settings.CfgFilePath = "/proc/self/status";  // readable, of other lines, and never to be written
+    ReadCfgFile(settings.CfgFilePath);
+    ReadCfgFile(settings.CfgFilePath);
+    EXPECT_EQ(settings.DefaultTimeZone, "(UTC-05:00) Eastern Time (US & Canada)");
+    EXPECT_EQ(settings.ZoomListIndex, 3);
 }
 
 TEST_F(StartSequenceTest, ResetOfTheClassesReachesTheFileWithTheNextWrite) {
