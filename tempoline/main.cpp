@@ -1,11 +1,13 @@
 // The processor: the control file of a run, or the counts of partial runs to be joined.
 
+#include <cstddef>
 #include <cstdio>
 #include <exception>
 #include <new>
 #include <string>
 #include <vector>
 
+#include "base/Paths.h"
 #include "base/Version.h"
 #include "tempoline/Interrupt.h"
 #include "tempoline/Merge.h"
@@ -17,8 +19,8 @@ using zg::tempoline::ExitStatus;
 using zg::tempoline::Failure;
 
 constexpr const char* usage =
-    "usage: tempoline.exe CONTROLFILE\n"
-    "       tempoline.exe --merge [--out NAME] A.tab B.tab ...\n"
+    "usage: tempoline.exe [--] CONTROLFILE\n"
+    "       tempoline.exe --merge [--out NAME] [--] A.tab B.tab ...\n"
     "       tempoline.exe --help | --version\n";
 
 constexpr const char* help =
@@ -36,6 +38,11 @@ ExitStatus merge(const std::vector<std::string>& arguments) {
     std::string name = "merged";
     std::vector<std::string> files;
     for (std::size_t i = 1; i < arguments.size(); ++i) {
+        if (arguments[i] == "--") {
+            files.insert(files.end(), arguments.begin() + static_cast<std::ptrdiff_t>(i) + 1,
+                         arguments.end());
+            break;
+        }
         if (arguments[i] == "--out" && i + 1 < arguments.size())
             name = arguments[++i];
         else
@@ -54,16 +61,23 @@ ExitStatus say(const std::string& text) {
     return written ? ExitStatus::Completed : ExitStatus::Failed;
 }
 
+/// A control file's name comes from that of the data, which may begin with a dash.
+bool isOption(const std::string& argument) { return argument.starts_with('-') && !zg::fileExists(argument); }
+
 ExitStatus start(const std::vector<std::string>& arguments) {
     if (!arguments.empty() && arguments[0] == "--merge") return merge(arguments);
     if (arguments.size() == 1 && arguments[0] == "--help") return say(std::string(usage) + help);
     if (arguments.size() == 1 && arguments[0] == "--version")
         return say(std::string("tempoline ") + zg::versionNumber + "\n");
-    if (arguments.size() != 1 || arguments[0].empty() || arguments[0][0] == '-') {
+    const bool onlyNames = !arguments.empty() && arguments[0] == "--";
+    const std::size_t names = onlyNames ? 1 : 0;
+    const bool isRun = arguments.size() == names + 1 && !arguments[names].empty() &&
+                       (onlyNames || !isOption(arguments[names]));
+    if (!isRun) {
         std::fputs(usage, stderr);
         return ExitStatus::BadControl;
     }
-    return zg::tempoline::run(arguments[0]);
+    return zg::tempoline::run(arguments[names]);
 }
 
 ExitStatus told(const char* message, ExitStatus status) {

@@ -153,5 +153,32 @@ def case_names_taken(processor, directory):
     assert not temporaries(directory), names(directory)
 
 
+def case_odd_names(processor, directory):
+    """Names that look like options, and names with quotes, are names."""
+    surface(directory, good_day())
+    day_control(directory)
+    good = (directory / "c.inp").read_bytes()
+    for name in ("-dash.inp", "--dash.inp", "--merge.inp", "-", "--out", 'a"b.inp', '"', "it's.inp", "$(x).inp", " .inp", "%&^!.inp"):
+        (directory / name).write_bytes(good)
+        for words in ([name], ["--", name]):
+            done = run(processor, directory, *words)
+            assert done.returncode == 0, (words, done.stderr)
+            (directory / "out.frq").unlink()
+        (directory / name).unlink()
+    (directory / "--merge").write_bytes(good)
+    assert run(processor, directory, "--", "--merge").returncode == 0
+    for words in (["-dash.inp"], ["--"], ["--", "c.inp", "c.inp"], ["-", "c.inp"], [""], ["--", ""], ["--merge", "--"]):
+        done = run(processor, directory, *words)
+        assert done.returncode == 2 and done.stderr.startswith("usage: "), (words, done.stderr)
+    done = run(processor, directory, "--", "-none.inp")
+    assert done.returncode == 2 and done.stderr == "tempoline: -none.inp: No such file or directory\n", done.stderr
+    (directory / "-a.tab").write_bytes((directory / "out.tab").read_bytes())
+    (directory / "--out").write_bytes((directory / "out.tab").read_bytes())
+    for words in (["-a.tab"], ["--", "-a.tab"], ["--", "--out"]):
+        done = run(processor, directory, "--merge", "--out", "joined", *words)
+        assert done.returncode == 0 and (directory / "joined.frq").exists(), (words, done.stderr)
+        (directory / "joined.frq").unlink()
+
+
 if __name__ == "__main__":
     sys.exit(main(globals()))
