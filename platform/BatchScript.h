@@ -3,15 +3,20 @@
 #include <string>
 #include <vector>
 
+#include "processing/BatchFile.h"
+
 namespace zg {
 
-/// The lines of a batch file as a script for the POSIX shell: "cd", a quoted program with its words, "copy"
-/// of one file to another. A drive line and "pause" do nothing; every line runs whatever became of the one
-/// before it. Words are parted at blanks, and nothing in them means anything to the shell.
-std::string asShellScript(const std::vector<std::string>& batchLines);
+/// A run's batch file as a script for the POSIX shell: into the output directory, the processor with the
+/// words of its line, parted at blanks, and the listing copied to the marker. Nothing in a name means
+/// anything to the shell. A listing that the processor has not written in this run makes no marker.
+///
+/// Where no marker comes, the reason is written in one line on standard error and to a file of that name,
+/// which appears whole; "" is no such file.
+std::string asShellScript(const RunBatch& run, const std::string& reportFile);
 
-/// The words that start a script in a session of its own, so that what ends the program does not end the
-/// script. With a terminal program it runs in a window that stays open until a key is pressed.
+/// The words that start a script. With a terminal program it runs in a window that stays open until a key is
+/// pressed.
 std::vector<std::string> scriptCommand(const std::string& script, const std::string& terminal);
 
 }  // namespace zg

@@ -2,18 +2,21 @@
 
 #include <QGuiApplication>
 #include <QProcess>
-#include <QStandardPaths>
 #include <vector>
 
 #include "base/Lines.h"
+#include "base/Paths.h"
 #include "base/RunTimeError.h"
-#include "base/Text.h"
 #include "platform/BatchScript.h"
+#include "platform/Detached.h"
 #include "platform/QtText.h"
+#include "processing/BatchFile.h"
 
 namespace zg {
 
 namespace {
+
+constexpr std::size_t mostLines = 5;
 
 [[maybe_unused]] void startShell(const std::string& batchFile, WindowStyle style) {
     QStringList words = {QStringLiteral("/c"), QStringLiteral("start"), QStringLiteral("\"\"")};
@@ -22,35 +25,45 @@ namespace {
     if (!QProcess::startDetached(QStringLiteral("cmd"), words)) raise(ErrorNumber::InvalidProcedureCall);
 }
 
-/// Path of the desktop's terminal program; "" where there is no desktop or no such program.
-[[maybe_unused]] std::string terminalProgram() {
-    const QString platform = QGuiApplication::platformName();
-    const bool onDesktop = platform == QLatin1String("xcb") || platform.startsWith(QLatin1String("wayland"));
-    if (!onDesktop) return {};
-    return filePath(QStandardPaths::findExecutable(QStringLiteral("x-terminal-emulator")));
+/// The lines of a small file; one more than the program writes tells that it is another's.
+std::vector<std::string> firstLines(const std::string& batchFile) {
+    std::vector<std::string> lines;
+    LineReader reader(batchFile);
+    while (!reader.atEnd() && lines.size() <= mostLines) lines.emplace_back(reader.readLine());
+    return lines;
 }
 
-/// Without a terminal the script's output is that of the program.
-[[maybe_unused]] void startScript(const std::string& script) {
-    QStringList words;
-    for (const std::string& word : scriptCommand(script, terminalProgram())) words.append(fileName(word));
-    const QString program = words.takeFirst();
-    if (!QProcess::startDetached(program, words)) raise(ErrorNumber::InvalidProcedureCall);
+/// Path of the desktop's terminal program; "" where there is no desktop or no such program.
+std::string terminalProgram() {
+    const QString platform = QGuiApplication::platformName();
+    const bool onDesktop = platform == QLatin1String("xcb") || platform.startsWith(QLatin1String("wayland"));
+    return onDesktop ? programInPath("x-terminal-emulator") : std::string();
 }
 
 /// The desktop's own viewer stands for the one that the line names.
 void showText(const std::string& path) {
-    if (!QProcess::startDetached(QStringLiteral("xdg-open"), {fileName(path)}))
+    if (programInPath("xdg-open").empty())
         throw RunTimeError(static_cast<int>(ErrorNumber::FileNotFound),
                            "File not found: xdg-open, which shows text files on this desktop");
+    const std::string plain = path.starts_with("-") ? "./" + path : path;
+    if (!startDetached({"xdg-open", plain})) raise(ErrorNumber::InvalidProcedureCall);
+}
+
+/// Others may write in the directory too: only this program's processor runs, and only there.
+bool isOwnRun(const RunBatch& run, const std::string& batchFile) {
+    return run.outputDirectory + "run_tempoline.bat" == batchFile &&
+           run.programDirectory == applicationDirectory;
 }
 
 }  // namespace
 
-std::string viewedFile(std::string_view line) {
-    constexpr std::string_view command = "notepad ";
-    line = trimmed(line);
-    return line.starts_with(command) ? removeQuotes(line.substr(command.size())) : std::string();
+/// Without a place for it the run goes on and tells nothing.
+std::string BatchStarter::newReport(const std::string& batchFile) {
+    if (!reports_) reports_ = std::make_unique<QTemporaryDir>();
+    std::string& report = reportOfBatch_[batchFile];
+    report.clear();
+    if (reports_->isValid()) report = filePath(reports_->filePath(QString::number(++runs_)));
+    return report;
 }
 
 void BatchStarter::start(const std::string& batchFile, WindowStyle style) {
@@ -58,17 +71,28 @@ void BatchStarter::start(const std::string& batchFile, WindowStyle style) {
     startShell(batchFile, style);
 #else
     static_cast<void>(style);  // nothing opens a window of its own here but the viewer
-    std::vector<std::string> others;
-    LineReader lines(batchFile);
-    while (!lines.atEnd()) {
-        const std::string line(lines.readLine());
-        if (const std::string path = viewedFile(line); !path.empty())
-            showText(path);
-        else
-            others.push_back(line);
-    }
-    if (const std::string script = asShellScript(others); !script.empty()) startScript(script);
+    const std::vector<std::string> lines = firstLines(batchFile);
+    if (const std::string path = lines.size() == 1 ? viewedFile(lines[0]) : std::string(); !path.empty())
+        return showText(path);
+    const auto run = readRunBatch(lines);
+    if (!run || !isOwnRun(*run, batchFile))
+        throw RunTimeError(static_cast<int>(ErrorNumber::InvalidProcedureCall),
+                           "Invalid procedure call or argument: " + batchFile +
+                               " holds other lines than this program writes");
+    if (!startDetached(scriptCommand(asShellScript(*run, newReport(batchFile)), terminalProgram())))
+        raise(ErrorNumber::InvalidProcedureCall);
 #endif
+}
+
+std::string BatchStarter::outcome(const std::string& batchFile) {
+    const auto report = reportOfBatch_.find(batchFile);
+    if (report == reportOfBatch_.end() || report->second.empty()) return {};
+    try {
+        LineReader lines(report->second);
+        return lines.atEnd() ? std::string() : std::string(lines.readLine());
+    } catch (const RunTimeError&) {
+        return {};  // the processor is still at work
+    }
 }
 
 }  // namespace zg

@@ -1,16 +1,26 @@
 #pragma once
 
+#include <QTemporaryDir>
+#include <map>
+#include <memory>
+
 #include "processing/ProcessStarter.h"
 
 namespace zg {
 
-/// Starts batch files on this platform: by the shell where it knows them, else by carrying out their lines.
+/// Starts batch files on this platform: by the shell where it knows them, else by carrying out their lines,
+/// if they are those that the program itself writes for that place.
 class BatchStarter : public ProcessStarter {
  public:
     void start(const std::string& batchFile, WindowStyle style) override;
-};
+    std::string outcome(const std::string& batchFile) override;
 
-/// The file that a line 'notepad "path"' asks to show; "" for another line.
-std::string viewedFile(std::string_view line);
+ private:
+    std::string newReport(const std::string& batchFile);
+
+    std::unique_ptr<QTemporaryDir> reports_;            ///< made at the first run
+    std::map<std::string, std::string> reportOfBatch_;  ///< of the last start of each batch file
+    int runs_ = 0;
+};
 
 }  // namespace zg

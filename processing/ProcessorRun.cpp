@@ -5,8 +5,9 @@
 #include <cstdio>
 
 #include "base/Lines.h"
+#include "base/Paths.h"
 #include "base/RunTimeError.h"
-#include "base/Text.h"
+#include "processing/BatchFile.h"
 #include "processing/Wait.h"
 
 namespace zg {
@@ -17,7 +18,6 @@ constexpr const char* batchName = "run_tempoline.bat";
 constexpr const char* markerName = "finished.txt";
 constexpr std::int64_t animationMs = 300;
 constexpr std::int64_t sliceMs = 50;  // between looks at whether the program is being closed
-constexpr int badFileName = 52;
 
 /// The user chose Cancel, or the program is being closed.
 struct RunEnded {};
@@ -58,16 +58,8 @@ class Run {
     }
 
     void prepare() {
-        if (form_ != RunForm::Stations) {
-            hooks_.setBusy(true);
-            hooks_.setStatus("Running...");
-        }
-        step([this] {
-            hooks_.readValues();
-            directory_ = hooks_.outputDirectory();
-            base_ = hooks_.base();
-            outputs_ = hooks_.outputs();
-        });
+        begin();
+        readValues();
         hooks_.showName(hooks_.firstName());
         step([this] { hooks_.writeControlFile(); });
         step([this] { writeBatchFile(); });
@@ -75,13 +67,26 @@ class Run {
         step([this] { starter_.start(directory_ + batchName, WindowStyle::NormalFocus); });
     }
 
+    void begin() {
+        if (form_ == RunForm::Stations) return;
+        hooks_.setBusy(true);
+        hooks_.setStatus("Running...");
+    }
+
+    /// A name that the batch file cannot hold is refused before anything is written.
+    void readValues() {
+        step([this] {
+            hooks_.readValues();
+            directory_ = hooks_.outputDirectory();
+            base_ = hooks_.base();
+            outputs_ = hooks_.outputs();
+            batch_ = batchLines(directory_, base_, applicationDirectory);
+        });
+    }
+
     void writeBatchFile() {
-        // A name of more than one line would put commands of its own into the file.
-        if ((directory_ + base_).find_first_of("\r\n") != std::string::npos)
-            throw RunTimeError(badFileName, "Bad file name or number");
         LineWriter file(directory_ + batchName);
-        for (const std::string& line : batchLines(directory_, base_, applicationDirectory))
-            file.writeLine(line);
+        for (const std::string& line : batch_) file.writeLine(line);
         file.close();
     }
 
@@ -132,18 +137,11 @@ class Run {
     std::string directory_;
     std::string base_;
     std::vector<RunOutput> outputs_;
+    std::vector<std::string> batch_;
     bool made_ = false;
 };
 
 }  // namespace
-
-std::vector<std::string> batchLines(const std::string& outputDirectory, const std::string& base,
-                                    const std::string& programDirectory, char separator) {
-    const std::string quote = "\"";
-    return {DriveOf(trim(outputDirectory)), "cd " + quote + outputDirectory + quote,
-            quote + programDirectory + separator + "tempoline.exe" + quote + " " + base + "_tempoline.inp",
-            "copy " + base + "_tempoline.lst finished.txt", "pause"};
-}
 
 void AnimateRunning(Host& host, const std::function<void(const std::string&)>& setStatus,
                     const std::function<bool()>& abandoned) {

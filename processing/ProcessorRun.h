@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "base/Host.h"
-#include "base/Paths.h"
 #include "processing/ProcessStarter.h"
 
 namespace zg {
@@ -43,10 +42,6 @@ struct RunHooks {
     std::function<void()> keepTimeZone;                 ///< the zone picked is saved with the settings
     std::function<bool()> abandoned;                    ///< the program is being closed
 };
-
-/// The five lines of the batch file, without their ends.
-std::vector<std::string> batchLines(const std::string& outputDirectory, const std::string& base,
-                                    const std::string& programDirectory, char separator = pathSeparator);
 
 /// Changes a status label three times in 900 milliseconds; ends early once it is abandoned.
 void AnimateRunning(Host& host, const std::function<void(const std::string&)>& setStatus,

@@ -5,6 +5,7 @@
 
 #include "base/Lines.h"
 #include "base/RunTimeError.h"
+#include "processing/BatchFile.h"
 #include "processing/Directories.h"
 #include "processing/Wait.h"
 
@@ -15,9 +16,9 @@ namespace {
 /// Time for the disk before the start, and for the shell to have read the batch file after it.
 constexpr std::int32_t pauseMs = 500;
 
-void writeBatchFile(const std::string& batchFile, const std::string& path) {
+void writeBatchFile(const std::string& batchFile, const std::string& line) {
     LineWriter out(batchFile);
-    out.writeLine("notepad \"" + path + "\"");
+    out.writeLine(line);
     out.close();
 }
 
@@ -26,7 +27,8 @@ void writeBatchFile(const std::string& batchFile, const std::string& path) {
 void ViewTextFile(Host& host, ProcessStarter& starter, const std::string& path, const std::string& directory,
                   char separator) {
     const std::string batchFile = withSeparator(directory, separator) + "open_file.bat";
-    writeBatchFile(batchFile, path);
+    needBatchName(batchFile, separator);  // the shell is given it to start
+    writeBatchFile(batchFile, viewerLine(path, separator));
     WaitMs(host, pauseMs);
     starter.start(batchFile, WindowStyle::Hidden);
     WaitMs(host, pauseMs);

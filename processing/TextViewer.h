@@ -9,7 +9,8 @@
 namespace zg {
 
 /// Shows a text file in the platform's viewer by way of the batch file open_file.bat, which lies in the
-/// directory for the second that this takes. Raises the error of a file that cannot be written or deleted.
+/// directory for the second that this takes. Raises the error of a file that cannot be written or deleted,
+/// and 52 for a path that no batch file can hold.
 void ViewTextFile(Host& host, ProcessStarter& starter, const std::string& path, const std::string& directory,
                   char separator = pathSeparator);
 

@@ -1,63 +1,15 @@
 // The contract of a processor run with stand-in processors: the batch file, the results and the marker.
 
-#include <gtest/gtest.h>
 #include <unistd.h>
 
-#include <QProcess>
-#include <QTest>
-#include <filesystem>
-
-#include "base/Lines.h"
-#include "base/Paths.h"
-#include "platform/BatchScript.h"
-#include "platform/BatchStarter.h"
-#include "platform/QtText.h"
 #include "processing/ProcessorRun.h"
-#include "tests/support/TempDirectory.h"
+#include "tests/platform/BatchRunFixture.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
 namespace {
 
 using Texts = std::vector<std::string>;
-
-constexpr int longEnoughMs = 60'000;
-
-/// A run's directories, both with characters that a shell would read, and a processor that is a script.
-class BatchRun : public ::testing::Test {
- protected:
-    void SetUp() override {
-        std::filesystem::create_directories(out_);
-        std::filesystem::create_directories(programs_);
-        directory_.write("out dir/B_tempoline.inp", "control");
-    }
-    void executable(const std::string& name, const std::string& content) {
-        std::filesystem::permissions(directory_.write(name, content), std::filesystem::perms::owner_all);
-    }
-    void processor(const std::string& script) {
-        executable("program's dir/tempoline.exe", "#!/bin/sh\n" + script);
-    }
-    Texts lines(const std::string& base) const { return batchLines(out_ + "/", base, programs_); }
-    void start(const std::string& base = "B") {
-        LineWriter file(out_ + "/run_tempoline.bat");
-        for (const std::string& line : lines(base)) file.writeLine(line);
-        file.close();
-        BatchStarter().start(out_ + "/run_tempoline.bat", WindowStyle::NormalFocus);
-    }
-    /// Carries the lines out to their end.
-    void carryOut(const std::string& base = "B") {
-        const QStringList words = {QStringLiteral("-c"), fileName(asShellScript(lines(base)))};
-        ASSERT_GE(QProcess::execute(QStringLiteral("sh"), words), 0);
-    }
-    bool isThere(const std::string& name) const { return fileExists(out_ + "/" + name); }
-    bool comes(const std::string& name) {
-        return QTest::qWaitFor([&] { return isThere(name); }, longEnoughMs);
-    }
-
-    TempDirectory directory_;
-    std::string out_ = directory_.file("out dir");
-    std::string programs_ = directory_.file("program's dir");
-};
 
 TEST_F(BatchRun, RunsInTheOutputDirectoryAndLeavesTheMarkerAtItsEnd) {
     processor("cat \"$1\" > ONE.FRQ; pwd > where; echo listing > B_tempoline.lst\n");
@@ -67,13 +19,13 @@ TEST_F(BatchRun, RunsInTheOutputDirectoryAndLeavesTheMarkerAtItsEnd) {
     EXPECT_EQ(directory_.read("out dir/where"), out_ + "\n");
 }
 
-TEST_F(BatchRun, HasAProcessGroupOfItsOwn) {
-    processor("cut -d ' ' -f 5 /proc/$$/stat > group; echo listing > B_tempoline.lst\n");
+TEST_F(BatchRun, HasASessionOfItsOwn) {
+    processor("cut -d ' ' -f 6 /proc/$$/stat > session; echo listing > B_tempoline.lst\n");
     start();
     ASSERT_TRUE(comes("finished.txt"));
-    const int group = std::stoi(directory_.read("out dir/group"));
-    EXPECT_GT(group, 1);
-    EXPECT_NE(group, getpgrp());
+    const int session = std::stoi(directory_.read("out dir/session"));
+    EXPECT_GT(session, 1);
+    EXPECT_NE(session, getsid(0));
 }
 
 TEST_F(BatchRun, AHangingProcessorDoesNotHoldTheProgramUp) {
@@ -114,9 +66,23 @@ TEST_F(BatchRun, ACrashAfterTheListingLeavesTheMarker) {
 TEST_F(BatchRun, AMissingProcessorLeavesNone) {
     carryOut();
     EXPECT_FALSE(isThere("finished.txt"));
+}
+
+TEST_F(BatchRun, AListingOfAnEarlierRunMakesNoMarker) {
     directory_.write("out dir/B_tempoline.lst", "of an earlier run");
     carryOut();
-    EXPECT_TRUE(isThere("finished.txt")) << "every line runs whatever became of the one before it";
+    EXPECT_FALSE(isThere("finished.txt"))
+        << "no processor: the rose of that run would be shown as this one's";
+    processor("kill -KILL $$\n");
+    carryOut();
+    EXPECT_FALSE(isThere("finished.txt"));
+    processor("echo another > new; mv new B_tempoline.lst\n");
+    carryOut();
+    EXPECT_EQ(directory_.read("out dir/finished.txt"), "another\n");
+    std::filesystem::remove(out_ + "/finished.txt");
+    processor("echo 'in its place' > B_tempoline.lst\n");
+    carryOut();
+    EXPECT_EQ(directory_.read("out dir/finished.txt"), "in its place\n");
 }
 
 TEST_F(BatchRun, ABaseWithABlankReachesTheProcessorInPiecesAndLeavesNoMarker) {
@@ -148,7 +114,6 @@ TEST_F(BatchRun, AProgramForWindowsRunsThroughWineWhereThatIsInstalled) {
 
 TEST_F(BatchRun, TheWholeRunPlotsTheOutputsThatWereMade) {
     processor("touch ONE.FRQ three.frq; echo listing > B_tempoline.lst\n");
-    applicationDirectory = programs_;
     Texts loaded;
     Texts statuses;
     TestHost host;
@@ -169,18 +134,15 @@ TEST_F(BatchRun, TheWholeRunPlotsTheOutputsThatWereMade) {
     hooks.showExit = [] {};
     hooks.keepTimeZone = [] {};
     hooks.abandoned = [&] { return host.pumps > longEnoughMs; };
-    BatchStarter starter;
-    runProcessor(host, starter, RunForm::Stations, hooks);
+    runProcessor(host, starter_, RunForm::Stations, hooks);
     EXPECT_EQ(loaded, (Texts{"ONE.FRQ", "three.frq"}));
     EXPECT_EQ(statuses, (Texts{"Error processing Station 2", "Finished"}));
 }
 
-TEST(BatchScript, DriveLinesAndPauseDoNothing) { EXPECT_EQ(asShellScript({"D:", "pause", ""}), ""); }
-
-TEST(BatchScript, StartsInASessionOfItsOwnAndInATerminalWhereThereIsOne) {
-    EXPECT_EQ(scriptCommand("cd 'x'\n", ""), (Texts{"setsid", "sh", "-c", "cd 'x'\n"}));
+TEST(BatchScript, RunsInATerminalWhereThereIsOne) {
+    EXPECT_EQ(scriptCommand("cd 'x'\n", ""), (Texts{"sh", "-c", "cd 'x'\n"}));
     EXPECT_EQ(scriptCommand("cd 'x'\n", "/bin/term"),
-              (Texts{"setsid", "/bin/term", "-e", "sh", "-c",
+              (Texts{"/bin/term", "-e", "sh", "-c",
                      "cd 'x'\nprintf 'Press Enter to close this window. '; read -r key\n"}));
 }
 

@@ -11,12 +11,6 @@
 namespace zg {
 namespace {
 
-TEST(BatchStarterLines, NameTheFileToView) {
-    EXPECT_EQ(viewedFile("notepad \"/a b/c.frq\""), "/a b/c.frq");
-    EXPECT_EQ(viewedFile("pause"), "");
-    EXPECT_EQ(viewedFile(""), "");
-}
-
 #ifndef _WIN32
 
 /// Programs are looked for in a directory of the test's own.
@@ -43,10 +37,32 @@ class BatchStarterTest : public ::testing::Test {
 
 TEST_F(BatchStarterTest, ShowsTheFileOfTheLineInTheDesktopsViewer) {
     addViewer();
-    starter_.start(directory_.write("open_file.bat", "notepad \"/a b/$HOME;c.frq\"\r\n"),
-                   WindowStyle::Hidden);
+    for (const std::string path : {"/a b/$HOME;c.frq", "/a\"b.frq",
+                                   "/Montr\xE9"
+                                   "al.frq",
+                                   "/-dash.frq", "/%&^!.frq"}) {
+        std::filesystem::remove(directory_.file("viewed"));
+        starter_.start(directory_.write("open_file.bat", "notepad \"" + path + "\"\r\n"),
+                       WindowStyle::Hidden);
+        ASSERT_TRUE(
+            QTest::qWaitFor([&] { return std::filesystem::exists(directory_.file("viewed")); }, 20000));
+        EXPECT_EQ(directory_.read("viewed"), "1:" + path + "\n") << "one argument, and no shell reads it";
+    }
+}
+
+TEST_F(BatchStarterTest, ANameIsNeverAnOptionOfTheViewer) {
+    addViewer();
+    starter_.start(directory_.write("open_file.bat", "notepad \"--help\"\r\n"), WindowStyle::Hidden);
     ASSERT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(directory_.file("viewed")); }, 20000));
-    EXPECT_EQ(directory_.read("viewed"), "1:/a b/$HOME;c.frq\n") << "one argument, and no shell reads it";
+    EXPECT_EQ(directory_.read("viewed"), "1:./--help\n");
+}
+
+TEST_F(BatchStarterTest, AViewerThatCannotStartIsAnError) {
+    std::filesystem::permissions(directory_.write("xdg-open", "#!/no/such/shell\n"),
+                                 std::filesystem::perms::owner_all);
+    const std::string batchFile = directory_.write("open_file.bat", "notepad \"/a.frq\"\r\n");
+    EXPECT_RAISES(5, "Invalid procedure call or argument",
+                  (starter_.start(batchFile, WindowStyle::Hidden), 0));
 }
 
 TEST_F(BatchStarterTest, TellsThatTheDesktopHasNoViewer) {

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
@@ -70,10 +71,6 @@ class ProcessorRun : public ::testing::Test {
 };
 
 TEST_F(ProcessorRun, TheBatchFileHasItsFiveLines) {
-    EXPECT_EQ(batchLines("D:\\my data\\", "B", "C:\\prog dir", '\\'),
-              (Texts{"D:", "cd \"D:\\my data\\\"", "\"C:\\prog dir\\tempoline.exe\" B_tempoline.inp",
-                     "copy B_tempoline.lst finished.txt", "pause"}));
-    EXPECT_EQ(batchLines("/data/", "B", "/opt", '/')[0], "/data/:") << "a path without a drive";
     starter_.onStart = [this] {
         EXPECT_EQ(directory_.read("run_tempoline.bat"),
                   directory_.path() + "/:\r\ncd \"" + directory_.path() +
@@ -182,10 +179,32 @@ TEST_F(ProcessorRun, ANameOfTwoLinesAddsNoCommandsToTheBatchFile) {
     host_.boxAnswers = {BoxAnswer::Cancel};
     run(RunForm::Single);
     ASSERT_EQ(host_.boxes.size(), 1U);
-    EXPECT_EQ(host_.boxes[0].text,
-              "The following error has occurred: \"Bad file name or number\".  (Error Number = 52)");
+    EXPECT_EQ(
+        host_.boxes[0].text,
+        "The following error has occurred: \"Bad file name or number: \"x<LF>\"/bin/sh\" -c evil\" has a "
+        "line end in it\".  (Error Number = 52)");
     EXPECT_FALSE(std::filesystem::exists(directory_.file("run_tempoline.bat")));
     EXPECT_TRUE(starter_.started.empty());
+    EXPECT_EQ(std::count(log_.begin(), log_.end(), "control"), 0) << "nothing is written under such a name";
+}
+
+TEST_F(ProcessorRun, ADirectoryOfTwoLinesAddsNoCommandsToTheBatchFile) {
+    for (const bool ofTheProgram : {false, true}) {
+        const std::string evil = directory_.file("x\n\"touch\" PWNED");
+        if (ofTheProgram)
+            applicationDirectory = evil;
+        else
+            hooks_.outputDirectory = [evil] { return evil + "/"; };
+        std::filesystem::create_directory(evil);
+        host_.boxAnswers = {BoxAnswer::Cancel};
+        run(RunForm::Single);
+        ASSERT_EQ(host_.boxes.size(), 1U);
+        EXPECT_NE(host_.boxes[0].text.find("x<LF>\"touch\" PWNED"), std::string::npos) << host_.boxes[0].text;
+        EXPECT_TRUE(starter_.started.empty());
+        std::filesystem::remove_all(evil);
+        hooks_.outputDirectory = [this] { return directory_.path() + "/"; };
+        host_.boxes.clear();
+    }
 }
 
 TEST_F(ProcessorRun, AStaleMarkerIsRemovedInEveryLetterCase) {

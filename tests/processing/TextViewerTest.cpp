@@ -92,4 +92,16 @@ TEST_F(ViewTextFileTest, FailedStartReachesTheCaller) {
                   ViewTextFile(host_, starter_, "a.frq", temp_.path(), '/'));
 }
 
+TEST_F(ViewTextFileTest, NameOfTwoLinesAddsNoCommandToTheBatchFile) {
+    EXPECT_RAISES(52, "Bad file name or number: \"/roses<LF>\"touch\" PWNED.frq\" has a line end in it",
+                  ViewTextFile(host_, starter_, "/roses\n\"touch\" PWNED.frq", temp_.path(), '/'));
+    EXPECT_TRUE(starter_.started.empty());
+    EXPECT_TRUE(std::filesystem::is_empty(temp_.path())) << "nothing is written";
+    EXPECT_RAISES(52, "Bad file name or number: \"D:\\50%.frq\" has a % in it",
+                  ViewTextFile(host_, starter_, "D:\\50%.frq", temp_.path(), '\\'));
+    EXPECT_RAISES(52, "Bad file name or number: \"R&D\\open_file.bat\" has a & in it",
+                  ViewTextFile(host_, starter_, "a.frq", "R&D", '\\'));
+    EXPECT_TRUE(starter_.started.empty());
+}
+
 }  // namespace

@@ -8,6 +8,7 @@
 #include <QProgressBar>
 #include <QTest>
 #include <QTimer>
+#include <filesystem>
 
 #include "base/Paths.h"
 #include "shell/FrmMain.h"
@@ -263,6 +264,18 @@ TEST_F(FrmMainCommands, ResetBringsThePageBesideTheRulers) {
 TEST_F(FrmMainCommands, TheFrqViewDoesNothingWithoutAFile) {
     choose("mnuViewFRQFile");
     EXPECT_TRUE(host_.boxes.empty());
+}
+
+TEST_F(FrmMainCommands, AFileOfATwoLineNameIsShownButNeverHandedToTheViewer) {
+    const std::string path = directory_.file("roses\n\"touch\" PWNED.frq");
+    std::filesystem::copy(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq", path);
+    window_->PlotFrqFile(path);
+    host_.boxAnswers = {BoxAnswer::Ok};
+    choose("mnuViewFRQFile");
+    ASSERT_EQ(host_.boxes.size(), 1U);
+    EXPECT_EQ(host_.boxes[0].text, "Run-time error '52':\n\nBad file name or number: \"" + directory_.path() +
+                                       "/roses<LF>\"touch\" PWNED.frq\" has a line end in it");
+    EXPECT_FALSE(std::filesystem::exists(directory_.file("open_file.bat")));
 }
 
 }  // namespace

@@ -1,0 +1,29 @@
+#include "processing/RunReasons.h"
+
+#include "base/Lines.h"
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
+#include "base/Text.h"
+
+namespace zg {
+
+std::string foreseenTrouble(const std::string& base, const std::string& programDirectory) {
+    if (base.find(' ') != std::string::npos)
+        return "a blank in the name: the processor cannot find its control file; rename the input";
+    if (!fileExists(programDirectory + pathSeparator + "tempoline.exe"))
+        return "tempoline.exe is missing in " + programDirectory;
+    return {};
+}
+
+std::string lastLineOfListing(const std::string& path) {
+    std::string last;
+    try {
+        for (LineReader lines(existingFile(path)); !lines.atEnd();)
+            if (std::string line = trim(lines.readLine()); !line.empty()) last = std::move(line);
+    } catch (const RunTimeError&) {
+        return last;  // as far as it could be read
+    }
+    return last;
+}
+
+}  // namespace zg
