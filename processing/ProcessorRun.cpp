@@ -8,6 +8,7 @@
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "processing/BatchFile.h"
+#include "processing/RunReasons.h"
 #include "processing/Wait.h"
 
 namespace zg {
@@ -33,9 +34,9 @@ class Run {
             for (const RunOutput& output : outputs_) await(output);
             finish();
         } catch (const RunEnded&) {
-            hooks_.setBusy(false);
+            end();
         } catch (...) {
-            hooks_.setBusy(false);
+            end();
             throw;
         }
     }
@@ -58,6 +59,7 @@ class Run {
     }
 
     void prepare() {
+        tell(hooks_.setTip, "");
         begin();
         readValues();
         hooks_.showName(hooks_.firstName());
@@ -97,7 +99,17 @@ class Run {
     }
 
     void awaitMarker() {
-        while (!fileExists(directory_ + markerName)) animate();
+        while (!fileExists(directory_ + markerName)) {
+            animate();
+            tell(hooks_.setReason, whyNoMarker());
+        }
+        tell(hooks_.setReason, "");
+    }
+
+    /// The wait has no end of its own, but the person shall know what it waits for.
+    std::string whyNoMarker() {
+        const std::string reason = foreseenTrouble(base_, applicationDirectory);
+        return reason.empty() ? starter_.outcome(directory_ + batchName) : reason;
     }
 
     void await(const RunOutput& output) {
@@ -106,6 +118,7 @@ class Run {
         // Blanks around a value of the control file are no part of it.
         const std::string result = existingFile(directory_ + trim(output.name) + ".frq");
         made_ = !result.empty();
+        tell(hooks_.setTip, "");
         if (made_) {
             step([&] { hooks_.load(result); });
             if (form_ != RunForm::Locations) animate();
@@ -113,8 +126,12 @@ class Run {
         } else {
             hooks_.setStatus(form_ == RunForm::Stations ? "Error processing Station " + output.station
                                                         : "Error has occurred.");
+            tell(hooks_.setTip, listingsEnd());
+            missing_ += (missing_.empty() ? "" : ", ") + output.name;
         }
     }
+
+    std::string listingsEnd() const { return lastLineOfListing(directory_ + base_ + "_tempoline.lst"); }
 
     void animate() {
         if (hooks_.abandoned()) throw RunEnded{};
@@ -125,9 +142,21 @@ class Run {
     void finish() {
         if (form_ == RunForm::Locations) awaitMarker();  // a run of no location has not waited yet
         if (form_ == RunForm::Stations || (form_ == RunForm::Single && made_)) hooks_.setStatus("Finished");
+        // The label tells of the last output alone, or of none.
+        if (form_ != RunForm::Single && !missing_.empty())
+            tell(hooks_.setTip, "No FRQ file for " + missing_ + ": " + listingsEnd());
         hooks_.showExit();
         hooks_.setBusy(false);
         step([this] { hooks_.keepTimeZone(); });
+    }
+
+    static void tell(const std::function<void(const std::string&)>& hook, const std::string& text) {
+        if (hook) hook(text);
+    }
+
+    void end() {
+        tell(hooks_.setReason, "");
+        hooks_.setBusy(false);
     }
 
     Host& host_;
@@ -138,6 +167,7 @@ class Run {
     std::string base_;
     std::vector<RunOutput> outputs_;
     std::vector<std::string> batch_;
+    std::string missing_;  ///< names of the outputs without a result
     bool made_ = false;
 };
 

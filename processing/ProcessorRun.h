@@ -41,6 +41,10 @@ struct RunHooks {
     std::function<void()> showExit;                     ///< cmdExit reads "Exit" and is enabled
     std::function<void()> keepTimeZone;                 ///< the zone picked is saved with the settings
     std::function<bool()> abandoned;                    ///< the program is being closed
+
+    // Beside the status, where the form has them.
+    std::function<void(const std::string&)> setReason;  ///< why the wait does not end; "" takes it away
+    std::function<void(const std::string&)> setTip;     ///< what the status tells of; "" takes it away
 };
 
 /// Changes a status label three times in 900 milliseconds; ends early once it is abandoned.

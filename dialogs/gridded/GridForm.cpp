@@ -15,6 +15,7 @@
 #include "platform/ListMoves.h"
 #include "platform/Pickers.h"
 #include "platform/QtText.h"
+#include "platform/ReasonLabel.h"
 #include "processing/Directories.h"
 #include "processing/Stations.h"
 
@@ -145,7 +146,10 @@ bool GridForm::eventFilter(QObject* watched, QEvent* event) {
 
 void GridForm::left(QWidget& field) {
     if (&field == &control("txtOutputDirectory")) leftOutputDirectory();
-    if (&field == &control("cmdPROCESS")) as<QLabel>("lblStatus").clear();
+    if (&field == &control("cmdPROCESS")) {
+        as<QLabel>("lblStatus").clear();
+        setTipOfStatus("");
+    }
     if (fieldMark(field) == yellowMark && isFilled(field)) ClearInvalid(field);
 }
 
@@ -278,6 +282,10 @@ void GridForm::setBusy(bool busy) {
     while (QGuiApplication::overrideCursor() != nullptr) QGuiApplication::restoreOverrideCursor();
     if (busy) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
 }
+
+void GridForm::setReason(const std::string& text) { as<ReasonLabel>("lblReason").setReason(text); }
+
+void GridForm::setTipOfStatus(const std::string& text) { setPlainTip(control("lblStatus"), text); }
 
 void GridForm::askProjection() { frmProjectionInfo(host_, this).exec(); }
 

@@ -47,6 +47,8 @@ class GridForm : public QDialog, public GridView {
     void focus(const char* control) override;
     void setStates(Names plainOff, Names fieldsOff, Names plainOn, Names fieldsOn) override;
     void setBusy(bool busy) override;
+    void setReason(const std::string& text) override;
+    void setTipOfStatus(const std::string& text) override;
     void askProjection() override;
 
     using QDialog::setEnabled;

@@ -5,6 +5,7 @@
 #include "dialogs/gridded/GridForm.h"
 #include "platform/FormParts.h"
 #include "platform/KeyFilter.h"
+#include "platform/ReasonLabel.h"
 #include "processing/KeyFilters.h"
 
 namespace zg {
@@ -257,7 +258,8 @@ QGroupBox* GridForm::makeStep4() {
     grid->addWidget(directory, 0, 1);
     grid->addWidget(namedButton("&Browse...", "cmdBrowseDirectory"), 0, 2);
     grid->addWidget(status, 1, 0, 1, 3);
-    grid->addLayout(moves(namedButton("&PREVIOUS", "cmdPrevious4"), namedButton("P&ROCESS", "cmdPROCESS")), 2,
+    grid->addWidget(new ReasonLabel("lblReason"), 2, 0, 1, 3);
+    grid->addLayout(moves(namedButton("&PREVIOUS", "cmdPrevious4"), namedButton("P&ROCESS", "cmdPROCESS")), 3,
                     0, 1, 3);
     return step;
 }

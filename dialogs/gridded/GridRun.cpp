@@ -58,6 +58,8 @@ RunHooks GridWizard::hooks() {
         WriteCfgFile(settings.CfgFilePath);
     };
     hooks.abandoned = window_.ending;
+    hooks.setReason = [this](const std::string& text) { view_.setReason(text); };
+    hooks.setTip = [this](const std::string& text) { view_.setTipOfStatus(text); };
     return hooks;
 }
 

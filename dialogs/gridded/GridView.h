@@ -44,6 +44,10 @@ class GridView {
     virtual void setStates(Names plainOff, Names fieldsOff, Names plainOn, Names fieldsOn) = 0;
 
     virtual void setBusy(bool busy) = 0;
+
+    /// The line under the status, and the tool tip of the status itself; "" takes them away.
+    virtual void setReason(const std::string& text) = 0;
+    virtual void setTipOfStatus(const std::string& text) = 0;
     /// Shows the projection dialog until it is closed.
     virtual void askProjection() = 0;
 };

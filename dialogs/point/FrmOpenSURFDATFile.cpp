@@ -83,7 +83,7 @@ QGroupBox* frmOpenSURFDATFile::makeInput() {
     connect(cmdBrowseFile, &QPushButton::clicked, this, guarded(host_, [this] { cmdBrowseFile_Click(); }));
     connect(cmdSelectAll, &QPushButton::clicked, this, [this] { selectAll(true); });
     connect(cmdDeselectAll, &QPushButton::clicked, this, [this] { selectAll(false); });
-    connect(lstSURFDATStationIDs, &QListWidget::itemSelectionChanged, this, [this] { lblStatus->clear(); });
+    connect(lstSURFDATStationIDs, &QListWidget::itemSelectionChanged, this, [this] { clearStatus(); });
     return frame;
 }
 

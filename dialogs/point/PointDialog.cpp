@@ -127,9 +127,11 @@ QLayout* PointDialog::makeButtons() {
     connect(cmdSetWindSpeedClasses, &QPushButton::clicked, this,
             guarded(host_, [this] { window_.setWindSpeedClasses(); }));
     connect(cmdExit, &QPushButton::clicked, this, &QDialog::reject);
-    whenLeft(*cmdView, [this] { lblStatus->clear(); });
+    lblReason = new ReasonLabel("lblReason");
+    whenLeft(*cmdView, [this] { clearStatus(); });
     auto* rows = new QVBoxLayout;
     rows->addWidget(lblStatus);
+    rows->addWidget(lblReason);
     auto* row = new QHBoxLayout;
     row->addWidget(cmdSetSeasons);
     row->addWidget(cmdSetWindSpeedClasses);
@@ -194,7 +196,12 @@ bool PointDialog::checkOutputName() {
 void PointDialog::clearMark(QWidget& field, bool filled) {
     if (fieldMark(field) != yellowMark || !filled) return;
     ClearInvalid(field);
+    clearStatus();
+}
+
+void PointDialog::clearStatus() {
     lblStatus->clear();
+    setPlainTip(*lblStatus, {});
 }
 
 void PointDialog::leftOutputDirectory() {
@@ -307,6 +314,8 @@ RunHooks PointDialog::sharedHooks() {
         WriteCfgFile(settings.CfgFilePath);
     };
     hooks.abandoned = window_.ending;
+    hooks.setReason = [this](const std::string& text) { lblReason->setReason(text); };
+    hooks.setTip = [this](const std::string& text) { setPlainTip(*lblStatus, text); };
     return hooks;
 }
 

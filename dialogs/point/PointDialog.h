@@ -13,6 +13,7 @@
 
 #include "base/Host.h"
 #include "platform/LeaveWatch.h"
+#include "platform/ReasonLabel.h"
 #include "processing/ControlFile.h"
 #include "processing/ProcessingWindow.h"
 #include "processing/ProcessorRun.h"
@@ -54,6 +55,7 @@ class PointDialog : public QDialog {
     }
     void leftOutputDirectory();
     void clearMark(QWidget& field, bool filled);
+    void clearStatus();
     void chooseTimeZone(const std::string& key);
     void browseOutputDirectory();
 
@@ -95,6 +97,7 @@ class PointDialog : public QDialog {
     QPushButton* cmdView = nullptr;
     QPushButton* cmdExit = nullptr;
     QLabel* lblStatus = nullptr;
+    ReasonLabel* lblReason = nullptr;  ///< why a run does not end
 
  private:
     LeaveWatch leaving_{host_};

@@ -21,6 +21,7 @@
 #include "dialogs/point/FrmOpenSURFDATFile.h"
 #include "dialogs/point/FrmOpenTSFDataFile.h"
 #include "dialogs/point/FrmOpenUPDATFile.h"
+#include "platform/ReasonLabel.h"
 #include "processing/Stations.h"
 #include "processing/Zones.h"
 #include "shell/FrmAboutZephyrgraph.h"
@@ -124,6 +125,15 @@ std::function<void(QWidget&)> withRefusal(const char* field, const char* text, c
         form.findChild<QAbstractButton*>(QLatin1String(button))->click();
         EXPECT_NE(form.findChild<QLabel*>(QStringLiteral("lblStatus"))->text(), QString());
     };
+}
+
+/// A run waits, and the line under the status says why.
+void waitWithReason(QWidget& form) {
+    form.findChild<QLabel*>(QStringLiteral("lblStatus"))->setText(QStringLiteral("Running..."));
+    dynamic_cast<ReasonLabel&>(*form.findChild<QLabel*>(QStringLiteral("lblReason")))
+        .setReason(
+            "tempoline.exe ended with status 1: Lovett_1988_surface_observations.sfc:51: hour: \"25\" is not "
+            "between 0 and 24, and the lines after it are not read");
 }
 
 FormPointer customSeasons(FormWorld& world) {
@@ -272,10 +282,13 @@ const std::vector<FormRow>& forms() {
         {"frmGridFonts", "", ofPlot<frmGridFonts>},
         {"frmOpenAERMETPFLFile", "", ofAermet<AermetKind::Profile>},
         {"frmOpenAERMETSFCFile", "", ofAermet<AermetKind::Surface>},
+        {"frmOpenAERMETSFCFile", "Reason", ofAermet<AermetKind::Surface>, waitWithReason},
         {"frmOpenAMMNETDataFile", "", ofInput<frmOpenAMMNETDataFile>},
         {"frmOpenSURFDATFile", "", ofInput<frmOpenSURFDATFile>},
+        {"frmOpenSURFDATFile", "Reason", ofInput<frmOpenSURFDATFile>, waitWithReason},
         {"frmOpenTSFDataFile", "", ofInput<frmOpenTSFDataFile>},
         {"frmOpenUPDATFile", "", ofInput<frmOpenUPDATFile>},
+        {"frmOpenUPDATFile", "Reason", ofInput<frmOpenUPDATFile>, waitWithReason},
         {"frmOpenUPDATFile", "Refused", refusingUpForm, withClickOn("cmdView")},
         {"frmOptions", "", ofPlot<frmOptions>},
         {"frmOptionsLegend", "", ofPlot<frmOptionsLegend>},
@@ -284,6 +297,7 @@ const std::vector<FormRow>& forms() {
         {"frmProcess3DDATFiles", "Cells", wizard<m3dVariation, 3>},
         {"frmProcess3DDATFiles", "Stations", wizard<m3dVariation, 3, true>},
         {"frmProcess3DDATFiles", "Directory", wizard<m3dVariation, 4, true>},
+        {"frmProcess3DDATFiles", "Reason", wizard<m3dVariation, 4, true>, waitWithReason},
         {"frmProcessVENTOSDATFiles", "Files", wizard<ventosVariation, 1>},
         {"frmProcessVENTOSDATFiles", "Information", wizard<ventosVariation, 2>},
         {"frmProcessVENTOSDATFiles", "Degrees", degreesForm},

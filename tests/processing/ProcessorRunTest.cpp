@@ -23,7 +23,11 @@ class FakeStarter : public ProcessStarter {
         EXPECT_EQ(style, WindowStyle::NormalFocus);
         if (onStart) onStart();
     }
+    std::string outcome(const std::string& batchFile) override {
+        return batchFile == started.back() ? told : "of another run";
+    }
     Texts started;
+    std::string told;
     std::function<void()> onStart;
 };
 
@@ -48,6 +52,10 @@ class ProcessorRun : public ::testing::Test {
         };
         hooks_.showExit = [this] { log("exit"); };
         hooks_.keepTimeZone = [this] { log("zone"); };
+        hooks_.setReason = [this](const std::string& text) {
+            if (reasons_.empty() || reasons_.back() != text) reasons_.push_back(text);
+        };
+        hooks_.setTip = [this](const std::string& text) { tip_ = text; };
         hooks_.abandoned = [this] { return abandoned_ || host_.pumps >= pumpLimit; };
     }
     void TearDown() override { EXPECT_LT(host_.pumps, pumpLimit) << "the wait did not end"; }
@@ -67,6 +75,8 @@ class ProcessorRun : public ::testing::Test {
     std::vector<RunOutput> outputs_ = {{"one", "1001"}, {"two", "1002"}, {"three", "1003"}};
     Texts log_;
     std::string status_;
+    Texts reasons_;  ///< each as it changes
+    std::string tip_;
     bool abandoned_ = false;
 };
 
@@ -308,6 +318,62 @@ TEST_F(ProcessorRun, AWaitThatIsAbandonedEndsQuietly) {
     EXPECT_TRUE(host_.boxes.empty());
     EXPECT_EQ(std::count(log_.begin(), log_.end(), "zone"), 0);
     EXPECT_EQ(log_.back(), "idle") << "the pointer does not stay an hourglass";
+}
+
+TEST_F(ProcessorRun, ABlankInTheNameIsTheReasonOfAWaitThatDoesNotEnd) {
+    hooks_.base = [] { return std::string("my BASE"); };
+    host_.onPump = [this] { abandoned_ = host_.now > 5000; };
+    run(RunForm::Single);
+    EXPECT_EQ(
+        reasons_,
+        (Texts{"a blank in the name: the processor cannot find its control file; rename the input", ""}));
+    EXPECT_TRUE(status_.starts_with("Running.")) << "the wait and its words stay";
+}
+
+TEST_F(ProcessorRun, AMissingProcessorIsTheReasonOfAWaitThatDoesNotEnd) {
+    host_.onPump = [this] { abandoned_ = host_.now > 5000; };
+    run(RunForm::Single);
+    EXPECT_EQ(reasons_, (Texts{"tempoline.exe is missing in /opt/my programs", ""}));
+}
+
+TEST_F(ProcessorRun, WhatTheLauncherTellsIsShownOnceItIsKnown) {
+    applicationDirectory = directory_.path();
+    directory_.write("tempoline.exe", "");
+    host_.onPump = [this] {
+        if (host_.now >= 3000) starter_.told = "tempoline.exe ended with status 1: a.sfc, line 51: no wind";
+        if (host_.now >= 9000) finish({});
+    };
+    outputs_ = {{"one", ""}};
+    run(RunForm::Single);
+    EXPECT_EQ(reasons_, (Texts{"", "tempoline.exe ended with status 1: a.sfc, line 51: no wind", ""}))
+        << "it goes when the marker comes after all";
+    EXPECT_EQ(status_, "Error has occurred.");
+}
+
+TEST_F(ProcessorRun, AnErrorHasTheListingsLastLineForATip) {
+    outputs_ = {{"one", ""}};
+    tip_ = "of the run before";
+    starter_.onStart = [this] {
+        EXPECT_EQ(tip_, "");
+        directory_.write("BASE_tempoline.lst", "TEMPOLINE\r\n\r\nERROR: a.sfc:51: no wind\r\n");
+        finish({});
+    };
+    run(RunForm::Single);
+    EXPECT_EQ(status_, "Error has occurred.");
+    EXPECT_EQ(tip_, "ERROR: a.sfc:51: no wind");
+    starter_.onStart = [this] { finish({"one"}); };
+    run(RunForm::Single);
+    EXPECT_EQ(tip_, "");
+}
+
+TEST_F(ProcessorRun, ALabelThatTellsOneResultOfManyNamesTheMissingOnesInItsTip) {
+    starter_.onStart = [this] {
+        directory_.write("BASE_tempoline.lst", "RUN COMPLETED\r\n");
+        finish({"two"});
+    };
+    run(RunForm::Stations);
+    EXPECT_EQ(status_, "Finished");
+    EXPECT_EQ(tip_, "No FRQ file for one, three: RUN COMPLETED");
 }
 
 }  // namespace

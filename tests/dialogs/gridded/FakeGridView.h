@@ -47,6 +47,8 @@ class FakeGridView : public GridView {
         isBusy = busy;
         if (busy && onBusy) onBusy();
     }
+    void setReason(const std::string& text) override { texts["lblReason"] = text; }
+    void setTipOfStatus(const std::string& text) override { statusTip = text; }
     void askProjection() override {
         ++projectionAsked;
         if (onProjection) onProjection();
@@ -75,6 +77,7 @@ class FakeGridView : public GridView {
     std::map<std::string, bool> enabledControls;
     std::map<std::string, bool> visibleControls;
     std::string focused;
+    std::string statusTip;
     bool isBusy = false;
     int projectionAsked = 0;
     std::function<void()> onProjection;

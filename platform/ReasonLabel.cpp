@@ -1,0 +1,45 @@
+#include "platform/ReasonLabel.h"
+
+#include <QLayout>
+
+#include "platform/QtText.h"
+
+namespace zg {
+
+namespace {
+
+/// A text that wraps gets the lines that it needs; nothing around it gives way.
+void makeRoom(QWidget& window) {
+    QLayout* layout = window.layout();
+    if (layout == nullptr) return;
+    layout->activate();
+    const int least = layout->hasHeightForWidth() ? layout->totalMinimumHeightForWidth(window.width())
+                                                  : layout->totalMinimumSize().height();
+    if (window.height() < least) window.resize(window.width(), least);
+}
+
+}  // namespace
+
+ReasonLabel::ReasonLabel(const char* name, QWidget* parent) : QLabel(parent) {
+    setObjectName(QString::fromLatin1(name));
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    hide();
+}
+
+void ReasonLabel::setReason(const std::string& text) {
+    setText(shown(text));
+    setPlainTip(*this, text);
+    setVisible(!text.empty());
+    if (isVisible()) makeRoom(*window());
+}
+
+void setPlainTip(QWidget& widget, const std::string& text) {
+    constexpr qsizetype longLine = 80;
+    const QString tip = shown(text);
+    // Only a text with markup wraps.
+    const bool asMarkup = tip.size() > longLine || Qt::mightBeRichText(tip);
+    widget.setToolTip(asMarkup ? QStringLiteral("<p>%1</p>").arg(tip.toHtmlEscaped()) : tip);
+}
+
+}  // namespace zg

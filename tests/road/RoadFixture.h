@@ -1,0 +1,131 @@
+#pragma once
+
+// The real forms, the real batch file, the real processor.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QRadioButton>
+#include <QTest>
+#include <QThread>
+#include <QTimer>
+#include <filesystem>
+
+#include "base/Lines.h"
+#include "base/Paths.h"
+#include "dialogs/gridded/ClosedLibraries.h"
+#include "dialogs/gridded/FrmProjectionInfo.h"
+#include "dialogs/gridded/GridForm.h"
+#include "dialogs/point/FrmOpenAERMETFile.h"
+#include "dialogs/point/FrmOpenAMMNETDataFile.h"
+#include "dialogs/point/FrmOpenSURFDATFile.h"
+#include "dialogs/point/FrmOpenTSFDataFile.h"
+#include "dialogs/point/FrmOpenUPDATFile.h"
+#include "graph/frq/ModPolarGraph.h"
+#include "graph/frq/OpenFreqFile.h"
+#include "platform/BatchStarter.h"
+#include "processing/Stations.h"
+#include "processing/Zones.h"
+#include "shell/FrmMain.h"
+#include "shell/settings/Settings.h"
+#include "shell/settings/StartSequence.h"
+#include "tests/support/TempDirectory.h"
+#include "tests/support/TestHost.h"
+
+namespace zg {
+
+inline const std::string samples = ZG_SOURCE_DIR "/data/samples/";
+
+class WholeRoad : public ::testing::Test {
+ protected:
+    /// What a test changes of the program's directory before the program starts in it.
+    virtual void prepareProgram() {}
+
+    void SetUp() override {
+        modPolarGraph = ModPolarGraph();
+        settings = Settings();
+        timeZones = TimeZoneTable();
+        stations = StationTable();
+        projection = {};
+        applicationDirectory = directory_.file("the program");
+        std::filesystem::create_directories(applicationDirectory);
+        for (const char* name : {"TimeZones.txt", "datums.csv", "Station_Data.csv"})
+            std::filesystem::copy(std::string(ZG_SOURCE_DIR "/data/") + name, inApplicationDirectory(name));
+        std::filesystem::copy(ZG_PROCESSOR, inApplicationDirectory("tempoline.exe"));
+        std::filesystem::create_directory(out_);
+        prepareProgram();
+        startSettings();
+        LoadStationData();
+        useLibrariesBeside(applicationDirectory);
+        window_ = std::make_unique<frmMain>(host_);
+        window_->resize(900, 700);
+        window_->show();
+        empty_ = page();
+        // The processor is another program: time must pass for it too.
+        host_.onPump = [] {
+            QCoreApplication::processEvents();
+            QThread::msleep(1);
+        };
+    }
+    void TearDown() override {
+        form_.reset();
+        window_.reset();
+        projection = {};
+    }
+    QImage page() { return window_->findChild<QWidget*>(QStringLiteral("picGraph"))->grab().toImage(); }
+    ProcessingWindow hooks() {
+        return {[this](const std::string& path) { window_->PlotFrqFile(path); },
+                [this] { return ending_ || host_.pumps > 300'000; }, [] {}, [] {}};
+    }
+    template <typename Form, typename... More>
+    void open(More... more) {
+        form_ = std::make_unique<Form>(host_, starter_, hooks(), more...);
+        form_->show();
+        form_->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(form_.get()));
+    }
+    template <typename Control = QWidget>
+    Control& child(const char* name) {
+        return *form_->findChild<Control*>(QString::fromLatin1(name));
+    }
+    void click(const char* name) { QTest::mouseClick(&child(name), Qt::LeftButton); }
+    void type(const char* name, const std::string& text) {
+        child<QLineEdit>(name).setText(QString::fromStdString(text));
+    }
+    void browse(const std::string& file) {
+        host_.openAnswers.push_back(file.starts_with("/") ? file : samples + file);
+        click("cmdBrowseFile");
+        type("txtOutputDirectory", out_);
+    }
+    std::string listing() {
+        for (const auto& entry : std::filesystem::directory_iterator(out_))
+            if (entry.path().extension() == ".lst") return readWholeFile(entry.path().string());
+        return "no listing";
+    }
+    std::string status() { return child<QLabel>("lblStatus").text().toStdString(); }
+    /// The last run plotted that file, with all its roses, one of them on show.
+    void expectRose(const std::string& name) {
+        EXPECT_EQ(status(), "Finished") << listing();
+        ASSERT_EQ(FileNameOf(settings.CurrentFrqPath), name + ".frq") << listing();
+        EXPECT_EQ(window_->windowTitle().toStdString(), "Zephyrgraph - " + name + ".frq");
+        EXPECT_EQ(modPolarGraph.FrqVersion, "2.3");
+        EXPECT_EQ(modPolarGraph.FrqRoseTitle(1), "All Periods");
+        double sum = std::stod(modPolarGraph.FrqCalmPercent(1)) / 100;
+        for (int row = 1; row <= 16; ++row)
+            for (int c = 1; c <= 6; ++c) sum += modPolarGraph.FrqFraction(row, c);
+        EXPECT_NEAR(sum, 1, 1e-3);
+        EXPECT_NE(page(), empty_) << "the rose is on the page";
+        EXPECT_NE(listing().find("RUN COMPLETED"), std::string::npos);
+    }
+
+    TempDirectory directory_;
+    std::string out_ = directory_.file("my results/");
+    TestHost host_;
+    BatchStarter starter_;
+    std::unique_ptr<frmMain> window_;
+    std::unique_ptr<QDialog> form_;
+    QImage empty_;
+    bool ending_ = false;
+};
+
+}  // namespace zg
