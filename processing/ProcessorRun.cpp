@@ -8,6 +8,7 @@
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "processing/BatchFile.h"
+#include "processing/RunLock.h"
 #include "processing/RunReasons.h"
 #include "processing/Wait.h"
 
@@ -62,6 +63,13 @@ class Run {
         tell(hooks_.setTip, "");
         begin();
         readValues();
+        while ((lock_ = RunLock::take(directory_)) == nullptr) {
+            hooks_.setBusy(false);
+            hooks_.setStatus("");
+            if (!goesElsewhere()) throw RunEnded{};
+            begin();
+            readValues();
+        }
         hooks_.showName(hooks_.firstName());
         step([this] { hooks_.writeControlFile(); });
         step([this] { writeBatchFile(); });
@@ -84,6 +92,16 @@ class Run {
             outputs_ = hooks_.outputs();
             batch_ = batchLines(directory_, base_, applicationDirectory);
         });
+    }
+
+    /// The run of another window would end with this one's marker, or this one with the other's.
+    bool goesElsewhere() {
+        const MessageBox box{
+            "Another window waits for a run in " + directory_ +
+                ". A second run there would take its files away.\n\nWould you like to choose "
+                "another output directory?",
+            "", BoxIcon::Question, BoxButtons::YesNo};
+        return host_.showBox(box) == BoxAnswer::Yes && hooks_.chooseDirectory && hooks_.chooseDirectory();
     }
 
     void writeBatchFile() {
@@ -167,6 +185,7 @@ class Run {
     std::string base_;
     std::vector<RunOutput> outputs_;
     std::vector<std::string> batch_;
+    std::shared_ptr<RunLock> lock_;
     std::string missing_;  ///< names of the outputs without a result
     bool made_ = false;
 };

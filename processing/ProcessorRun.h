@@ -45,6 +45,7 @@ struct RunHooks {
     // Beside the status, where the form has them.
     std::function<void(const std::string&)> setReason;  ///< why the wait does not end; "" takes it away
     std::function<void(const std::string&)> setTip;     ///< what the status tells of; "" takes it away
+    std::function<bool()> chooseDirectory;              ///< another one for the output; false for none
 };
 
 /// Changes a status label three times in 900 milliseconds; ends early once it is abandoned.

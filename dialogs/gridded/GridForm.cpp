@@ -287,6 +287,12 @@ void GridForm::setReason(const std::string& text) { as<ReasonLabel>("lblReason")
 
 void GridForm::setTipOfStatus(const std::string& text) { setPlainTip(control("lblStatus"), text); }
 
+bool GridForm::chooseOtherDirectory() {
+    const std::string before = text("txtOutputDirectory");
+    browseDirectory();
+    return text("txtOutputDirectory") != before && IsDirectory(trim(text("txtOutputDirectory")));
+}
+
 void GridForm::askProjection() { frmProjectionInfo(host_, this).exec(); }
 
 }  // namespace zg

@@ -49,6 +49,7 @@ class GridForm : public QDialog, public GridView {
     void setBusy(bool busy) override;
     void setReason(const std::string& text) override;
     void setTipOfStatus(const std::string& text) override;
+    bool chooseOtherDirectory() override;
     void askProjection() override;
 
     using QDialog::setEnabled;

@@ -60,6 +60,7 @@ RunHooks GridWizard::hooks() {
     hooks.abandoned = window_.ending;
     hooks.setReason = [this](const std::string& text) { view_.setReason(text); };
     hooks.setTip = [this](const std::string& text) { view_.setTipOfStatus(text); };
+    hooks.chooseDirectory = [this] { return view_.chooseOtherDirectory(); };
     return hooks;
 }
 

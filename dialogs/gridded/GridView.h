@@ -48,6 +48,9 @@ class GridView {
     /// The line under the status, and the tool tip of the status itself; "" takes them away.
     virtual void setReason(const std::string& text) = 0;
     virtual void setTipOfStatus(const std::string& text) = 0;
+
+    /// Asks for another output directory; false where none was chosen.
+    virtual bool chooseOtherDirectory() = 0;
     /// Shows the projection dialog until it is closed.
     virtual void askProjection() = 0;
 };

@@ -216,6 +216,12 @@ void PointDialog::browseOutputDirectory() {
     leftOutputDirectory();
 }
 
+bool PointDialog::chooseOtherDirectory() {
+    const std::string before = outputDirectory();
+    browseOutputDirectory();
+    return outputDirectory() != before && IsDirectory(outputDirectory());
+}
+
 /// Of several rows with one key the last is shown; a key that no row has changes nothing.
 void PointDialog::chooseTimeZone(const std::string& key) {
     const std::string wanted = ucase(trim(key));
@@ -316,6 +322,7 @@ RunHooks PointDialog::sharedHooks() {
     hooks.abandoned = window_.ending;
     hooks.setReason = [this](const std::string& text) { lblReason->setReason(text); };
     hooks.setTip = [this](const std::string& text) { setPlainTip(*lblStatus, text); };
+    hooks.chooseDirectory = [this] { return chooseOtherDirectory(); };
     return hooks;
 }
 

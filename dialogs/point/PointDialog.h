@@ -58,6 +58,7 @@ class PointDialog : public QDialog {
     void clearStatus();
     void chooseTimeZone(const std::string& key);
     void browseOutputDirectory();
+    bool chooseOtherDirectory();
 
     /// The values of the shared fields, as texts.
     ControlFile sharedValues(InputType type) const;

@@ -1,13 +1,17 @@
 #include "processing/ProcessorRun.h"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <filesystem>
 
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
+#include "processing/RunLock.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 
@@ -374,6 +378,96 @@ TEST_F(ProcessorRun, ALabelThatTellsOneResultOfManyNamesTheMissingOnesInItsTip) 
     run(RunForm::Stations);
     EXPECT_EQ(status_, "Finished");
     EXPECT_EQ(tip_, "No FRQ file for one, three: RUN COMPLETED");
+}
+
+/// Another process that holds the lock of the directory until it is ended.
+class OtherWindow {
+ public:
+    explicit OtherWindow(const std::string& directory) {
+        int ends[2] = {};
+        EXPECT_EQ(pipe(ends), 0);
+        process_ = fork();
+        if (process_ == 0) {
+            const auto lock = RunLock::take(directory);
+            if (write(ends[1], "x", 1) == 1)
+                for (;;) pause();
+            _exit(1);
+        }
+        char sign = 0;
+        EXPECT_EQ(read(ends[0], &sign, 1), 1);
+        close(ends[0]);
+        close(ends[1]);
+    }
+    ~OtherWindow() {
+        kill(process_, SIGKILL);
+        waitpid(process_, nullptr, 0);
+    }
+    OtherWindow(const OtherWindow&) = delete;
+    OtherWindow& operator=(const OtherWindow&) = delete;
+
+ private:
+    pid_t process_ = 0;
+};
+
+TEST_F(ProcessorRun, WhereAnotherWindowWaitsNothingIsTouched) {
+    const OtherWindow other(directory_.path() + "/");
+    directory_.write("finished.txt", "the other's");
+    directory_.write("run_tempoline.bat", "the other's");
+    host_.boxAnswers = {BoxAnswer::No};
+    run(RunForm::Single);
+    ASSERT_EQ(host_.boxes.size(), 1U);
+    EXPECT_EQ(host_.boxes[0].text,
+              "Another window waits for a run in " + directory_.path() +
+                  "/. A second run there would take its files away.\n\nWould you like to "
+                  "choose another output directory?");
+    EXPECT_EQ(host_.boxes[0].buttons, BoxButtons::YesNo);
+    EXPECT_EQ(directory_.read("finished.txt"), "the other's");
+    EXPECT_EQ(directory_.read("run_tempoline.bat"), "the other's");
+    EXPECT_EQ(log_, (Texts{"busy", "values", "idle", "status ", "idle"}));
+    EXPECT_TRUE(starter_.started.empty());
+}
+
+TEST_F(ProcessorRun, AnotherDirectoryMayBeChosenWhereAnotherWindowWaits) {
+    const OtherWindow other(directory_.path() + "/");
+    const TempDirectory elsewhere;
+    std::string chosen = directory_.path() + "/";
+    hooks_.outputDirectory = [&] { return chosen; };
+    hooks_.chooseDirectory = [&] {
+        chosen = elsewhere.path() + "/";
+        return true;
+    };
+    host_.boxAnswers = {BoxAnswer::Yes};
+    outputs_ = {{"one", ""}};
+    starter_.onStart = [&] {
+        elsewhere.write("one.frq", "");
+        elsewhere.write("finished.txt", "");
+    };
+    hooks_.load = [this](const std::string&) { log("load"); };
+    run(RunForm::Single);
+    EXPECT_EQ(starter_.started, Texts{elsewhere.file("run_tempoline.bat")});
+    EXPECT_EQ(status_, "Finished");
+    EXPECT_FALSE(std::filesystem::exists(directory_.file("run_tempoline.bat")));
+    EXPECT_FALSE(std::filesystem::exists(elsewhere.file("run_tempoline.lock"))) << "gone with the wait";
+}
+
+TEST_F(ProcessorRun, NoOtherDirectoryChosenEndsTheRun) {
+    const OtherWindow other(directory_.path() + "/");
+    hooks_.chooseDirectory = [] { return false; };
+    host_.boxAnswers = {BoxAnswer::Yes};
+    run(RunForm::Heights);
+    EXPECT_TRUE(starter_.started.empty());
+    EXPECT_EQ(status_, "");
+}
+
+TEST_F(ProcessorRun, ASecondRunOfTheSameWindowStartsAsItAlwaysDid) {
+    outputs_ = {{"one", ""}};
+    starter_.onStart = [this] {
+        if (starter_.started.size() == 1) run(RunForm::Single);
+        finish({"one"});
+    };
+    run(RunForm::Single);
+    EXPECT_EQ(starter_.started.size(), 2U);
+    EXPECT_EQ(status_, "Finished");
 }
 
 }  // namespace

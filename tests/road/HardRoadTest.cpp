@@ -1,7 +1,13 @@
 // The same road where something stands in the way: odd names, a processor that is missing or ends early, a
-// program directory that takes no files.
+// program directory that takes no files, a run of another window.
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
 
 #include "platform/ReasonLabel.h"
+#include "processing/RunLock.h"
 #include "tests/road/RoadFixture.h"
 
 namespace zg {
@@ -126,6 +132,34 @@ TEST_F(HardRoad, AFailedRunHasTheListingsLastLineForATip) {
     child("cmdExit").setFocus();
     EXPECT_EQ(status(), "");
     EXPECT_EQ(tip(), "");
+}
+
+TEST_F(HardRoad, AnotherDirectoryIsOfferedWhereAnotherWindowWaits) {
+    int ends[2] = {};
+    ASSERT_EQ(pipe(ends), 0);
+    const pid_t other = fork();
+    if (other == 0) {
+        const auto lock = RunLock::take(out_);
+        if (write(ends[1], "x", 1) == 1)
+            for (;;) pause();
+        _exit(1);
+    }
+    char sign = 0;
+    ASSERT_EQ(read(ends[0], &sign, 1), 1);
+    const std::string elsewhere = directory_.file("elsewhere");
+    std::filesystem::create_directory(elsewhere);
+    openWith("a.sfc");
+    host_.boxAnswers = {BoxAnswer::Yes};
+    host_.folderAnswers = {elsewhere};
+    click("cmdView");
+    kill(other, SIGKILL);
+    waitpid(other, nullptr, 0);
+    EXPECT_EQ(status(), "Finished");
+    EXPECT_EQ(child<QLineEdit>("txtOutputDirectory").text().toStdString(), elsewhere + "/");
+    EXPECT_EQ(DirOf(settings.CurrentFrqPath), elsewhere);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(out_), std::filesystem::directory_iterator()),
+              1)
+        << "the lock of the other window alone";
 }
 
 /// Files can be made in it by no one, not even by the superuser: a directory has the name of the settings.

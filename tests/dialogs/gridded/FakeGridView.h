@@ -49,6 +49,11 @@ class FakeGridView : public GridView {
     }
     void setReason(const std::string& text) override { texts["lblReason"] = text; }
     void setTipOfStatus(const std::string& text) override { statusTip = text; }
+    bool chooseOtherDirectory() override {
+        if (otherDirectory.empty()) return false;
+        texts["txtOutputDirectory"] = otherDirectory;
+        return true;
+    }
     void askProjection() override {
         ++projectionAsked;
         if (onProjection) onProjection();
@@ -78,6 +83,7 @@ class FakeGridView : public GridView {
     std::map<std::string, bool> visibleControls;
     std::string focused;
     std::string statusTip;
+    std::string otherDirectory;  ///< the choice of the one who is asked for another
     bool isBusy = false;
     int projectionAsked = 0;
     std::function<void()> onProjection;
