@@ -61,6 +61,7 @@ class AermetProfile : public InputReader {
 
     void read(const std::string& path, std::vector<Series>& series) override {
         LineSource lines(path);
+        noteNoShift(control_);
         std::string_view line;
         std::array<std::string_view, fieldCount> fields;
         bool open = false;

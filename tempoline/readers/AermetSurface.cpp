@@ -24,6 +24,7 @@ class AermetSurface : public InputReader {
     void read(const std::string& path, std::vector<Series>& series) override {
         LineSource lines(path);
         readHeader(lines);
+        noteNoShift(control_);
         std::string_view line;
         std::array<std::string_view, heightField + 1> fields;
         while (lines.next(line)) {

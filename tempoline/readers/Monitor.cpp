@@ -31,6 +31,7 @@ class Monitor : public InputReader {
     void read(const std::string& path, std::vector<Series>& series) override {
         LineSource lines(path);
         readHeadings(lines);
+        noteNoShift(control_);
         std::string_view line;
         while (lines.next(line)) {
             if (line.find('"') != std::string_view::npos) {

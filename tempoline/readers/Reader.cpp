@@ -26,6 +26,10 @@ void InputReader::noteShift(const Control& control, Seconds fileOffset) {
                                      control.zone));
 }
 
+void InputReader::noteNoShift(const Control& control) {
+    note(entryLine("Time shift", "none: the data tell no zone, and are taken to be in " + control.zone));
+}
+
 void InputReader::noteEnd(const std::string& path, std::optional<Seconds> promised,
                           std::optional<Seconds> last, Seconds due) {
     if (!promised || (last && *last + due >= *promised)) return;

@@ -53,6 +53,9 @@ class InputReader {
     /// By how much the times of the file are moved to those of the run.
     void noteShift(const Control& control, Seconds fileOffset);
 
+    /// That the data tell no zone.
+    void noteNoShift(const Control& control);
+
     /// Warns of a file that ends before its header says it does; all in the zone of the run. `last` is the
     /// end of its last record, and nothing more is due so many seconds behind it.
     void noteEnd(const std::string& path, std::optional<Seconds> promised, std::optional<Seconds> last,

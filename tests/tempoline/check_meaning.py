@@ -270,6 +270,7 @@ def case_listing(processor, directory):
     assert re.search(r"First record used +2004-01-01 07:00:00 to 2004-01-01 08:00:00, a\.sfc:9\n", listing), listing
     assert re.search(r"Last record used +2004-01-01 21:00:00 to 2004-01-01 22:00:00, a\.sfc:23\n", listing), listing
     assert re.search(r"these are assumed\n(  ! .*\n)*  ! NSECDT = 3600 !\n", listing), listing
+    assert re.search(r"Time shift +none: the data tell no zone, and are taken to be in UTC-0500\n", listing), listing
     assert re.search(r"Input file +a\.sfc, %d bytes\n" % (directory / "a.sfc").stat().st_size, listing), listing
 
 
