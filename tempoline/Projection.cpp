@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -15,6 +16,7 @@ namespace zg::tempoline {
 
 namespace {
 
+constexpr std::size_t mostKept = 64;  // transformations
 constexpr double sevenDigits = 1e-6;
 constexpr double smallAngle = 1e-4;  // degrees: what seven digits leave open, some 10 m
 constexpr double poleWidth = 1e-7;   // degrees: a centimetre
@@ -164,17 +166,40 @@ bool agree(double a, double b) { return std::abs(a - b) <= sevenDigits * std::ma
 /// Of two longitudes or of two latitudes, which a full turn does not change.
 bool agreeInAngle(double a, double b) { return std::abs(std::remainder(a - b, 360)) <= smallAngle; }
 
+/// A transformation with the context that it needs.
+struct Operation {
+    std::unique_ptr<PJ_CONTEXT, ContextCloser> context;
+    Transform transform;
+};
+
+/// Making one takes milliseconds, and the places of a run share a few of them.
+template <typename Maker>
+PJ* keptOperation(const std::string& key, Maker make) {
+    thread_local std::map<std::string, Operation> kept;
+    const auto found = kept.find(key);
+    if (found != kept.end()) return found->second.transform.get();
+    Operation operation;
+    operation.context.reset(proj_context_create());
+    proj_log_level(operation.context.get(), PJ_LOG_NONE);
+    operation.transform = make(operation.context.get());
+    if (kept.size() >= mostKept) kept.clear();
+    return kept.emplace(key, std::move(operation)).first->second.transform.get();
+}
+
 MapPoint transformed(MapPoint point, const MapSetting& from, const MapSetting& to) {
-    const std::unique_ptr<PJ_CONTEXT, ContextCloser> context(proj_context_create());
-    proj_log_level(context.get(), PJ_LOG_NONE);
-    const Transform raw(
-        proj_create_crs_to_crs(context.get(), definitionOf(from).c_str(), definitionOf(to).c_str(), nullptr));
-    if (!raw)
-        throw projectionFailure(from,
-                                "it makes no projection together with " + to.projection + ", " + to.datum);
-    const Transform transform(proj_normalize_for_visualization(context.get(), raw.get()));
-    if (!transform) throw projectionFailure(from, "it makes no projection");
-    const PJ_COORD result = proj_trans(transform.get(), PJ_FWD, proj_coord(point.x, point.y, 0, 0));
+    const std::string source = definitionOf(from);
+    const std::string target = definitionOf(to);
+    PJ* const transform = keptOperation(source + " to " + target, [&](PJ_CONTEXT* context) {
+        const Transform raw(proj_create_crs_to_crs(context, source.c_str(), target.c_str(), nullptr));
+        if (!raw)
+            throw projectionFailure(
+                from, "it makes no projection together with " + to.projection + ", " + to.datum);
+        Transform normal(proj_normalize_for_visualization(context, raw.get()));
+        if (!normal) throw projectionFailure(from, "it makes no projection");
+        return normal;
+    });
+    proj_errno_reset(transform);
+    const PJ_COORD result = proj_trans(transform, PJ_FWD, proj_coord(point.x, point.y, 0, 0));
     if (!std::isfinite(result.xy.x) || !std::isfinite(result.xy.y))
         throw projectionFailure(
             to, "the point " + fixedText(point.x, 4) + ", " + fixedText(point.y, 4) + " has no place in it");
@@ -240,15 +265,17 @@ double convergenceAt(MapPoint point, const MapSetting& map) {
     if (std::abs(place.y) > 90 - poleWidth)
         throw projectionFailure(map, "the point " + fixedText(point.x, 4) + ", " + fixedText(point.y, 4) +
                                          " is a pole, where no direction is north");
-    const std::unique_ptr<PJ_CONTEXT, ContextCloser> context(proj_context_create());
-    proj_log_level(context.get(), PJ_LOG_NONE);
     const std::string definition =
         projectionDefinition(map) + " " + shapeOf(datumDefinition(map.datum).value_or(""));
-    const Transform projection(proj_create(context.get(), definition.c_str()));
-    if (!projection) throw projectionFailure(map, "it makes no projection");
+    PJ* const projection = keptOperation(definition, [&](PJ_CONTEXT* context) {
+        Transform made(proj_create(context, definition.c_str()));
+        if (!made) throw projectionFailure(map, "it makes no projection");
+        return made;
+    });
+    proj_errno_reset(projection);
     const PJ_COORD where = proj_coord(proj_torad(place.x), proj_torad(place.y), 0, 0);
-    const double angle = proj_factors(projection.get(), where).meridian_convergence;
-    if (proj_errno(projection.get()) != 0 || !std::isfinite(angle))
+    const double angle = proj_factors(projection, where).meridian_convergence;
+    if (proj_errno(projection) != 0 || !std::isfinite(angle))
         throw projectionFailure(map, "the point " + fixedText(point.x, 4) + ", " + fixedText(point.y, 4) +
                                          " has no direction to the north");
     return proj_todeg(angle);
