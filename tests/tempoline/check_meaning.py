@@ -277,7 +277,7 @@ def case_listing(processor, directory):
 def case_words(processor, directory):
     """Help, version, no output, a name with blanks."""
     done = run(processor, directory, "--help")
-    assert done.returncode == 0 and done.stderr == "" and done.stdout.startswith("usage: tempoline.exe CONTROLFILE\n"), done
+    assert done.returncode == 0 and done.stderr == "" and done.stdout.startswith("usage: tempoline.exe "), done
     done = run(processor, directory, "--version")
     assert (done.returncode, done.stdout, done.stderr) == (0, "tempoline 4.9\n", ""), done
     surface(directory, good_day())
