@@ -180,13 +180,17 @@ TEST(ControlFile, IsWrittenUnderItsBaseAndReplacesAnOldOne) {
 
 TEST(ControlFile, AFullDiskIsAnErrorOfItsOwn) {
     const TempDirectory directory;
+    const ControlFile values = common(InputType::Tsf, {"t.tsf"});
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit before{};
     getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit small{5'000, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
-    EXPECT_THROW(WriteControlFile(directory.path() + "/", common(InputType::Tsf, {"t.tsf"})), RunTimeError);
-    setrlimit(RLIMIT_FSIZE, &before);
+    // Full in the middle, and by the last byte, which only the end of the writing tells.
+    for (const std::size_t room : {std::size_t{5'000}, controlFileBytes(values).size() - 1}) {
+        const rlimit small{room, before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+        EXPECT_THROW(WriteControlFile(directory.path() + "/", values), RunTimeError) << room;
+        setrlimit(RLIMIT_FSIZE, &before);
+    }
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
+#include <sstream>
 
 #include "tests/dialogs/gridded/GridFiles.h"
 #include "tests/support/TempDirectory.h"
@@ -148,6 +150,159 @@ TEST_F(GridFileHeader, BrokenFieldsAreNamed) {
               "line 7 (extracted period and grid): number of hours must be between 1 and 10000000");
     EXPECT_EQ(read(GridKind::Ventos, replaced(ventosText(), "2005 12 31", "2005 13 31")).errorText,
               "line 5 (period): month must be between 1 and 12");
+}
+
+TEST_F(GridFileHeader, EveryFieldOfAVentosFileGoesToItsValue) {
+    const InfoViewResult r =
+        read(GridKind::Ventos, ventosText("LCC NWS-84 S 18 100.5 -20 40.5 -97.25 33 45"));
+    EXPECT_EQ(r.errorFlag, 0) << r.errorText;
+    EXPECT_EQ(r.PMAP, "LCC");
+    EXPECT_EQ(r.DATUM, "NWS-84");
+    EXPECT_EQ(r.UTMHEM, "S");
+    EXPECT_EQ(r.IUTMZN, 18);
+    EXPECT_EQ(r.FEAST, 100.5F);
+    EXPECT_EQ(r.FNORTH, -20);
+    EXPECT_EQ(r.RLAT0, 40.5F);
+    EXPECT_EQ(r.RLON0, -97.25F);
+    EXPECT_EQ(r.XLAT1, 33);
+    EXPECT_EQ(r.XLAT2, 45);
+    EXPECT_EQ(r.first.year, 2005);
+    EXPECT_EQ(r.first.month, 3);
+    EXPECT_EQ(r.first.day, 7);
+    EXPECT_EQ(r.last.month, 12);
+}
+
+TEST_F(GridFileHeader, SecondThirtySixHundredIsTheNextHour) {
+    const InfoViewResult r =
+        read(GridKind::Ventos, replaced(ventosText(), "2005 12 31 23 0", "2005 12 30 23 3600"));
+    EXPECT_EQ(r.errorFlag, 0) << r.errorText;
+    EXPECT_EQ(r.last.day, 31);
+    EXPECT_EQ(r.last.hour, 0);
+    EXPECT_EQ(r.last.seconds, 0);
+}
+
+class GridFileFields : public GridFileHeader {
+ protected:
+    static std::string text(GridKind kind) { return kind == GridKind::M3d ? m3dText() : ventosText(); }
+
+    /// The file with one line, counted from 1, made anew from its fields.
+    template <typename Change>
+    static std::string withLine(GridKind kind, int number, Change change) {
+        const std::string whole = text(kind);
+        const std::string before = firstLines(whole, number - 1);
+        const std::string after = whole.substr(firstLines(whole, number).size());
+        std::istringstream line(whole.substr(before.size(), whole.size() - before.size() - after.size()));
+        std::vector<std::string> fields(std::istream_iterator<std::string>(line), {});
+        change(fields);
+        std::string made;
+        for (const std::string& field : fields) made += field + " ";
+        return before + made + "\n" + after;
+    }
+
+    /// What is told when the line ends after no field, after one, and so on: "(period): year" for each field
+    /// that is then missing.
+    std::vector<std::string> missing(GridKind kind, int number) {
+        std::vector<std::string> told;
+        const std::string start = "line " + std::to_string(number) + " ";
+        const std::string end = " is missing";
+        for (std::size_t count = 0;; ++count) {
+            const std::string error =
+                read(kind, withLine(kind, number,
+                                    [&](auto& fields) { fields.resize(std::min(count, fields.size())); }))
+                    .errorText;
+            if (!error.starts_with(start) || !error.ends_with(end)) return told;
+            told.push_back(error.substr(start.size(), error.size() - start.size() - end.size()));
+        }
+    }
+
+    std::string errorWith(GridKind kind, int number, std::size_t field, const std::string& value) {
+        return read(kind, withLine(kind, number, [&](auto& fields) { fields[field] = value; })).errorText;
+    }
+};
+
+using Names = std::vector<std::string>;
+
+TEST_F(GridFileFields, AreNamedWhereOneOfAVentosFileIsMissing) {
+    Names period;
+    for (int i = 0; i < 2; ++i)
+        for (const char* name : {"year", "month", "day", "hour", "seconds"})
+            period.push_back(std::string("(period): ") + name);
+    period.insert(period.end(), {"(period): time zone", "(period): step"});
+    EXPECT_EQ(missing(GridKind::Ventos, 2), Names{"(number of comment lines): number"});
+    EXPECT_EQ(missing(GridKind::Ventos, 5), period);
+    Names map;
+    for (const char* name :
+         {"PMAP", "DATUM", "UTMHEM", "IUTMZN", "FEAST", "FNORTH", "RLAT0", "RLON0", "XLAT1", "XLAT2"})
+        map.push_back(std::string("(projection): ") + name);
+    EXPECT_EQ(missing(GridKind::Ventos, 6), map);
+    EXPECT_EQ(missing(GridKind::Ventos, 7),
+              (Names{"(grid): nx", "(grid): ny", "(grid): nz", "(grid): corner or cell size",
+                     "(grid): corner or cell size", "(grid): corner or cell size"}));
+    EXPECT_EQ(missing(GridKind::Ventos, 8),
+              (Names{"(cell face heights): height", "(cell face heights): height"}));
+}
+
+TEST_F(GridFileFields, AreNamedWhereOneOfA3dDatFileIsMissing) {
+    EXPECT_EQ(missing(GridKind::M3d, 4), Names(6, "(output flags): flag"));
+    Names map;
+    for (const char* name : {"projection", "RLAT0", "RLON0", "XLAT1", "XLAT2", "corner or cell size",
+                             "corner or cell size", "corner or cell size", "nx", "ny", "nz"})
+        map.push_back(std::string("(projection): ") + name);
+    EXPECT_EQ(missing(GridKind::M3d, 5), map);
+    Names extract;
+    for (const char* name : {"first time", "number of hours", "nx", "ny", "nz"})
+        extract.push_back(std::string("(extracted period and grid): ") + name);
+    EXPECT_EQ(missing(GridKind::M3d, 7), extract);
+    EXPECT_EQ(missing(GridKind::M3d, 8), Names(10, "(range of the extract): range"));
+    EXPECT_EQ(missing(GridKind::M3d, 9), Names{"(sigma level): sigma"});
+    EXPECT_EQ(missing(GridKind::M3d, 11), Names{"(sigma level): sigma"});
+    EXPECT_EQ(missing(GridKind::M3d, 12), Names(4, "(grid cell): cell"));
+    EXPECT_EQ(missing(GridKind::M3d, 15), Names(4, "(grid cell): cell"));
+    EXPECT_EQ(read(GridKind::M3d, "3D.DAT\n").errorText, "line 1 (file type): version is missing");
+}
+
+TEST_F(GridFileFields, HaveTheirRanges) {
+    struct Range {
+        GridKind kind;
+        int line;
+        std::size_t field;
+        std::int64_t least;
+        std::int64_t most;
+    };
+    constexpr std::int64_t cells = 100'000;
+    for (const Range& r :
+         {Range{GridKind::M3d, 2, 0, 0, cells}, Range{GridKind::M3d, 4, 5, 0, 1},
+          Range{GridKind::M3d, 5, 8, 1, cells}, Range{GridKind::M3d, 5, 10, 1, cells},
+          Range{GridKind::M3d, 7, 1, 1, 10'000'000}, Range{GridKind::M3d, 7, 2, 1, cells},
+          Range{GridKind::M3d, 7, 3, 1, cells}, Range{GridKind::M3d, 7, 4, 1, cells},
+          Range{GridKind::Ventos, 5, 0, 100, 9999}, Range{GridKind::Ventos, 5, 1, 1, 12},
+          Range{GridKind::Ventos, 5, 2, 1, 31}, Range{GridKind::Ventos, 5, 3, 0, 24},
+          Range{GridKind::Ventos, 5, 4, 0, 3600}, Range{GridKind::Ventos, 5, 11, 1, 31'622'400},
+          Range{GridKind::Ventos, 7, 0, 1, cells}, Range{GridKind::Ventos, 7, 1, 1, cells},
+          Range{GridKind::Ventos, 7, 2, 1, cells}}) {
+        const auto with = [&](std::int64_t value) {
+            return errorWith(r.kind, r.line, r.field, std::to_string(value));
+        };
+        const std::string told =
+            " must be between " + std::to_string(r.least) + " and " + std::to_string(r.most);
+        for (const std::int64_t value : {r.least - 1, r.most + 1})
+            EXPECT_TRUE(with(value).ends_with(told)) << r.line << ' ' << r.field << ' ' << with(value);
+        for (const std::int64_t value : {r.least, r.most})
+            EXPECT_EQ(with(value).find("must be between"), std::string::npos) << with(value);
+    }
+    EXPECT_EQ(errorWith(GridKind::M3d, 7, 0, "100010099"),
+              "line 7 (extracted period and grid): first time must be between 100010100 and 2147483647");
+    EXPECT_EQ(errorWith(GridKind::M3d, 7, 0, "100010100"), "");
+}
+
+TEST_F(GridFileFields, AreQuotedByTheirFirstTwentyCharacters) {
+    const std::string field = "abcdefghijklmnopqrst";
+    EXPECT_EQ(errorWith(GridKind::M3d, 2, 0, field + "u"),
+              "line 2 (number of comment lines): number \"" + field + "\" is not a number");
+    EXPECT_EQ(errorWith(GridKind::M3d, 5, 0, field + "u"),
+              "line 5 (projection): projection \"" + field + "\" is not known");
+    EXPECT_EQ(errorWith(GridKind::M3d, 1, 1, field + "u"),
+              "line 1 (file type): version " + field + " is not known");
 }
 
 TEST_F(GridFileHeader, OtherFilesAreRefused) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <utility>
 
 #include "tests/support/Raises.h"
 
@@ -92,6 +93,32 @@ TEST(Projection, AnglesBeyondHalfATurnAreWrapped) {
     EXPECT_RAISES(13, "Type mismatch", wrapped("x"));
     EXPECT_EQ(latitudeBoxes().size(), 8U);
     EXPECT_STREQ(latitudeBoxes()[3], "txtTTMRLAT01");
+}
+
+TEST(Projection, EachFieldHasItsOwnControls) {
+    const auto savedNames = [](const char* pmap) {
+        projection = {};
+        SaveProjection(*choiceOfPmap(pmap), [](const char* name) { return std::string(name); });
+        const ProjectionRecord r = std::exchange(projection, {});
+        return std::vector<std::string>{r.PMAP,  r.FEAST, r.FNORTH, r.IUTMZN, r.UTMHEM,
+                                        r.RLAT0, r.RLON0, r.XLAT1,  r.XLAT2,  r.DATUM};
+    };
+    const auto angle = [](const std::string& name) { return "txt" + name + "cbo" + name; };
+    using Row = std::vector<std::string>;
+    EXPECT_EQ(savedNames("LL"), (Row{"LL", "", "", "", "", "", "", "", "", "cboCode"}));
+    EXPECT_EQ(savedNames("UTM"),
+              (Row{"UTM", "", "", "txtUTMZone1", "cboLSOHEM1", "", "", "", "", "cboCode"}));
+    EXPECT_EQ(savedNames("LCC"),
+              (Row{"LCC", "txtLCCFEast", "txtLCCFNorth", "", "", angle("LCCRLAT01"), angle("LCCRLON01"),
+                   angle("LCCRLAT11"), angle("LCCRLAT21"), "cboCode"}));
+    EXPECT_EQ(savedNames("TTM"), (Row{"TTM", "txtTTMFEast", "txtTTMFNorth", "", "", angle("TTMRLAT01"),
+                                      angle("TTMRLON01"), "", "", "cboCode"}));
+    EXPECT_EQ(savedNames("PS"), (Row{"PS", "", "", "", "", angle("PSRLAT01"), angle("PSRLON01"),
+                                     angle("PSRLAT11"), "", "cboCode"}));
+    EXPECT_EQ(savedNames("EM"),
+              (Row{"EM", "", "", "", "", angle("EMRLAT01"), angle("EMRLON01"), "", "", "cboCode"}));
+    EXPECT_EQ(savedNames("LAZA"), (Row{"LAZA", "txtLAZAFEast", "txtLAZAFNorth", "", "", angle("LZRLAT01"),
+                                       angle("LZRLON01"), "", "", "cboCode"}));
 }
 
 TEST(Projection, SavingTakesTheFieldsOfTheChoiceOnly) {

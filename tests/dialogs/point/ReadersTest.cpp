@@ -36,7 +36,7 @@ class PointReaders : public ::testing::Test {
 
 const std::string up21Text =
     "UP.DAT          2.1             Hour Start and End Times with Seconds\r\n1\r\nc\r\nNONE\r\nUTC+0000\r\n"
-    "  1990   8  0 1830  1990  15 24  0  500.\r\n  F F F F\r\n   6201     4417   1990\r\n";
+    "  1990   8  0 1830  1990  15 23  3599  500.\r\n  F F F F\r\n   6201     4417   1990\r\n";
 
 TEST_F(PointReaders, Up21HasItsFieldsAndZone) {
     const UpHeader header = readUpHeader(host_, file(up21Text));
@@ -44,9 +44,11 @@ TEST_F(PointReaders, Up21HasItsFieldsAndZone) {
     EXPECT_EQ(header.version, "2.1");
     EXPECT_EQ(header.timeZone, "UTC+0000");
     EXPECT_EQ(textOf(header.begin), "Jan 8, 1990 12:30:30 AM");
-    EXPECT_EQ(textOf(header.end), "Jan 16, 1990 12:00:00 AM");
+    EXPECT_EQ(textOf(header.end), "Jan 15, 1990 11:59:59 PM");
     EXPECT_EQ(header.beginFields.minute, 30);
     EXPECT_EQ(header.beginFields.second, 30);
+    EXPECT_EQ(header.endFields.minute, 59);
+    EXPECT_EQ(header.endFields.second, 59);
     EXPECT_EQ(header.station, "4417");
 }
 
@@ -167,6 +169,15 @@ TEST_F(PointReaders, LongFilesTellTheirProgress) {
     while (text.size() < 9'000'000) text += "88 3 1 2 some more of the same, and a little longer\n";
     int calls = 0;
     readAermetPeriod(file(text), AermetKind::Profile, [&] { ++calls; });
+    EXPECT_EQ(calls, 2);
+}
+
+TEST_F(PointReaders, LongMonitorFilesTellTheirProgress) {
+    std::string text = "DATETIME,STNCODE,DATAAVID\n1/1/2005 1:00:00,S,60\n";
+    while (text.size() < 9'000'000)
+        text += "1/1/2005 2:00:00,S,S,some more of the same, and a little longer\n";
+    int calls = 0;
+    EXPECT_EQ(readMonitorHeader(file(text), [&] { ++calls; }).stations, std::vector<std::string>{"S"});
     EXPECT_EQ(calls, 2);
 }
 

@@ -1,10 +1,12 @@
 #include "shell/settings/StartSequence.h"
 
+#include <algorithm>
 #include <filesystem>
 
 #include "shell/settings/CfgFile.h"
 #include "shell/settings/WindClasses.h"
 #include "tests/shell/settings/SettingsFixture.h"
+#include "tests/support/Raises.h"
 
 namespace {
 
@@ -156,6 +158,44 @@ TEST_F(StartSequenceTest, BackgroundPictureIsTheFirstOfTheFour) {
     std::filesystem::create_directory(directory_.file("Bitmap/WP1.pgw"));
     EXPECT_EQ(findBackgroundPicture()->style, 1) << "a directory is no picture";
     EXPECT_EQ(backgroundPicturePath("WP3.pgw"), "");
+}
+
+TEST_F(StartSequenceTest, ResetOfTheClassesRestoresTheFactoryMinimaToo) {
+    settings.DefaultWindClassMin.fill("9");
+    resetWindClassMin();
+    EXPECT_EQ(settings.DefaultWindClassMin, (ClassTexts{"0.5", "1.8", "3.3", "5.4", "8.5", "10.8"}));
+    EXPECT_EQ(settings.WindClassMin, settings.DefaultWindClassMin);
+}
+
+TEST_F(StartSequenceTest, BackgroundPicturesAreRemovedAndOtherFilesStay) {
+    removeBackgroundPictures();
+    EXPECT_FALSE(std::filesystem::exists(directory_.file("Bitmap"))) << "no directory is no fault";
+    std::filesystem::create_directory(directory_.file("Bitmap"));
+    for (const char* name : {"WP1.pgw", "WP3.PGW", "mine.pgw", "mine.bmp", "pgw"})
+        directory_.write(std::string("Bitmap/") + name, "");
+    removeBackgroundPictures();
+    std::vector<std::string> left;
+    for (const auto& entry : std::filesystem::directory_iterator(directory_.file("Bitmap")))
+        left.push_back(entry.path().filename().string());
+    std::sort(left.begin(), left.end());
+    EXPECT_EQ(left, (std::vector<std::string>{"mine.bmp", "pgw"}));
+}
+
+TEST_F(StartSequenceTest, ANewBackgroundPictureHasThePlaceOfItsStyle) {
+    const auto nameOf = [](std::int32_t style) {
+        return std::filesystem::path(newBackgroundPicturePath(style)).filename().string();
+    };
+    EXPECT_EQ(newBackgroundPicturePath(0), directory_.file("Bitmap/WP1.pgw"));
+    EXPECT_TRUE(std::filesystem::is_directory(directory_.file("Bitmap")));
+    EXPECT_EQ(nameOf(1), "WP2.pgw");
+    EXPECT_EQ(nameOf(3), "WP4.pgw");
+    EXPECT_EQ(nameOf(4), "WP4.pgw") << "a style beyond the last is the last";
+    EXPECT_EQ(nameOf(-1), "WP1.pgw");
+}
+
+TEST_F(StartSequenceTest, ANewBackgroundPictureNeedsItsDirectory) {
+    directory_.write("Bitmap", "a file in its place");
+    EXPECT_RAISES(75, "Path/File access error", newBackgroundPicturePath(0));
 }
 
 }  // namespace
