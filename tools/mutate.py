@@ -200,7 +200,7 @@ class Work:
             failure = test.failure(self)
             if failure:
                 raise CannotRun("%s fails on the code as it is: %s" % (test.path, failure))
-            test.seconds = 20 + 10 * (time.monotonic() - before)
+            test.seconds = 10 + 5 * (time.monotonic() - before)
 
     def judge(self, change):
         """What became of the program with the change, and which test saw it."""
