@@ -158,6 +158,10 @@ TEST_F(StartSequenceTest, BackgroundPictureIsTheFirstOfTheFour) {
     std::filesystem::create_directory(directory_.file("Bitmap/WP1.pgw"));
     EXPECT_EQ(findBackgroundPicture()->style, 1) << "a directory is no picture";
     EXPECT_EQ(backgroundPicturePath("WP3.pgw"), "");
+
+    std::filesystem::remove(directory_.file("Bitmap/WP1.pgw"));
+    directory_.write("Bitmap/WP1.pgw", "");
+    EXPECT_EQ(findBackgroundPicture()->style, 0);
 }
 
 TEST_F(StartSequenceTest, ResetOfTheClassesRestoresTheFactoryMinimaToo) {
