@@ -113,10 +113,13 @@ TEST(Rulers, NumbersArePlacedAtTheirMarkByFourFifthsOfTheirSize) {
     const drawn::Text zero = canvas.textReading("0");
     const TextSize size = canvas.measure("0", zero.style);
     EXPECT_DOUBLE_EQ(zero.at.x, 305 - 0.8 * size.width / 2);
+    EXPECT_EQ(zero.at.y, 5);
+    EXPECT_EQ(zero.style, (TextStyle{"Arial", 6, false, false, black}));
     view.horizontal = false;
     RecordingCanvas upright(20, 700);
     paintRuler(upright, view);
     EXPECT_DOUBLE_EQ(upright.textReading("0").at.y, 305 - 0.8 * size.height);
+    EXPECT_EQ(upright.textReading("0").at.x, 5);
 }
 
 TEST(Rulers, MarksOutOfSightAreNotPainted) {
@@ -131,13 +134,43 @@ TEST(Rulers, MarksOutOfSightAreNotPainted) {
     EXPECT_EQ(ground(canvas).at(2).rectangle, (Rect{0, 18, 100, 20})) << "the band ends with the ruler";
 }
 
+TEST(Rulers, MarksOfANumberThatReachesIntoSightArePainted) {
+    RulerView view = viewOfSixHundred();
+    view.mode = 0;
+    view.pageStart = -100;  // marks at -100, -90 and so on
+    view.length = 100;
+    RecordingCanvas canvas(100, 20);
+    paintRuler(canvas, view);
+    std::vector<double> places;
+    for (const drawn::FillRectangle& one : canvas.all<drawn::FillRectangle>())
+        if (one.colour == black) places.push_back(one.rectangle.left);
+    ASSERT_FALSE(places.empty());
+    EXPECT_EQ(places.front(), -30);
+    EXPECT_EQ(places.back(), 130);
+    EXPECT_EQ(places.size(), 17U);
+}
+
 TEST(Rulers, TheCornerShowsACrossOnTheButtonFace) {
     RecordingCanvas canvas(20, 20);
     paintRulerCorner(canvas);
     EXPECT_EQ(canvas.all<drawn::Clear>(), (std::vector<drawn::Clear>{{buttonFaceColour}}));
     EXPECT_EQ(ground(canvas).at(0).rectangle, (Rect{18, 0, 20, 20}));
     EXPECT_EQ(ground(canvas).at(1).rectangle, (Rect{0, 18, 20, 20}));
-    EXPECT_EQ(canvas.all<drawn::Line>().size(), 2U);
+    const LineStyle style{rgb(128, 128, 128), 1, 0};
+    EXPECT_EQ(canvas.all<drawn::Line>(),
+              (std::vector<drawn::Line>{{{4, 9}, {14, 9}, style}, {{9, 4}, {9, 14}, style}}));
+}
+
+TEST(Rulers, ACornerThatIsNoSquareFollowsBothItsSizes) {
+    RecordingCanvas canvas(20, 40);
+    paintRulerCorner(canvas);
+    EXPECT_EQ(ground(canvas).at(0), (drawn::FillRectangle{{18, 0, 20, 40}, rgb(172, 168, 153)}));
+    EXPECT_EQ(ground(canvas).at(1), (drawn::FillRectangle{{0, 38, 20, 40}, rgb(172, 168, 153)}));
+    const auto lines = canvas.all<drawn::Line>();
+    EXPECT_EQ(lines.at(0).from, (Point{4, 19}));
+    EXPECT_EQ(lines.at(0).to, (Point{14, 19}));
+    EXPECT_EQ(lines.at(1).from, (Point{9, 4}));
+    EXPECT_EQ(lines.at(1).to, (Point{9, 34}));
 }
 
 }  // namespace
