@@ -164,21 +164,33 @@ TEST_F(PointReaders, AWrongAermetFileIsAnError) {
     EXPECT_EQ(errorOf([&] { readAermetPeriod(file("x y z 1\n"), AermetKind::Profile); }), 13);
 }
 
-TEST_F(PointReaders, LongFilesTellTheirProgress) {
-    std::string text = "88 3 1 1 x\n";
-    while (text.size() < 9'000'000) text += "88 3 1 2 some more of the same, and a little longer\n";
-    int calls = 0;
-    readAermetPeriod(file(text), AermetKind::Profile, [&] { ++calls; });
-    EXPECT_EQ(calls, 2);
+/// Lines that begin so and have 50 characters each.
+std::string fiftyCharacters(const std::string& begin, int lines) {
+    const std::string line = begin + std::string(50 - begin.size(), 'x') + "\n";
+    std::string text;
+    for (int i = 0; i < lines; ++i) text += line;
+    return text;
 }
 
-TEST_F(PointReaders, LongMonitorFilesTellTheirProgress) {
-    std::string text = "DATETIME,STNCODE,DATAAVID\n1/1/2005 1:00:00,S,60\n";
-    while (text.size() < 9'000'000)
-        text += "1/1/2005 2:00:00,S,S,some more of the same, and a little longer\n";
-    int calls = 0;
-    EXPECT_EQ(readMonitorHeader(file(text), [&] { ++calls; }).stations, std::vector<std::string>{"S"});
-    EXPECT_EQ(calls, 2);
+TEST_F(PointReaders, LongFilesTellTheirProgressEveryFourMillionBytes) {
+    const std::string first = "88 3 1 1 x\n";
+    for (const auto& [lines, expected] : {std::pair{79'999, 0}, std::pair{160'000, 2}}) {
+        int calls = 0;
+        readAermetPeriod(file(first + fiftyCharacters("88 3 1 2 ", lines)), AermetKind::Profile,
+                         [&] { ++calls; });
+        EXPECT_EQ(calls, expected);
+    }
+}
+
+TEST_F(PointReaders, LongMonitorFilesTellTheirProgressEveryFourMillionBytes) {
+    const std::string first = "DATETIME,STNCODE,DATAAVID\n1/1/2005 1:00:00,S,60\n";
+    for (const auto& [lines, expected] : {std::pair{79'999, 0}, std::pair{160'000, 2}}) {
+        int calls = 0;
+        const MonitorHeader header = readMonitorHeader(
+            file(first + fiftyCharacters("1/1/2005 2:00:00,S,S,", lines)), [&] { ++calls; });
+        EXPECT_EQ(header.stations, std::vector<std::string>{"S"});
+        EXPECT_EQ(calls, expected);
+    }
 }
 
 const std::string tsfText =
