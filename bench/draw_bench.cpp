@@ -3,6 +3,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <QElapsedTimer>
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPainterPath>
@@ -10,6 +11,7 @@
 
 #include "graph/control/CreatePolar.h"
 #include "graph/control/CurveSweep.h"
+#include "graph/control/SweepWatch.h"
 #include "graph/frq/OpenFreqFile.h"
 #include "graph/render/CanvasRecord.h"
 #include "graph/render/RedrawGraph.h"
@@ -148,12 +150,19 @@ void curve(benchmark::State& state) {
     graph.Step = 360.0F / static_cast<float>(state.range(0));
     zg::PolarGeometry geometry{0, 0, side / 2, side / 2, 40};
     NoSurface surface;
+    QElapsedTimer clock;
+    clock.start();
     for (auto _ : state) {
-        zg::CurveSampler sampler(engine, graph);
-        zg::CurvePainter painter(graph.Series, {}, geometry);
-        for (zg::SweepAngles angles(graph); !angles.done(); angles.advance())
-            painter.paint(surface, sampler.at(angles.angle(), geometry));
-        painter.finish(surface);
+        zg::SweepWatch watch([&clock] { return clock.elapsed(); });
+        zg::sweepUnderWatch(engine, watch, graph.Equation, [&] {
+            zg::CurveSampler sampler(engine, graph);
+            zg::CurvePainter painter(graph.Series, {}, geometry);
+            for (zg::SweepAngles angles(graph); !angles.done(); angles.advance()) {
+                painter.paint(surface, sampler.at(angles.angle(), geometry));
+                watch.look();
+            }
+            painter.finish(surface);
+        });
     }
 }
 BENCHMARK(curve)->Arg(360)->Arg(1000000)->Unit(benchmark::kMillisecond);

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QTimer>
@@ -89,7 +90,17 @@ void frmMain::LoadToolCursor(ToolCursor id) {
 void frmMain::closeEvent(QCloseEvent* event) {
     if (!pgPolarGraph().StopAni()) pgPolarGraph().StopAni(true);
     ending_ = true;  // a run that waits for its processor is abandoned
+    // What still waits to be drawn would be drawn for nobody.
+    pgPolarGraph().suspendUpdates(true);
     event->accept();
+}
+
+/// Escape ends what is being drawn, wherever in the window the keyboard is.
+void frmMain::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && !pgPolarGraph().StopAni())
+        pgPolarGraph().StopAni(true);
+    else
+        QMainWindow::keyPressEvent(event);
 }
 
 void frmMain::PlotFrqFile(const std::string& path) {

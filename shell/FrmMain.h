@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,6 +15,8 @@
 #include "shell/MenuTree.h"
 
 namespace zg {
+
+class frmTable;
 
 /// Resource numbers of the program's own pointers.
 enum class ToolCursor {
@@ -81,6 +84,7 @@ class frmMain : public QMainWindow {
 
  protected:
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
  private:
     void makeMenus();
@@ -119,6 +123,7 @@ class frmMain : public QMainWindow {
     void deleteSelected();
     void playSelected();
     void showTable();
+    std::unique_ptr<frmTable> sampledTable(const GrapInfo& graph, const QPixmap& swatch);
     void showProperties();
 
     void lockWhileDrawing(bool value);
@@ -146,7 +151,8 @@ class frmMain : public QMainWindow {
     std::map<std::string, std::function<void()>> commands_;
     Tool activeToolButton_ = Tool::Arrow;
     bool panDragging_ = false;
-    bool ending_ = false;  ///< closed, or Exit was chosen
+    bool ending_ = false;    ///< closed, or Exit was chosen
+    bool plotting_ = false;  ///< the button Plot is at work
     BatchStarter starter_;
     QSize picTemp_;
 };

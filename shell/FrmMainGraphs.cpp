@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QSignalBlocker>
+#include <memory>
 
 #include "base/Numbers.h"
 #include "base/Text.h"
@@ -161,6 +162,10 @@ std::optional<frmMain::CurveTexts> frmMain::checkedTexts() {
 }
 
 void frmMain::cmdPlot_Click() {
+    if (plotting_) return;  // the curve before is still being drawn, and has no row yet
+    plotting_ = true;
+    const auto plotted = [](bool* plotting) { *plotting = false; };
+    const std::unique_ptr<bool, decltype(plotted)> atEnd(&plotting_, plotted);
     pressTool(Tool::Arrow);
     const auto texts = checkedTexts();
     if (!texts) return;
@@ -326,15 +331,32 @@ void frmMain::playSelected() {
 void frmMain::showTable() {
     const std::vector<int> rows = selectedRows();
     if (rows.empty()) return;
-    const GrapInfo& graph = graphOfRow(rows.front());
+    const GrapInfo graph = graphOfRow(rows.front());  // events may change the list while it is sampled
     const QPixmap swatch = ui_.lvwTable->topLevelItem(rows.front())->data(0, swatchRole).value<QPixmap>();
+    if (const auto dialog = sampledTable(graph, swatch)) dialog->exec();
+}
+
+/// The table with its rows, null where sampling them was stopped. A long one is locked and stopped as one
+/// that is painted.
+std::unique_ptr<frmTable> frmMain::sampledTable(const GrapInfo& graph, const QPixmap& swatch) {
+    const auto serve = [this] {
+        host_.pumpEvents(0);
+        return !pgPolarGraph().StopAni();
+    };
+    const auto unlock = [](frmMain* window) {
+        window->pgPolarGraph().StopAni(true);
+        window->lockWhileDrawing(true);
+    };
     beginProgress(graph);
-    const auto hideBar = [](StepBar* bar) { bar->hide(); };
-    const std::unique_ptr<StepBar, decltype(hideBar)> atEnd(ui_.pgbProgressBar, hideBar);
-    frmTable dialog(
-        host_, graph, swatch, [this] { ui_.pgbProgressBar->advance(); }, this);
-    ui_.pgbProgressBar->hide();
-    dialog.exec();
+    pgPolarGraph().StopAni(false);
+    lockWhileDrawing(false);
+    const std::unique_ptr<frmMain, decltype(unlock)> atEnd(this, unlock);
+    try {
+        return std::make_unique<frmTable>(
+            host_, graph, swatch, [this] { ui_.pgbProgressBar->advance(); }, serve, this);
+    } catch (const SweepStopped&) {
+        return nullptr;
+    }
 }
 
 void frmMain::showProperties() {

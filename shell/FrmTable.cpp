@@ -61,11 +61,11 @@ class CurveTableModel : public QAbstractTableModel {
 };
 
 frmTable::frmTable(Host& host, const GrapInfo& graph, const QPixmap& legend,
-                   const std::function<void()>& onRow, QWidget* parent)
+                   const std::function<void()>& onRow, const SweepWatch::Serve& serve, QWidget* parent)
     : QDialog(parent),
       host_(host),
       rows_(new CurveTableModel(tabulateCurve(
-                                    graph, [&host] { return host.tickCount(); }, onRow),
+                                    graph, [&host] { return host.tickCount(); }, onRow, serve),
                                 this)) {
     setObjectName(QStringLiteral("frmTable"));
     setWindowTitle(QStringLiteral("Table"));

@@ -7,6 +7,7 @@
 #include <QTreeView>
 
 #include "base/Host.h"
+#include "graph/control/SweepWatch.h"
 #include "graph/model/Plot.h"
 
 namespace zg {
@@ -18,9 +19,10 @@ class frmTable : public QDialog {
     Q_OBJECT
 
  public:
-    /// Samples the curve at once and tells of each row; raises what its scripts raise.
+    /// Samples the curve at once and tells of each row; a long one serves events as `serve` does. Raises what
+    /// tabulateCurve does.
     frmTable(Host& host, const GrapInfo& graph, const QPixmap& legend, const std::function<void()>& onRow,
-             QWidget* parent = nullptr);
+             const SweepWatch::Serve& serve = {}, QWidget* parent = nullptr);
 
  protected:
     void resizeEvent(QResizeEvent* event) override;

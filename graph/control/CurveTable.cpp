@@ -17,28 +17,33 @@ constexpr int decimals = 4;
 }  // namespace
 
 std::vector<CurveRow> tabulateCurve(const GrapInfo& graph, ScriptEngine::Clock clock,
-                                    const std::function<void()>& onRow) {
+                                    const std::function<void()>& onRow, SweepWatch::Serve serve) {
     if (graph.Step == 0) raise(ErrorNumber::DivisionByZero);
-    ScriptEngine engine(std::move(clock));
+    ScriptEngine engine(clock);
     engine.Language("VBScript");
     engine.Timeout(-1);
     engine.AddObject("MathLib", MathLibrary{});
-    engine.AddCode(graph.Coefficient);
-    const VariableSlot t = engine.slot("t");
-    CompiledExpression equation = engine.compile(graph.Equation);
+    SweepWatch watch(std::move(clock), std::move(serve));
     std::vector<CurveRow> rows;
-    for (SweepAngles angles(graph); !angles.done(); angles.advance()) {
-        if (rows.size() == mostRows) throw RunTimeError(7, "Out of memory");
-        const double radians = MathLibrary::Radians(static_cast<double>(angles.angle()));
-        // t has the digits of its text, as scripts have always got it.
-        engine.setNumber(t, toDouble(doubleText(radians)));
-        const double x = engine.evaluateNumber(equation) * std::cos(radians);
-        const double y = engine.evaluateNumber(equation) * std::sin(radians);
-        const double radius = MathLibrary::Radius(x, y);
-        rows.push_back({angles.angle(), roundHalfEven(x, decimals), roundHalfEven(y, decimals),
-                        roundHalfEven(radius, decimals)});
-        if (onRow) onRow();
-    }
+    const auto sweep = [&] {
+        engine.AddCode(graph.Coefficient);
+        const VariableSlot t = engine.slot("t");
+        CompiledExpression equation = engine.compile(graph.Equation);
+        for (SweepAngles angles(graph); !angles.done(); angles.advance()) {
+            if (rows.size() == mostRows) throw RunTimeError(7, "Out of memory");
+            const double radians = MathLibrary::Radians(static_cast<double>(angles.angle()));
+            // t has the digits of its text, as scripts have always got it.
+            engine.setNumber(t, toDouble(doubleText(radians)));
+            const double x = engine.evaluateNumber(equation) * std::cos(radians);
+            const double y = engine.evaluateNumber(equation) * std::sin(radians);
+            const double radius = MathLibrary::Radius(x, y);
+            rows.push_back({angles.angle(), roundHalfEven(x, decimals), roundHalfEven(y, decimals),
+                            roundHalfEven(radius, decimals)});
+            if (onRow) onRow();
+            watch.look();
+        }
+    };
+    sweepUnderWatch(engine, watch, graph.Equation, sweep);
     return rows;
 }
 

@@ -3,8 +3,8 @@
 #include <functional>
 #include <vector>
 
+#include "graph/control/SweepWatch.h"
 #include "graph/model/Plot.h"
-#include "graph/script/ScriptEngine.h"
 
 namespace zg {
 
@@ -18,9 +18,10 @@ struct CurveRow {
 };
 
 /// The points of a curve from its first angle to its last. The equation is evaluated twice a point, once for
-/// x and once for y. Tells of each row. Raises what the scripts raise, 11 for a step of 0, and 7, "Out of
-/// memory", for more rows than can be kept.
+/// x and once for y. Tells of each row. Raises what the scripts raise, 11 for a step of 0, 7, "Out of
+/// memory", for more rows than can be kept, and 32811 beyond the limit of SweepWatch; throws SweepStopped
+/// where the service of events says so. No single call of a script has a limit of its own.
 std::vector<CurveRow> tabulateCurve(const GrapInfo& graph, ScriptEngine::Clock clock,
-                                    const std::function<void()>& onRow = {});
+                                    const std::function<void()>& onRow = {}, SweepWatch::Serve serve = {});
 
 }  // namespace zg

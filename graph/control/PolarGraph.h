@@ -203,8 +203,9 @@ class PolarGraph {
     /// Paints the curve of that number over what is on the page, or all of them over the persistent picture,
     /// where they are visible. Instantly false paints each
     /// at once whatever its delay; true lets those with a delay sweep step by step, with events served
-    /// meanwhile, until StopAni becomes true. Raises the script engine's errors; what was painted until then
-    /// stays.
+    /// meanwhile, until StopAni becomes true. One that takes long serves events too: it ends when StopAni
+    /// becomes true, the curves after it with it, and raises 32811 beyond the limit of SweepWatch. Raises the
+    /// script engine's errors; what was painted until then stays.
     void DrawGraph(std::optional<std::int16_t> index = std::nullopt, bool instantly = false);
 
     /// The selection, or the whole page without one, goes to the clipboard.
@@ -240,7 +241,8 @@ class PolarGraph {
     void ReadProperties(const PropertyBag& bag);
     void WriteProperties(PropertyBag& bag) const;
 
-    /// While suspended nothing repaints, so that several properties can change under one Refresh.
+    /// While suspended nothing repaints, neither the page nor its curves, so that several properties can
+    /// change under one Refresh.
     void suspendUpdates(bool suspended) { suspended_ = suspended; }
 
     /// The control's inner size in pixels is new.
@@ -288,6 +290,9 @@ class PolarGraph {
     void drawItem(std::int16_t index, bool instantly);
     void DrawCurve(const GrapInfo& graph);
     void sweep(const GrapInfo& graph);
+    void paintPoints(const GrapInfo& curve, const std::function<bool(float)>& goesOn);
+    bool serveSweep();
+    bool isPutOff();
     bool waitForNextStep(std::int16_t delay, float angle);
     void raiseDrawBegin(bool value);
     void showTrackAngle(const std::string& text);
@@ -345,6 +350,9 @@ class PolarGraph {
     float rulerY_ = 0;
 
     bool suspended_ = false;
+    bool serving_ = false;       ///< events, in the middle of a sweep
+    bool curvesWanted_ = false;  ///< while it served them
+    bool stopped_ = false;       ///< by StopAni: the curves that follow are not drawn either
     FreqFileOutcome lastOpenOutcome_ = FreqFileOutcome::Refused;
 };
 

@@ -7,6 +7,7 @@
 #include "base/Numbers.h"
 #include "graph/control/CurveSweep.h"
 #include "graph/control/PolarGraph.h"
+#include "graph/control/SweepWatch.h"
 
 namespace zg {
 
@@ -34,19 +35,32 @@ class AtEnd {
 }  // namespace
 
 void PolarGraph::DrawGraph(std::optional<std::int16_t> index, bool instantly) {
+    if (suspended_ || isPutOff()) return;
     if (index) {
         drawItem(*index, instantly);
-        return;
+        if (!curvesWanted_ || stopped_) return;
     }
     // A curve that was hidden, changed or removed since would stay on the page otherwise.
     ClearGraph();
-    drawAll(instantly);
+    drawAll(instantly && !index);
+}
+
+/// Curves that are wanted while a long sweep serves events share its engine and its page: they wait until it
+/// has ended, and then all are drawn.
+bool PolarGraph::isPutOff() {
+    curvesWanted_ = serving_;
+    stopped_ = false;
+    return serving_;
 }
 
 void PolarGraph::drawAll(bool instantly) {
-    const std::int32_t count = plot_.Count();
-    for (std::int32_t i = 1; i <= std::min(count, plot_.Count()); ++i)
-        drawItem(toInt16(static_cast<double>(i)), instantly);
+    do {
+        if (curvesWanted_) ClearGraph();
+        curvesWanted_ = false;
+        const std::int32_t count = plot_.Count();
+        for (std::int32_t i = 1; i <= std::min(count, plot_.Count()) && !curvesWanted_ && !stopped_; ++i)
+            drawItem(toInt16(static_cast<double>(i)), instantly);
+    } while (curvesWanted_ && !stopped_);
 }
 
 void PolarGraph::drawItem(std::int16_t index, bool instantly) {
@@ -75,10 +89,11 @@ void PolarGraph::DrawCurve(const GrapInfo& graph) {
     raiseDrawBegin(false);
     const bool animated = graph.Delay > 0;
     const bool endless = graph.Step == 0;
+    const bool stoodStill = own_.StopAni;
     if (animated || endless) own_.StopAni = false;
     if (animated) showTrackAngle("Angle : 0\xC2\xB0");
-    const AtEnd done([this, animated, endless] {
-        if (animated || endless) own_.StopAni = true;
+    const AtEnd done([this, animated, endless, stoodStill] {
+        if (animated || endless || stoodStill) own_.StopAni = true;
         window_.pagePainted();
         raiseDrawBegin(true);
         if (animated) showTrackAngle({});
@@ -87,12 +102,26 @@ void PolarGraph::DrawCurve(const GrapInfo& graph) {
 }
 
 void PolarGraph::sweep(const GrapInfo& graph) {
-    // The host may change or drop the curve while an animation serves its events: the sweep goes on with what
-    // it began with.
+    // The host may change or drop the curve while events are served: the sweep goes on with what it began
+    // with.
     const GrapInfo curve = graph;
+    if (curve.Delay > 0 || curve.Step == 0)
+        return paintPoints(curve, [&](float angle) { return waitForNextStep(curve.Delay, angle); });
+    SweepWatch watch([this] { return host_.tickCount(); }, [this] { return serveSweep(); });
+    const auto look = [&watch](float) {
+        watch.look();
+        return true;
+    };
+    try {
+        sweepUnderWatch(engine_, watch, curve.Equation, [&] { paintPoints(curve, look); });
+    } catch (const SweepStopped&) {
+        stopped_ = own_.StopAni;
+    }
+}
+
+void PolarGraph::paintPoints(const GrapInfo& curve, const std::function<bool(float)>& goesOn) {
     CurveSampler sampler(engine_, curve);
     CurvePainter painter(curve.Series, markerPictures(curve.Series), geometry_);
-    const bool yields = curve.Delay > 0 || curve.Step == 0;
     for (SweepAngles angles(curve); !angles.done(); angles.advance()) {
         const CurvePoint point = sampler.at(angles.angle(), geometry_);
         RecordedCanvas canvas = page();
@@ -100,10 +129,21 @@ void PolarGraph::sweep(const GrapInfo& graph) {
         if (events.DrawProgress)
             events.DrawProgress(point.angle, point.radius, static_cast<float>(point.x),
                                 static_cast<float>(point.y), curve.EndingAngle);
-        if (yields && !waitForNextStep(curve.Delay, point.angle)) break;
+        if (!goesOn(point.angle)) break;
     }
     RecordedCanvas canvas = page();
     painter.finish(canvas);
+}
+
+/// Shows how far a long sweep has come and serves events; false when it is to end. StopAni is False
+/// meanwhile, as during an animation.
+bool PolarGraph::serveSweep() {
+    window_.pagePainted();
+    own_.StopAni = false;
+    serving_ = true;
+    const AtEnd served([this] { serving_ = false; });
+    host_.pumpEvents(0);
+    return !own_.StopAni && !curvesWanted_;
 }
 
 /// Serves events until the delay has passed; false when the sweep is to end.

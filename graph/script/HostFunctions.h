@@ -36,6 +36,8 @@ struct HostContext {
     RandomNumbers random;
     /// Milliseconds of a clock that only moves forward.
     std::function<std::int64_t()> clock;
+    /// Called now and then while code runs; empty calls nothing.
+    std::function<void()> whileRunning;
     std::int64_t stepsToClockCheck = stepsBetweenClockChecks;
 
     /// Counts work on long texts as steps, so that the time-out sees it.

@@ -28,6 +28,9 @@ Value Machine::run(const CodeBlock& block, std::int64_t timeoutMs) {
     } catch (const std::bad_alloc&) {
         rethrowWithPlace(static_cast<int>(ScriptErrorNumber::OutOfMemory),
                          errorDescription(ScriptErrorNumber::OutOfMemory));
+    } catch (...) {
+        reset();  // what whileRunning throws to end the script
+        throw;
     }
     Value result = std::move(result_);
     reset();
@@ -52,6 +55,10 @@ void Machine::rethrowWithPlace(int number, const std::string& description, bool 
 void Machine::checkClock() {
     context_.stepsToClockCheck = stepsBetweenClockChecks;
     if (timeoutMs_ >= 0 && context_.clock() - startMs_ >= timeoutMs_) raise(ScriptErrorNumber::OutOfTime);
+    if (!context_.whileRunning) return;
+    const std::int64_t before = context_.clock();
+    context_.whileRunning();
+    startMs_ += context_.clock() - before;
 }
 
 void Machine::execute() {

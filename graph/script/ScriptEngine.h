@@ -11,6 +11,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "base/MathLibrary.h"
 #include "graph/script/Code.h"
@@ -62,6 +63,11 @@ class ScriptEngine {
     /// 380.
     std::int32_t Timeout() const { return timeoutMs_; }
     void Timeout(std::int32_t milliseconds);
+
+    /// What is called now and then while a script runs, an empty one for nothing. What it throws ends the
+    /// script and reaches the caller: a RunTimeError with the place in the script, anything else as it is.
+    /// The time that it takes is not counted as the script's. It must not use this engine.
+    void whileRunning(std::function<void()> act) { context_.whileRunning = std::move(act); }
 
     /// Makes the library's operations known as members of `name`.
     void AddObject(std::string_view name, const MathLibrary& library);

@@ -9,7 +9,8 @@
 #include "base/Host.h"
 
 /// Stands in for the person: answers are queued before, what was asked is read after. A box or a picker that
-/// no answer waits for fails the test. The clock moves only when events are pumped.
+/// no answer waits for fails the test. The clock moves only when events are pumped,
+/// or by each look at it where a test says so.
 class TestHost : public zg::Host {
  public:
     ~TestHost() override;
@@ -21,7 +22,7 @@ class TestHost : public zg::Host {
     std::string pickFolder(const zg::FolderPick& pick) override;
     std::optional<zg::Colour> pickColour(zg::Colour current) override;
     std::optional<zg::FontRecord> pickFont(const zg::FontRecord& current) override;
-    std::int64_t tickCount() override { return now; }
+    std::int64_t tickCount() override { return now += tick; }
     void pumpEvents(int idleMs) override;
 
     std::deque<zg::BoxAnswer> boxAnswers;
@@ -43,5 +44,6 @@ class TestHost : public zg::Host {
     std::vector<zg::Colour> colourPicks;
     std::vector<zg::FontRecord> fontPicks;
     std::int64_t now = 0;
+    std::int64_t tick = 0;  ///< milliseconds that each look at the clock takes
     int pumps = 0;
 };

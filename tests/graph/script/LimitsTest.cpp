@@ -194,6 +194,30 @@ TEST_F(Timeout, MinusOneIsNoLimit) {
     EXPECT_EQ(looks, 0);
 }
 
+TEST_F(Timeout, WhatIsCalledWhileAScriptRunsMayEndIt) {
+    int calls = 0;
+    engine.whileRunning([&calls] {
+        if (++calls == 3) throw calls;
+    });
+    engine.Timeout(-1);
+    EXPECT_THROW(engine.AddCode("a=1: Do: Loop"), int);
+    EXPECT_EQ(shown(engine.Eval("a+1")), "Integer 2") << "the engine is ready for the next call";
+    engine.whileRunning([] { throw zg::RunTimeError(7, "no more"); });
+    EXPECT_EQ(scriptError([&] { engine.AddCode("Do: Loop"); }), "line 1, column 1: 7 no more");
+    engine.whileRunning({});
+    engine.AddCode("For i=1 To 100000: Next");
+}
+
+TEST_F(Timeout, DoesNotCountWhatIsCalledWhileAScriptRuns) {
+    int calls = 0;
+    engine.whileRunning([&] {
+        ++calls;
+        looks += 500;
+    });
+    engine.AddCode("For i=1 To 20000: Next");
+    EXPECT_GT(calls, 5);
+}
+
 TEST_F(Timeout, RefusesLowerValues) {
     EXPECT_EQ(scriptError([&] {
                   try {

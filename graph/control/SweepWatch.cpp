@@ -1,0 +1,64 @@
+#include "graph/control/SweepWatch.h"
+
+#include <utility>
+
+#include "graph/script/ScriptError.h"
+
+namespace zg {
+
+namespace {
+
+constexpr int outOfTime = static_cast<int>(ScriptErrorNumber::OutOfTime);
+constexpr std::size_t longestShown = 200;
+
+/// The formula as an error names it.
+std::string quoted(const std::string& formula) {
+    if (formula.size() <= longestShown) return "'" + formula + "'";
+    std::size_t end = longestShown;
+    while (end > 0 && (static_cast<unsigned char>(formula[end]) & 0xC0) == 0x80) --end;  // within a character
+    return "'" + formula.substr(0, end) + "...'";
+}
+
+/// While one is there the engine's scripts are looked after.
+class WhileRunning {
+ public:
+    WhileRunning(ScriptEngine& engine, SweepWatch& watch) : engine_(engine) {
+        engine_.whileRunning([&watch] { watch.look(); });
+    }
+    ~WhileRunning() { engine_.whileRunning({}); }
+    WhileRunning(const WhileRunning&) = delete;
+    WhileRunning& operator=(const WhileRunning&) = delete;
+
+ private:
+    ScriptEngine& engine_;
+};
+
+}  // namespace
+
+SweepWatch::SweepWatch(ScriptEngine::Clock clock, Serve serve)
+    : clock_(std::move(clock)), serve_(std::move(serve)), begin_(clock_()), next_(begin_ + patience) {}
+
+void SweepWatch::act() {
+    const std::int64_t now = clock_();
+    if (now - begin_ >= limit)
+        throw RunTimeError(outOfTime, std::string(errorDescription(ScriptErrorNumber::OutOfTime)) +
+                                          ": more than " + std::to_string(limit / 1000) +
+                                          " seconds for one curve");
+    if (serve_ && !serve_()) throw SweepStopped{};
+    const std::int64_t after = clock_();
+    begin_ += after - now;
+    next_ = after + patience;
+}
+
+void sweepUnderWatch(ScriptEngine& engine, SweepWatch& watch, const std::string& formula,
+                     const std::function<void()>& sweep) {
+    const WhileRunning looking(engine, watch);
+    try {
+        sweep();
+    } catch (RunTimeError& error) {
+        if (error.number == outOfTime) error.description += ": " + quoted(formula);
+        throw;
+    }
+}
+
+}  // namespace zg

@@ -1,0 +1,50 @@
+#pragma once
+
+// What keeps a long sweep of a curve from holding the program: events are served meanwhile, and no sweep goes
+// on for ever.
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "graph/script/ScriptEngine.h"
+
+namespace zg {
+
+/// Thrown where a service of events ended a sweep: no error.
+struct SweepStopped {};
+
+class SweepWatch {
+ public:
+    /// Milliseconds of work after which a sweep is given up.
+    static constexpr std::int64_t limit = 30'000;
+    /// Milliseconds of work from one service of events to the next: a sweep that is shorter serves none.
+    static constexpr std::int64_t patience = 100;
+
+    /// Serves events; false ends the sweep.
+    using Serve = std::function<bool()>;
+
+    /// Counts from here on. Without a service only the limit is watched.
+    explicit SweepWatch(ScriptEngine::Clock clock, Serve serve = {});
+
+    /// Looks at the clock, and serves or ends the sweep when it is time to. Called for each point, and while
+    /// a script runs; throws SweepStopped, and raises 32811 beyond the limit, to which services do not count.
+    void look() {
+        if (clock_() >= next_) act();
+    }
+
+ private:
+    void act();
+
+    ScriptEngine::Clock clock_;
+    Serve serve_;
+    std::int64_t begin_;
+    std::int64_t next_;
+};
+
+/// Carries a sweep out, with a look at the watch now and then while the engine runs a script of it. What it
+/// throws reaches the caller; an error of time then names the formula.
+void sweepUnderWatch(ScriptEngine& engine, SweepWatch& watch, const std::string& formula,
+                     const std::function<void()>& sweep);
+
+}  // namespace zg
