@@ -2,7 +2,9 @@
 
 #include "base/Numbers.h"
 #include "graph/frq/ModPolarGraph.h"
+#include "graph/script/ScriptError.h"
 #include "processing/Directories.h"
+#include "shell/settings/BatchBitmap.h"
 #include "shell/settings/Settings.h"
 
 namespace zg {
@@ -18,27 +20,56 @@ bool isExported(int rose, float limit) {
     return !(modPolarGraph.FrqPercentValid(rose) < limit);
 }
 
-void exportRoses(Host& host, const std::string& path, const std::string& root, float limit,
-                 const BatchHooks& hooks) {
-    settings.BatchFRQFilename = path;
-    settings.BatchRootFilename = root;
-    hooks.openFrqFile();
-    for (int rose = 1; rose <= modPolarGraph.FrqRoseCount; ++rose) {
-        modPolarGraph.CurrentRose = static_cast<std::int16_t>(rose);
-        if (!isExported(rose, limit)) continue;
-        modPolarGraph.GraphCaption = modPolarGraph.FrqRoseCaption(rose);
-        hooks.exportRose();
-        host.pumpEvents(0);
+/// Among many files an error says little without the file's name.
+bool open(const std::string& path, const BatchHooks& hooks) {
+    try {
+        return hooks.openFrqFile();
+    } catch (const ScriptError&) {
+        throw;  // a curve's, not the file's
+    } catch (RunTimeError& error) {
+        error.description += ": " + path;
+        if (!error.where.empty()) error.description += ", line " + error.where;
+        throw;
     }
 }
 
-void exportDirectory(Host& host, const BatchRequest& request, const BatchHooks& hooks) {
+/// The commands of one run, and what there is to tell of it.
+struct Run {
+    Host& host;
+    const BatchHooks& hooks;
+    BatchNotes& notes;
+    float limit;
+};
+
+void exportRose(const Run& run, int rose) {
+    modPolarGraph.CurrentRose = static_cast<std::int16_t>(rose);
+    if (!isExported(rose, run.limit)) return run.notes.leftOutRose();
+    modPolarGraph.GraphCaption = modPolarGraph.FrqRoseCaption(rose);
+    const std::string picture = batchBitmapPath();
+    run.hooks.exportRose();
+    run.notes.savedRose(rose, picture);
+    run.host.pumpEvents(0);
+}
+
+void exportRoses(const Run& run, const std::string& path, const std::string& root) {
+    settings.BatchFRQFilename = path;
+    settings.BatchRootFilename = root;
+    try {
+        run.notes.tookFile(path, !open(path, run.hooks));
+        for (int rose = 1; rose <= modPolarGraph.FrqRoseCount; ++rose) exportRose(run, rose);
+    } catch (...) {
+        run.notes.brokeOff(path);
+        throw;
+    }
+}
+
+void exportDirectory(const Run& run, const BatchRequest& request) {
     const std::vector<std::string> names = FindFiles("BatchMode", request.directory + "*.frq");
     const int count = fileCounts.BatchFileCount;
     for (int i = 0; i < count; ++i) {
         const std::string& name = names[static_cast<std::size_t>(i)];
         const std::string root = name.substr(0, name.size() - extensionLength) + "_";
-        exportRoses(host, request.directory + name, root, request.percentValidLimit, hooks);
+        exportRoses(run, request.directory + name, root);
     }
     settings.BatchFRQFilename.clear();
     settings.BatchRootFilename.clear();
@@ -59,12 +90,13 @@ class BatchModeOn {
 
 }  // namespace
 
-void runBatch(Host& host, const BatchRequest& request, const BatchHooks& hooks) {
+void runBatch(Host& host, const BatchRequest& request, const BatchHooks& hooks, BatchNotes& notes) {
     const BatchModeOn on(request.workDirectory);
+    const Run run{host, hooks, notes, request.percentValidLimit};
     if (request.ofDirectory)
-        exportDirectory(host, request, hooks);
+        exportDirectory(run, request);
     else
-        exportRoses(host, request.file, request.root, request.percentValidLimit, hooks);
+        exportRoses(run, request.file, request.root);
     modPolarGraph.WorkDir = request.workDirectory;
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "base/Host.h"
+#include "batch/BatchNotes.h"
 
 namespace zg {
 
@@ -22,12 +23,13 @@ struct BatchRequest {
 
 /// The commands of the main window that a run drives.
 struct BatchHooks {
-    std::function<void()> openFrqFile;  ///< takes the run's file without asking
+    std::function<bool()> openFrqFile;  ///< takes the run's file without asking; false where it was refused
     std::function<void()> exportRose;   ///< redraws and saves under batchBitmapPath without asking
 };
 
 /// Runs with BatchMode set, which is off again at the end however the end comes about; events are served
-/// after each rose, so that it is seen. Raises what the commands raise.
-void runBatch(Host& host, const BatchRequest& request, const BatchHooks& hooks);
+/// after each rose, so that it is seen. Raises what the commands raise, errors of a file with its name and
+/// line; the notes then tell of the run up to there.
+void runBatch(Host& host, const BatchRequest& request, const BatchHooks& hooks, BatchNotes& notes);
 
 }  // namespace zg

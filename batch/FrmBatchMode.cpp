@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 #include <QVBoxLayout>
+#include <memory>
 
 #include "base/Numbers.h"
 #include "base/Paths.h"
@@ -60,6 +61,7 @@ frmBatchMode::frmBatchMode(Host& host, BatchHooks hooks, QWidget* parent)
     txtPercentValidLimit = named(new QLineEdit, "txtPercentValidLimit");
     cmdBeginBatchMode = named(new QPushButton(QStringLiteral("BEGIN")), "cmdBeginBatchMode");
     cmdBeginBatchMode->setDefault(true);
+    txtNotes = named(new QPlainTextEdit, "txtNotes");
     layOut();
     followFields();
     optSingleFRQFile->setChecked(true);
@@ -108,7 +110,22 @@ void frmBatchMode::layOut() {
     layout->addWidget(from);
     layout->addWidget(to);
     layout->addLayout(buttons);
+    layout->addLayout(notesPart());
     resize(windowSize(*this, 72));
+}
+
+/// What a run has to tell of beyond its status.
+QLayout* frmBatchMode::notesPart() {
+    auto* label = new QLabel(QStringLiteral("&Notes on the run:"));
+    label->setBuddy(txtNotes);
+    txtNotes->setAccessibleName(spoken(label->text()));
+    txtNotes->setReadOnly(true);
+    txtNotes->setTabChangesFocus(true);
+    txtNotes->setMinimumHeight(5 * txtNotes->fontMetrics().height());
+    auto* part = new QVBoxLayout;
+    part->addWidget(label);
+    part->addWidget(txtNotes, 1);
+    return part;
 }
 
 void frmBatchMode::followFields() {
@@ -234,6 +251,7 @@ void frmBatchMode::cmdBeginBatchMode_Click() {
     // A start by the keyboard leaves no field: the directories get their final separator all the same.
     leftDirectory(*txtDirectory);
     leftDirectory(*txtWorkDirectory);
+    txtNotes->clear();
     if (checkInput() && checkWorkDirectory() && checkLimit()) run([this] { begin(); });
 }
 
@@ -246,7 +264,12 @@ void frmBatchMode::begin() {
     request.workDirectory = pathIn(*txtWorkDirectory);
     request.percentValidLimit = toSingle(trim(typed(txtPercentValidLimit->text())));
     say("Running...");
-    runBatch(host_, request, hooks_);
+    BatchNotes notes;
+    const auto tell = [this](const BatchNotes* of) { txtNotes->setPlainText(shown(of->text())); };
+    {
+        const std::unique_ptr<const BatchNotes, decltype(tell)> atEnd(&notes, tell);
+        runBatch(host_, request, hooks_, notes);
+    }
     lblStatus->setText(QStringLiteral("Finished"));
     cmdCancel->setText(QStringLiteral("Exit"));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPlainTextEdit>
 #include <QRadioButton>
 
 #include "batch/BatchRun.h"
@@ -16,6 +17,7 @@ class frmBatchMode : public RunningDialog {
 
  private:
     void layOut();
+    QLayout* notesPart();
     void followFields();
     void optSingleFRQFile_Click();
     void optDirectory_Click();
@@ -41,6 +43,7 @@ class frmBatchMode : public RunningDialog {
     QPushButton* cmdBrowseWorkDirectory;
     QLineEdit* txtPercentValidLimit;
     QPushButton* cmdBeginBatchMode;
+    QPlainTextEdit* txtNotes;
 };
 
 }  // namespace zg

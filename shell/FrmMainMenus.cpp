@@ -283,7 +283,10 @@ ProcessingWindow frmMain::processingWindow() {
 }
 
 void frmMain::showBatchMode() {
-    const BatchHooks hooks{[this] { mnuFileOption_Click(1); },
+    const BatchHooks hooks{[this] {
+                               mnuFileOption_Click(1);
+                               return pgPolarGraph().lastOpenOutcome() == FreqFileOutcome::Loaded;
+                           },
                            [this] {
                                pgPolarGraph().Refresh();
                                mnuFileOption_Click(12);

@@ -45,11 +45,13 @@ class BatchRun : public ::testing::Test {
                       EXPECT_TRUE(settings.BatchMode);
                       opened_.push_back(settings.BatchFRQFilename);
                       if (load_) load_();
+                      return load_ != nullptr;
                   },
                   [this] {
                       saved_.push_back(batchBitmapPath());
                       captions_.push_back(modPolarGraph.GraphCaption);
-                  }});
+                  }},
+                 notes_);
     }
     std::vector<std::string> names() const {
         std::vector<std::string> out;
@@ -60,7 +62,8 @@ class BatchRun : public ::testing::Test {
     TempDirectory directory_;
     TestHost host_;
     BatchRequest request_;
-    std::function<void()> load_;
+    std::function<void()> load_;  ///< without one the file is refused
+    BatchNotes notes_;
     std::vector<std::string> opened_;
     std::vector<std::string> saved_;
     std::vector<std::string> captions_;
@@ -159,6 +162,82 @@ TEST_F(BatchRun, TitlesThatAreNoFileNamesStayWithinTheDirectory) {
     run();
     EXPECT_EQ(names(), (Names{"Hours 01_06.bmp", "...bmp", ".._.._up  .bmp", "Hours 01_06.bmp"}))
         << "trailing blanks stay, and titles that repeat replace each other";
+}
+
+TEST_F(BatchRun, ARunWithoutFaultsHasNoNotes) {
+    load_ = [this] { roses("2.2", {100, 20}); };
+    request_.percentValidLimit = 50;
+    run();
+    EXPECT_EQ(notes_.text(), "") << "a rose below the limit is none";
+}
+
+TEST_F(BatchRun, NotesNameRefusedFilesAndWhatTookTheirPlace) {
+    for (const char* name : {"a.frq", "b1.frq", "c.frq"}) directory_.write(name, "");
+    request_.ofDirectory = true;
+    request_.directory = directory_.path() + "/";
+    request_.percentValidLimit = 50;
+    roses("2.2", {100, 20});
+    std::vector<bool> accepted = {false, true, false};
+    std::size_t file = 0;
+    const BatchHooks hooks{[&] { return accepted[file++]; }, [] {}};
+    runBatch(host_, request_, hooks, notes_);
+    EXPECT_EQ(
+        notes_.text(),
+        directory_.file("a.frq") +
+            " was refused: it is not in the correct data format.\n"
+            "a_Rose1.bmp shows rose 1 of what stood in memory before the run, since a.frq was refused.\n" +
+            directory_.file("c.frq") +
+            " was refused: it is not in the correct data format.\n"
+            "c_Rose1.bmp shows rose 1 of b1.frq, since c.frq was refused.\n"
+            "3 files, 2 refused; 3 roses saved in 3 pictures, 3 left out.");
+}
+
+TEST_F(BatchRun, NotesNamePicturesThatTookTheNameOfAnother) {
+    load_ = [this] {
+        roses("2.2", {100, 100, 100, 100});
+        modPolarGraph.FrqRoseTitle(1) = modPolarGraph.FrqRoseTitle(3) = "dup";
+        modPolarGraph.FrqRoseTitle(2) = "a/b";
+        modPolarGraph.FrqRoseTitle(4) = "a_b";
+    };
+    run();
+    EXPECT_EQ(notes_.text(),
+              "dup.bmp: rose 3 of one.frq took the place of rose 1 of one.frq.\n"
+              "a_b.bmp: rose 4 of one.frq took the place of rose 2 of one.frq.\n"
+              "1 file, 0 refused; 4 roses saved in 2 pictures, 0 left out.");
+}
+
+/// A file of two names stands for a file system that is blind to the letter case.
+TEST_F(BatchRun, NotesFindNamesThatDifferOnlyInTheirCase) {
+    request_.workDirectory = directory_.path() + "/";
+    directory_.write("Rose.bmp", "");
+    std::filesystem::create_hard_link(directory_.file("Rose.bmp"), directory_.file("ROSE.bmp"));
+    load_ = [this] {
+        roses("2.2", {100, 100, 100});
+        modPolarGraph.FrqRoseTitle(1) = "Rose";
+        modPolarGraph.FrqRoseTitle(2) = "ROSE";
+        modPolarGraph.FrqRoseTitle(3) = "rose";
+    };
+    run();
+    EXPECT_EQ(notes_.text(),
+              "ROSE.bmp: rose 2 of one.frq took the place of rose 1 of one.frq.\n"
+              "1 file, 0 refused; 3 roses saved in 2 pictures, 0 left out.");
+}
+
+TEST_F(BatchRun, AnErrorOfAFileNamesItAndItsLine) {
+    load_ = [] {
+        RunTimeError error(62, "Input past end of file");
+        error.where = "206";
+        throw error;
+    };
+    try {
+        run();
+        FAIL();
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ(error.description, "Input past end of file: /data/one.frq, line 206");
+    }
+    EXPECT_EQ(notes_.text(),
+              "The run ended with an error at /data/one.frq.\n"
+              "0 files, 0 refused; 0 roses saved in 0 pictures, 0 left out.");
 }
 
 TEST_F(BatchRun, NamesLoseOnlyWhatFilesCannotBeCalled) {

@@ -4,6 +4,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
@@ -152,7 +153,19 @@ FormPointer errorForm(FormWorld&) {
 }
 
 FormPointer batchForm(FormWorld& world) {
-    return std::make_unique<frmBatchMode>(world.host, BatchHooks{[] {}, [] {}});
+    return std::make_unique<frmBatchMode>(world.host, BatchHooks{[] { return true; }, [] {}});
+}
+
+/// Every file is refused: the roses that stand in memory take their names.
+FormPointer refusingBatchForm(FormWorld& world) {
+    return std::make_unique<frmBatchMode>(world.host, BatchHooks{[] { return false; }, [] {}});
+}
+
+void runBatchOfSample(QWidget& form) {
+    form.findChild<QLineEdit*>(QStringLiteral("txtSingleFRQFile"))
+        ->setText(QStringLiteral(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq"));
+    form.findChild<QAbstractButton*>(QStringLiteral("cmdBeginBatchMode"))->click();
+    EXPECT_NE(form.findChild<QPlainTextEdit*>(QStringLiteral("txtNotes"))->toPlainText(), QString());
 }
 
 FormPointer propertiesForm(FormWorld& world) {
@@ -269,6 +282,7 @@ const std::vector<FormRow>& forms() {
         {"frmBatchMode", "Directory", batchForm, withClickOn("optDirectory")},
         {"frmBatchMode", "Refused", batchForm,
          withRefusal("txtPercentValidLimit", "101", "cmdBeginBatchMode")},
+        {"frmBatchMode", "Notes", refusingBatchForm, runBatchOfSample},
         {"frmChangeDir", "", directoryForm},
         {"frmChangeDir", "Deep", deepDirectoryForm},
         {"frmChangeRadius", "", ofPlot<frmChangeRadius>},

@@ -1,0 +1,46 @@
+#pragma once
+
+// What a batch run did beyond what its status says: which files were refused, which pictures show another
+// file's roses, and which took the place of an earlier one.
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace zg {
+
+/// Told of a run's steps in their order. Roses are numbered from 1 within their file.
+class BatchNotes {
+ public:
+    /// The roses of that file are exported now; where it was refused, those that stand in memory are.
+    void tookFile(const std::string& path, bool refused);
+
+    /// That rose was saved under that path.
+    void savedRose(int rose, const std::string& picture);
+    void leftOutRose() { ++leftOut_; }
+
+    /// The run has ended with an error in that file.
+    void brokeOff(const std::string& path);
+
+    /// Lines parted by LF, the last one with the counts; empty where there is nothing to tell of.
+    std::string text() const;
+
+ private:
+    struct Saved {
+        std::string picture;
+        std::string rose;
+    };
+    const Saved* earlier(const std::string& picture) const;
+
+    std::vector<std::string> lines_;
+    std::multimap<std::string, Saved> saved_;  ///< by their paths in lower case
+    std::string file_;
+    std::string source_;  ///< the file whose roses are in memory, "" for what stood there before the run
+    int files_ = 0;
+    int refused_ = 0;
+    int roses_ = 0;
+    int pictures_ = 0;
+    int leftOut_ = 0;
+};
+
+}  // namespace zg
