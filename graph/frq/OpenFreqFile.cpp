@@ -1,7 +1,7 @@
 #include "graph/frq/OpenFreqFile.h"
 
+#include <array>
 #include <utility>
-#include <vector>
 
 #include "base/Numbers.h"
 #include "graph/frq/FreqBlock.h"
@@ -12,10 +12,13 @@ namespace zg {
 
 namespace {
 
-/// A refused file stays open to the end of the process; every load opens its own.
+/// A refused file stays open; every load opens its own. Only the last few stay so to the end of the process:
+/// a directory of a thousand refused files must leave handles for those after them.
 void keepOpen(FileHandle file) {
-    static std::vector<FileHandle> refusedFiles;
-    if (file) refusedFiles.push_back(std::move(file));
+    constexpr std::size_t mostKept = 16;
+    static std::array<FileHandle, mostKept> refusedFiles;
+    static std::size_t next = 0;
+    if (file) refusedFiles[next++ % mostKept] = std::move(file);
 }
 
 void tellRefused(const std::string& path, Host& host) {

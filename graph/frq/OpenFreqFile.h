@@ -16,8 +16,9 @@ namespace zg {
 enum class FreqFileOutcome { Loaded, Refused };
 
 /// Loads a file; the caller redraws. CurrentRose becomes 1 in any case. Refused means that the first line is
-/// no known one: the user has been told in a box, the other tables are as before. Raises what the file or a
-/// conversion raises, with the tables partly filled.
+/// no known one: the user has been told in a box, the other tables are as before, and the file stays open
+/// until 16 others were refused; no other handle outlives its load. Raises what the file or a conversion
+/// raises, with the tables partly filled.
 FreqFileOutcome loadFreqFile(const std::string& path, ModPolarGraph& tables, Host& host);
 
 /// Gives a reader that stands before the first line; called once for each pass.

@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include <filesystem>
 #include <string>
 
 #include "tests/graph/frq/FreqLoad.h"
@@ -43,6 +44,21 @@ TEST_F(FreqFailure, AMissingFileOnlyMovesTheRose) {
     EXPECT_TRUE(tables.KnotTableReady);
     expectOldTables();
 }
+
+#ifdef __linux__
+TEST_F(FreqFailure, ManyRefusedFilesLeaveHandlesForThoseAfterThem) {
+    const auto openFiles = [] {
+        return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+    };
+    const std::string refused = directory.write("x.frq", "no\n");
+    const auto before = openFiles();
+    host.boxAnswers.assign(1100, BoxAnswer::Ok);
+    for (int i = 0; i < 1100; ++i)
+        ASSERT_EQ(loadFreqFile(refused, tables, host), FreqFileOutcome::Refused) << i;
+    EXPECT_LE(openFiles(), before + 16);
+    EXPECT_EQ(load(freqtext::file("2.1", 1)), FreqFileOutcome::Loaded);
+}
+#endif
 
 TEST_F(FreqFailure, AnEmptyFileEndsBeforeItsFirstLine) {
     EXPECT_EQ(errorOf({}), 62);
