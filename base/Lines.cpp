@@ -64,7 +64,8 @@ FileHandle openForReading(const std::string& path) {
     return file;
 }
 
-LineReader::LineReader(const std::string& path) : file_(openForReading(path)) {
+LineReader::LineReader(const std::string& path, std::size_t longestLine)
+    : longestLine_(longestLine), file_(openForReading(path)) {
     // The reader keeps a window of its own: a second copy inside the stream would only cost.
     std::setvbuf(file_.get(), nullptr, _IONBF, 0);
 }
@@ -91,6 +92,15 @@ bool LineReader::fill() {
     return got > 0;
 }
 
+/// So many bytes may belong to one line.
+void LineReader::needShort(std::size_t bytes) const {
+    if (bytes <= longestLine_) return;
+    RunTimeError error(static_cast<int>(ErrorNumber::Overflow),
+                       "the line is longer than " + std::to_string(longestLine_) + " bytes");
+    error.where = std::to_string(lineNumber_ + 1);
+    throw error;
+}
+
 bool LineReader::atEnd() { return window_.empty() && !fill(); }
 
 std::string_view LineReader::readLine() {
@@ -99,10 +109,12 @@ std::string_view LineReader::readLine() {
     std::size_t end = lineEnd(window_);
     while (end == std::string_view::npos) {
         searchedTo = window_.size();
+        needShort(searchedTo);
         if (!fill()) break;
         end = lineEnd(window_.substr(searchedTo));
         if (end != std::string_view::npos) end += searchedTo;
     }
+    if (end != std::string_view::npos) needShort(end);
     ++lineNumber_;
     if (end == std::string_view::npos) {
         const std::string_view last = window_;

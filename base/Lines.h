@@ -20,10 +20,12 @@ using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 /// pipe or a device.
 FileHandle openForReading(const std::string& path);
 
-/// Reads lines of any length. Only a window of the file is in memory at a time, at least one line.
+/// Reads lines. Only a window of the file is in memory at a time, at least one line.
 class LineReader {
  public:
-    explicit LineReader(const std::string& path);
+    /// Lines of any length, or those up to so many bytes: readLine raises 6 for a longer one, with its
+    /// number.
+    explicit LineReader(const std::string& path, std::size_t longestLine = std::string::npos);
 
     /// Reads from bytes in memory, which must outlive the reader.
     static LineReader ofText(std::string_view text);
@@ -52,7 +54,9 @@ class LineReader {
  private:
     LineReader() = default;
     bool fill();
+    void needShort(std::size_t bytes) const;
 
+    std::size_t longestLine_ = std::string::npos;
     FileHandle file_;
     std::vector<char> buffer_;
     std::string_view window_;  ///< bytes not yet read

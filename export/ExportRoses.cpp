@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <new>
 #include <ostream>
 
 #include "base/Host.h"
@@ -21,6 +22,11 @@ namespace zg {
 namespace {
 
 std::atomic<bool> stopped = false;
+
+constexpr const char* outOfMemory = ": out of memory";
+
+/// No FRQ file has such lines; raw data have the same limit.
+constexpr std::size_t longestLine = std::size_t{1} << 20;
 
 /// There is nobody to ask: what a box would say goes to the error stream.
 class StreamHost : public Host {
@@ -125,7 +131,7 @@ class Export {
 
     int run() {
         const std::vector<std::string> files = filesOf(job_);
-        for (std::size_t i = 0; i < files.size() && !stopped; ++i) {
+        for (std::size_t i = 0; i < files.size() && !isOver(); ++i) {
             bar_.show(i, files.size(), drawn_);
             exportFile(files[i], files.size() == 1);
         }
@@ -146,14 +152,19 @@ class Export {
         } catch (const RunTimeError& error) {
             fail(file + (error.where.empty() ? "" : ":") + error.where + ": " + error.description +
                  " (error " + std::to_string(error.number) + ")");
+        } catch (const std::bad_alloc&) {
+            tell({{}, file + outOfMemory, true});
         }
     }
+
+    bool isOver() const { return stopped || ended_; }
 
     void loadAndDraw(const std::string& file) {
         auto tables = std::make_shared<ModPolarGraph>();
         const auto polar = std::make_shared<const Polar>(createPolar(*tables));
         bar_.clear();
-        if (loadFreqFile(file, *tables, host_) == FreqFileOutcome::Refused) {
+        const auto source = [&file] { return LineReader(file, longestLine); };
+        if (loadFreqLines(source, file, *tables, host_) == FreqFileOutcome::Refused) {
             failed_ = true;
             return;
         }
@@ -164,7 +175,7 @@ class Export {
         const std::vector<int> roses = askedRoses(job_, file, tables->FrqRoseCount);
         makeDirectory(job_.directory);
         for (const int rose : roses)
-            if (!stopped && isValidEnough(*tables, rose, job_.minValid)) addRose(tables, polar, file, rose);
+            if (!isOver() && isValidEnough(*tables, rose, job_.minValid)) addRose(tables, polar, file, rose);
     }
 
     void addRose(const std::shared_ptr<const ModPolarGraph>& tables,
@@ -172,21 +183,33 @@ class Export {
         const std::string path =
             (std::filesystem::path(job_.directory) / pictureName(job_, file, rose, tables->FrqRoseCount))
                 .string();
-        queue_.add([this, tables, polar, path, rose]() -> WorkQueue::Result {
-            if (stopped) return {};
-            try {
-                ModPolarGraph own = *tables;  // drawing turns to a rose and rebuilds the legend's limits
-                std::string fault = drawRosePicture(own, *polar, rose, path, job_.format, job_.sizePixels);
-                return fault.empty() ? WorkQueue::Result{path, {}} : WorkQueue::Result{{}, std::move(fault)};
-            } catch (const RunTimeError& error) {
-                return {{},
-                        path + ": " + error.description + " (error " + std::to_string(error.number) + ")"};
-            }
+        queue_.add([this, tables, polar, path, rose] {
+            if (isOver()) return WorkQueue::Result();
+            WorkQueue::Result result = drawn(*tables, *polar, path, rose);
+            if (result.endsRun) ended_ = true;
+            return result;
         });
     }
 
+    WorkQueue::Result drawn(const ModPolarGraph& tables, const Polar& polar, const std::string& path,
+                            int rose) const {
+        try {
+            ModPolarGraph own = tables;  // drawing turns to a rose and rebuilds the legend's limits
+            const PictureFault fault = drawRosePicture(own, polar, rose, path, job_.format, job_.sizePixels);
+            if (fault.text.empty()) return {path, {}};
+            return {{}, fault.text, fault.noRoom};
+        } catch (const RunTimeError& error) {
+            return {{}, path + ": " + error.description + " (error " + std::to_string(error.number) + ")"};
+        } catch (const std::bad_alloc&) {
+            return {{}, path + outOfMemory, true};
+        }
+    }
+
+    /// What ends the run is told once, whatever was under way beside it.
     void tell(const WorkQueue::Result& result) {
-        if (!result.failed.empty()) fail(result.failed);
+        const bool isNews = !result.endsRun || !endIsTold_;
+        if (!result.failed.empty() && isNews) fail(result.failed);
+        if (result.endsRun) ended_ = endIsTold_ = true;
         if (result.done.empty()) return;
         ++drawn_;
         bar_.clear();
@@ -206,6 +229,8 @@ class Export {
     ProgressBar bar_;
     std::size_t drawn_ = 0;
     bool failed_ = false;
+    std::atomic<bool> ended_ = false;  ///< by what would fail for all that follow
+    bool endIsTold_ = false;
     WorkQueue queue_;
 };
 
@@ -221,6 +246,9 @@ int runExport(const ExportJob& job, std::ostream& out, std::ostream& errors) {
     } catch (const ExportFailure& failure) {
         errors << failure.text << '\n';
         return failure.status;
+    } catch (const std::bad_alloc&) {
+        errors << "zephyrgraph-export" << outOfMemory << '\n';
+        return exportFailed;
     }
     if (!out.flush()) {
         errors << "standard output: the result could not be written\n";

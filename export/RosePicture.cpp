@@ -1,9 +1,12 @@
 #include "export/RosePicture.h"
 
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QSvgGenerator>
+#include <cerrno>
+#include <new>
+#include <system_error>
 
+#include "export/PictureFile.h"
 #include "graph/render/RedrawGraph.h"
 #include "platform/QtCanvas.h"
 #include "platform/QtText.h"
@@ -22,8 +25,9 @@ void draw(ModPolarGraph& tables, const Polar& polar, QtCanvas& canvas) {
     redrawFrame(PlotSettings{}, own, tables, canvas, geometry);
 }
 
-bool saveRaster(ModPolarGraph& tables, const Polar& polar, QSaveFile& file, const char* kind, int side) {
+bool saveRaster(ModPolarGraph& tables, const Polar& polar, QIODevice& file, const char* kind, int side) {
     QImage page = makePageImage(side, side);
+    if (page.isNull()) throw std::bad_alloc();
     {
         QtCanvas canvas(page, side, side);
         draw(tables, polar, canvas);
@@ -31,7 +35,7 @@ bool saveRaster(ModPolarGraph& tables, const Polar& polar, QSaveFile& file, cons
     return page.save(&file, kind);
 }
 
-bool saveSvg(ModPolarGraph& tables, const Polar& polar, QSaveFile& file, int side) {
+bool saveSvg(ModPolarGraph& tables, const Polar& polar, QIODevice& file, int side) {
     QSvgGenerator svg;
     svg.setOutputDevice(&file);
     svg.setSize({side, side});
@@ -47,7 +51,7 @@ bool saveSvg(ModPolarGraph& tables, const Polar& polar, QSaveFile& file, int sid
     return painter.end();
 }
 
-bool savePdf(ModPolarGraph& tables, const Polar& polar, QSaveFile& file, int side) {
+bool savePdf(ModPolarGraph& tables, const Polar& polar, QIODevice& file, int side) {
     QPdfWriter pdf(&file);
     const double points = side * pointsPerInch / layoutDotsPerInch;
     pdf.setResolution(vectorDotsPerInch);
@@ -66,22 +70,32 @@ bool savePdf(ModPolarGraph& tables, const Polar& polar, QSaveFile& file, int sid
     return painter.end();
 }
 
-bool save(ModPolarGraph& tables, const Polar& polar, QSaveFile& file, const std::string& format, int side) {
+bool save(ModPolarGraph& tables, const Polar& polar, QIODevice& file, const std::string& format, int side) {
     if (format == "svg") return saveSvg(tables, polar, file, side);
     if (format == "pdf") return savePdf(tables, polar, file, side);
     return saveRaster(tables, polar, file, format == "png" ? "PNG" : "BMP", side);
 }
 
+/// What the next picture would run into too.
+bool leavesNoRoom(int fault) {
+#ifdef EDQUOT
+    if (fault == EDQUOT) return true;
+#endif
+    return fault == ENOSPC || fault == EFBIG || fault == ENOMEM;
+}
+
 }  // namespace
 
-std::string drawRosePicture(ModPolarGraph& tables, const Polar& polar, int rose, const std::string& path,
-                            const std::string& format, int side) {
+PictureFault drawRosePicture(ModPolarGraph& tables, const Polar& polar, int rose, const std::string& path,
+                             const std::string& format, int side) {
     tables.CurrentRose = static_cast<std::int16_t>(rose);
     tables.GraphCaption = tables.FrqRoseCaption(rose);
-    QSaveFile file(fileName(path));
-    const bool written = file.open(QIODevice::WriteOnly) && save(tables, polar, file, format, side) &&
-                         file.error() == QFileDevice::NoError && file.commit();
-    return written ? std::string() : path + ": " + file.errorString().toStdString();
+    PictureFile file(path);
+    if (file.fault() == 0 && !save(tables, polar, file, format, side) && file.fault() == 0)
+        return {path + ": the picture could not be made"};
+    file.commit();
+    if (file.fault() == 0) return {};
+    return {path + ": " + std::generic_category().message(file.fault()), leavesNoRoom(file.fault())};
 }
 
 }  // namespace zg

@@ -1,5 +1,7 @@
 #include "export/WorkQueue.h"
 
+#include <system_error>
+
 namespace zg {
 
 namespace {
@@ -10,7 +12,12 @@ constexpr std::size_t piecesPerWorker = 4;
 
 WorkQueue::WorkQueue(int workers, std::function<void(const Result&)> tell)
     : tell_(std::move(tell)), capacity_(static_cast<std::size_t>(workers) * piecesPerWorker) {
-    for (int i = 0; i < workers; ++i) workers_.emplace_back([this] { workOn(); });
+    try {
+        workers_.reserve(static_cast<std::size_t>(workers));
+        for (int i = 0; i < workers; ++i) workers_.emplace_back([this] { workOn(); });
+    } catch (const std::system_error&) {
+        // those that there are will do
+    }
 }
 
 WorkQueue::~WorkQueue() {
@@ -56,6 +63,7 @@ void WorkQueue::tellReady(std::unique_lock<std::mutex>& lock) {
 }
 
 void WorkQueue::add(std::function<Result()> work) {
+    if (workers_.empty()) return tell_(work());
     std::unique_lock lock(mutex_);
     tellReady(lock);
     while (pieces_.size() >= capacity_) {

@@ -20,8 +20,11 @@ class WorkQueue {
     struct Result {
         std::string done;
         std::string failed;
+        bool endsRun = false;  ///< what failed would fail for all that follow
     };
 
+    /// Where the system has no more threads to give there are fewer workers; without any the pieces are done
+    /// by who adds them.
     WorkQueue(int workers, std::function<void(const Result&)> tell);
     ~WorkQueue();
     WorkQueue(const WorkQueue&) = delete;

@@ -3,7 +3,11 @@
 #include <CLI/CLI.hpp>
 #include <QGuiApplication>
 #include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
 #include <iostream>
+#include <new>
 #ifdef _WIN32
 #include <io.h>
 #else
@@ -27,9 +31,22 @@ bool isTerminal() {
 /// The toolkit's own remarks are nothing that a user of the companion could act on.
 void ignoreRemarks(QtMsgType, const QMessageLogContext&, const QString&) {}
 
-}  // namespace
+/// What no handler has taken, in the end nothing but memory that is not there, also where the toolkit asks
+/// for it.
+[[noreturn]] void endInOneLine() {
+    const char* fault = "zephyrgraph-export: internal error\n";
+    try {
+        if (const std::exception_ptr thrown = std::current_exception()) std::rethrow_exception(thrown);
+    } catch (const std::bad_alloc&) {
+        fault = "zephyrgraph-export: out of memory\n";
+    } catch (...) {
+    }
+    std::fflush(stdout);  // the pictures that are whole
+    std::fputs(fault, stderr);
+    std::_Exit(zg::exportFailed);
+}
 
-int main(int argc, char** argv) {
+int runCommand(int argc, char** argv) {
     zg::ExportJob job;
     CLI::App app{"Draws the wind roses of FRQ files as pictures.", "zephyrgraph-export"};
     app.add_option("inputs", job.inputs, "FRQ files (versions 2.0 to 2.3), or directories of them")
@@ -68,6 +85,9 @@ int main(int argc, char** argv) {
     }
 
     job.progress = !quiet && isTerminal();
+#ifdef SIGXFSZ
+    std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a fault of writing, told with its name
+#endif
     for (const int signal : {SIGINT, SIGTERM}) std::signal(signal, [](int) { zg::stopExport(); });
     // No window is opened: the toolkit only lends its fonts and its rasteriser.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -75,4 +95,15 @@ int main(int argc, char** argv) {
     QGuiApplication application(argc, argv);
     zg::applicationDirectory = QCoreApplication::applicationDirPath().toStdString();
     return zg::runExport(job, std::cout, std::cerr);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::set_terminate(endInOneLine);
+    try {
+        return runCommand(argc, argv);
+    } catch (...) {
+        endInOneLine();
+    }
 }

@@ -70,6 +70,28 @@ TEST(LineReader, ManyLinesWithoutAnyLfCostNoTime) {
     EXPECT_EQ(reader.lineNumber(), count);
 }
 
+TEST(LineReader, RefusesLinesBeyondALimitThatItIsGiven) {
+    const TempDirectory directory;
+    for (const std::size_t longest : {5U, 65536U, 200'000U}) {
+        const std::string line(longest, 'x');
+        for (const char* end : {"", "\n", "\r\n"}) {
+            LineReader fits(directory.write("lines.txt", "a\n" + line + end), longest);
+            fits.readLine();
+            EXPECT_EQ(fits.readLine().size(), longest);
+            LineReader reader(directory.write("lines.txt", "a\n" + line + "x" + end), longest);
+            reader.readLine();
+            try {
+                reader.readLine();
+                ADD_FAILURE() << longest;
+            } catch (const RunTimeError& error) {
+                EXPECT_EQ(error.number, 6);
+                EXPECT_EQ(error.description, "the line is longer than " + std::to_string(longest) + " bytes");
+                EXPECT_EQ(error.where, "2");
+            }
+        }
+    }
+}
+
 TEST(LineReader, GivesUpItsFileAndKeepsWhatItHasFetched) {
     const TempDirectory directory;
     LineReader reader(directory.write("lines.txt", "a\n" + std::string(100'000, 'x')));

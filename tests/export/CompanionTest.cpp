@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+
 #include <QProcess>
+#include <filesystem>
+#include <optional>
 
 #include "base/Paths.h"
 #include "tests/support/TempDirectory.h"
@@ -17,8 +21,19 @@ struct Result {
     QByteArray errors;
 };
 
-Result runCompanion(const QStringList& words) {
+/// A limit of the system that the command runs under.
+struct Limit {
+    int resource;
+    rlim_t most;
+};
+
+Result runCompanion(const QStringList& words, std::optional<Limit> limit = {}) {
     QProcess process;
+    if (limit)
+        process.setChildProcessModifier([limit] {
+            const rlimit bound{limit->most, limit->most};
+            setrlimit(static_cast<__rlimit_resource_t>(limit->resource), &bound);
+        });
     process.start(QStringLiteral(ZG_COMPANION), words);
     EXPECT_TRUE(process.waitForFinished(60000));
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
@@ -76,5 +91,40 @@ TEST(Companion, TablesGoToStandardOutput) {
     EXPECT_TRUE(result.out.startsWith("{"));
     EXPECT_TRUE(result.out.contains("\"FrqRoseCount\": 9"));
 }
+
+class CompanionWithoutRoom : public ::testing::TestWithParam<const char*> {};
+
+TEST_P(CompanionWithoutRoom, AFileThatMayNotGrowEndsTheRunInOneLine) {
+    for (const char* jobs : {"1", "4"}) {
+        const TempDirectory directory;
+        const Result result = runCompanion({sample, "--format", GetParam(), "--jobs", jobs, "--out",
+                                            QString::fromStdString(directory.path())},
+                                           Limit{RLIMIT_FSIZE, 5000});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_TRUE(result.out.isEmpty()) << result.out.toStdString();
+        EXPECT_TRUE(result.errors.endsWith(QByteArray(".") + GetParam() + ": File too large\n"))
+            << result.errors.toStdString();
+        EXPECT_EQ(result.errors.count('\n'), 1);
+        EXPECT_TRUE(std::filesystem::is_empty(directory.path())) << "nothing half is left";
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(, CompanionWithoutRoom, ::testing::Values("png", "bmp", "svg", "pdf"),
+                         [](const auto& format) { return std::string(format.param); });
+
+#ifndef __SANITIZE_ADDRESS__  // which takes more than any limit for itself
+TEST(Companion, APageThatMemoryCannotHoldEndsTheRunInOneLine) {
+    for (const char* jobs : {"1", "3"}) {
+        const TempDirectory directory;
+        const Result result = runCompanion(
+            {sample, "--size", "16384", "--jobs", jobs, "--out", QString::fromStdString(directory.path())},
+            Limit{RLIMIT_AS, rlim_t{900} << 20});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_TRUE(result.errors.endsWith(".png: out of memory\n")) << result.errors.toStdString();
+        EXPECT_EQ(result.errors.count('\n'), 1);
+        EXPECT_TRUE(std::filesystem::is_empty(directory.path()));
+    }
+}
+#endif
 
 }  // namespace

@@ -10,6 +10,7 @@
 
 #include "base/Paths.h"
 #include "graph/frq/ModPolarGraph.h"
+#include "tests/support/FreqText.h"
 #include "tests/support/TempDirectory.h"
 
 namespace zg {
@@ -160,6 +161,65 @@ TEST_F(ExportRoses, OneBrokenFileOfADirectoryIsToldAndTheOthersAreDrawn) {
     EXPECT_EQ(out_.str(), picture("b_01.png") + "\n");
     EXPECT_NE(errors_.str().find("in/a.frq is not in the correct data format."), std::string::npos);
     EXPECT_NE(errors_.str().find("in/c.frq: Input past end of file (error 62)"), std::string::npos);
+}
+
+TEST_F(ExportRoses, ManyRefusedFilesLeaveHandlesForThoseAfterThem) {
+    std::filesystem::create_directory(directory_.file("in"));
+    for (int file = 0; file < 1100; ++file) directory_.write("in/a" + std::to_string(file) + ".frq", "no\n");
+    std::filesystem::copy(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq", directory_.file("in/b.frq"));
+    job_.inputs = {directory_.file("in")};
+    job_.rose = "1";
+    EXPECT_EQ(run(), exportFailed);
+    EXPECT_EQ(out_.str(), picture("b_01.png") + "\n");
+    const std::string told = errors_.str();
+    EXPECT_EQ(std::count(told.begin(), told.end(), '\n'), 1100);
+}
+
+TEST_F(ExportRoses, ALineThatNoFrqFileHasIsRefusedWithItsNumber) {
+    freqtext::Lines lines = freqtext::file("2.2", 1);
+    lines[4] = std::string(std::size_t{1} << 20, 'x');
+    job_.inputs = {directory_.write("long.frq", freqtext::bytes(lines))};
+    EXPECT_EQ(run(), exportDone) << errors_.str();
+    lines[4] += 'x';
+    directory_.write("long.frq", freqtext::bytes(lines));
+    EXPECT_EQ(run(), exportFailed);
+    EXPECT_EQ(errors_.str(), job_.inputs[0] + ":5: the line is longer than 1048576 bytes (error 6)\n");
+}
+
+TEST_F(ExportRoses, APicturesNameThatIsALinkIsReplacedNotFollowed) {
+    job_.rose = "1";
+    job_.directory = directory_.path();
+    directory_.write("precious", "kept");
+    const std::string place = directory_.file("LOVETT_1988_01.png");
+    for (const char* target : {"precious", "missing"}) {
+        std::filesystem::remove(place);
+        std::filesystem::create_symlink(target, place);
+        EXPECT_EQ(run(), exportDone) << errors_.str();
+        EXPECT_FALSE(std::filesystem::is_symlink(place));
+        EXPECT_EQ(QImage(QString::fromStdString(place)).size(), QSize(600, 600));
+    }
+    EXPECT_EQ(directory_.read("precious"), "kept");
+    EXPECT_FALSE(fileExists(directory_.file("missing")));
+}
+
+TEST_F(ExportRoses, APictureThatReplacesAnotherKeepsItsPermissions) {
+    job_.rose = "1";
+    job_.directory = directory_.path();
+    using std::filesystem::perms;
+    const std::string place = directory_.write("LOVETT_1988_01.png", "old");
+    std::filesystem::permissions(place, perms::owner_read | perms::owner_write);
+    EXPECT_EQ(run(), exportDone);
+    EXPECT_EQ(std::filesystem::status(place).permissions(), perms::owner_read | perms::owner_write);
+    EXPECT_EQ(QImage(QString::fromStdString(place)).size(), QSize(600, 600));
+}
+
+TEST_F(ExportRoses, APlaceThatADirectoryHasIsToldAndNothingIsLeft) {
+    job_.rose = "1";
+    job_.directory = directory_.file("out");
+    std::filesystem::create_directories(directory_.file("out/LOVETT_1988_01.png"));
+    EXPECT_EQ(run(), exportFailed);
+    EXPECT_EQ(errors_.str(), directory_.file("out/LOVETT_1988_01.png") + ": Is a directory\n");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(directory_.file("out")), {}), 1);
 }
 
 TEST_F(ExportRoses, ADirectoryWithoutFilesIsTold) {
