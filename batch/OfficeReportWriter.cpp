@@ -72,6 +72,18 @@ QImage pictureOf(const std::string& path) {
     }
 }
 
+/// What the office said last, its complaints if there are any.
+std::string lastWords(QProcess& process) {
+    constexpr qsizetype most = 500;
+    QByteArray words = process.readAllStandardError().trimmed();
+    if (words.isEmpty()) words = process.readAllStandardOutput().trimmed();
+    return words.right(most).toStdString();
+}
+
+std::string withReason(const std::string& fault, const std::string& reason) {
+    return reason.empty() ? fault + " and gave no reason" : fault + ": " + reason;
+}
+
 QByteArray points(double value) { return QByteArray::number(value, 'f', 2) + "pt"; }
 
 QByteArray sizeOf(double width, double height) {
@@ -128,15 +140,18 @@ void OfficeReportWriter::saveDocument(const std::string& path) {
 void OfficeReportWriter::save(const std::string& path, const char* tail, const char* filter,
                               const char* extension) {
     write(tail);
-    const QDir scratch(scratch_->path());
+    const std::unique_ptr<QTemporaryDir> held = std::move(scratch_);  // gone however this ends
+    const QDir scratch(held->path());
     const QString profile = QUrl::fromLocalFile(scratch.filePath(QStringLiteral("profile"))).toString();
-    runOffice({QStringLiteral("-env:UserInstallation=") + profile, QStringLiteral("--headless"),
-               QStringLiteral("--norestore"), QStringLiteral("--convert-to"),
-               QString::fromLatin1(extension) + QLatin1Char(':') + QString::fromLatin1(filter),
-               QStringLiteral("--outdir"), scratch.path(), scratch.filePath(QStringLiteral("report.xml"))});
+    const std::string said = runOffice(
+        {QStringLiteral("-env:UserInstallation=") + profile, QStringLiteral("--headless"),
+         QStringLiteral("--norestore"), QStringLiteral("--convert-to"),
+         QString::fromLatin1(extension) + QLatin1Char(':') + QString::fromLatin1(filter),
+         QStringLiteral("--outdir"), scratch.path(), scratch.filePath(QStringLiteral("report.xml"))});
     const QString made = scratch.filePath(QStringLiteral("report.") + QString::fromLatin1(extension));
     if (!QFile::exists(made))
-        fail(ErrorNumber::CannotCreateObject, "LibreOffice did not make the report " + path);
+        fail(ErrorNumber::CannotCreateObject,
+             withReason("LibreOffice did not make the report " + path, said));
     // Copied beside its place first, so that the place never holds half a file.
     const QString fresh = fileName(path) + QStringLiteral(".new");
     QFile::remove(fresh);
@@ -147,10 +162,10 @@ void OfficeReportWriter::save(const std::string& path, const char* tail, const c
         QFile::remove(fresh);
         fail(ErrorNumber::PathFileAccessError, "The report could not be written: " + path);
     }
-    scratch_.reset();
 }
 
-void OfficeReportWriter::runOffice(const QStringList& arguments) {
+/// What the office said.
+std::string OfficeReportWriter::runOffice(const QStringList& arguments) {
     QString office = program;
     for (const char* name : {"soffice", "libreoffice"})
         if (office.isEmpty()) office = QStandardPaths::findExecutable(QString::fromLatin1(name));
@@ -171,9 +186,13 @@ void OfficeReportWriter::runOffice(const QStringList& arguments) {
         process.waitForFinished();
         fail(ErrorNumber::CannotCreateObject, "LibreOffice took too long and was stopped");
     }
-    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+    const std::string said = lastWords(process);
+    if (process.exitStatus() != QProcess::NormalExit)
+        fail(ErrorNumber::CannotCreateObject, withReason("LibreOffice crashed", said));
+    if (process.exitCode() != 0)
         fail(ErrorNumber::CannotCreateObject,
-             "LibreOffice failed: " + process.readAllStandardError().trimmed().toStdString());
+             withReason("LibreOffice failed with status " + std::to_string(process.exitCode()), said));
+    return said;
 }
 
 }  // namespace zg

@@ -31,7 +31,7 @@ class OfficeReportWriter : public ReportWriter {
     void begin(const char* head);
     void write(const QByteArray& part);
     void save(const std::string& path, const char* tail, const char* filter, const char* extension);
-    void runOffice(const QStringList& arguments);
+    std::string runOffice(const QStringList& arguments);
 
     Host& host_;
     std::unique_ptr<QTemporaryDir> scratch_;

@@ -145,6 +145,73 @@ TEST_F(OfficeReport, AnOfficeThatFailsOrHangsIsToldAndTheOldReportStays) {
     }
 }
 
+TEST_F(OfficeReport, TheReasonOfAFailureIsTold) {
+    struct Row {
+        const char* script;
+        const char* told;
+    };
+    for (const Row& row :
+         {Row{"echo out; echo no room >&2; exit 3", "LibreOffice failed with status 3: no room"},
+          Row{"echo out; exit 3", "LibreOffice failed with status 3: out"},
+          Row{"exit 3", "LibreOffice failed with status 3 and gave no reason"},
+          Row{"echo oops >&2; kill -SEGV $$", "LibreOffice crashed: oops"},
+          Row{"kill -SEGV $$", "LibreOffice crashed and gave no reason"},
+          Row{"echo no filter >&2", "LibreOffice did not make the report PLACE: no filter"},
+          Row{":", "LibreOffice did not make the report PLACE and gave no reason"}}) {
+        const std::string program =
+            directory_.write("office", std::string("#!/bin/sh\n") + row.script + "\n");
+        std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+        writer_.program = QString::fromStdString(program);
+        writer_.beginPresentation();
+        std::string told = row.told;
+        if (const std::size_t at = told.find("PLACE"); at != std::string::npos)
+            told.replace(at, 5, directory_.file("show.ppt"));
+        try {
+            writer_.savePresentation(directory_.file("show.ppt"));
+            ADD_FAILURE() << row.script;
+        } catch (const RunTimeError& error) {
+            EXPECT_EQ(error.number, 429);
+            EXPECT_EQ(error.description, told);
+        }
+        EXPECT_EQ(std::distance(std::filesystem::directory_iterator(directory_.path()), {}), 1);
+    }
+}
+
+TEST_F(OfficeReport, ABitmapCutShortIsNamedWithWhatIsMissing) {
+    const std::string path = picture("rose.bmp", {60, 40}, qRgb(200, 10, 20));
+    const std::string whole = directory_.read("rose.bmp");
+    ASSERT_EQ(whole.size(), 54U + 60 * 40 * 3);
+    writer_.beginDocument();
+    for (const std::size_t size : {whole.size() - 1, whole.size() / 2, std::size_t{54}}) {
+        directory_.write("rose.bmp", whole.substr(0, size));
+        for (const bool slide : {false, true}) try {
+                if (slide)
+                    writer_.addSlide(path, 0, 0, 1, 1);
+                else
+                    writer_.addPicture(path);
+                ADD_FAILURE() << size;
+            } catch (const RunTimeError& error) {
+                EXPECT_EQ(error.number, 481);
+                EXPECT_EQ(error.description, "Invalid picture, cut short at " + std::to_string(size) +
+                                                 " of 7254 bytes: " + path);
+            }
+    }
+    directory_.write("rose.bmp", whole.substr(0, 20));
+    EXPECT_THROW(writer_.addPicture(path), RunTimeError);
+}
+
+TEST_F(OfficeReport, WholeBitmapsOfEveryDepthAreTaken) {
+    writer_.beginDocument();
+    for (const auto format : {QImage::Format_Mono, QImage::Format_Indexed8, QImage::Format_RGB32,
+                              QImage::Format_ARGB32, QImage::Format_RGB16}) {
+        QImage image(37, 11, format);
+        image.fill(1);
+        const std::string path = directory_.file("picture.bmp");
+        ASSERT_TRUE(image.save(QString::fromStdString(path), "BMP"));
+        EXPECT_NO_THROW(writer_.addPicture(path)) << format;
+    }
+}
+
 TEST_F(OfficeReport, AFileThatIsNoPictureIsNamed) {
     writer_.beginPresentation();
     const std::string bad = directory_.write("bad.bmp", "no");

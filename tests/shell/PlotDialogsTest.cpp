@@ -454,10 +454,12 @@ TEST_F(PlotOptions, ABackgroundThatIsNoPictureIsTold) {
 }
 
 TEST_F(PlotOptions, APictureFarTooLargeIsRefusedWithoutTakingTheMemory) {
-    // The head of a bitmap of 20,000 x 20,000 pixels of 32 bits, without its pixels.
+    // A bitmap of 20,000 x 20,000 pixels of 32 bits, of which the disk holds nothing but the head.
     std::string head("BM\0\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x20\x4E\0\0\x20\x4E\0\0\x01\0\x20\0", 30);
     head.resize(54, '\0');
-    EXPECT_RAISES(481, "Invalid picture", loadPicture(directory_.write("huge.bmp", head)));
+    const std::string path = directory_.write("huge.bmp", head);
+    std::filesystem::resize_file(path, 54 + std::uintmax_t{20'000} * 20'000 * 4);
+    EXPECT_RAISES(481, "Invalid picture", loadPicture(path));
 }
 
 }  // namespace
