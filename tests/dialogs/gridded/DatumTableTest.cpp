@@ -76,8 +76,11 @@ TEST_F(DatumTable, BrokenFilesAreToldWithTheirLine) {
                   ReadDatumTable());
     directory_.write("datums.csv", heading + "AFRICA,A - B,C,CODE-TOO-LONG\n");
     EXPECT_RAISES(13, "datums.csv, line 3: field 4 is empty or too long", ReadDatumTable());
-    directory_.write("datums.csv", "whatever\n");
-    EXPECT_RAISES(13, "datums.csv, line 1: DATUMS.CSV,V1.0 and a date are wanted", ReadDatumTable());
+    for (const char* first : {"whatever", "DATUMS.CSV", "DATUMS.CSV,V1.0", "DATUMS.CSV,V1.1,2026-11-20",
+                              "OTHER.CSV,V1.0,2026-11-20", "DATUMS.CSV,V1.0,2026-11-20,more"}) {
+        directory_.write("datums.csv", std::string(first) + "\nx\nAFRICA,A - B,C,D\n");
+        EXPECT_RAISES(13, "datums.csv, line 1: DATUMS.CSV,V1.0 and a date are wanted", ReadDatumTable());
+    }
     directory_.write("datums.csv", "");
     EXPECT_RAISES(62, "Input past end of file", ReadDatumTable());
 }

@@ -68,8 +68,7 @@ TEST_F(GridFileHeader, NoneStandsForWhatIsNotUsed) {
         read(GridKind::Ventos, ventosText("LL WGS-84 NONE NONE NONE NONE NONE NONE NONE NONE"));
     EXPECT_EQ(r.errorFlag, 0) << r.errorText;
     EXPECT_EQ(r.IUTMZN, 0);
-    EXPECT_EQ(r.FEAST, 0);
-    EXPECT_EQ(r.XLAT2, 0);
+    for (const float value : {r.FEAST, r.FNORTH, r.RLAT0, r.RLON0, r.XLAT1, r.XLAT2}) EXPECT_EQ(value, 0);
 }
 
 TEST_F(GridFileHeader, AnglesMayEndInTheirHemisphere) {
