@@ -7,6 +7,7 @@
 #include "base/Lines.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
+#include "base/Text.h"
 #include "processing/BatchFile.h"
 #include "processing/RunLock.h"
 #include "processing/RunReasons.h"
