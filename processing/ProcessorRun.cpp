@@ -62,6 +62,7 @@ class Run {
 
     void prepare() {
         tell(hooks_.setTip, "");
+        tell(hooks_.setReason, "");
         begin();
         readValues();
         while ((lock_ = RunLock::take(directory_)) == nullptr) {
@@ -150,7 +151,8 @@ class Run {
         }
     }
 
-    std::string listingsEnd() const { return lastLineOfListing(directory_ + base_ + "_tempoline.lst"); }
+    std::string listing() const { return directory_ + base_ + "_tempoline.lst"; }
+    std::string listingsEnd() const { return lastLineOfListing(listing()); }
 
     void animate() {
         if (hooks_.abandoned()) throw RunEnded{};
@@ -164,6 +166,7 @@ class Run {
         // The label tells of the last output alone, or of none.
         if (form_ != RunForm::Single && !missing_.empty())
             tell(hooks_.setTip, "No FRQ file for " + missing_ + ": " + listingsEnd());
+        if (made_) tell(hooks_.setReason, warningsOfListing(listing()));
         hooks_.showExit();
         hooks_.setBusy(false);
         step([this] { hooks_.keepTimeZone(); });

@@ -43,9 +43,10 @@ struct RunHooks {
     std::function<bool()> abandoned;                    ///< the program is being closed
 
     // Beside the status, where the form has them.
-    std::function<void(const std::string&)> setReason;  ///< why the wait does not end; "" takes it away
-    std::function<void(const std::string&)> setTip;     ///< what the status tells of; "" takes it away
-    std::function<bool()> chooseDirectory;              ///< another one for the output; false for none
+    std::function<void(const std::string&)>
+        setReason;  ///< why the wait does not end, or what the processor warns of; "" takes it away
+    std::function<void(const std::string&)> setTip;  ///< what the status tells of; "" takes it away
+    std::function<bool()> chooseDirectory;           ///< another one for the output; false for none
 };
 
 /// Changes a status label three times in 900 milliseconds; ends early once it is abandoned.

@@ -26,4 +26,22 @@ std::string lastLineOfListing(const std::string& path) {
     return last;
 }
 
+std::string warningsOfListing(const std::string& path) {
+    constexpr std::size_t mostShown = 3;
+    constexpr std::string_view mark = "WARNING: ";
+    std::string text;
+    std::size_t count = 0;
+    try {
+        for (LineReader lines(existingFile(path)); !lines.atEnd();) {
+            const std::string line = trim(lines.readLine());
+            if (!line.starts_with(mark) || ++count > mostShown) continue;
+            text += (text.empty() ? "" : "\n") + line;
+        }
+    } catch (const RunTimeError&) {
+        return text;  // as far as it could be read
+    }
+    return count > mostShown ? text + "\n" + std::to_string(count - mostShown) + " more in the listing"
+                             : text;
+}
+
 }  // namespace zg

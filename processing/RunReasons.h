@@ -14,4 +14,7 @@ std::string foreseenTrouble(const std::string& base, const std::string& programD
 /// existingFile.
 std::string lastLineOfListing(const std::string& path);
 
+/// The warnings of a listing, a line each, of many the first three; "" where it has none.
+std::string warningsOfListing(const std::string& path);
+
 }  // namespace zg

@@ -148,6 +148,7 @@ void GridForm::left(QWidget& field) {
     if (&field == &control("txtOutputDirectory")) leftOutputDirectory();
     if (&field == &control("cmdPROCESS")) {
         as<QLabel>("lblStatus").clear();
+        setReason("");
         setTipOfStatus("");
     }
     if (fieldMark(field) == yellowMark && isFilled(field)) ClearInvalid(field);

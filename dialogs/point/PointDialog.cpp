@@ -201,6 +201,7 @@ void PointDialog::clearMark(QWidget& field, bool filled) {
 
 void PointDialog::clearStatus() {
     lblStatus->clear();
+    lblReason->setReason({});
     setPlainTip(*lblStatus, {});
 }
 

@@ -330,14 +330,14 @@ TEST_F(ProcessorRun, ABlankInTheNameIsTheReasonOfAWaitThatDoesNotEnd) {
     run(RunForm::Single);
     EXPECT_EQ(
         reasons_,
-        (Texts{"a blank in the name: the processor cannot find its control file; rename the input", ""}));
+        (Texts{"", "a blank in the name: the processor cannot find its control file; rename the input", ""}));
     EXPECT_TRUE(status_.starts_with("Running.")) << "the wait and its words stay";
 }
 
 TEST_F(ProcessorRun, AMissingProcessorIsTheReasonOfAWaitThatDoesNotEnd) {
     host_.onPump = [this] { abandoned_ = host_.now > 5000; };
     run(RunForm::Single);
-    EXPECT_EQ(reasons_, (Texts{"tempoline.exe is missing in /opt/my programs", ""}));
+    EXPECT_EQ(reasons_, (Texts{"", "tempoline.exe is missing in /opt/my programs", ""}));
 }
 
 TEST_F(ProcessorRun, WhatTheLauncherTellsIsShownOnceItIsKnown) {
@@ -368,6 +368,24 @@ TEST_F(ProcessorRun, AnErrorHasTheListingsLastLineForATip) {
     starter_.onStart = [this] { finish({"one"}); };
     run(RunForm::Single);
     EXPECT_EQ(tip_, "");
+}
+
+TEST_F(ProcessorRun, WarningsOfAGoodRunStandUnderItsStatusUntilTheNext) {
+    outputs_ = {{"one", ""}};
+    starter_.onStart = [this] {
+        directory_.write("BASE_tempoline.lst", "TEMPOLINE\r\nWARNING: one: far away\r\nRUN COMPLETED\r\n");
+        finish({"one"});
+    };
+    run(RunForm::Single);
+    EXPECT_EQ(status_, "Finished");
+    EXPECT_EQ(reasons_, (Texts{"", "WARNING: one: far away"}));
+    starter_.onStart = [this] {
+        EXPECT_EQ(reasons_.back(), "");
+        directory_.write("BASE_tempoline.lst", "TEMPOLINE\r\nRUN COMPLETED\r\n");
+        finish({"one"});
+    };
+    run(RunForm::Single);
+    EXPECT_EQ(reasons_.back(), "");
 }
 
 TEST_F(ProcessorRun, ALabelThatTellsOneResultOfManyNamesTheMissingOnesInItsTip) {

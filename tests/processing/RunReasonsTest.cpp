@@ -30,5 +30,18 @@ TEST(LastLineOfListing, IsTheLastOneWithAText) {
     EXPECT_EQ(lastLineOfListing(directory.path()), "") << "a directory has no lines";
 }
 
+TEST(WarningsOfListing, AreTheFirstThreeAndHowManyMore) {
+    const TempDirectory directory;
+    EXPECT_EQ(warningsOfListing(directory.file("none.lst")), "");
+    EXPECT_EQ(warningsOfListing(directory.path()), "");
+    const std::string three =
+        "WARNING: one\r\n  no WARNING: here\r\nNOTE: x\r\nWARNING: two\r\nWARNING: 3\r\n";
+    EXPECT_EQ(warningsOfListing(directory.write("a.lst", three + "RUN COMPLETED\r\n")),
+              "WARNING: one\nWARNING: two\nWARNING: 3");
+    EXPECT_EQ(warningsOfListing(directory.write("b.lst", three + "WARNING: 4\r\nWARNING: 5\r\n")),
+              "WARNING: one\nWARNING: two\nWARNING: 3\n2 more in the listing");
+    EXPECT_EQ(warningsOfListing(directory.write("c.lst", "RUN COMPLETED\r\n")), "");
+}
+
 }  // namespace
 }  // namespace zg

@@ -45,6 +45,24 @@ TEST_F(WholeRoad, AermetProfile) {
     EXPECT_EQ(modPolarGraph.FrqTotalPeriods(1), 96);
 }
 
+TEST_F(WholeRoad, AProfileWithoutSuchALevelIsFinishedWithAWarning) {
+    open<frmOpenAERMETFile>(AermetKind::Profile);
+    browse("AERMET2.PFL");
+    type("txtStationID", "14735");
+    type("txtFRQOutputFilename", "profile");
+    type("txtAnemometerHeight", "400");
+    click("cmdView");
+    EXPECT_EQ(status(), "Finished");
+    const QLabel& reason = child<QLabel>("lblReason");
+    EXPECT_TRUE(reason.isVisible());
+    EXPECT_NE(reason.text().toStdString().find("the wind of 400.0 m is that of the nearest level, "),
+              std::string::npos)
+        << reason.text().toStdString() << listing();
+    child("cmdView").setFocus();
+    child("cmdExit").setFocus();
+    EXPECT_FALSE(reason.isVisible());
+}
+
 TEST_F(WholeRoad, SurfStations) {
     open<frmOpenSURFDATFile>();
     browse("valley_surf.dat");
