@@ -2,6 +2,7 @@
 
 #include "base/RunTimeError.h"
 #include "tests/platform/BatchRunFixture.h"
+#include "tests/support/OddNames.h"
 #include "tests/support/Raises.h"
 
 namespace zg {
@@ -48,33 +49,7 @@ TEST_F(Launcher, RunsOnlyThisProgramsProcessorAndOnlyWhereTheBatchFileLies) {
 
 TEST_F(Launcher, TakesOddNamesAsTheyAre) {
     processor("printf '%s|' \"$@\" > words; echo listing > \"./${1%.inp}.lst\"\n");
-    const std::string names[] = {"a\"b",
-                                 "\"",
-                                 "-dash",
-                                 "--",
-                                 "--merge",
-                                 "Montr\xE9"
-                                 "al",
-                                 "\xC3\xA9t\xC3\xA9",
-                                 "$(touch${IFS}PWNED)",
-                                 "`touch${IFS}PWNED`",
-                                 "a;b",
-                                 "it's",
-                                 "''",
-                                 "%PATH%",
-                                 "a&b",
-                                 "a|b",
-                                 "a^b",
-                                 "!x",
-                                 "<a>",
-                                 "\\",
-                                 "a\\nb",
-                                 "a\tb",
-                                 "*",
-                                 "~",
-                                 "#",
-                                 "(x)"};
-    for (const std::string& name : names) {
+    for (const std::string& name : oddNames()) {
         for (const char* left : {"finished.txt", "words"}) std::filesystem::remove(out_ + "/" + left);
         start(name);
         ASSERT_TRUE(comes("finished.txt")) << name << ": " << starter_.outcome(batchFile());
@@ -84,11 +59,9 @@ TEST_F(Launcher, TakesOddNamesAsTheyAre) {
 }
 
 TEST_F(Launcher, TakesDirectoriesOfOddNamesAsTheyAre) {
-    for (const std::string& name :
-         {std::string("a\"b"), std::string("-dash"), std::string("$(touch PWNED)"),
-          std::string("Montr\xE9"
-                      "al"),
-          std::string("two  blanks "), std::string("it's"), std::string("\\n%&^!|<>;")}) {
+    std::vector<std::string> names = oddNames();
+    names.insert(names.end(), {"two  blanks ", " before"});
+    for (const std::string& name : names) {
         out_ = directory_.file(name);
         programs_ = directory_.file("programs of " + name);
         std::filesystem::create_directory(out_);

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/RunTimeError.h"
-#include "tests/support/Raises.h"
+#include "tests/support/OddNames.h"
 
 namespace zg {
 namespace {
@@ -73,14 +73,14 @@ TEST_P(BatchNames, OnWhichTheShellOfWindowsActsAreRefusedThere) {
 }
 
 TEST_P(BatchNames, AreOtherwiseTakenAsTheyAre) {
-    for (const char separator : {'/', '\\'})
-        for (const char* name : {"a b", "-dash", "--", "$(x)", "`x`", "a;b", "it's",
-                                 "Montr\xE9"
-                                 "al",
-                                 "\xC3\xA9", "(1)", "a,b=c+d", "~", "#", "*"}) {
-            EXPECT_EQ(refusal(name, separator), "no error") << name;
-            EXPECT_NE(GetParam().put(name, separator).find(name), std::string::npos) << name;
-        }
+    std::vector<std::string> names = oddNames();
+    names.insert(names.end(), {"a b", " before", "after "});
+    for (const std::string& name : names) {
+        EXPECT_EQ(refusal(name, '/'), "no error") << name;
+        EXPECT_NE(GetParam().put(name, '/').find(name), std::string::npos) << name;
+        const bool acted = name.find_first_of("%&^!\"|<>\t\x7F") != std::string::npos;
+        EXPECT_EQ(refusal(name, '\\') == "no error", !acted) << name;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Places, BatchNames, ::testing::ValuesIn(places),
@@ -102,6 +102,13 @@ TEST(BatchFile, OfARunIsReadBackToItsNames) {
                       run)
                 << name;
         }
+    for (const std::string& name : oddNames()) {
+        const RunBatch run{"/" + name + "/", name, "/x" + name};
+        EXPECT_EQ(readRunBatch(batchLines(run.outputDirectory, run.base, run.programDirectory, '/'), '/'),
+                  run)
+            << name;
+        EXPECT_EQ(viewedFile(viewerLine(name, '/'), '/'), name);
+    }
     const RunBatch quoted{"/a \"dir\"/", "a\"b", "/p\"q"};
     EXPECT_EQ(
         readRunBatch(batchLines(quoted.outputDirectory, quoted.base, quoted.programDirectory, '/'), '/'),
