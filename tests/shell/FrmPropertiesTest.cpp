@@ -244,6 +244,7 @@ TEST_F(FrmProperties, ALargeSizeReachesTheGraphAndOneBeyondAnyIsTold) {
     EXPECT_EQ(left("txtMsize_0", "2147483648"), "2147483648");
     host_.boxAnswers = {BoxAnswer::Ok};
     click("cmdApply");
+    ASSERT_EQ(host_.boxes.size(), 1U);
     EXPECT_EQ(host_.boxes[0].text, "Run-time error '6':\n\nOverflow");
     EXPECT_EQ(graph_.Series.Marker.PictureWidth, 40000);
     EXPECT_TRUE(canApply());
