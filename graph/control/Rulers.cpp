@@ -83,7 +83,8 @@ void paintMark(Canvas& canvas, const RulerView& view, const RulerMark& mark) {
     if (view.horizontal)
         canvas.setTextPosition({at - textPlacing * size.width / 2, stripInset});
     else
-        canvas.setTextPosition({stripInset, at - textPlacing * size.height});
+        canvas.setTextPosition(
+            {std::min(stripInset + 1, inner - numberedMark - size.width), at - textPlacing * size.height});
     canvas.text(mark.text, numberStyle);
 }
 

@@ -119,7 +119,12 @@ TEST(Rulers, NumbersArePlacedAtTheirMarkByFourFifthsOfTheirSize) {
     RecordingCanvas upright(20, 700);
     paintRuler(upright, view);
     EXPECT_DOUBLE_EQ(upright.textReading("0").at.y, 305 - 0.8 * size.height);
-    EXPECT_EQ(upright.textReading("0").at.x, 5);
+    EXPECT_EQ(upright.textReading("0").at.x, 6) << "within the strip";
+    view.mode = 0;
+    RecordingCanvas pixels(20, 700);
+    paintRuler(pixels, view);
+    const drawn::Text wide = pixels.textReading("600");
+    EXPECT_LE(wide.at.x + pixels.measure("600", wide.style).width, 14) << "beside its mark, not over it";
 }
 
 TEST(Rulers, MarksOutOfSightAreNotPainted) {
