@@ -2,12 +2,15 @@
 
 #include <CLI/CLI.hpp>
 #include <QGuiApplication>
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <iostream>
 #include <new>
+#include <string>
+#include <vector>
 #ifdef _WIN32
 #include <io.h>
 #else
@@ -28,8 +31,21 @@ bool isTerminal() {
 #endif
 }
 
-/// The toolkit's own remarks are nothing that a user of the companion could act on.
-void ignoreRemarks(QtMsgType, const QMessageLogContext&, const QString&) {}
+/// In the order in which the parser takes them, the last one first. It reads "[a]" as a list of one name.
+std::vector<std::string> wordsOf(int argc, char** argv) {
+    std::vector<std::string> words(argv + 1, argv + argc);
+    for (std::string& word : words)
+        if (word.size() > 1 && word.front() == '[' && word.back() == ']') word.insert(0, "./");
+    std::reverse(words.begin(), words.end());
+    return words;
+}
+
+/// The toolkit's own remarks are nothing that a user of the companion could act on, but for the last one.
+void ignoreRemarks(QtMsgType kind, const QMessageLogContext&, const QString& text) {
+    if (kind != QtFatalMsg) return;
+    std::fprintf(stderr, "zephyrgraph-export: %s\n", qPrintable(text.section(QLatin1Char('\n'), 0, 0)));
+    std::_Exit(zg::exportFailed);
+}
 
 /// What no handler has taken, in the end nothing but memory that is not there, also where the toolkit asks
 /// for it.
@@ -79,7 +95,7 @@ int runCommand(int argc, char** argv) {
     app.add_flag("--tables", job.tables,
                  "Write every loaded table to standard output as JSON and draw nothing");
     try {
-        app.parse(argc, argv);
+        app.parse(wordsOf(argc, argv));
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? zg::exportDone : zg::exportWrongUsage;
     }

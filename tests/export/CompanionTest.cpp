@@ -92,6 +92,19 @@ TEST(Companion, TablesGoToStandardOutput) {
     EXPECT_TRUE(result.out.contains("\"FrqRoseCount\": 9"));
 }
 
+TEST(Companion, ANameInBracketsIsAName) {
+    const TempDirectory directory;
+    const std::filesystem::path inside = std::filesystem::path(directory.path()) / "[a]";
+    std::filesystem::create_directory(inside);
+    std::filesystem::copy(sample.toStdString(), inside / "one.frq");
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(directory.path());
+    const Result result = runCompanion({"[a]", "--rose", "1", "--size", "32", "--out", "[a]"});
+    std::filesystem::current_path(before);
+    EXPECT_EQ(result.status, 0) << result.errors.toStdString();
+    EXPECT_TRUE(std::filesystem::exists(inside / "one_01.png"));
+}
+
 class CompanionWithoutRoom : public ::testing::TestWithParam<const char*> {};
 
 TEST_P(CompanionWithoutRoom, AFileThatMayNotGrowEndsTheRunInOneLine) {
@@ -113,6 +126,15 @@ INSTANTIATE_TEST_SUITE_P(, CompanionWithoutRoom, ::testing::Values("png", "bmp",
                          [](const auto& format) { return std::string(format.param); });
 
 #ifndef __SANITIZE_ADDRESS__  // which takes more than any limit for itself
+TEST(Companion, WhatTheToolkitCannotDoWithoutEndsTheRunInOneLine) {
+    const TempDirectory directory;
+    const Result result =
+        runCompanion({sample, "--out", QString::fromStdString(directory.path())}, Limit{RLIMIT_NOFILE, 4});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(result.errors.contains("zephyrgraph-export: ")) << result.errors.toStdString();
+    EXPECT_TRUE(std::filesystem::is_empty(directory.path()));
+}
+
 TEST(Companion, APageThatMemoryCannotHoldEndsTheRunInOneLine) {
     for (const char* jobs : {"1", "3"}) {
         const TempDirectory directory;
