@@ -16,6 +16,7 @@
 #include "platform/KeyFilter.h"
 #include "platform/Pickers.h"
 #include "platform/QtText.h"
+#include "platform/ReadText.h"
 #include "processing/Directories.h"
 
 namespace zg {
@@ -65,7 +66,7 @@ frmBatchMode::frmBatchMode(Host& host, BatchHooks hooks, QWidget* parent)
     layOut();
     followFields();
     optSingleFRQFile->setChecked(true);
-    txtWorkDirectory->setText(fileName(modPolarGraph.WorkDir));
+    showPath(*txtWorkDirectory, modPolarGraph.WorkDir);
     txtSingleFRQFile->setFocus();
 }
 
@@ -179,7 +180,7 @@ void frmBatchMode::cmdBrowseSingleFRQFile_Click() {
     const std::string path = ShowFileOpen(host_, "Frequency File (*.frq) | *.frq; |All Files (*.*) | *.*", 1,
                                           modPolarGraph.WorkDir);
     if (path.empty()) return;
-    txtSingleFRQFile->setText(fileName(path));
+    showPath(*txtSingleFRQFile, path);
     clearMark(*txtSingleFRQFile, true);
     modPolarGraph.WorkDir = DirOf(path);
     // Only the first character is looked at: nearly every directory gets its final separator this way.
@@ -187,12 +188,12 @@ void frmBatchMode::cmdBrowseSingleFRQFile_Click() {
 }
 
 void frmBatchMode::browse(QLineEdit& field, const char* prompt) {
-    field.setText(fileName(BrowseForFolder(host_, trim(pathIn(field)), prompt, -1)));
+    showPath(field, BrowseForFolder(host_, trim(pathIn(field)), prompt, -1));
     leftDirectory(field);
 }
 
 void frmBatchMode::leftDirectory(QLineEdit& field) {
-    if (const std::string path = pathIn(field); !path.empty()) field.setText(fileName(withSeparator(path)));
+    if (const std::string path = pathIn(field); !path.empty()) showPath(field, withSeparator(path));
     clearMark(field, !field.text().isEmpty());
 }
 
@@ -259,7 +260,7 @@ void frmBatchMode::begin() {
     BatchRequest request;
     request.ofDirectory = optDirectory->isChecked();
     request.file = pathIn(*txtSingleFRQFile);
-    request.root = typed(txtRootFilename->text());
+    request.root = pathIn(*txtRootFilename);
     request.directory = pathIn(*txtDirectory);
     request.workDirectory = pathIn(*txtWorkDirectory);
     request.percentValidLimit = toSingle(trim(typed(txtPercentValidLimit->text())));

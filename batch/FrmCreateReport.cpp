@@ -13,6 +13,7 @@
 #include "platform/FormParts.h"
 #include "platform/Pickers.h"
 #include "platform/QtText.h"
+#include "platform/ReadText.h"
 #include "processing/Directories.h"
 
 namespace zg {
@@ -28,18 +29,20 @@ constexpr float slideSide = 539.88F;
 frmCreateReport::frmCreateReport(Host& host, QWidget* parent, std::unique_ptr<ReportWriter> writer)
     : RunningDialog(host, "frmCreateReport", "Create Report", parent), writer_(std::move(writer)) {
     if (!writer_) writer_ = std::make_unique<OfficeReportWriter>(host);
-    txtBMPDirectory = named(new QLineEdit(fileName(modPolarGraph.WorkDir)), "txtBMPDirectory");
+    txtBMPDirectory = named(new QLineEdit, "txtBMPDirectory");
     cmdBrowseBMPDirectory =
         browseButton("&Browse...", "cmdBrowseBMPDirectory", "Browse for a directory of bitmaps");
     optPPT = named(new QRadioButton(QStringLiteral("&PowerPoint (PPT)")), "optPPT");
     optDOC = named(new QRadioButton(QStringLiteral("&Word (DOC)")), "optDOC");
     optBothPPTAndDOC = named(new QRadioButton(QStringLiteral("Bo&th")), "optBothPPTAndDOC");
-    txtWorkDirectory = named(new QLineEdit(fileName(modPolarGraph.WorkDir)), "txtWorkDirectory");
+    txtWorkDirectory = named(new QLineEdit, "txtWorkDirectory");
     cmdBrowseWorkDirectory =
         browseButton("B&rowse...", "cmdBrowseWorkDirectory", "Browse for a working directory");
     txtSaveFilename = named(new QLineEdit, "txtSaveFilename");
     cmdCreateReport = named(new QPushButton(QStringLiteral("CREATE")), "cmdCreateReport");
     cmdCreateReport->setDefault(true);
+    for (QLineEdit* directory : {txtBMPDirectory, txtWorkDirectory})
+        showPath(*directory, modPolarGraph.WorkDir);
     layOut();
     followFields();
     txtBMPDirectory->setFocus();
@@ -86,12 +89,12 @@ void frmCreateReport::followFields() {
 }
 
 void frmCreateReport::browse(QLineEdit& field, const char* prompt) {
-    field.setText(fileName(BrowseForFolder(host_, trim(pathIn(field)), prompt, -1)));
+    showPath(field, BrowseForFolder(host_, trim(pathIn(field)), prompt, -1));
     leftDirectory(field);
 }
 
 void frmCreateReport::leftDirectory(QLineEdit& field) {
-    if (const std::string path = pathIn(field); !path.empty()) field.setText(fileName(withSeparator(path)));
+    if (const std::string path = pathIn(field); !path.empty()) showPath(field, withSeparator(path));
     clearMark(field, !field.text().isEmpty());
 }
 

@@ -105,6 +105,8 @@ std::string asShellScript(const RunBatch& run, const std::string& reportFile) {
     return script + "run" + quotedWords(run.base + "_tempoline.inp") + "\n";
 }
 
+std::string shellArguments(const std::string& batchFile) { return "/c \"\"" + batchFile + "\"\""; }
+
 std::vector<std::string> scriptCommand(const std::string& script, const std::string& terminal) {
     if (terminal.empty()) return {"sh", "-c", script};
     const std::string stay = "printf 'Press Enter to close this window. '; read -r key\n";

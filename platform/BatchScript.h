@@ -15,6 +15,11 @@ namespace zg {
 /// which appears whole; "" is no such file.
 std::string asShellScript(const RunBatch& run, const std::string& reportFile);
 
+/// What the command shell of Windows is handed after its own name for a batch file: the path in quotes, and
+/// the whole in one more pair of quotes, which the shell takes off. Without that pair it would take off those
+/// of a path that has an ampersand or a bracket.
+std::string shellArguments(const std::string& batchFile);
+
 /// The words that start a script. With a terminal program it runs in a window that stays open until a key is
 /// pressed.
 std::vector<std::string> scriptCommand(const std::string& script, const std::string& terminal);

@@ -12,18 +12,30 @@
 #include "platform/QtText.h"
 #include "processing/BatchFile.h"
 
+#ifdef _WIN32
+#include <qt_windows.h>
+#endif
+
 namespace zg {
 
 namespace {
 
 constexpr std::size_t mostLines = 5;
 
-[[maybe_unused]] void startShell(const std::string& batchFile, WindowStyle style) {
-    QStringList words = {QStringLiteral("/c"), QStringLiteral("start"), QStringLiteral("\"\"")};
-    if (style == WindowStyle::Hidden) words.append(QStringLiteral("/b"));
-    words.append(fileName(batchFile));
-    if (!QProcess::startDetached(QStringLiteral("cmd"), words)) raise(ErrorNumber::InvalidProcedureCall);
+#ifdef _WIN32
+/// The shell's console is a window of its own, or none at all.
+void startShell(const std::string& batchFile, WindowStyle style) {
+    QProcess shell;
+    shell.setProgram(QStringLiteral("cmd.exe"));
+    // As they stand: the toolkit would put the quotes of the path in quotes of its own.
+    shell.setNativeArguments(fileName(shellArguments(batchFile)));
+    shell.setCreateProcessArgumentsModifier([style](QProcess::CreateProcessArguments* process) {
+        process->flags &= ~static_cast<unsigned long>(CREATE_NO_WINDOW);
+        process->flags |= style == WindowStyle::Hidden ? CREATE_NO_WINDOW : CREATE_NEW_CONSOLE;
+    });
+    if (!shell.startDetached()) raise(ErrorNumber::InvalidProcedureCall);
 }
+#endif
 
 /// The lines of a small file; one more than the program writes tells that it is another's.
 std::vector<std::string> firstLines(const std::string& batchFile) {

@@ -36,7 +36,4 @@ inline QLabel* labelFor(const char* text, QWidget* buddy) {
     return label;
 }
 
-/// The path that was typed into a box, as the file system has it.
-inline std::string pathIn(const QLineEdit& field) { return filePath(field.text()); }
-
 }  // namespace zg

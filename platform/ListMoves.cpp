@@ -1,6 +1,6 @@
 #include "platform/ListMoves.h"
 
-#include "platform/QtText.h"
+#include "platform/ReadText.h"
 #include "processing/ListMoves.h"
 
 namespace zg {
@@ -12,11 +12,11 @@ void applyTo(QListWidget& list, void (*rule)(std::vector<ListRow>&)) {
     std::vector<ListRow> rows;
     rows.reserve(static_cast<std::size_t>(list.count()));
     for (int i = 0; i < list.count(); ++i)
-        rows.push_back({list.item(i)->text().toStdString(), list.item(i)->isSelected()});
+        rows.push_back({readIn(*list.item(i)), list.item(i)->isSelected()});
     rule(rows);
     list.clear();
     for (const ListRow& row : rows) {
-        list.addItem(QString::fromStdString(row.text));
+        addRead(list, row.text);
         list.item(list.count() - 1)->setSelected(row.selected);
     }
 }

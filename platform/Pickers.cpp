@@ -3,7 +3,7 @@
 #include <QScrollBar>
 
 #include "base/Paths.h"
-#include "platform/QtText.h"
+#include "platform/ReadText.h"
 
 namespace zg {
 
@@ -22,7 +22,7 @@ void SelectFiles(Host& host, QListWidget& list, std::string& dir, const std::str
     pick.directory = dir;
     const std::vector<std::string> paths = host.pickFilesToOpen(pick);
     if (paths.empty()) return;
-    for (const std::string& path : paths) list.addItem(shown(path));
+    for (const std::string& path : paths) addRead(list, path);
     // A row is never cut off: the list scrolls sideways as far as its longest text and a scroll bar reach.
     list.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     list.setTextElideMode(Qt::ElideNone);

@@ -4,12 +4,11 @@
 #include <QGuiApplication>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QSaveFile>
 
 #include "base/RunTimeError.h"
 #include "platform/PolarGraphWidget.h"
 #include "platform/QtPicture.h"
-#include "platform/QtText.h"
+#include "platform/WholeFile.h"
 
 namespace zg {
 
@@ -40,10 +39,9 @@ void PolarGraphWidget::pictureToClipboard(const Picture& picture) {
 }
 
 void PolarGraphWidget::saveBitmap(const Picture& picture, const std::string& path) {
-    QSaveFile file(fileName(path));
-    if (file.open(QIODevice::WriteOnly) && imageOf(picture).save(&file, "BMP") && file.commit()) return;
-    const bool full = file.error() == QFileDevice::ResourceError || file.error() == QFileDevice::WriteError;
-    const auto number = full ? ErrorNumber::DiskFull : ErrorNumber::PathFileAccessError;
+    WholeFile file(path);
+    if (file.isOpen() && imageOf(picture).save(&file, "BMP") && file.commit()) return;
+    const auto number = file.isFull() ? ErrorNumber::DiskFull : ErrorNumber::PathFileAccessError;
     throw RunTimeError(static_cast<int>(number), std::string(errorDescription(number)) + ": " + path + " (" +
                                                      file.errorString().toStdString() + ")");
 }

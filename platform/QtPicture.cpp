@@ -1,5 +1,6 @@
 #include "platform/QtPicture.h"
 
+#include <QFile>
 #include <QImageReader>
 #include <array>
 #include <cstdint>
@@ -10,7 +11,6 @@
 #include "base/Lines.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
-#include "platform/QtText.h"
 
 namespace zg {
 
@@ -65,8 +65,13 @@ void needWhole(const std::string& path, std::FILE* file) {
 }  // namespace
 
 PicturePointer loadPicture(const std::string& path) {
-    needWhole(path, openForReading(path).get());  // a missing or locked file has an error of its own
-    QImageReader reader(fileName(path));
+    // A missing or locked file has an error of its own, and the toolkit takes no name that is not text.
+    const FileHandle handle = openForReading(path);
+    needWhole(path, handle.get());
+    std::rewind(handle.get());
+    QFile file;
+    if (!file.open(handle.get(), QIODevice::ReadOnly)) raise(ErrorNumber::PathFileAccessError);
+    QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
     const QImage image = reader.read();
     if (image.isNull()) throw RunTimeError(invalidPicture, "Invalid picture");

@@ -139,6 +139,23 @@ TEST_F(BatchRun, TheWholeRunPlotsTheOutputsThatWereMade) {
     EXPECT_EQ(statuses, (Texts{"Error processing Station 2", "Finished"}));
 }
 
+TEST_F(BatchRun, EveryByteOfANameReachesTheProcessorAsItIs) {
+    std::string base = "100%d\\n'";
+    for (int byte = 0x80; byte <= 0xFF; ++byte) base += static_cast<char>(byte);
+    out_ += " " + base;
+    std::filesystem::create_directory(out_);
+    directory_.write("list", base + "_tempoline.lst");
+    processor("printf '%s|' \"$@\" > words; echo listing > \"$(cat ../list)\"\n");
+    start(base);
+    ASSERT_TRUE(comes("finished.txt"));
+    EXPECT_EQ(readWholeFile(out_ + "/words"), base + "_tempoline.inp|");
+}
+
+TEST(BatchScript, TheShellOfWindowsGetsThePathInQuotesWithinQuotes) {
+    EXPECT_EQ(shellArguments("D:\\my data\\run_tempoline.bat"), "/c \"\"D:\\my data\\run_tempoline.bat\"\"");
+    EXPECT_EQ(shellArguments("C:\\R&D (x86)\\open_file.bat"), "/c \"\"C:\\R&D (x86)\\open_file.bat\"\"");
+}
+
 TEST(BatchScript, RunsInATerminalWhereThereIsOne) {
     EXPECT_EQ(scriptCommand("cd 'x'\n", ""), (Texts{"sh", "-c", "cd 'x'\n"}));
     EXPECT_EQ(scriptCommand("cd 'x'\n", "/bin/term"),

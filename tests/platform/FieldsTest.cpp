@@ -21,6 +21,7 @@
 #include "platform/ListMoves.h"
 #include "platform/Pickers.h"
 #include "platform/QtText.h"
+#include "platform/ReadText.h"
 #include "processing/KeyFilters.h"
 #include "processing/Zones.h"
 #include "tests/support/Raises.h"
@@ -305,6 +306,43 @@ TEST(TimeZoneBoxes, AMissingTableIsTheSystemsError) {
     applicationDirectory = directory.path();
     QComboBox box;
     EXPECT_RAISES(53, "File not found", FillTimeZones(box));
+}
+
+TEST(ReadTexts, ComeBackInTheBytesOfTheirFileUntilAnotherIsTyped) {
+    for (const std::string& bytes : {std::string("\xC9t\xE9"), std::string("\xC3\x89t\xC3\xA9")}) {
+        QLineEdit box;
+        showRead(box, bytes);
+        EXPECT_EQ(box.text(), QString::fromUtf8("\xC3\x89t\xC3\xA9"));
+        EXPECT_EQ(readOrTyped(box), bytes);
+        box.setText(QString::fromUtf8("\xC3\xA9"));
+        EXPECT_EQ(readOrTyped(box), "\xE9");
+        showPath(box, "/" + bytes);
+        EXPECT_EQ(pathIn(box), "/" + bytes);
+        box.setText(QString::fromUtf8("/\xC3\xA9"));
+        EXPECT_EQ(pathIn(box), "/\xC3\xA9") << "as the file system has it";
+    }
+    QComboBox combo;
+    combo.setEditable(true);
+    addRead(combo, "\xC9");
+    addRead(combo, "\xC3\x89");
+    combo.setCurrentIndex(1);
+    EXPECT_EQ(readOrTyped(combo), "\xC3\x89") << "of two that look the same the one that was picked";
+    combo.setEditText(QString::fromUtf8("\xC3\xA9"));
+    EXPECT_EQ(readOrTyped(combo), "\xE9") << "letter case counts";
+    combo.setEditText("x");
+    combo.setCurrentIndex(-1);
+    combo.setEditText(QString::fromUtf8("\xC3\x89"));
+    EXPECT_EQ(readOrTyped(combo), "\xC9") << "typed as the list has it";
+}
+
+TEST(ListMovesOnLists, KeepTheBytesOfTheRows) {
+    QListWidget list;
+    list.setSelectionMode(QAbstractItemView::ExtendedSelection);
+    for (const char* row : {"/a", "/\xC9", "/\xC3\x89"}) addRead(list, row);
+    list.item(2)->setSelected(true);
+    ListMoveUp(list);
+    EXPECT_EQ(readIn(*list.item(1)), "/\xC3\x89");
+    EXPECT_EQ(readIn(*list.item(2)), "/\xC9");
 }
 
 TEST(ListMovesOnLists, MoveTheSelectedRowsAndKeepThemSelected) {

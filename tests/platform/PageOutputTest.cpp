@@ -14,6 +14,7 @@
 #include "base/Paths.h"
 #include "graph/frq/ModPolarGraph.h"
 #include "platform/PolarGraphWidget.h"
+#include "platform/QtPicture.h"
 #include "tests/support/Pixels.h"
 #include "tests/support/Raises.h"
 #include "tests/support/TempDirectory.h"
@@ -92,6 +93,31 @@ TEST_F(PageOutput, AFileThatCannotGrowIsToldAndTheOldOneStays) {
     setrlimit(RLIMIT_FSIZE, &before);
     EXPECT_EQ(directory_.read("rose.bmp"), "old");
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(directory_.path()), {}), 1);
+}
+
+TEST_F(PageOutput, ABitmapMayHaveAnyNameAndIsReadBackByIt) {
+    const std::string path = directory_.file("\xC9t\xE9.bmp");
+    plot().EditCopyTo(path);
+    ASSERT_TRUE(std::filesystem::is_regular_file(path));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(directory_.path()), {}), 1);
+    const PicturePointer read = loadPicture(path);
+    EXPECT_EQ(read->width(), 600);
+    EXPECT_EQ(read->height(), 600);
+}
+
+TEST_F(PageOutput, AFileThatIsReplacedKeepsWhoMayReadItAndItsLink) {
+    const std::string path = directory_.write("rose.bmp", "old");
+    std::filesystem::permissions(path,
+                                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+    std::filesystem::create_symlink("rose.bmp", directory_.file("link.bmp"));
+    directory_.write("link.bmp.new1", "of another program");
+    directory_.write("rose.bmp.new1", "of another program");
+    plot().EditCopyTo(directory_.file("link.bmp"));
+    EXPECT_TRUE(std::filesystem::is_symlink(directory_.file("link.bmp")));
+    EXPECT_EQ(directory_.read("rose.bmp").substr(0, 2), "BM");
+    EXPECT_EQ(std::filesystem::status(path).permissions(),
+              std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+    EXPECT_EQ(directory_.read("rose.bmp.new1"), "of another program");
 }
 
 TEST_F(PageOutput, APrintIsCentredKeepsItsProportionsAndIsSharp) {
