@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "base/Numbers.h"
+#include "base/Text.h"
 
 namespace zg {
 
@@ -24,6 +25,12 @@ std::string withSeparator(std::string_view directory, char separator) {
     std::string out(directory);
     if (!endsInSeparator(directory, separator)) out += separator;
     return out;
+}
+
+bool isOutputDirectory(std::string_view typed) {
+    const std::string directory = trim(typed);
+    const bool onlySeparators = directory.find_first_not_of("/\\") == std::string::npos;
+    return !(typed.starts_with(' ') && onlySeparators) && IsDirectory(directory);
 }
 
 bool MakeDirectoryTree(std::string_view path, char separator) {

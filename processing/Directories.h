@@ -24,6 +24,10 @@ extern FileCounts fileCounts;
 /// The path with the separator at its end; a final separator or "\" that is there already stays the only one.
 std::string withSeparator(std::string_view directory, char separator = pathSeparator);
 
+/// Whether the text of a field for an output directory names one; blanks round it do not count. Blanks alone
+/// name none, also after the field was left and got its final separator: they must not mean the root.
+bool isOutputDirectory(std::string_view typed);
+
 /// Creates all missing levels of the path, one final separator aside. True when the path is a directory at
 /// the end, false when it or a level above it cannot be made.
 bool MakeDirectoryTree(std::string_view path, char separator = pathSeparator);

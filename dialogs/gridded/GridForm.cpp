@@ -15,6 +15,7 @@
 #include "platform/ListMoves.h"
 #include "platform/Pickers.h"
 #include "platform/QtText.h"
+#include "platform/ReadText.h"
 #include "platform/ReasonLabel.h"
 #include "processing/Directories.h"
 #include "processing/Stations.h"
@@ -35,6 +36,12 @@ void showMoment(DateTime moment, QDateEdit& date, QTimeEdit& time) {
     const TimeOfDay clock = timeOf(moment);
     date.setDate(QDate(day.year, day.month, day.day));
     time.setTime(QTime(clock.hour, clock.minute, clock.second));
+}
+
+/// Such a text has the encoding of the file system.
+bool namesFile(const QLineEdit& box) {
+    return box.objectName() == QLatin1String("txtOutputDirectory") ||
+           box.objectName() == QLatin1String("txtFRQOutputFilename");
 }
 
 bool isFilled(const QWidget& field) {
@@ -91,7 +98,7 @@ QWidget& GridForm::control(const char* name) const { return *controls_.at(name);
 void GridForm::fillLists() {
     FillTimeZones(as<QComboBox>("cboTimeZone"));
     for (std::size_t i = 0; i < stations.rows; ++i)
-        as<QListWidget>("lstStations").addItem(shown(stations.gsStationCol0[i]));
+        addRead(as<QListWidget>("lstStations"), stations.gsStationCol0[i]);
     for (const char* picker : {"DTPicker_BeginDate", "DTPicker_EndDate"})
         as<QDateEdit>(picker).setDate(QDate::currentDate());
     as<QTimeEdit>("DTPicker_TimeStep").setTime(QTime(1, 0));
@@ -156,8 +163,8 @@ void GridForm::left(QWidget& field) {
 
 void GridForm::leftOutputDirectory() {
     QLineEdit& box = as<QLineEdit>("txtOutputDirectory");
-    const std::string path = filePath(box.text());
-    if (!path.empty()) box.setText(fileName(withSeparator(path)));
+    const std::string path = pathIn(box);
+    if (!path.empty()) showPath(box, withSeparator(path));
 }
 
 void GridForm::browseFiles() {
@@ -168,16 +175,15 @@ void GridForm::browseFiles() {
 
 void GridForm::browseDirectory() {
     QLineEdit& box = as<QLineEdit>("txtOutputDirectory");
-    const std::string start = trim(filePath(box.text()));
-    box.setText(fileName(BrowseForFolder(host_, start, "Select a Working Directory:", -1)));
+    const std::string start = trim(pathIn(box));
+    showPath(box, BrowseForFolder(host_, start, "Select a Working Directory:", -1));
     left(box);
 }
 
 std::string GridForm::text(const char* name) const {
     QWidget& widget = control(name);
     if (const auto* box = qobject_cast<QLineEdit*>(&widget))
-        return box->objectName() == QLatin1String("txtOutputDirectory") ? filePath(box->text())
-                                                                        : typed(box->text());
+        return namesFile(*box) ? pathIn(*box) : typed(box->text());
     if (const auto* combo = qobject_cast<QComboBox*>(&widget)) return typed(combo->currentText());
     if (const auto* frame = qobject_cast<QGroupBox*>(&widget)) return typed(frame->title());
     return typed(as<QLabel>(name).text());
@@ -185,8 +191,10 @@ std::string GridForm::text(const char* name) const {
 
 void GridForm::setText(const char* name, const std::string& text) {
     QWidget& widget = control(name);
-    if (auto* box = qobject_cast<QLineEdit*>(&widget))
-        box->setText(box->objectName() == QLatin1String("txtOutputDirectory") ? fileName(text) : shown(text));
+    if (auto* box = qobject_cast<QLineEdit*>(&widget); box != nullptr && namesFile(*box))
+        showPath(*box, text);
+    else if (box != nullptr)
+        box->setText(shown(text));
     else if (auto* combo = qobject_cast<QComboBox*>(&widget))
         combo->setCurrentIndex(combo->findText(shown(text)));
     else if (auto* frame = qobject_cast<QGroupBox*>(&widget))
@@ -201,12 +209,8 @@ bool GridForm::checked(const char* option) const { return as<QRadioButton>(optio
 
 std::vector<std::string> GridForm::rows(const char* list) const {
     const QListWidget& widget = as<QListWidget>(list);
-    const bool files = widget.objectName() == QLatin1String(variation_.fileList);
     std::vector<std::string> texts;
-    for (int i = 0; i < widget.count(); ++i) {
-        const QString row = widget.item(i)->text();
-        texts.push_back(files ? filePath(row) : typed(row));
-    }
+    for (int i = 0; i < widget.count(); ++i) texts.push_back(readIn(*widget.item(i)));
     return texts;
 }
 

@@ -32,9 +32,10 @@ std::string profilingNumber(const std::string& method) {
 }  // namespace
 
 void GridWizard::cmdPROCESS_Click() {
-    const std::string directory = trim(view_.text("txtOutputDirectory"));
+    const std::string directory = view_.text("txtOutputDirectory");
     if (!check(!directory.empty(), "txtOutputDirectory", "Please select a Directory For Output.") ||
-        !check(IsDirectory(directory), "txtOutputDirectory", "Selected Directory For Output does not exist."))
+        !check(isOutputDirectory(directory), "txtOutputDirectory",
+               "Selected Directory For Output does not exist."))
         return;
     runProcessor(host_, starter_, RunForm::Locations, hooks());
 }
@@ -116,20 +117,19 @@ void GridWizard::readValues() {
 
 /// The selected rows become the locations. All are reckoned in the datum of the table's first row.
 void GridWizard::takeStations() {
-    const std::vector<std::string> names = view_.rows("lstStations");
     const std::vector<bool> selected = view_.selectedRows("lstStations");
     const std::string period =
         periodInName(values_.IBYR, values_.IBMO, values_.IBDY, values_.IEYR, values_.IEMO, values_.IEDY);
     const std::string height = trim(view_.text("txtExtractionHeight2"));
     NumberOfLocations = 0;
     const std::string ending = variation_.tag + period + "_" + height + "m";
-    for (std::size_t row = 0; row < names.size(); ++row) {
+    for (std::size_t row = 0; row < selected.size(); ++row) {
         if (!selected[row]) continue;
         const std::int32_t i = ++NumberOfLocations;
         slot(LocationX, i) = stations.gsStationCol8.at(row);
         slot(LocationY, i) = stations.gsStationCol7.at(row);
         slot(LocationID, i) = stations.gsStationCol0.at(row);
-        slot(LocationFRQName, i) = trim(names[row]).append(ending);
+        slot(LocationFRQName, i) = trim(stations.gsStationCol0.at(row)).append(ending);
     }
     values_.projection.PMAP = "LL";
     values_.projection.DATUM = stations.gsStationCol9.at(0);

@@ -26,14 +26,15 @@ std::vector<ProjectionChoice> makeChoices() {
     const char* const ttm = "Tangential Transverse Mercator (TTM):";
     const char* const ll = "Geodetic (Latitude/Longitude):";
     return {
-        {"LL", ll, ll, "", {}, {}, ""},
+        {"LL", ll, ll, "", {}, {}, "", false},
         {"UTM",
          utm,
          utm,
          "UTM1",
          {},
          {{"txtUTMZone1", &R::IUTMZN}, {"cboLSOHEM1", &R::UTMHEM}},
-         "Please provide information for all requested UTM information."},
+         "Please provide information for all requested UTM information.",
+         true},
         {"LCC",
          lcc,
          lcc,
@@ -42,14 +43,16 @@ std::vector<ProjectionChoice> makeChoices() {
           latitude("txtLCCRLAT11", "cboLCCRLAT11", &R::XLAT1),
           latitude("txtLCCRLAT21", "cboLCCRLAT21", &R::XLAT2)},
          {{"txtLCCFEast", &R::FEAST}, {"txtLCCFNorth", &R::FNORTH}},
-         "Please provide information for all requested LCC information."},
+         "Please provide information for all requested LCC information.",
+         false},
         {"TTM",
          ttm,
          ttm,
          "TTM1",
          {latitude("txtTTMRLAT01", "cboTTMRLAT01", &R::RLAT0), longitude("txtTTMRLON01", "cboTTMRLON01")},
          {{"txtTTMFEast", &R::FEAST}, {"txtTTMFNorth", &R::FNORTH}},
-         "Please provide information for all requested TTM information."},
+         "Please provide information for all requested TTM information.",
+         false},
         {"PS",
          "Polar Stereographic (PS):",
          "Polar Stereographic:",
@@ -57,21 +60,24 @@ std::vector<ProjectionChoice> makeChoices() {
          {latitude("txtPSRLAT01", "cboPSRLAT01", &R::RLAT0), longitude("txtPSRLON01", "cboPSRLON01"),
           latitude("txtPSRLAT11", "cboPSRLAT11", &R::XLAT1)},
          {},
-         "Please provide information for all requested PS information."},
+         "Please provide information for all requested PS information.",
+         false},
         {"EM",
          "Equatorial Mercator (EM):",
          "Equatorial Mercator:",
          "EM1",
          {latitude("txtEMRLAT01", "cboEMRLAT01", &R::RLAT0), longitude("txtEMRLON01", "cboEMRLON01")},
          {},
-         "Please provide information for all requested EM information."},
+         "Please provide information for all requested EM information.",
+         false},
         {"LAZA",
          "Lambert Azimuthal Equal Area (LAZA):",
          "Lambert Azimuthal Equal Area:",
          "LAZA1",
          {latitude("txtLZRLAT01", "cboLZRLAT01", &R::RLAT0), longitude("txtLZRLON01", "cboLZRLON01")},
          {{"txtLAZAFEast", &R::FEAST}, {"txtLAZAFNorth", &R::FNORTH}},
-         "Please provide information for all requested LZ information."},
+         "Please provide information for all requested LZ information.",
+         false},
     };
 }
 
@@ -98,10 +104,13 @@ const ProjectionChoice* choiceOfPmap(const std::string& pmap) {
 }
 
 std::string projectionFault(const ProjectionChoice& choice, const FieldText& text) {
+    const auto isEmpty = [&](const char* box) {
+        return choice.isTrimmed ? trim(text(box)).empty() : text(box).empty();
+    };
     for (const AngleField& angle : choice.angles)
-        if (trim(text(angle.box)).empty()) return choice.emptyMessage;
+        if (isEmpty(angle.box)) return choice.emptyMessage;
     for (const PlainField& plain : choice.plains)
-        if (trim(text(plain.box)).empty()) return choice.emptyMessage;
+        if (isEmpty(plain.box)) return choice.emptyMessage;
     for (const AngleField& angle : choice.angles) {
         const double value = toDouble(text(angle.box));
         const double limit = angle.isLatitude ? pole : turn;

@@ -48,6 +48,7 @@ struct ProjectionChoice {
     std::vector<AngleField> angles;
     std::vector<PlainField> plains;
     const char* emptyMessage;
+    bool isTrimmed;  ///< a field of blanks alone counts as empty
 };
 
 /// In the order of the list: LL, UTM, LCC, TTM, PS, EM, LAZA.

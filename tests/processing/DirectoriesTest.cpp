@@ -21,6 +21,15 @@ TEST(WithSeparatorTest, AddsOneWhereNoneIs) {
     EXPECT_EQ(withSeparator("", '\\'), "\\");
 }
 
+TEST(IsOutputDirectoryTest, BlanksRoundItDoNotCountAndBlanksAloneAreNone) {
+    const TempDirectory temp;
+    EXPECT_TRUE(isOutputDirectory(temp.path()));
+    EXPECT_TRUE(isOutputDirectory("  " + temp.path() + "/ "));
+    EXPECT_TRUE(isOutputDirectory("/"));
+    for (const char* none : {"", " ", "  /", " \\", "/no/such/directory/"})
+        EXPECT_FALSE(isOutputDirectory(none)) << none;
+}
+
 TEST(MakeDirectoryTreeTest, MakesAllMissingLevels) {
     const TempDirectory temp;
     EXPECT_TRUE(MakeDirectoryTree(temp.file("a/b/c"), '/'));

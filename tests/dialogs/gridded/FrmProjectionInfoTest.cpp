@@ -247,6 +247,17 @@ TEST_F(FrmProjectionInfo, ChecksAreToldAndTheMapIsTakenAllTheSame) {
     EXPECT_EQ(caller_.calls, 0);
 }
 
+TEST_F(FrmProjectionInfo, ABlankFalseEastingIsTakenAsNone) {
+    projection = {"LCC", "1", "2", "0", "", "40N", "97W", "33N", "45N", "WGS-84"};
+    open();
+    box("txtLCCFEast").setText(" ");
+    click("cmdOK");
+    EXPECT_TRUE(host_.boxes.empty());
+    EXPECT_EQ(projection.FEAST, "");
+    EXPECT_EQ(projection.FNORTH, "2");
+    EXPECT_EQ(caller_.calls, 1);
+}
+
 TEST_F(FrmProjectionInfo, LatitudesOfAllFramesAreWrapped) {
     projection = {"UTM", "", "", "18", "N", "", "", "", "", "NAR-C"};
     open();

@@ -633,8 +633,13 @@ TEST_F(VentosWizard, TheOutputDirectoryMustBeThereAtTheRun) {
     wizard_->cmdNext2_Click();
     fillLocation("1", "2", "a");
     wizard_->cmdNext3_Click();
-    view_.texts["txtOutputDirectory"] = " ";
+    view_.texts["txtOutputDirectory"] = "";
     EXPECT_EQ(boxOf([this] { wizard_->cmdPROCESS_Click(); }), "Please select a Directory For Output.");
+    for (const char* blank : {" ", " /"}) {
+        view_.texts["txtOutputDirectory"] = blank;
+        EXPECT_EQ(boxOf([this] { wizard_->cmdPROCESS_Click(); }),
+                  "Selected Directory For Output does not exist.");
+    }
     view_.texts["txtOutputDirectory"] = directory_.file("gone/");
     EXPECT_EQ(boxOf([this] { wizard_->cmdPROCESS_Click(); }),
               "Selected Directory For Output does not exist.");

@@ -55,13 +55,28 @@ TEST(Projection, EveryEmptyFieldIsTold) {
         for (const auto& [box, text] : good) {
             if (box.starts_with("cbo") && box != "cboLSOHEM1") continue;
             Texts texts = good;
-            texts[box] = "  ";
+            texts[box] = pmap == "UTM" ? "  " : "";
             EXPECT_EQ(faultOf(pmap.c_str(), texts),
                       "Please provide information for all requested " + word + " information.")
                 << box;
         }
     }
     EXPECT_EQ(faultOf("LL", {}), "");
+}
+
+TEST(Projection, BlanksAloneAreEmptyForUtmOnly) {
+    Texts texts = filled("UTM");
+    texts["txtUTMZone1"] = " ";
+    EXPECT_EQ(faultOf("UTM", texts), "Please provide information for all requested UTM information.");
+    for (const auto& [pmap, box] : std::map<const char*, const char*>{
+             {"LCC", "txtLCCFEast"}, {"TTM", "txtTTMFNorth"}, {"LAZA", "txtLAZAFEast"}}) {
+        texts = filled(pmap);
+        texts[box] = " ";
+        EXPECT_EQ(faultOf(pmap, texts), "") << box;
+    }
+    texts = filled("PS");
+    texts["txtPSRLAT11"] = " ";
+    EXPECT_RAISES(13, "Type mismatch", faultOf("PS", texts));
 }
 
 TEST(Projection, RangesAreTestedInTheirOrderWithTheEndsIncluded) {

@@ -1,0 +1,155 @@
+#pragma once
+
+// Both wizards by their controls.
+
+#include "dialogs/gridded/GridForm.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTest>
+#include <QTimer>
+#include <filesystem>
+
+#include "base/Lines.h"
+#include "base/Paths.h"
+#include "dialogs/gridded/DatumTable.h"
+#include "dialogs/gridded/FrmProjectionInfo.h"
+#include "dialogs/gridded/GridFileHeader.h"
+#include "graph/frq/ModPolarGraph.h"
+#include "platform/FieldMarks.h"
+#include "processing/Stations.h"
+#include "processing/Zones.h"
+#include "shell/FrmMain.h"
+#include "shell/settings/Settings.h"
+#include "shell/settings/StartSequence.h"
+#include "tests/dialogs/gridded/GridFiles.h"
+#include "tests/support/TempDirectory.h"
+#include "tests/support/TestHost.h"
+
+namespace zg {
+
+/// A processor that copies a rose to every output that its control file names.
+class CopyingProcessor : public ProcessStarter {
+ public:
+    void start(const std::string& program, WindowStyle) override {
+        directory_ = program.substr(0, program.rfind('/') + 1);
+        if (!isSlow) finish();
+    }
+    void finish() {
+        for (const auto& entry : std::filesystem::directory_iterator(directory_))
+            if (entry.path().extension() == ".inp") readOutputs(entry.path().string(), directory_);
+        LineWriter(directory_ + "finished.txt").writeLine("x");
+    }
+
+    bool isSlow = false;  ///< it ends only when it is told to
+
+ private:
+    static void readOutputs(const std::string& path, const std::string& directory) {
+        const std::string key = "! TSFOUT = ";
+        for (LineReader lines(path); !lines.atEnd();) {
+            const std::string line(lines.readLine());
+            const std::size_t at = line.find(key);
+            if (at == std::string::npos) continue;
+            const std::string name = line.substr(at + key.size(), line.find(" !", at + 2) - at - key.size());
+            std::filesystem::copy(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq", directory + name + ".frq",
+                                  std::filesystem::copy_options::overwrite_existing);
+        }
+    }
+
+    std::string directory_;
+};
+
+class GridFormTest : public ::testing::Test {
+ protected:
+    void SetUp() override {
+        modPolarGraph = ModPolarGraph();
+        settings = Settings();
+        timeZones = TimeZoneTable();
+        stations = StationTable();
+        projection = {};
+        modInfoViewDLL = {readGridFileHeader, {}, {}, {}, {}};
+        modDatums = {readDatumRecord, {}};
+        applicationDirectory = directory_.path();
+        for (const char* name : {"TimeZones.txt", "datums.csv"})
+            std::filesystem::copy(std::string(ZG_SOURCE_DIR "/data/") + name, directory_.file(name));
+        directory_.write("Station_Data.csv",
+                         "STATION_DATA.CSV,V1.0\nheads\nBoston,1,0,0,a,b,c,42.36,-71.01,NAR-B\n"
+                         "Albany,2,0,0,a,b,c,42.75,-73.8,WGS-84\n");
+        startSettings();
+        LoadStationData();
+        std::filesystem::create_directory(directory_.file("out"));
+        window_ = std::make_unique<frmMain>(host_);
+    }
+    void TearDown() override {
+        form_.reset();
+        window_.reset();
+        projection = {};
+    }
+    void open(const GridVariation& variation) {
+        form_ = std::make_unique<GridForm>(
+            variation, host_, starter_,
+            ProcessingWindow{[this](const std::string& path) {
+                                 window_->PlotFrqFile(path);
+                                 if (onPlot_) onPlot_();
+                             },
+                             [] { return false; }, [this] { ++seasons_; }, [this] { ++classes_; }},
+            nullptr);
+        form_->show();
+        form_->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(form_.get()));
+    }
+    template <typename Control = QWidget>
+    Control* child(const char* name) {
+        return form_->findChild<Control*>(QString::fromLatin1(name));
+    }
+    QLineEdit& box(const char* name) { return *child<QLineEdit>(name); }
+    QComboBox& combo(const char* name) { return *child<QComboBox>(name); }
+    QListWidget& list(const char* name) { return *child<QListWidget>(name); }
+    std::string caption() { return child<QGroupBox>("Frame_Step3")->title().toStdString(); }
+    std::string status() { return child<QLabel>("lblStatus")->text().toStdString(); }
+    void click(const char* name) {
+        ASSERT_TRUE(child(name)->isEnabled()) << name;
+        QTest::mouseClick(child(name), Qt::LeftButton);
+    }
+    void type(const char* name, const char* text) {
+        box(name).setFocus();
+        box(name).clear();
+        QTest::keyClicks(&box(name), QString::fromLatin1(text));
+    }
+    void browse(const std::vector<std::string>& paths) {
+        host_.filesAnswers.push_back(paths);
+        click("cmdBrowseDataFiles");
+    }
+    void pickMethods() {
+        combo("cboSpatialInterpolationMethod").setCurrentIndex(0);
+        if (auto* profiling = child<QComboBox>("cboVertProfilingMethod")) profiling->setCurrentIndex(2);
+        box("txtOutputDirectory").setText(QString::fromStdString(directory_.file("out/")));
+    }
+    /// Clicks NEXT of step 2 and answers the projection dialog, once it is open, with its OK or Cancel.
+    void nextThroughProjection(const char* button) {
+        bool seen = false;
+        QTimer::singleShot(0, [&] {
+            auto* dialog = qobject_cast<frmProjectionInfo*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            seen = true;
+            if (dialog->findChild<QComboBox*>("cboCode")->currentText().isEmpty())
+                dialog->findChild<QComboBox*>("cboCode")->setEditText("WGS-84");
+            QTest::mouseClick(dialog->findChild<QWidget*>(QString::fromLatin1(button)), Qt::LeftButton);
+        });
+        click("cmdNext2");
+        EXPECT_TRUE(seen);
+    }
+    int roses() { return modPolarGraph.FrqLoaded ? modPolarGraph.FrqRoseCount : 0; }
+
+    TempDirectory directory_;
+    TestHost host_;
+    CopyingProcessor starter_;
+    std::unique_ptr<frmMain> window_;
+    std::unique_ptr<GridForm> form_;
+    std::function<void()> onPlot_;
+    int seasons_ = 0;
+    int classes_ = 0;
+};
+
+}  // namespace zg
