@@ -1,7 +1,7 @@
 #include "dialogs/point/FrmOpenAERMETFile.h"
 
 #include "platform/KeyFilter.h"
-#include "platform/QtText.h"
+#include "platform/ReadText.h"
 #include "processing/KeyFilters.h"
 
 namespace zg {
@@ -36,7 +36,7 @@ InputType frmOpenAERMETFile::inputType() const {
     return isSurface(kind_) ? InputType::AermSfc : InputType::AermPfl;
 }
 
-std::string frmOpenAERMETFile::stationText() const { return typed(txtStationID->text()); }
+std::string frmOpenAERMETFile::stationText() const { return readOrTyped(*txtStationID); }
 
 /// Without an identifier it is "0", and nothing is looked up.
 std::string frmOpenAERMETFile::stationToLookUp() {
@@ -59,7 +59,7 @@ void frmOpenAERMETFile::ReadAERMETFile(const std::string& path) {
     readLargeFile(
         [&](const std::function<void()>& progress) { period = readAermetPeriod(path, kind_, progress); });
     showPeriod(period.begin, period.end);
-    if (isSurface(kind_)) txtStationID->setText(shown(period.station));
+    if (isSurface(kind_)) showRead(*txtStationID, period.station);
 }
 
 }  // namespace zg

@@ -1,10 +1,13 @@
 #include "dialogs/point/FrmOpenAMMNETDataFile.h"
 
+#include <utility>
+
 #include "base/Text.h"
 #include "dialogs/point/MonitorHeader.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
 #include "platform/QtText.h"
+#include "platform/ReadText.h"
 #include "processing/Stations.h"
 
 namespace zg {
@@ -25,18 +28,29 @@ frmOpenAMMNETDataFile::frmOpenAMMNETDataFile(Host& host, ProcessStarter& starter
     connect(cboStationID, &QComboBox::activated, this, guarded(host_, [this] { cboStationID_Click(); }));
 }
 
-std::string frmOpenAMMNETDataFile::stationText() const { return typed(cboStationID->currentText()); }
+std::string frmOpenAMMNETDataFile::stationText() const { return readOrTyped(*cboStationID); }
 
 void frmOpenAMMNETDataFile::ReadMonitorHeader(const std::string& path) {
     MonitorHeader header;
-    readLargeFile([&](const std::function<void()>& progress) { header = readMonitorHeader(path, progress); });
+    bool isFirst = true;
+    const auto add = [&](const std::string& station) {
+        if (std::exchange(isFirst, false)) cboStationID->clear();
+        addRead(*cboStationID, station);
+    };
+    try {
+        readLargeFile(
+            [&](const std::function<void()>& progress) { header = readMonitorHeader(path, progress, add); });
+    } catch (...) {
+        // What the box of the file now names must not run with the station and the period of another.
+        if (isFirst) cboStationID->clear();
+        showToday();
+        throw;
+    }
     if (!header.isMonitor) {
         refuse(*fileBox_, "The selected air quality data file is not in the expected format.");
         return;
     }
     ClearInvalid(*fileBox_);
-    cboStationID->clear();
-    for (const std::string& station : header.stations) cboStationID->addItem(shown(station));
     cboStationID->setCurrentIndex(0);
     showPeriod(header.begin, header.end);
     DTPicker_TimeStep->setTime(QTime(0, 0).addSecs(60 * header.averagingMinutes));

@@ -10,6 +10,7 @@
 #include "platform/FieldMarks.h"
 #include "platform/KeyFilter.h"
 #include "platform/QtText.h"
+#include "platform/ReadText.h"
 #include "processing/RunNames.h"
 
 namespace zg {
@@ -94,7 +95,7 @@ void frmOpenSURFDATFile::selectAll(bool selected) {
 
 void frmOpenSURFDATFile::cmdBrowseFile_Click() {
     if (!browseInput(*txtSURFDATFile, "SURF.DAT Files (*.dat) | *.dat; |All Files (*.*) | *.*")) return;
-    ReadSURFDATHeader(filePath(txtSURFDATFile->text()));
+    ReadSURFDATHeader(pathIn(*txtSURFDATFile));
     selectAll(true);
 }
 
@@ -103,7 +104,7 @@ void frmOpenSURFDATFile::showStations(const SurfHeader& header) {
     if (header.outcome != SurfOutcome::NotSurf) ClearInvalid(*txtSURFDATFile);
     if (!header.stationsReached) return;
     lstSURFDATStationIDs->clear();
-    for (const std::string& station : header.stations) lstSURFDATStationIDs->addItem(shown(station));
+    for (const std::string& station : header.stations) addRead(*lstSURFDATStationIDs, station);
 }
 
 void frmOpenSURFDATFile::ReadSURFDATHeader(const std::string& path) {
@@ -129,7 +130,7 @@ void frmOpenSURFDATFile::ReadSURFDATHeader(const std::string& path) {
 }
 
 bool frmOpenSURFDATFile::checkFields() {
-    const std::string path = filePath(txtSURFDATFile->text());
+    const std::string path = pathIn(*txtSURFDATFile);
     return check(!path.empty(), *txtSURFDATFile, "Please select a SURF.DAT file.") &&
            check(fileExists(path), *txtSURFDATFile, "The selected SURF.DAT file does not exist.") &&
            checkPeriod() && checkTimeZone() && checkTimeStep() &&
@@ -141,7 +142,7 @@ bool frmOpenSURFDATFile::checkFields() {
 }
 
 void frmOpenSURFDATFile::readValues() {
-    const std::string path = filePath(txtSURFDATFile->text());
+    const std::string path = pathIn(*txtSURFDATFile);
     const std::string height = typed(txtAnemometerHeight->text());
     const std::string title = trim(typed(txtTitleLine->text()));
     const std::string base = fileBaseOf(path);
@@ -153,7 +154,7 @@ void frmOpenSURFDATFile::readValues() {
     outputs_.clear();
     for (int row = 0; row < lstSURFDATStationIDs->count(); ++row) {
         const QListWidgetItem& item = *lstSURFDATStationIDs->item(row);
-        rows_.push_back(typed(item.text()));
+        rows_.push_back(readIn(item));
         OutputNames_.emplace_back();
         if (!item.isSelected()) continue;
         const std::string station = stationNameOf(rowText(row));

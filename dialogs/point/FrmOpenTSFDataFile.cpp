@@ -2,7 +2,7 @@
 
 #include "dialogs/point/TsfHeader.h"
 #include "platform/FieldMarks.h"
-#include "platform/QtText.h"
+#include "platform/ReadText.h"
 #include "processing/Zones.h"
 
 namespace zg {
@@ -25,7 +25,7 @@ frmOpenTSFDataFile::frmOpenTSFDataFile(Host& host, ProcessStarter& starter, Proc
           *txtStationID);
 }
 
-std::string frmOpenTSFDataFile::stationText() const { return typed(txtStationID->text()); }
+std::string frmOpenTSFDataFile::stationText() const { return readOrTyped(*txtStationID); }
 
 void frmOpenTSFDataFile::ReadTSFHeader(const std::string& path) {
     const TsfHeader header = readTsfHeader(path);
@@ -43,7 +43,7 @@ void frmOpenTSFDataFile::ReadTSFHeader(const std::string& path) {
     }
     ClearInvalid(*fileBox_);
     stationInFile_ = header.station;
-    txtStationID->setText(shown(header.station));
+    showRead(*txtStationID, header.station);
     showPeriod(header.begin, header.end);
     // A picker holds a time of day: whole days of the step are gone.
     DTPicker_TimeStep->setTime(QTime(0, 0).addSecs(header.stepSeconds % secondsADay));

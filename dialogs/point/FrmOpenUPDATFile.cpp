@@ -12,6 +12,7 @@
 #include "platform/FieldMarks.h"
 #include "platform/KeyFilter.h"
 #include "platform/QtText.h"
+#include "platform/ReadText.h"
 #include "processing/Directories.h"
 #include "processing/KeyFilters.h"
 #include "processing/RunNames.h"
@@ -79,7 +80,7 @@ QGroupBox* frmOpenUPDATFile::makeInput() {
     grid->setColumnStretch(1, 1);
     connect(cmdBrowseFile, &QPushButton::clicked, this, guarded(host_, [this] {
                 if (browseInput(*txtUPDATFile, "UP.DAT Data Files (*.dat) | *.dat|All Files (*.*) | *.*; |"))
-                    ReadUPDATHeader(filePath(txtUPDATFile->text()));
+                    ReadUPDATHeader(pathIn(*txtUPDATFile));
             }));
     return frame;
 }
@@ -125,7 +126,7 @@ void frmOpenUPDATFile::ReadUPDATHeader(const std::string& path) {
         cboTimeZone->setCurrentIndex(before);
     else
         cboTimeZone_Click();
-    txtStationID->setText(shown(header.station));
+    showRead(*txtStationID, header.station);
 }
 
 /// Another zone moves the period on show, which never begins before the file does.
@@ -146,7 +147,7 @@ void frmOpenUPDATFile::cboTimeZone_Click() {
 }
 
 bool frmOpenUPDATFile::checkFields() {
-    const std::string path = filePath(txtUPDATFile->text());
+    const std::string path = pathIn(*txtUPDATFile);
     return checkPeriod() && check(!path.empty(), *txtUPDATFile, "Please select an UP.DAT file.") &&
            check(fileExists(path), *txtUPDATFile, "The selected UP.DAT file does not exist.") &&
            checkTimeZone() &&
@@ -154,13 +155,13 @@ bool frmOpenUPDATFile::checkFields() {
                  "Please enter one or more extraction heights in meters separated by commas.") &&
            check(!txtOutputDirectory->text().isEmpty(), *txtOutputDirectory,
                  "Please select a Directory For Output.") &&
-           check(IsDirectory(outputDirectory()), *txtOutputDirectory,
+           check(isOutputDirectory(pathIn(*txtOutputDirectory)), *txtOutputDirectory,
                  "Selected Directory For Output does not exist.");
 }
 
 void frmOpenUPDATFile::readValues() {
-    const std::string path = filePath(txtUPDATFile->text());
-    const std::string station = typed(txtStationID->text());
+    const std::string path = pathIn(*txtUPDATFile);
+    const std::string station = readOrTyped(*txtStationID);
     const std::string name = trim(station).empty() ? std::string() : stationNameOf(station);
     runName_ = (name.empty() ? fileBaseOf(path) : name) + "_UP_" + periodText();
     values_ = sharedValues(InputType::Up);
@@ -192,7 +193,7 @@ void frmOpenUPDATFile::cmdView_Click() {
     hooks.writeControlFile = [this] { WriteControlFile(outputDirectory(), values_); };
     const auto showExit = hooks.showExit;
     hooks.showExit = [this, showExit] {
-        txtFRQOutputFilename->setText(fileName(runName_));
+        txtFRQOutputFilename->setText(shown(runName_));
         showExit();
     };
     runProcessor(host_, starter_, RunForm::Heights, hooks);

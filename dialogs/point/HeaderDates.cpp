@@ -17,14 +17,17 @@ void skipComments(LineReader& lines) {
     lines.readLine();
 }
 
-DateTime momentOf(Host& host, JulianStamp stamp) {
+DateTime dayOf(Host& host, JulianStamp& stamp) {
     const MonthAndDay day = VBGRDAY(host, stamp.year, stamp.julianDay);
-    DateTime date =
+    const DateTime date =
         DateFromParts(std::to_string(stamp.year), std::to_string(day.month()), std::to_string(day.day()));
-    if (stamp.hour == 24) {
-        stamp.hour = 0;
-        date = addDays(date, 1);
-    }
+    if (stamp.hour != 24) return date;
+    stamp.hour = 0;
+    return addDays(date, 1);
+}
+
+DateTime momentOf(Host& host, JulianStamp stamp) {
+    const DateTime date = dayOf(host, stamp);
     return AddTimeToDate(date, timeTextOf(std::to_string(stamp.hour), stamp.seconds));
 }
 

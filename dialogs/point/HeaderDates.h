@@ -20,7 +20,11 @@ struct JulianStamp {
     std::int16_t seconds = 0;  ///< within the hour
 };
 
-/// A day out of its year shows its message; raises 13 for what is no date or time.
+/// The stamp's day; hour 24 becomes hour 0 of the next one. A day out of its year shows its message; raises
+/// 13 for what is no date.
+DateTime dayOf(Host& host, JulianStamp& stamp);
+
+/// Day and time of the stamp, in the same way; raises 13 for what is no date or time.
 DateTime momentOf(Host& host, JulianStamp stamp);
 
 /// "h:m:s" of an hour's text and the seconds within the hour.

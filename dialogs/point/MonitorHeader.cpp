@@ -48,8 +48,9 @@ std::string fieldOf(const std::string& record, std::int64_t index) {
 
 class MonitorReader {
  public:
-    MonitorReader(LineReader& lines, const std::function<void()>& onProgress)
-        : lines_(lines), onProgress_(onProgress) {}
+    MonitorReader(LineReader& lines, const std::function<void()>& onProgress,
+                  const std::function<void(const std::string&)>& onStation)
+        : lines_(lines), onProgress_(onProgress), onStation_(onStation) {}
 
     MonitorHeader read() {
         const std::string names = removeQuotes(lines_.readLine());
@@ -63,7 +64,7 @@ class MonitorReader {
         header_.isMonitor = true;
         std::string record = firstRecord();
         header_.averagingMinutes = toInt16(fieldOf(record, averageColumn));
-        header_.stations.push_back(fieldOf(record, codeColumn));
+        addStation(fieldOf(record, codeColumn));
         const Stamp first = stampOf(fieldOf(record, dateColumn));
         passOver(record);
         const Stamp last = stampOf(fieldOf(removeQuotes(record), dateColumn));
@@ -85,13 +86,13 @@ class MonitorReader {
         std::size_t bytes = 0;
         std::string current = header_.stations.back();
         while (!lines_.atEnd()) {
-            const std::string_view line = lines_.readLine();
+            const std::string_view line = trimmed(lines_.readLine());
             bytes += line.size();
             if (onProgress_ && bytes >= bytesBetweenCalls) {
                 onProgress_();
                 bytes = 0;
             }
-            if (trimmed(line).empty()) continue;
+            if (line.empty()) continue;
             const std::string_view raw = rawField(line, recordStationField);
             if (raw != current) takeTurn(raw, current);
             record.assign(line);
@@ -103,19 +104,26 @@ class MonitorReader {
         std::erase(station, '"');
         if (station == current) return;
         current = station;
+        addStation(station);
+    }
+
+    void addStation(const std::string& station) {
         header_.stations.push_back(station);
+        if (onStation_) onStation_(station);
     }
 
     LineReader& lines_;
     const std::function<void()>& onProgress_;
+    const std::function<void(const std::string&)>& onStation_;
     MonitorHeader header_;
 };
 
 }  // namespace
 
-MonitorHeader readMonitorHeader(const std::string& path, const std::function<void()>& onProgress) {
+MonitorHeader readMonitorHeader(const std::string& path, const std::function<void()>& onProgress,
+                                const std::function<void(const std::string&)>& onStation) {
     LineReader lines(path);
-    return withLineNumbers(lines, [&] { return MonitorReader(lines, onProgress).read(); });
+    return withLineNumbers(lines, [&] { return MonitorReader(lines, onProgress, onStation).read(); });
 }
 
 }  // namespace zg

@@ -18,8 +18,10 @@ struct MonitorHeader {
     DateTime end;
 };
 
-/// Reads the whole file; onProgress is called now and then. Raises 13 for what is no number, date or time, 9
-/// for a field that is missing, 62 without a record, each with the number of its line.
-MonitorHeader readMonitorHeader(const std::string& path, const std::function<void()>& onProgress = {});
+/// Reads the whole file; onProgress is called now and then, onStation with each station as it takes its turn,
+/// also where a fault further on ends the reading. Raises 13 for what is no number, date or time, 9 for a
+/// field that is missing, 62 without a record, each with the number of its line.
+MonitorHeader readMonitorHeader(const std::string& path, const std::function<void()>& onProgress = {},
+                                const std::function<void(const std::string&)>& onStation = {});
 
 }  // namespace zg

@@ -14,6 +14,7 @@
 #include "platform/KeyFilter.h"
 #include "platform/Pickers.h"
 #include "platform/QtText.h"
+#include "platform/ReadText.h"
 #include "processing/Directories.h"
 #include "processing/RunNames.h"
 #include "processing/Zones.h"
@@ -144,11 +145,15 @@ QLayout* PointDialog::makeButtons() {
 
 void PointDialog::Form_Load() {
     FillTimeZones(*cboTimeZone);
-    DTPicker_BeginDate->setDate(QDate::currentDate());
-    DTPicker_EndDate->setDate(QDate::currentDate());
+    showToday();
     ReadCfgFile(settings.CfgFilePath);
     cboTimeZone->setCurrentIndex(cboTimeZone->findText(shown(settings.DefaultTimeZone)));
     DTPicker_TimeStep->setTime(QTime(1, 0));
+}
+
+void PointDialog::showToday() {
+    for (QDateEdit* date : {DTPicker_BeginDate, DTPicker_EndDate}) date->setDate(QDate::currentDate());
+    for (QTimeEdit* time : {DTPicker_BeginTime, DTPicker_EndTime}) time->setTime(QTime(0, 0));
 }
 
 bool PointDialog::refuse(QWidget& field, const char* text) {
@@ -184,7 +189,7 @@ bool PointDialog::checkTimeStep() {
 bool PointDialog::checkOutputDirectory() {
     return check(!txtOutputDirectory->text().isEmpty(), *txtOutputDirectory,
                  "Please select an Output Directory.") &&
-           check(IsDirectory(outputDirectory()), *txtOutputDirectory,
+           check(isOutputDirectory(pathIn(*txtOutputDirectory)), *txtOutputDirectory,
                  "Selected Output Directory does not exist.");
 }
 
@@ -206,14 +211,14 @@ void PointDialog::clearStatus() {
 }
 
 void PointDialog::leftOutputDirectory() {
-    const std::string path = filePath(txtOutputDirectory->text());
-    if (!path.empty()) txtOutputDirectory->setText(fileName(withSeparator(path)));
+    const std::string path = pathIn(*txtOutputDirectory);
+    if (!path.empty()) showPath(*txtOutputDirectory, withSeparator(path));
     clearMark(*txtOutputDirectory, !path.empty());
 }
 
 void PointDialog::browseOutputDirectory() {
-    const std::string start = trim(filePath(txtOutputDirectory->text()));
-    txtOutputDirectory->setText(fileName(BrowseForFolder(host_, start, folderPrompt_, -1)));
+    const std::string start = trim(pathIn(*txtOutputDirectory));
+    showPath(*txtOutputDirectory, BrowseForFolder(host_, start, folderPrompt_, -1));
     leftOutputDirectory();
 }
 
@@ -230,7 +235,7 @@ void PointDialog::chooseTimeZone(const std::string& key) {
         if (timeZones.gsTimeZoneKeys[i] == wanted) cboTimeZone->setCurrentIndex(static_cast<int>(i));
 }
 
-std::string PointDialog::outputDirectory() const { return trim(filePath(txtOutputDirectory->text())); }
+std::string PointDialog::outputDirectory() const { return trim(pathIn(*txtOutputDirectory)); }
 
 ControlFile PointDialog::sharedValues(InputType type) const {
     ControlFile v;
@@ -267,11 +272,11 @@ std::string PointDialog::periodText() const {
 bool PointDialog::browseInput(QLineEdit& box, const char* filter) {
     const std::string path = ShowFileOpen(host_, filter, 1, remembered_);
     if (path.empty()) return false;
-    box.setText(fileName(path));
+    showPath(box, path);
     remembered_ = DirOf(path);
     // Only the first character is looked at: a path to another machine alone gets no separator.
     if (remembered_.substr(0, 1) != "\\") remembered_ += pathSeparator;
-    txtOutputDirectory->setText(fileName(remembered_));
+    showPath(*txtOutputDirectory, remembered_);
     return true;
 }
 

@@ -40,6 +40,9 @@ class PointDialog : public QDialog {
     /// Today, the settings, the base time zone, one hour.
     void Form_Load();
 
+    /// The period before a file was read: today, from its start to its start.
+    void showToday();
+
     /// Shows an "Error" box and marks the field; false for the check that failed.
     bool refuse(QWidget& field, const char* text);
     /// Clears the field's mark where the check passed.

@@ -10,6 +10,7 @@
 #include "platform/FieldMarks.h"
 #include "platform/KeyFilter.h"
 #include "platform/QtText.h"
+#include "platform/ReadText.h"
 #include "processing/KeyFilters.h"
 #include "processing/RunNames.h"
 
@@ -71,7 +72,7 @@ QGroupBox* StationDialog::makeInput(QWidget& station) {
     return frame;
 }
 
-std::string StationDialog::inputPath() const { return filePath(fileBox_->text()); }
+std::string StationDialog::inputPath() const { return pathIn(*fileBox_); }
 
 void StationDialog::showPeriod(DateTime begin, DateTime end) {
     const auto show = [](DateTime moment, QDateEdit& date, QTimeEdit& time) {

@@ -15,6 +15,13 @@ TimeOfDay fieldsOf(JulianStamp stamp) {
     return {0, parts[0], parts[1]};
 }
 
+/// Seconds of a whole hour and more are minute 60 and later, which no time has.
+DateTime momentOf(Host& host, JulianStamp stamp, const TimeOfDay& fields) {
+    const DateTime date = dayOf(host, stamp);
+    return AddTimeToDate(date, std::to_string(stamp.hour) + ":" + std::to_string(fields.minute) + ":" +
+                                   std::to_string(fields.second));
+}
+
 UpHeader readLines(Host& host, LineReader& lines) {
     UpHeader header;
     const std::string first = squeezeBlanks(lines.readLine());
@@ -38,11 +45,11 @@ UpHeader readLines(Host& host, LineReader& lines) {
     lines.readLine();
     const std::string station = squeezeBlanks(lines.readLine());
     header.station = std::string(split(station, " ")[1]);
-    header.begin = momentOf(host, begin);
-    header.end = momentOf(host, end);
-    if (!withSeconds) header.begin = addSeconds(header.begin, -3600);
     header.beginFields = fieldsOf(begin);
     header.endFields = fieldsOf(end);
+    header.begin = momentOf(host, begin, header.beginFields);
+    header.end = momentOf(host, end, header.endFields);
+    if (!withSeconds) header.begin = addSeconds(header.begin, -3600);
     header.version = std::string(kind[1]);
     return header;
 }

@@ -41,6 +41,11 @@ class GridFields : public GridFormTest {
     std::string controlFile(const std::string& root) {
         return directory_.read("out/" + root + "_tempoline.inp");
     }
+    void throughProjection() {
+        nextThroughProjection("cmdOK");
+        form_->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(form_.get()));
+    }
     /// Enter goes where Tab goes, and does nothing else.
     void expectEnterIsTab(const char* name) {
         SCOPED_TRACE(name);
@@ -62,11 +67,11 @@ class GridFields : public GridFormTest {
 TEST_F(GridFields, EnterIsTabInEveryBox) {
     toStep2(ventosVariation, ventosText());
     for (const char* name : {"txtNumberOfLocations", "txtTitleLine"}) expectEnterIsTab(name);
-    nextThroughProjection("cmdOK");
+    throughProjection();
     for (const char* name : {"txtXCoord", "txtYCoord", "txtExtractionHeight", "txtFRQOutputFilename"})
         expectEnterIsTab(name);
     toStep2(ventosVariation, ventosText("LL WGS-84 NONE 0 0 0 0 0 0 0"));
-    nextThroughProjection("cmdOK");
+    throughProjection();
     for (const char* name : {"txtLat", "txtLon"}) expectEnterIsTab(name);
     toStations(ventosVariation, ventosText());
     expectEnterIsTab("txtExtractionHeight2");

@@ -3,127 +3,25 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QTest>
 #include <QTimer>
-#include <filesystem>
 
-#include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "dialogs/point/FrmOpenAERMETFile.h"
 #include "dialogs/point/FrmOpenAMMNETDataFile.h"
 #include "dialogs/point/FrmOpenTSFDataFile.h"
 #include "dialogs/point/FrmOpenUPDATFile.h"
-#include "graph/frq/ModPolarGraph.h"
 #include "platform/Captions.h"
-#include "platform/FieldMarks.h"
-#include "processing/Stations.h"
-#include "processing/Zones.h"
 #include "shell/FrmMain.h"
-#include "shell/settings/Settings.h"
-#include "shell/settings/StartSequence.h"
-#include "tests/support/TempDirectory.h"
-#include "tests/support/TestHost.h"
+#include "tests/dialogs/point/PointDialogs.h"
 
 namespace zg {
 namespace {
-
-class FinishingStarter : public ProcessStarter {
- public:
-    void start(const std::string& batchFile, WindowStyle) override {
-        ++starts;
-        if (onStart) onStart(DirOf(batchFile));
-    }
-    int starts = 0;
-    std::function<void(const std::string&)> onStart;
-};
-
-class PointDialogs : public ::testing::Test {
- protected:
-    void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        timeZones = TimeZoneTable();
-        stations = StationTable();
-        applicationDirectory = directory_.path();
-        std::filesystem::copy(ZG_SOURCE_DIR "/data/TimeZones.txt", directory_.file("TimeZones.txt"));
-        startSettings();
-        std::filesystem::create_directory(directory_.file("out"));
-        starter_.onStart = [this](const std::string& out) {
-            std::filesystem::copy(out, directory_.file("seen"), std::filesystem::copy_options::recursive);
-            for (const std::string& name : made_) directory_.write("out/" + name + ".frq", "");
-            directory_.write("out/finished.txt", "");
-        };
-    }
-    template <typename Form, typename... More>
-    Form& open(More... more) {
-        auto form = std::make_unique<Form>(
-            host_, starter_,
-            ProcessingWindow{[this](const std::string& path) { plotted_.push_back(FileNameOf(path)); },
-                             [] { return false; }, [] {}, [] {}},
-            more...);
-        Form& opened = *form;
-        form_ = std::move(form);
-        form_->show();
-        form_->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
-        return opened;
-    }
-    template <typename Control = QWidget>
-    Control* child(const char* name) {
-        return form_->findChild<Control*>(QString::fromLatin1(name));
-    }
-    QLineEdit& box(const char* name) { return *child<QLineEdit>(name); }
-    void click(const char* name) { QTest::mouseClick(child(name), Qt::LeftButton); }
-    void browse(const std::string& name, const std::string& text) {
-        host_.openAnswers.push_back(directory_.write(name, text));
-        click("cmdBrowseFile");
-        box("txtOutputDirectory").setText(QString::fromStdString(directory_.file("out/")));
-    }
-    std::string refusal() {
-        host_.boxes.clear();
-        host_.boxAnswers = {BoxAnswer::Ok};
-        click("cmdView");
-        EXPECT_EQ(starter_.starts, 0);
-        return host_.boxes.size() == 1 ? host_.boxes[0].text : "boxes: " + std::to_string(host_.boxes.size());
-    }
-    std::string begin() {
-        return (child<QDateEdit>("DTPicker_BeginDate")->date().toString("yyyy-MM-dd ") +
-                child<QTimeEdit>("DTPicker_BeginTime")->time().toString("HH:mm:ss"))
-            .toStdString();
-    }
-    std::string end() {
-        return (child<QDateEdit>("DTPicker_EndDate")->date().toString("yyyy-MM-dd ") +
-                child<QTimeEdit>("DTPicker_EndTime")->time().toString("HH:mm:ss"))
-            .toStdString();
-    }
-    void pickZone(const char* label) {
-        auto* zones = child<QComboBox>("cboTimeZone");
-        zones->setCurrentIndex(zones->findText(QString::fromLatin1(label)));
-        emit zones->activated(zones->currentIndex());
-    }
-    std::string control(const std::string& base) {
-        return directory_.read("seen/" + base + "_tempoline.inp");
-    }
-    std::string status() { return child<QLabel>("lblStatus")->text().toStdString(); }
-    bool marked(const char* name) { return fieldMark(*child(name)) == yellowMark; }
-
-    TempDirectory directory_;
-    TestHost host_;
-    FinishingStarter starter_;
-    std::vector<std::string> made_;
-    std::vector<std::string> plotted_;
-    std::unique_ptr<QDialog> form_;
-};
-
-const std::string up21 =
-    "UP.DAT          2.1             x\r\n0\r\nNONE\r\nUTC+0000\r\n1990 8 0 1800 1990 15 12 0\r\nF\r\n"
-    "6201 4417\r\n";
 
 TEST_F(PointDialogs, UpShowsItsPeriodInItsOwnZone) {
     open<frmOpenUPDATFile>();
     EXPECT_EQ(form_->windowTitle(), "Generate Wind Rose Plots from an UP.DAT File:");
     EXPECT_EQ(box("txtExtractionHeights").text(), "10");
-    browse("u.dat", up21);
+    browse("u.dat", upText);
     EXPECT_EQ(host_.openPicks[0].filter, "UP.DAT Data Files (*.dat) | *.dat|All Files (*.*) | *.*; |");
     // First shown in Eastern Time, 5 hours back, then the file's own zone moves it, never before its begin.
     EXPECT_EQ(begin(), "1990-01-08 00:30:00");
@@ -135,7 +33,7 @@ TEST_F(PointDialogs, UpShowsItsPeriodInItsOwnZone) {
 
 TEST_F(PointDialogs, AnotherZoneMovesTheHoursOfUpAndKeepsItsMinutes) {
     open<frmOpenUPDATFile>();
-    browse("u.dat", up21);
+    browse("u.dat", upText);
     pickZone("(UTC-05:00) Eastern Time (US & Canada)");
     EXPECT_EQ(begin(), "1990-01-07 19:30:00");
     EXPECT_EQ(end(), "1990-01-15 07:00:00");
@@ -146,7 +44,7 @@ TEST_F(PointDialogs, AnotherZoneMovesTheHoursOfUpAndKeepsItsMinutes) {
 
 TEST_F(PointDialogs, AnUpPeriodNeverBeginsBeforeTheFile) {
     open<frmOpenUPDATFile>();
-    browse("u.dat", up21);
+    browse("u.dat", upText);
     child<QDateEdit>("DTPicker_BeginDate")->setDate(QDate(1980, 1, 1));
     child<QDateEdit>("DTPicker_EndDate")->setDate(QDate(1985, 1, 1));
     pickZone("(UTC-05:00) Eastern Time (US & Canada)");
@@ -163,7 +61,7 @@ TEST_F(PointDialogs, UpChecksItsDatesFirst) {
     EXPECT_EQ(refusal(), "Please select an UP.DAT file.");
     box("txtUPDATFile").setText("/nowhere.dat");
     EXPECT_EQ(refusal(), "The selected UP.DAT file does not exist.");
-    browse("u.dat", up21);
+    browse("u.dat", upText);
     box("txtExtractionHeights").clear();
     EXPECT_EQ(refusal(), "Please enter one or more extraction heights in meters separated by commas.");
     box("txtExtractionHeights").setText("10");
@@ -175,7 +73,7 @@ TEST_F(PointDialogs, UpChecksItsDatesFirst) {
 
 TEST_F(PointDialogs, UpMakesARoseAHeightAndLosesTheLastForAnEmptyItem) {
     open<frmOpenUPDATFile>();
-    browse("u.dat", up21);
+    browse("u.dat", upText);
     box("txtExtractionHeights").setText("10, 50,,100");
     made_ = {"u_UP_19900108-19900115_10m", "u_UP_19900108-19900115_ 50m"};
     click("cmdView");
@@ -196,7 +94,7 @@ TEST_F(PointDialogs, TheScreensPointerIsAnHourglassDuringARunAndNormalAfterAnyEn
         return pointer != nullptr && pointer->shape() == Qt::WaitCursor;
     };
     open<frmOpenUPDATFile>();
-    browse("u.dat", up21);
+    browse("u.dat", upText);
     int seen = 0;
     starter_.onStart = [&](const std::string&) {
         seen += hourglass() ? 1 : 0;
@@ -278,15 +176,12 @@ TEST_F(PointDialogs, MonitorRefusesOtherFilesAndChecksItsStep) {
     EXPECT_EQ(box("txtFRQOutputFilename").text(), "m_AMMNETW_20050315-20050315_10m");
 }
 
-const std::string sfc =
-    " 41.3N 74.0W UA_ID: 14735 SF_ID: 14606 OS_ID: L VERSION: 1\n88 1 1 1 1 x\n88 12 31 366 24 x\n\n";
-
 TEST_F(PointDialogs, AermetSurfaceAndProfileAreOneForm) {
     open<frmOpenAERMETFile>(AermetKind::Surface);
     EXPECT_EQ(form_->objectName(), "frmOpenAERMETSFCFile");
     EXPECT_EQ(form_->windowTitle(), "Generate Wind Rose Plots from AERMET Surface Data");
     EXPECT_EQ(spoken(child<QGroupBox>("frameFile")->title()), "AERMET Surface Data File:");
-    browse("a.sfc", sfc);
+    browse("a.sfc", sfcText);
     EXPECT_EQ(host_.openPicks[0].filter, "AERMET Data Files (*.sfc) | *.sfc|All Files (*.*) | *.*; |");
     EXPECT_EQ(begin(), "1988-01-01 00:00:00");
     EXPECT_EQ(end(), "1989-01-01 00:00:00");
@@ -311,7 +206,7 @@ TEST_F(PointDialogs, AermetSurfaceAndProfileAreOneForm) {
 TEST_F(PointDialogs, AermetWantsBothOrNeitherOfThePlace) {
     open<frmOpenAERMETFile>(AermetKind::Surface);
     EXPECT_EQ(refusal(), "Please select an AERMET Met Data file.");
-    browse("a.sfc", sfc);
+    browse("a.sfc", sfcText);
     child<QTimeEdit>("DTPicker_TimeStep")->setTime(QTime(0, 0));
     box("txtXLoc").setText("5");
     EXPECT_EQ(refusal(), "Please enter a Y location.") << "the step is not looked at";
@@ -333,16 +228,12 @@ TEST_F(PointDialogs, AWrongAermetFileIsARunTimeError) {
     EXPECT_EQ(host_.boxes[0].title, "Zephyrgraph");
 }
 
-const std::string tsf =
-    "TIMESERIES.TSF 1.3\n0 - comments\nskipped\nMET\nL: STATION ID = 14735\nUTC-0500\nGREGORIAN_YMD\n"
-    "2005 3 7 6 1815 2005 12 31 23 0 3600\n2 - v\nWDIR\nWSPEED\n";
-
 TEST_F(PointDialogs, ATimeSeriesNamesItsRoseInTheControlFile) {
     stations.gsStationCol0 = {"Albany", ""};
     stations.gsStationCol1 = {"14735", ""};
     open<frmOpenTSFDataFile>();
     EXPECT_EQ(form_->windowTitle(), "Generate Wind Rose Plots from Time Series File (TSF)");
-    browse("t.tsf", tsf);
+    browse("t.tsf", seriesText);
     EXPECT_EQ(begin(), "2005-03-07 06:30:15");
     EXPECT_EQ(end(), "2005-12-31 23:00:00");
     EXPECT_EQ(child<QTimeEdit>("DTPicker_TimeStep")->time(), QTime(1, 0));
@@ -362,11 +253,11 @@ TEST_F(PointDialogs, ATimeSeriesIsRefusedLoudlyOrSilently) {
     host_.boxAnswers = {BoxAnswer::Ok, BoxAnswer::Ok};
     browse("x.tsf", "no\n");
     EXPECT_EQ(host_.boxes[0].text, "The selected file is not a valid Time Series File (*.TSF).");
-    std::string text = tsf;
+    std::string text = seriesText;
     browse("w.tsf", text.replace(text.find("WSPEED"), 6, "TEMP"));
     EXPECT_EQ(host_.boxes[1].text,
               "The selected file is not a valid meteorological Time Series File (*.TSF).");
-    text = tsf;
+    text = seriesText;
     const std::string before = begin();
     browse("v.tsf", text.replace(text.find("1.3"), 3, "1.2"));
     EXPECT_EQ(begin(), before);
@@ -375,7 +266,7 @@ TEST_F(PointDialogs, ATimeSeriesIsRefusedLoudlyOrSilently) {
 
 TEST_F(PointDialogs, ATimeSeriesOfAnUnknownZoneShowsTheFirstAndADayStepWraps) {
     open<frmOpenTSFDataFile>();
-    std::string text = tsf;
+    std::string text = seriesText;
     text.replace(text.find("UTC-0500"), 8, "UTC+1345");
     browse("t.tsf", text.replace(text.find("3600"), 4, "86400"));
     EXPECT_EQ(child<QComboBox>("cboTimeZone")->currentIndex(), 0);

@@ -77,6 +77,19 @@ TEST_F(PointReaders, UpCutAnywhereIsTheEndOfTheFile) {
         EXPECT_EQ(errorOf([&] { readUpHeader(host_, file(up21Text.substr(0, at))); }), 62) << at;
 }
 
+TEST_F(PointReaders, SecondsOfAWholeHourAreNoTimeInUp) {
+    const auto with = [](const char* from, const char* to) {
+        std::string text = up21Text;
+        return text.replace(text.find(from), std::string(from).size(), to);
+    };
+    EXPECT_EQ(textOf(readUpHeader(host_, file(with("15 24  0", "15 23 3599"))).end),
+              "Jan 15, 1990 11:59:59 PM");
+    EXPECT_EQ(errorOf([&] { readUpHeader(host_, file(with("15 24  0", "15 23 3600"))); }), 13);
+    EXPECT_EQ(errorOf([&] { readUpHeader(host_, file(with("15 24  0", "15 24 7200"))); }), 13);
+    EXPECT_EQ(errorOf([&] { readUpHeader(host_, file(with("0 1830", "0 3600"))); }), 13);
+    EXPECT_EQ(errorOf([&] { readUpHeader(host_, file(with("0 1830", "0   -1"))); }), 13);
+}
+
 const std::string csv =
     "\"STNCODE\",\"DATETIME\",\"X\",\"DATAAVID\"\r\nA1,3/15/2005 1:00:00,A1,60\r\n\r\n"
     "B2,3/15/2005 2:00:00,B2,60\r\nA1,3/16/2005 13:30,\"A1\",60\r\n\r\n";
@@ -101,6 +114,26 @@ TEST_F(PointReaders, MonitorStationsComeFromTheThirdFieldAfterTheFirstRecord) {
     const MonitorHeader header = readMonitorHeader(
         file("STNCODE,DATETIME,VALUE,DATAAVID\nS,1/1/2005 1:00:00,5.5,60\nS,1/1/2005 2:00:00,6.5,60\n"));
     EXPECT_EQ(header.stations, (std::vector<std::string>{"S", "6.5"})) << "as such files are read";
+}
+
+TEST_F(PointReaders, BlanksAtTheEndsOfAMonitorLineAreNoPartOfItsFields) {
+    const MonitorHeader header = readMonitorHeader(
+        file("DATETIME,DATAAVID,STNCODE\n 1/1/2005 1:00:00,60,A  \n 1/1/2005 2:00:00,60,A  \n"
+             "  1/1/2005 3:00:00,60, B \n1/1/2005 4:00:00,60,\"B\"  \n   \n"));
+    EXPECT_EQ(header.stations, (std::vector<std::string>{"A", " B", "B"})) << "those within the line are";
+    EXPECT_EQ(textOf(header.end), "Jan 1, 2005 4:00:00 AM");
+}
+
+TEST_F(PointReaders, MonitorTellsItsStationsBeforeAFault) {
+    std::vector<std::string> told;
+    EXPECT_EQ(errorOf([&] {
+                  readMonitorHeader(file("DATETIME,DATAAVID,STNCODE\n1/1/2005 1:00:00,60,A\n"
+                                         "1/1/2005 2:00:00,60,B\nx\n"),
+                                    {}, [&](const std::string& station) { told.push_back(station); });
+              }),
+              9);
+    EXPECT_EQ(where_, "4");
+    EXPECT_EQ(told, (std::vector<std::string>{"A", "B"}));
 }
 
 TEST_F(PointReaders, MonitorFaults) {

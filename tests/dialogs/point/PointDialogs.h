@@ -1,0 +1,131 @@
+#pragma once
+
+// The dialogs for point data, worked by their controls.
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <filesystem>
+
+#include "base/Paths.h"
+#include "dialogs/point/PointDialog.h"
+#include "graph/frq/ModPolarGraph.h"
+#include "platform/FieldMarks.h"
+#include "processing/Stations.h"
+#include "processing/Zones.h"
+#include "shell/settings/Settings.h"
+#include "shell/settings/StartSequence.h"
+#include "tests/support/TempDirectory.h"
+#include "tests/support/TestHost.h"
+
+namespace zg {
+
+inline const std::string surfText =
+    "SURF.DAT        2.1             x\r\n0\r\nNONE\r\nUTC-0500\r\n1990 8 6 1815 1990 15 23 0 1\r\n1001\r\n";
+
+inline const std::string upText =
+    "UP.DAT          2.1             x\r\n0\r\nNONE\r\nUTC+0000\r\n1990 8 0 1800 1990 15 12 0\r\nF\r\n"
+    "6201 4417\r\n";
+
+inline const std::string sfcText =
+    " 41.3N 74.0W UA_ID: 14735 SF_ID: 14606 OS_ID: L VERSION: 1\n88 1 1 1 1 x\n88 12 31 366 24 x\n\n";
+
+inline const std::string pflText = "88 1 1 1 10.0 0\n88 1 2 5 10.0 0\n";
+
+inline const std::string csvText =
+    "DATETIME,DATAAVID,STNCODE\n3/15/2005 1:00:00,60,A1\n3/15/2005 2:00:00,60,A1\n";
+
+inline const std::string seriesText =
+    "TIMESERIES.TSF 1.3\n0 - comments\nskipped\nMET\nL: STATION ID = 14735\nUTC-0500\nGREGORIAN_YMD\n"
+    "2005 3 7 6 1815 2005 12 31 23 0 3600\n2 - v\nWDIR\nWSPEED\n";
+
+class FinishingStarter : public ProcessStarter {
+ public:
+    void start(const std::string& batchFile, WindowStyle) override {
+        ++starts;
+        if (onStart) onStart(DirOf(batchFile));
+    }
+    int starts = 0;
+    std::function<void(const std::string&)> onStart;
+};
+
+class PointDialogs : public ::testing::Test {
+ protected:
+    void SetUp() override {
+        modPolarGraph = ModPolarGraph();
+        settings = Settings();
+        timeZones = TimeZoneTable();
+        stations = StationTable();
+        applicationDirectory = directory_.path();
+        std::filesystem::copy(ZG_SOURCE_DIR "/data/TimeZones.txt", directory_.file("TimeZones.txt"));
+        startSettings();
+        std::filesystem::create_directory(directory_.file("out"));
+        starter_.onStart = [this](const std::string& out) {
+            std::filesystem::copy(out, directory_.file("seen"), std::filesystem::copy_options::recursive);
+            for (const std::string& name : made_) directory_.write("out/" + name + ".frq", "");
+            directory_.write("out/finished.txt", "");
+        };
+    }
+    template <typename Form, typename... More>
+    Form& open(More... more) {
+        auto form = std::make_unique<Form>(
+            host_, starter_,
+            ProcessingWindow{[this](const std::string& path) { plotted_.push_back(FileNameOf(path)); },
+                             [this] { return ending_; }, [] {}, [] {}},
+            more...);
+        Form& opened = *form;
+        form_ = std::move(form);
+        form_->show();
+        form_->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
+        return opened;
+    }
+    template <typename Control = QWidget>
+    Control* child(const char* name) {
+        return form_->findChild<Control*>(QString::fromLatin1(name));
+    }
+    QLineEdit& box(const char* name) { return *child<QLineEdit>(name); }
+    void click(const char* name) { QTest::mouseClick(child(name), Qt::LeftButton); }
+    void browse(const std::string& name, const std::string& text) {
+        host_.openAnswers.push_back(directory_.write(name, text));
+        click("cmdBrowseFile");
+        box("txtOutputDirectory").setText(QString::fromStdString(directory_.file("out/")));
+    }
+    std::string refusal() {
+        host_.boxes.clear();
+        host_.boxAnswers = {BoxAnswer::Ok};
+        click("cmdView");
+        EXPECT_EQ(starter_.starts, 0);
+        return host_.boxes.size() == 1 ? host_.boxes[0].text : "boxes: " + std::to_string(host_.boxes.size());
+    }
+    std::string begin() {
+        return (child<QDateEdit>("DTPicker_BeginDate")->date().toString("yyyy-MM-dd ") +
+                child<QTimeEdit>("DTPicker_BeginTime")->time().toString("HH:mm:ss"))
+            .toStdString();
+    }
+    std::string end() {
+        return (child<QDateEdit>("DTPicker_EndDate")->date().toString("yyyy-MM-dd ") +
+                child<QTimeEdit>("DTPicker_EndTime")->time().toString("HH:mm:ss"))
+            .toStdString();
+    }
+    void pickZone(const char* label) {
+        auto* zones = child<QComboBox>("cboTimeZone");
+        zones->setCurrentIndex(zones->findText(QString::fromLatin1(label)));
+        emit zones->activated(zones->currentIndex());
+    }
+    std::string control(const std::string& base) {
+        return directory_.read("seen/" + base + "_tempoline.inp");
+    }
+    std::string status() { return child<QLabel>("lblStatus")->text().toStdString(); }
+    bool marked(const char* name) { return fieldMark(*child(name)) == yellowMark; }
+
+    TempDirectory directory_;
+    TestHost host_;
+    FinishingStarter starter_;
+    std::vector<std::string> made_;
+    std::vector<std::string> plotted_;
+    bool ending_ = false;
+    std::unique_ptr<QDialog> form_;
+};
+
+}  // namespace zg
