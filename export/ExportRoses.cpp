@@ -213,7 +213,7 @@ class Export {
         if (result.done.empty()) return;
         ++drawn_;
         bar_.clear();
-        out_ << result.done << '\n';
+        out_ << result.done << '\n' << std::flush;  // whoever waits for it can take it
     }
 
     void fail(const std::string& text) {

@@ -1,6 +1,7 @@
 #include "export/PictureFile.h"
 
 #include <QCoreApplication>
+#include <array>
 #include <atomic>
 #include <cerrno>
 #include <filesystem>
@@ -14,6 +15,15 @@ namespace zg {
 namespace fs = std::filesystem;
 
 namespace {
+
+/// The names of pictures in the making; where there are more than places, the others are not kept here.
+constexpr std::size_t mostUnderWay = 256;
+std::array<std::atomic<const char*>, mostUnderWay> namesUnderWay;
+
+void swapName(const char* from, const char* to) {
+    for (std::atomic<const char*>& name : namesUnderWay)
+        if (const char* expected = from; name.compare_exchange_strong(expected, to)) return;
+}
 
 /// A name that no file has, short where the picture's own may be as long as a name can be.
 std::string spareName(const std::string& path) {
@@ -49,14 +59,18 @@ PictureFile::PictureFile(std::string path) : path_(std::move(path)) {
     if (!file_) {
         temporary_.clear();
         keepFault();
+    } else {
+        swapName(nullptr, temporary_.c_str());
     }
     open(QIODevice::WriteOnly);
 }
 
 PictureFile::~PictureFile() {
     file_.reset();
+    if (temporary_.empty()) return;
     std::error_code ignored;
-    if (!temporary_.empty()) fs::remove(temporary_, ignored);
+    fs::remove(temporary_, ignored);
+    swapName(temporary_.c_str(), nullptr);
 }
 
 void PictureFile::keepFault() {
@@ -77,10 +91,21 @@ void PictureFile::commit() {
     takePermissions(path_, temporary_);
     std::error_code error;
     fs::rename(temporary_, path_, error);
-    if (error)
+    if (error) {
         fault_ = error.value();
-    else
-        temporary_.clear();
+        return;
+    }
+    swapName(temporary_.c_str(), nullptr);
+    temporary_.clear();
+}
+
+void dropUnfinishedPictures() noexcept {
+    for (const std::atomic<const char*>& name : namesUnderWay)
+#ifdef _WIN32
+        if (const char* left = name) std::remove(left);
+#else
+        if (const char* left = name) unlink(left);
+#endif
 }
 
 }  // namespace zg

@@ -39,4 +39,8 @@ class PictureFile : public QIODevice {
     int fault_ = 0;
 };
 
+/// Removes what pictures in the making have on the disk, where the program can no longer do so in order: does
+/// nothing that a signal's handler may not.
+void dropUnfinishedPictures() noexcept;
+
 }  // namespace zg

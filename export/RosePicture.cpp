@@ -92,7 +92,7 @@ PictureFault drawRosePicture(ModPolarGraph& tables, const Polar& polar, int rose
     tables.GraphCaption = tables.FrqRoseCaption(rose);
     PictureFile file(path);
     if (file.fault() == 0 && !save(tables, polar, file, format, side) && file.fault() == 0)
-        return {path + ": the picture could not be made"};
+        return {path + ": the picture could not be made", true};
     file.commit();
     if (file.fault() == 0) return {};
     return {path + ": " + std::generic_category().message(file.fault()), leavesNoRoom(file.fault())};

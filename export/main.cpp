@@ -10,16 +10,22 @@
 #include <iostream>
 #include <new>
 #include <string>
+#include <string_view>
 #include <vector>
 #ifdef _WIN32
 #include <io.h>
 #else
+#include <sys/mman.h>
 #include <unistd.h>
+#ifndef __SANITIZE_ADDRESS__  // which tells of crashes itself
+#define ZG_TELLS_CRASHES
+#endif
 #endif
 
 #include "base/Paths.h"
 #include "base/Version.h"
 #include "export/ExportRoses.h"
+#include "export/PictureFile.h"
 
 namespace {
 
@@ -57,10 +63,26 @@ void ignoreRemarks(QtMsgType kind, const QMessageLogContext&, const QString& tex
         fault = "zephyrgraph-export: out of memory\n";
     } catch (...) {
     }
-    std::fflush(stdout);  // the pictures that are whole
+    zg::dropUnfinishedPictures();
     std::fputs(fault, stderr);
     std::_Exit(zg::exportFailed);
 }
+
+#ifdef ZG_TELLS_CRASHES
+/// Libraries below the toolkit take memory for granted and crash without it. Where the system has none to
+/// give, that is told as what it is; every other crash stays one.
+void crash(int signal) {
+    constexpr std::size_t some = std::size_t{64} << 20;
+    constexpr std::string_view fault = "zephyrgraph-export: out of memory\n";
+    if (mmap(nullptr, some, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0) == MAP_FAILED) {
+        zg::dropUnfinishedPictures();
+        [[maybe_unused]] const auto told = write(STDERR_FILENO, fault.data(), fault.size());
+        _exit(zg::exportFailed);
+    }
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+}
+#endif
 
 int runCommand(int argc, char** argv) {
     zg::ExportJob job;
@@ -117,6 +139,9 @@ int runCommand(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     std::set_terminate(endInOneLine);
+#ifdef ZG_TELLS_CRASHES
+    for (const int signal : {SIGSEGV, SIGBUS, SIGABRT}) std::signal(signal, crash);
+#endif
     try {
         return runCommand(argc, argv);
     } catch (...) {

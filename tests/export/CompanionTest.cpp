@@ -147,6 +147,22 @@ TEST(Companion, APageThatMemoryCannotHoldEndsTheRunInOneLine) {
         EXPECT_TRUE(std::filesystem::is_empty(directory.path()));
     }
 }
+
+TEST(Companion, MemoryThatSufficesForNoMoreIsNoCrash) {
+    for (const int megabytes : {200, 250, 300, 350}) {
+        const TempDirectory directory;
+        const Result result =
+            runCompanion({sample, "--jobs", "8", "--out", QString::fromStdString(directory.path())},
+                         Limit{RLIMIT_AS, static_cast<rlim_t>(megabytes) << 20});
+        const auto pictures = std::distance(std::filesystem::directory_iterator(directory.path()), {});
+        const bool whole = result.out.count('\n') == 9;
+        EXPECT_EQ(result.status, whole ? 0 : 1) << megabytes;
+        EXPECT_LE(result.out.count('\n'), pictures) << "what is named is there";
+        EXPECT_EQ(result.errors.endsWith(": out of memory\n"), !whole) << result.errors.toStdString();
+        for (const auto& entry : std::filesystem::directory_iterator(directory.path()))
+            EXPECT_EQ(entry.path().extension(), ".png");
+    }
+}
 #endif
 
 }  // namespace
