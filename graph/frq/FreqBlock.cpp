@@ -18,8 +18,8 @@ constexpr std::array<double, 16> powersOfTen = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
-/// Reads blanks, digits with a point among them, and "%" off the text. Up to 15 digits and the power of ten
-/// are exact, so their quotient is the number that toDouble gives. False for anything else.
+}  // namespace
+
 bool takePlainPercent(const char*& at, const char* end, double& value) {
     while (at != end && *at == ' ') ++at;
     std::uint64_t digits = 0;
@@ -38,6 +38,8 @@ bool takePlainPercent(const char*& at, const char* end, double& value) {
     value = static_cast<double>(digits) / powersOfTen[static_cast<std::size_t>(decimals)];
     return true;
 }
+
+namespace {
 
 bool readPlainShares(std::string_view cells, std::int64_t row, FractionTable& fractions) {
     std::array<double, speedClasses> percents{};

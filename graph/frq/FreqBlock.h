@@ -19,4 +19,9 @@ constexpr std::int64_t firstFractionRow(std::int64_t rose) { return rose * 16 + 
 /// Direction labels are taken from rose 1 only.
 void readFreqBlock(LineReader& reader, const FreqVersion& version, std::int16_t rose, ModPolarGraph& tables);
 
+/// Reads blanks, digits with a point among them, and "%" off the text, and moves to what follows. Up to 15
+/// digits and the power of ten are exact, so their quotient is the number that toDouble gives. False for
+/// anything else, which only the general way can read.
+bool takePlainPercent(const char*& at, const char* end, double& value);
+
 }  // namespace zg

@@ -169,6 +169,21 @@ TEST(ControlReader, BadValuesAreNamed) {
     EXPECT_EQ(refused(with(text, "NSECDT", "")), "c.inp:168: NSECDT: the value is missing");
 }
 
+TEST(ControlReader, WhatNoRunCanDoIsSaid) {
+    const std::string text = written("monitorw.inp");
+    const auto toldFor = [&](const char* key, const char* value) {
+        const std::string told = refused(with(text, key, value));
+        return told.substr(told.find(": ") + 2);
+    };
+    EXPECT_EQ(toldFor("NAQINP", "1"), "NAQINP: air quality input is not supported");
+    for (const std::string kind : {"MONITORC", "POSTIME", "FUMAROL"})
+        EXPECT_EQ(toldFor("MDATA", kind.c_str()),
+                  "MDATA: " + kind + " is air quality input, which is not supported");
+    EXPECT_EQ(toldFor("MDATA", "m2d"), "MDATA: M2D input is not supported");
+    EXPECT_EQ(toldFor("MDATA", "surface"), "MDATA: \"SURFACE\" is no known type of input");
+    EXPECT_EQ(toldFor("MROSE", "2"), "MROSE: pollutant roses (2) are not supported");
+}
+
 TEST(ControlReader, WhatIsNotSupportedIsSaidBeforeItsKeysAreUnknown) {
     std::string text = with(written("monitorw.inp"), "MDATA", "MONITORC");
     text.insert(text.find("     Air Quality data - provide NTSFOUT"), "     ! AQ = 1, 0, 0 !\r\n");

@@ -38,6 +38,45 @@ class FreqBlock : public FreqLoad {
     }
 };
 
+/// The number that is taken off the text and what follows it; "refused" where none is.
+std::string plainPercentOf(std::string_view text) {
+    const char* at = text.data();
+    double value = -1;
+    if (!takePlainPercent(at, text.data() + text.size(), value)) return "refused";
+    return doubleText(value) + "|" + std::string(at, text.data() + text.size());
+}
+
+TEST(PlainPercent, IsBlanksDigitsAPointAndTheSign) {
+    EXPECT_EQ(plainPercentOf("  12.5% 7%"), "12.5| 7%");
+    EXPECT_EQ(plainPercentOf("5%"), "5|");
+    EXPECT_EQ(plainPercentOf("09%8"), "9|8");
+    EXPECT_EQ(plainPercentOf("3.%"), "3|");
+    EXPECT_EQ(plainPercentOf(".125%%"), "0.125|%");
+    for (const char* text : {"", "  ", "%", ".%", " . %", "5", "5.5", "x%", "5 %", "-5%", "+5%", "1e1%",
+                             "1,0%", "1.2.3%", "/%", ":%", "1/%", "1:%"})
+        EXPECT_EQ(plainPercentOf(text), "refused") << text;
+}
+
+TEST(PlainPercent, HasAtMostFifteenDigits) {
+    const std::string digits = "123456789012345";
+    for (std::size_t decimals = 0; decimals <= 15; ++decimals) {
+        std::string text = digits;
+        text.insert(15 - decimals, ".");
+        EXPECT_EQ(plainPercentOf(text + "%"), doubleText(toDouble(text)) + "|") << text;
+        EXPECT_EQ(plainPercentOf("0" + text + "%"), "refused") << text;
+        EXPECT_EQ(plainPercentOf(text + "0%"), "refused") << text;
+    }
+}
+
+TEST(PlainPercent, EndsWithTheText) {
+    EXPECT_EQ(plainPercentOf(std::string_view("55%").substr(0, 1)), "refused");
+    EXPECT_EQ(plainPercentOf(std::string_view("5%").substr(0, 1)), "refused");
+    EXPECT_EQ(plainPercentOf(std::string_view(" 5%").substr(0, 1)), "refused");
+    EXPECT_EQ(plainPercentOf(std::string_view("5.5%").substr(0, 1)), "refused");
+    EXPECT_EQ(plainPercentOf(std::string_view("5.5%").substr(0, 2)), "refused");
+    EXPECT_EQ(plainPercentOf(std::string_view("5.55%").substr(0, 3)), "refused");
+}
+
 TEST_F(FreqBlock, TheTitleIsRaw) {
     freqtext::Lines lines = freqtext::file("2.2", 1);
     lines[10] = "  Annual  mean ";
