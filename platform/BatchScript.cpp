@@ -37,26 +37,29 @@ constexpr const char* tellFunction = R"sh(tell() {
 }
 )sh";
 
-/// The processor's messages go on to the terminal and are kept for the reason. A program made for Windows
-/// runs by way of wine where that is installed.
-constexpr const char* startFunction = R"sh(start() {
-    said=${report:+$report.said}
+/// The processor's messages go on to the terminal and are kept for the reason; its status is what this
+/// writes. A program made for Windows runs by way of wine where that is installed.
+constexpr const char* workFunction = R"sh(work() {
     if [ "$(head -c 2 "$program" 2>/dev/null)" = MZ ] && command -v wine >/dev/null; then
         set -- wine "$program" "$@"
     else
         set -- "$program" "$@"
     fi
-    status=$( { { "$@" 3>&- 4>&-; echo $? >&4; } 2>&1 >&3 3>&- | tee "${said:-/dev/null}" >&2; } 4>&1 )
-    last=$(tail -n 1 "${said:-/dev/null}" 2>/dev/null)
+    { { "$@" 3>&-; echo $? >&4; } 2>&1 >&3 3>&- | (trap '' HUP INT QUIT; exec tee "$said" >&2); } 4>&1
+}
+)sh";
+
+constexpr const char* reasonFunction = R"sh(reason() {
+    last=$(tail -n 1 "$said" 2>/dev/null)
     last=${last#tempoline: }
-    if [ -z "$status" ]; then
-        reason='tempoline.exe was ended with its window'
-    elif [ "$status" -gt 128 ] && signal=$(kill -l "$status" 2>/dev/null); then
-        reason="tempoline.exe was ended by the signal $signal${last:+: $last}"
-    elif [ "$status" -eq 0 ]; then
-        reason='tempoline.exe ended with status 0 and left no listing'
+    if [ -z "$1" ]; then
+        echo 'tempoline.exe was interrupted, or its window was closed'
+    elif [ "$1" -gt 128 ] && signal=$(kill -l "$1" 2>/dev/null); then
+        printf '%s\n' "tempoline.exe was ended by the signal $signal${last:+: $last}"
+    elif [ "$1" -eq 0 ]; then
+        echo 'tempoline.exe ended with status 0 and left no listing'
     else
-        reason="tempoline.exe ended with status $status${last:+: $last}"
+        printf '%s\n' "tempoline.exe ended with status $1${last:+: $last}"
     fi
 }
 )sh";
@@ -65,29 +68,32 @@ constexpr const char* startFunction = R"sh(start() {
 constexpr const char* stateFunction = R"sh(state() { stat -c '%d %i %s %.Z' "./$listing" 2>/dev/null; }
 )sh";
 
-constexpr const char* runFunction = R"sh(run() {
-    cd -- "$directory" || { tell "the directory $directory cannot be entered"; return; }
-    before=$(state)
-    if [ -e "$program" ]; then
-        start "$@"
-    else
-        reason="tempoline.exe is missing in $programs"
-    fi
+constexpr const char* finishFunction = R"sh(finish() {
     after=$(state)
     if [ -n "$foreseen" ]; then
         tell "$foreseen"
     elif [ -z "$after" ] || [ "$after" = "$before" ]; then
-        tell "$reason"
+        tell "$(reason "$1")"
     elif ! cp -T "./$listing" finished.txt; then
         tell "finished.txt cannot be written in $directory"
     fi
 }
 )sh";
 
+/// Who closes the terminal or presses Ctrl-C ends the processor, but what it left is still looked at: by the
+/// part after the pipe, which waits until everything before it is gone.
+constexpr const char* runFunction = R"sh(run() {
+    cd -- "$directory" || { tell "the directory $directory cannot be entered"; return; }
+    before=$(state)
+    [ -e "$program" ] || { tell "tempoline.exe is missing in $programs"; return; }
+    work "$@" | { trap '' HUP INT QUIT; finish "$(cat)"; }
+}
+)sh";
+
 }  // namespace
 
 std::string asShellScript(const RunBatch& run, const std::string& reportFile) {
-    std::string script = "unset CDPATH\ntrap : HUP\nexec 3>&1\n";
+    std::string script = "unset CDPATH\nexec 3>&1\n";
     const auto set = [&script](const char* name, const std::string& value) {
         script += name + ("=" + shellQuoted(value)) + "\n";
     };
@@ -96,12 +102,12 @@ std::string asShellScript(const RunBatch& run, const std::string& reportFile) {
     set("program", run.programDirectory + "/tempoline.exe");
     set("listing", run.base + "_tempoline.lst");
     set("report", reportFile);
+    set("said", reportFile.empty() ? "/dev/null" : reportFile + ".said");
     // The blank parts "copy" into too many words as well.
     set("foreseen", run.base.find(' ') == std::string::npos ? "" : foreseenTrouble(run.base, {}));
-    script += tellFunction;
-    script += startFunction;
-    script += stateFunction;
-    script += runFunction;
+    for (const char* function :
+         {tellFunction, workFunction, reasonFunction, stateFunction, finishFunction, runFunction})
+        script += function;
     return script + "run" + quotedWords(run.base + "_tempoline.inp") + "\n";
 }
 

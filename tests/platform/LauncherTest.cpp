@@ -1,5 +1,9 @@
 // What the launcher runs, what it refuses, and what it tells of a run that leaves no marker.
 
+#include <pty.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include "base/RunTimeError.h"
 #include "tests/platform/BatchRunFixture.h"
 #include "tests/support/OddNames.h"
@@ -127,6 +131,68 @@ TEST_F(Launcher, TellsOfTheLastStartAlone) {
     EXPECT_EQ(starter_.outcome(batchFile()), "");
     directory_.write("out dir/go", "");
     EXPECT_EQ(outcome(), "tempoline.exe ended with status 5");
+}
+
+/// The script in a terminal, in which someone loses patience as soon as the processor works.
+class Terminal {
+ public:
+    explicit Terminal(const std::string& script) {
+        child_ = forkpty(&master_, nullptr, nullptr, nullptr);
+        if (child_ == 0) {
+            execlp("sh", "sh", "-c", script.c_str(), nullptr);
+            _exit(127);
+        }
+    }
+    ~Terminal() {
+        close();
+        waitpid(child_, nullptr, 0);
+    }
+    Terminal(const Terminal&) = delete;
+    Terminal& operator=(const Terminal&) = delete;
+
+    void close() {
+        if (master_ >= 0) ::close(master_);
+        master_ = -1;
+    }
+    void interrupt() { EXPECT_EQ(write(master_, "\x03", 1), 1); }
+
+ private:
+    int master_ = -1;
+    pid_t child_ = 0;
+};
+
+TEST_F(Launcher, LooksAtWhatIsLeftWhenItsWindowIsClosedOrInterrupted) {
+    const std::string report = directory_.file("report");
+    const std::string script = asShellScript({out_ + "/", "B", programs_}, report);
+    const auto comesOnce = [](const std::string& path) {
+        return QTest::qWaitFor([&] { return std::filesystem::exists(path); }, longEnoughMs);
+    };
+    for (const bool closed : {true, false}) {
+        const auto lost = [&] {
+            for (const char* left : {"ran", "finished.txt", "B_tempoline.lst"})
+                std::filesystem::remove(out_ + "/" + left);
+            std::filesystem::remove(report);
+            Terminal terminal(script);
+            ASSERT_TRUE(comes("ran"));
+            if (closed)
+                terminal.close();
+            else
+                terminal.interrupt();
+            ASSERT_TRUE(QTest::qWaitFor(
+                [&] { return std::filesystem::exists(report) || isThere("finished.txt"); }, longEnoughMs));
+        };
+        processor("touch ran; sleep 60; echo listing > B_tempoline.lst\n");
+        lost();
+        ASSERT_TRUE(comesOnce(report)) << closed;
+        EXPECT_EQ(directory_.read("report"), "tempoline.exe was interrupted, or its window was closed\n");
+        EXPECT_FALSE(isThere("finished.txt"));
+        processor(
+            "trap 'echo interrupted > B_tempoline.lst; exit 130' HUP INT; touch ran\n"
+            "while :; do sleep 0.05; done\n");
+        lost();
+        EXPECT_TRUE(comes("finished.txt")) << "the processor had the time to write its listing: " << closed;
+        EXPECT_EQ(directory_.read("out dir/finished.txt"), "interrupted\n");
+    }
 }
 
 TEST_F(Launcher, GoesOnWithoutAWindowToTell) {
