@@ -93,6 +93,9 @@ TEST(Projection, PolarMapsCountFromTheirOrigin) {
     const double rho = 6370 * (1 + std::sin(60 * degree)) * std::tan((45 - 35.0) * degree);  // of latitude 70
     const double rho0 = 6370 * (1 + std::sin(60 * degree)) * std::tan((45 - 30.0) * degree);
     EXPECT_NEAR(converted({10, 70}, degrees("NWS-84"), map).y, rho0 - rho, metre);
+    const MapPoint back = converted({0, rho0 - rho}, map, degrees("NWS-84"));
+    EXPECT_NEAR(back.x, 10, 1e-6);
+    EXPECT_NEAR(back.y, 70, 1e-6);
     map.latitude1 = -60;
     map.latitude0 = -90;
     EXPECT_NEAR(converted({10, -70}, degrees("NWS-84"), map).y, rho, metre);
