@@ -135,6 +135,7 @@ TEST(Run, TheDesktopLoadsWhatItMade) {
     changes.emplace_back("METINP", "in.sfc");
     inside.directory.write("c.inp", control("aermsfc.inp", changes));
     ASSERT_EQ(run("c.inp"), ExitStatus::Completed);
+    EXPECT_NE(inside.directory.read("out.tab").find("AERMSFC in.sfc, station "), std::string::npos);
     ModPolarGraph tables;
     TestHost host;
     ASSERT_EQ(loadFreqFile("out.frq", tables, host), FreqFileOutcome::Loaded);
