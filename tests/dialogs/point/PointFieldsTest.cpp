@@ -246,6 +246,7 @@ TEST_F(PointFields, AWholeHourOfSecondsIsNoTimeInUp) {
     std::string text = upText;
     host_.boxAnswers = {BoxAnswer::Ok};
     browse("u.dat", text.replace(text.find("15 12 0"), 7, "15 23 3600"));
+    ASSERT_EQ(host_.boxes.size(), 1U);
     EXPECT_EQ(host_.boxes[0].text.substr(0, 36), "Run-time error '13':\n\nType mismatch");
     EXPECT_EQ(child<QDateEdit>("DTPicker_EndDate")->date(), QDate::currentDate()) << "nothing is shown of it";
 }
@@ -287,8 +288,9 @@ TEST_F(PointFields, AFaultOfAMonitorFileLeavesNothingOfTheFileBefore) {
     browse("m.csv", csvText);
     auto* list = child<QComboBox>("cboStationID");
     EXPECT_EQ(list->currentText(), "A1");
-    host_.boxAnswers = {BoxAnswer::Ok, BoxAnswer::Ok};
+    host_.boxAnswers = {BoxAnswer::Ok};
     browse("n.csv", "DATETIME,DATAAVID,STNCODE\n3/15/2005 1:00:00,60,B1\n3/15/2005 2:00:00,60,B2\nx,y\n");
+    ASSERT_EQ(host_.boxes.size(), 1U);
     EXPECT_EQ(host_.boxes[0].text.substr(0, 21), "Run-time error '9':\n\n");
     ASSERT_EQ(list->count(), 2);
     EXPECT_EQ(list->itemText(1), "B2") << "the stations up to the fault";
