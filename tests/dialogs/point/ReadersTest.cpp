@@ -82,10 +82,10 @@ TEST_F(PointReaders, SecondsOfAWholeHourAreNoTimeInUp) {
         std::string text = up21Text;
         return text.replace(text.find(from), std::string(from).size(), to);
     };
-    EXPECT_EQ(textOf(readUpHeader(host_, file(with("15 24  0", "15 23 3599"))).end),
-              "Jan 15, 1990 11:59:59 PM");
-    EXPECT_EQ(errorOf([&] { readUpHeader(host_, file(with("15 24  0", "15 23 3600"))); }), 13);
-    EXPECT_EQ(errorOf([&] { readUpHeader(host_, file(with("15 24  0", "15 24 7200"))); }), 13);
+    EXPECT_EQ(textOf(readUpHeader(host_, file(with("15 23  3599", "15 24  3599"))).end),
+              "Jan 16, 1990 12:59:59 AM");
+    EXPECT_EQ(errorOf([&] { readUpHeader(host_, file(with("15 23  3599", "15 23 3600"))); }), 13);
+    EXPECT_EQ(errorOf([&] { readUpHeader(host_, file(with("15 23  3599", "15 24 7200"))); }), 13);
     EXPECT_EQ(errorOf([&] { readUpHeader(host_, file(with("0 1830", "0 3600"))); }), 13);
     EXPECT_EQ(errorOf([&] { readUpHeader(host_, file(with("0 1830", "0   -1"))); }), 13);
 }
