@@ -62,6 +62,9 @@ struct RunLock::Handle {
 #else
 
 struct RunLock::Handle {
+    /// Some file systems of a network number an open file otherwise than its name, now and ever.
+    static constexpr int mostTries = 100;
+
     int file = -1;
     std::string path;
 
@@ -83,7 +86,9 @@ struct RunLock::Handle {
                opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
     }
     Taken take() {
-        for (open(); file >= 0; close(), open()) {
+        for (int tries = 0; tries < mostTries; ++tries, close()) {
+            open();
+            if (file < 0) return Taken::NoLocks;
             if (flock(file, LOCK_EX | LOCK_NB) == 0) {
                 if (hasItsName()) return Taken::Yes;
             } else if (errno != EINTR) {

@@ -1,6 +1,7 @@
 #include "processing/RunLock.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -11,6 +12,22 @@
 #include <vector>
 
 #include "tests/support/TempDirectory.h"
+
+namespace {
+int lookedAt = 0;
+int wrongNumbers = 0;
+}  // namespace
+
+// The linker leads the calls here (--wrap).
+extern "C" {
+int __real_lstat(const char* path, struct stat* state);
+int __wrap_lstat(const char* path, struct stat* state) {
+    const int result = __real_lstat(path, state);
+    ++lookedAt;
+    if (wrongNumbers > 0 && wrongNumbers-- > 0) ++state->st_ino;
+    return result;
+}
+}
 
 namespace zg {
 namespace {
@@ -121,6 +138,16 @@ TEST_F(RunLockTest, IsDoneWithoutWhereNoFileCanBeMade) {
     std::filesystem::create_directory(directory_.file("run_tempoline.lock"));
     EXPECT_NE(RunLock::take(out_), nullptr) << "the name is taken";
     EXPECT_TRUE(std::filesystem::is_directory(directory_.file("run_tempoline.lock")));
+}
+
+TEST_F(RunLockTest, IsDoneWithoutWhereAFileNeverHasTheNumberOfItsName) {
+    lookedAt = 0;
+    wrongNumbers = 1000;
+    const auto lock = RunLock::take(out_);
+    wrongNumbers = 0;
+    EXPECT_EQ(lookedAt, 100) << "tries are not without end";
+    EXPECT_NE(lock, nullptr);
+    EXPECT_TRUE(other_.takes(out_)) << "nothing stays locked";
 }
 
 TEST_F(RunLockTest, IsNeverTakenByWayOfALink) {
