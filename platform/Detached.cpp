@@ -40,14 +40,15 @@ void usePlainSignals() {
 /// this child, which ends at once: the system's first process collects it when it is dead.
 [[noreturn]] void becomeProgram(char* const* arguments, int failed) {
     setsid();
-    if (fork() == 0) {
+    const pid_t own = fork();
+    if (own > 0) _exit(0);
+    if (own == 0) {
         usePlainSignals();
         execv(arguments[0], arguments);
-        const char sign = 'x';
-        const ssize_t written = write(failed, &sign, 1);
-        _exit(written == 1 ? 127 : 126);
     }
-    _exit(0);
+    const char sign = 'x';
+    const ssize_t written = write(failed, &sign, 1);
+    _exit(written == 1 ? 127 : 126);
 }
 
 }  // namespace

@@ -2,11 +2,36 @@
 
 #include <gtest/gtest.h>
 
+#ifndef _WIN32
+#include <unistd.h>
+
+#include <cerrno>
+#endif
+
 #include <QTest>
 #include <filesystem>
 
 #include "tests/support/Raises.h"
 #include "tests/support/TempDirectory.h"
+
+#ifndef _WIN32
+namespace {
+int forksThatSucceed = -1;  // any number of them
+}
+
+// The linker leads the calls here (--wrap). A child has a count of its own, which goes on from its parent's.
+extern "C" {
+pid_t __real_fork();
+pid_t __wrap_fork() {
+    if (forksThatSucceed == 0) {
+        errno = EAGAIN;
+        return -1;
+    }
+    if (forksThatSucceed > 0) --forksThatSucceed;
+    return __real_fork();
+}
+}
+#endif
 
 namespace zg {
 namespace {
@@ -63,6 +88,17 @@ TEST_F(BatchStarterTest, AViewerThatCannotStartIsAnError) {
     const std::string batchFile = directory_.write("open_file.bat", "notepad \"/a.frq\"\r\n");
     EXPECT_RAISES(5, "Invalid procedure call or argument",
                   (starter_.start(batchFile, WindowStyle::Hidden), 0));
+}
+
+TEST_F(BatchStarterTest, AViewerForWhichThereIsNoProcessIsAnError) {
+    addViewer();
+    const std::string batchFile = directory_.write("open_file.bat", "notepad \"/a.frq\"\r\n");
+    for (const int forks : {0, 1}) {
+        forksThatSucceed = forks;
+        EXPECT_RAISES(5, "Invalid procedure call or argument",
+                      (starter_.start(batchFile, WindowStyle::Hidden), 0));
+        forksThatSucceed = -1;
+    }
 }
 
 TEST_F(BatchStarterTest, TellsThatTheDesktopHasNoViewer) {
