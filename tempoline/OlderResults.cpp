@@ -26,6 +26,19 @@ std::optional<struct stat> stateOf(const std::string& name) {
     return state;
 }
 
+bool areOneFile(const std::string& name, const std::string& other) {
+    const std::optional<struct stat> state = stateOf(name);
+    const std::optional<struct stat> second = stateOf(other);
+    return state && second && state->st_dev == second->st_dev && state->st_ino == second->st_ino;
+}
+
+/// False with the error's number in errno.
+bool move(const std::string& name, const std::string& aside) {
+    if (std::rename(name.c_str(), aside.c_str()) != 0) return false;
+    // Where both are names of one file, renaming it leaves both.
+    return !areOneFile(name, aside) || unlink(name.c_str()) == 0;
+}
+
 }  // namespace
 
 std::string asideName(const std::string& result) {
@@ -44,8 +57,7 @@ std::string OlderResults::putAside(const std::vector<ResultSet>& sets) {
         const bool isWhole = stateOf(set.back()).has_value();
         for (const std::string& name : set) {
             const std::string aside = asideName(name);
-            if (stateOf(name) && (isWhole || !stateOf(aside)) &&
-                std::rename(name.c_str(), aside.c_str()) != 0 && fault.empty())
+            if (stateOf(name) && (isWhole || !stateOf(aside)) && !move(name, aside) && fault.empty())
                 fault = name + ": cannot be moved aside as " + aside + ": " + std::strerror(errno);
             note(aside);
         }

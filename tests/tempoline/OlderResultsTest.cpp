@@ -60,6 +60,15 @@ TEST(OlderResults, WholeResultsTakeThePlaceOfThoseAside) {
     EXPECT_EQ(contentsHere(), "out.previous.frq = newer, out.previous.tab = newer, out.previous.tsf = newer");
 }
 
+TEST(OlderResults, TwoNamesOfOneFileBecomeOne) {
+    const InDirectory inside;
+    inside.directory.write("out.frq", "old");
+    std::filesystem::create_hard_link("out.frq", "out.previous.frq");
+    OlderResults older;
+    EXPECT_EQ(older.putAside({{"out.frq"}}), "");
+    EXPECT_EQ(contentsHere(), "out.previous.frq = old");
+}
+
 TEST(OlderResults, WhatAKilledRunLeftOfItsResultsDoesNotTakeThePlaceOfThoseAside) {
     const InDirectory inside;
     inside.directory.write("out.tsf", "of a killed run");
