@@ -37,9 +37,10 @@ void ReasonLabel::setReason(const std::string& text) {
 void setPlainTip(QWidget& widget, const std::string& text) {
     constexpr qsizetype longLine = 80;
     const QString tip = shown(text);
-    // Only a text with markup wraps.
+    // Only a text with markup wraps, and there a line end is a blank.
     const bool asMarkup = tip.size() > longLine || Qt::mightBeRichText(tip);
-    widget.setToolTip(asMarkup ? QStringLiteral("<p>%1</p>").arg(tip.toHtmlEscaped()) : tip);
+    const QString lines = tip.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
+    widget.setToolTip(asMarkup ? QStringLiteral("<p>%1</p>").arg(lines) : tip);
 }
 
 }  // namespace zg

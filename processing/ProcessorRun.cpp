@@ -138,6 +138,7 @@ class Run {
         // Blanks around a value of the control file are no part of it.
         const std::string result = existingFile(directory_ + trim(output.name) + ".frq");
         made_ = !result.empty();
+        anyMade_ = anyMade_ || made_;
         tell(hooks_.setTip, "");
         if (made_) {
             step([&] { hooks_.load(result); });
@@ -166,7 +167,7 @@ class Run {
         // The label tells of the last output alone, or of none.
         if (form_ != RunForm::Single && !missing_.empty())
             tell(hooks_.setTip, "No FRQ file for " + missing_ + ": " + listingsEnd());
-        if (made_) tell(hooks_.setReason, warningsOfListing(listing()));
+        if (anyMade_) tell(hooks_.setReason, warningsOfListing(listing()));
         hooks_.showExit();
         hooks_.setBusy(false);
         step([this] { hooks_.keepTimeZone(); });
@@ -191,7 +192,8 @@ class Run {
     std::vector<std::string> batch_;
     std::shared_ptr<RunLock> lock_;
     std::string missing_;  ///< names of the outputs without a result
-    bool made_ = false;
+    bool made_ = false;    ///< of the last output
+    bool anyMade_ = false;
 };
 
 }  // namespace

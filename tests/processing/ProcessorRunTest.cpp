@@ -388,6 +388,21 @@ TEST_F(ProcessorRun, WarningsOfAGoodRunStandUnderItsStatusUntilTheNext) {
     EXPECT_EQ(reasons_.back(), "");
 }
 
+TEST_F(ProcessorRun, WarningsAreToldWhereAnyOutputWasMade) {
+    const std::string warnings = "TEMPOLINE\r\nWARNING: one: far away\r\nRUN COMPLETED\r\n";
+    starter_.onStart = [&] {
+        directory_.write("BASE_tempoline.lst", warnings);
+        finish({"one"});
+    };
+    run(RunForm::Heights);
+    EXPECT_EQ(status_, "Error has occurred.") << "of the last one";
+    EXPECT_EQ(reasons_.back(), "WARNING: one: far away");
+    std::filesystem::remove(directory_.file("one.frq"));
+    starter_.onStart = [&] { finish({}); };
+    run(RunForm::Heights);
+    EXPECT_EQ(reasons_.back(), "") << "nothing was made";
+}
+
 TEST_F(ProcessorRun, ALabelThatTellsOneResultOfManyNamesTheMissingOnesInItsTip) {
     starter_.onStart = [this] {
         directory_.write("BASE_tempoline.lst", "RUN COMPLETED\r\n");
