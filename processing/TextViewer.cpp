@@ -29,10 +29,15 @@ void ViewTextFile(Host& host, ProcessStarter& starter, const std::string& path, 
     const std::string batchFile = withSeparator(directory, separator) + "open_file.bat";
     needBatchName(batchFile, separator);  // the shell is given it to start
     writeBatchFile(batchFile, viewerLine(path, separator));
-    WaitMs(host, pauseMs);
-    starter.start(batchFile, WindowStyle::Hidden);
-    WaitMs(host, pauseMs);
     std::error_code error;
+    try {
+        WaitMs(host, pauseMs);
+        starter.start(batchFile, WindowStyle::Hidden);
+        WaitMs(host, pauseMs);
+    } catch (...) {
+        std::filesystem::remove(batchFile, error);
+        throw;
+    }
     std::filesystem::remove(batchFile, error);
     if (error) raiseFileError(error.value());
 }

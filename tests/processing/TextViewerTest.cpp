@@ -90,6 +90,7 @@ TEST_F(ViewTextFileTest, FailedStartReachesTheCaller) {
     starter_.onStart = [](const std::string&) { raise(ErrorNumber::InvalidProcedureCall); };
     EXPECT_RAISES(5, "Invalid procedure call or argument",
                   ViewTextFile(host_, starter_, "a.frq", temp_.path(), '/'));
+    EXPECT_TRUE(std::filesystem::is_empty(temp_.path())) << "the batch file does not stay";
 }
 
 TEST_F(ViewTextFileTest, NameOfTwoLinesAddsNoCommandToTheBatchFile) {
