@@ -21,7 +21,7 @@ std::string onClock(const RecordCounts& records, const Control& control) {
     return std::to_string(records.misaligned) +
            " records of a whole step begin within one, the first of them " +
            secondsText(records.misalignment) +
-           " behind its begin, and each counts for the step in which it begins. Choose a period that "
+           " after its begin, and each counts for the step in which it begins. Choose a period that "
            "begins " +
            "with a record, as at " + begin.substr(begin.find(' ') + 1) +
            ", or a time zone that is whole steps away from that of the data";

@@ -120,7 +120,7 @@ void Listing::describeRecords(const OutputRequest& output, const RecordCounts& r
     line(entry("  direction wrong", records.wrongDirection));
     line(entry("Records outside", records.outside));
     line(entry("  before the period", records.early));
-    line(entry("  behind the period", records.outside - records.early));
+    line(entry("  after the period", records.outside - records.early));
     line(entry("Records repeated", records.duplicate));
     if (records.used > 0) {
         line(entryLine("First record used", recordText(records.firstUsed)));

@@ -29,7 +29,7 @@ class InputReader {
     /// run. Throws a Failure with file, line and field.
     virtual void read(const std::string& path, std::vector<Series>& series) = 0;
 
-    /// Adds to the facts what is known only behind the last file, or where the run failed.
+    /// Adds to the facts what is known only after the last file, or where the run failed.
     virtual void finish() {}
 
     InputFacts facts;
@@ -57,7 +57,7 @@ class InputReader {
     void noteNoShift(const Control& control);
 
     /// Warns of a file that ends before its header says it does; all in the zone of the run. `last` is the
-    /// end of its last record, and nothing more is due so many seconds behind it.
+    /// end of its last record, and nothing more is due so many seconds after it.
     void noteEnd(const std::string& path, std::optional<Seconds> promised, std::optional<Seconds> last,
                  Seconds due = 0);
 

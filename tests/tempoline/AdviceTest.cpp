@@ -54,7 +54,7 @@ TEST(Advice, AClockThatGoesHalfAStepOtherwise) {
     records.misalignment = 900;
     EXPECT_EQ(adviceOn(records, dayControl()),
               std::vector<std::string>{"24 records of a whole step begin within one, the first of them 900 "
-                                       "seconds behind its begin, and each "
+                                       "seconds after its begin, and each "
                                        "counts for the step in which it begins. Choose a period that begins "
                                        "with a record, as at 00:15:00, or "
                                        "a time zone that is whole steps away from that of the data"});

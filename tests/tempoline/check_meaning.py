@@ -210,7 +210,7 @@ def case_half_hour_zones(processor, directory):
     make_inputs.write(directory / "a.dat", lines)
     write_control(directory / "c.inp", "surf.inp", ["a.dat"], ONE, [2004, 1, 2, 0, 0, 2004, 1, 3, 0, 0], zone="UTC+0530")
     errors, listing = completes(processor, directory)
-    warning = ("WARNING: out: 24 records of a whole step begin within one, the first of them 1800 seconds behind its begin, and each "
+    warning = ("WARNING: out: 24 records of a whole step begin within one, the first of them 1800 seconds after its begin, and each "
                "counts for the step in which it begins. Choose a period that begins with a record, as at 00:30:00, or a time zone "
                "that is whole steps away from that of the data")
     assert errors == "tempoline: " + warning + "\n" and warning in listing, errors
@@ -264,7 +264,7 @@ def case_listing(processor, directory):
     _, listing = completes(processor, directory)
     for name, count in (("Records read", 24), ("Records used", 15), ("Records missing", 7), ("  no level there", 0), ("  no speed", 2),
                         ("  speed out of range", 2), ("  no direction", 1), ("  direction wrong", 2), ("Records outside", 2),
-                        ("  before the period", 1), ("  behind the period", 1), ("Steps", 22), ("Steps valid", 15),
+                        ("  before the period", 1), ("  after the period", 1), ("Steps", 22), ("Steps valid", 15),
                         ("  without a wind", 7)):
         assert re.search(r"\n  %s +%d\n" % (name, count), listing), (name, listing)
     assert re.search(r"First record used +2004-01-01 07:00:00 to 2004-01-01 08:00:00, a\.sfc:9\n", listing), listing

@@ -83,7 +83,7 @@ def check_listing(path):
     counts = lambda name: [int(found) for found in re.findall(r"\n  %s +(\d+)\r?(?=\n)" % name, text)]
     for whole, parts in [
             ("Records missing", ["  no level there", "  no speed", "  speed out of range", "  no direction", "  direction wrong"]),
-            ("Records outside", ["  before the period", "  behind the period"]),
+            ("Records outside", ["  before the period", "  after the period"]),
             ("Steps missing", ["  without a record", "  without a wind", "  covered less than half", "  no mean direction"]),
             ("Steps", ["Steps valid", "Steps missing"])]:
         sums = [sum(values) for values in zip(*(counts(part) for part in parts))]
