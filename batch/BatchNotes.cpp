@@ -33,7 +33,7 @@ void BatchNotes::tookFile(const std::string& path, bool refused) {
     lines_.push_back(path + " was refused: it is not in the correct data format.");
 }
 
-const BatchNotes::Saved* BatchNotes::earlier(const std::string& picture) const {
+BatchNotes::Saved* BatchNotes::earlier(const std::string& picture) {
     const auto [first, last] = saved_.equal_range(lcase(picture));
     for (auto at = first; at != last; ++at)
         if (isSameFile(at->second.picture, picture)) return &at->second;
@@ -47,10 +47,12 @@ void BatchNotes::savedRose(int rose, const std::string& picture) {
     if (source_ != file_)
         lines_.push_back(name + " shows " + shownRose + ", since " + FileNameOf(file_) + " was refused.");
     ++roses_;
-    if (const Saved* replaced = earlier(picture))
+    if (Saved* replaced = earlier(picture)) {
         lines_.push_back(name + ": " + shownRose + " took the place of " + replaced->rose + ".");
-    else
-        ++pictures_;
+        replaced->rose = shownRose;
+        return;
+    }
+    ++pictures_;
     saved_.emplace(lcase(picture), Saved{picture, shownRose});
 }
 

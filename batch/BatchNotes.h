@@ -30,10 +30,10 @@ class BatchNotes {
         std::string picture;
         std::string rose;
     };
-    const Saved* earlier(const std::string& picture) const;
+    Saved* earlier(const std::string& picture);
 
     std::vector<std::string> lines_;
-    std::multimap<std::string, Saved> saved_;  ///< by their paths in lower case
+    std::multimap<std::string, Saved> saved_;  ///< the picture files by their paths in lower case
     std::string file_;
     std::string source_;  ///< the file whose roses are in memory, "" for what stood there before the run
     int files_ = 0;

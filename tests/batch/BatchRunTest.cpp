@@ -206,6 +206,18 @@ TEST_F(BatchRun, NotesNamePicturesThatTookTheNameOfAnother) {
               "1 file, 0 refused; 4 roses saved in 2 pictures, 0 left out.");
 }
 
+TEST_F(BatchRun, NotesNameTheRoseThatThePictureShowedLast) {
+    load_ = [this] {
+        roses("2.2", {100, 100, 100});
+        for (int rose = 1; rose <= 3; ++rose) modPolarGraph.FrqRoseTitle(rose) = "dup";
+    };
+    run();
+    EXPECT_EQ(notes_.text(),
+              "dup.bmp: rose 2 of one.frq took the place of rose 1 of one.frq.\n"
+              "dup.bmp: rose 3 of one.frq took the place of rose 2 of one.frq.\n"
+              "1 file, 0 refused; 3 roses saved in 1 picture, 0 left out.");
+}
+
 /// A file of two names stands for a file system that is blind to the letter case.
 TEST_F(BatchRun, NotesFindNamesThatDifferOnlyInTheirCase) {
     request_.workDirectory = directory_.path() + "/";
