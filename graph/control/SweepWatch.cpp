@@ -23,7 +23,7 @@ std::string quoted(const std::string& formula) {
 class WhileRunning {
  public:
     WhileRunning(ScriptEngine& engine, SweepWatch& watch) : engine_(engine) {
-        engine_.whileRunning([&watch] { watch.look(); });
+        engine_.whileRunning([&watch] { watch.lookNow(); });
     }
     ~WhileRunning() { engine_.whileRunning({}); }
     WhileRunning(const WhileRunning&) = delete;

@@ -27,19 +27,33 @@ class SweepWatch {
     /// Counts from here on. Without a service only the limit is watched.
     explicit SweepWatch(ScriptEngine::Clock clock, Serve serve = {});
 
-    /// Looks at the clock, and serves or ends the sweep when it is time to. Called for each point, and while
-    /// a script runs; throws SweepStopped, and raises 32811 beyond the limit, to which services do not count.
+    /// Looks at the clock, and serves or ends the sweep when it is time to: while a script runs. Throws
+    /// SweepStopped, and raises 32811 beyond the limit, to which services do not count.
+    void lookNow() {
+        const std::int64_t now = clock_();
+        skipped_ = now == seen_ ? fastPoints : 0;
+        seen_ = now;
+        if (now >= next_) act();
+    }
+
+    /// The same for each point; of points that follow each other fast only some look.
     void look() {
-        if (clock_() >= next_) act();
+        if (skipped_ > 0)
+            --skipped_;
+        else
+            lookNow();
     }
 
  private:
+    static constexpr int fastPoints = 15;
     void act();
 
     ScriptEngine::Clock clock_;
     Serve serve_;
     std::int64_t begin_;
     std::int64_t next_;
+    std::int64_t seen_ = -1;
+    int skipped_ = 0;
 };
 
 /// Carries a sweep out, with a look at the watch now and then while the engine runs a script of it. What it
