@@ -23,7 +23,9 @@ std::vector<CurveRow> tabulateCurve(const GrapInfo& graph, ScriptEngine::Clock c
     engine.Language("VBScript");
     engine.Timeout(-1);
     engine.AddObject("MathLib", MathLibrary{});
-    SweepWatch watch(std::move(clock), std::move(serve));
+    const bool canBeStopped = static_cast<bool>(serve);
+    SweepWatch watch(std::move(clock), std::move(serve),
+                     canBeStopped ? std::nullopt : std::optional(SweepWatch::usualLimit));
     std::vector<CurveRow> rows;
     const auto sweep = [&] {
         engine.AddCode(graph.Coefficient);

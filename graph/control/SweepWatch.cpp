@@ -35,14 +35,18 @@ class WhileRunning {
 
 }  // namespace
 
-SweepWatch::SweepWatch(ScriptEngine::Clock clock, Serve serve)
-    : clock_(std::move(clock)), serve_(std::move(serve)), begin_(clock_()), next_(begin_ + patience) {}
+SweepWatch::SweepWatch(ScriptEngine::Clock clock, Serve serve, std::optional<std::int64_t> limit)
+    : clock_(std::move(clock)),
+      serve_(std::move(serve)),
+      limit_(limit),
+      begin_(clock_()),
+      next_(begin_ + patience) {}
 
 void SweepWatch::act() {
     const std::int64_t now = clock_();
-    if (now - begin_ >= limit)
+    if (limit_ && now - begin_ >= *limit_)
         throw RunTimeError(outOfTime, std::string(errorDescription(ScriptErrorNumber::OutOfTime)) +
-                                          ": more than " + std::to_string(limit / 1000) +
+                                          ": more than " + std::to_string(*limit_ / 1000) +
                                           " seconds for one curve");
     if (serve_ && !serve_()) throw SweepStopped{};
     const std::int64_t after = clock_();

@@ -1,10 +1,11 @@
 #pragma once
 
 // What keeps a long sweep of a curve from holding the program: events are served meanwhile, and no sweep goes
-// on for ever.
+// on for ever where nobody can stop it.
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "graph/script/ScriptEngine.h"
@@ -17,15 +18,17 @@ struct SweepStopped {};
 class SweepWatch {
  public:
     /// Milliseconds of work after which a sweep is given up.
-    static constexpr std::int64_t limit = 30'000;
+    static constexpr std::int64_t usualLimit = 30'000;
     /// Milliseconds of work from one service of events to the next: a sweep that is shorter serves none.
     static constexpr std::int64_t patience = 100;
 
     /// Serves events; false ends the sweep.
     using Serve = std::function<bool()>;
 
-    /// Counts from here on. Without a service only the limit is watched.
-    explicit SweepWatch(ScriptEngine::Clock clock, Serve serve = {});
+    /// Counts from here on. Without a service only the limit is watched; without a limit a service alone ends
+    /// the sweep.
+    explicit SweepWatch(ScriptEngine::Clock clock, Serve serve = {},
+                        std::optional<std::int64_t> limit = usualLimit);
 
     /// Looks at the clock, and serves or ends the sweep when it is time to: while a script runs. Throws
     /// SweepStopped, and raises 32811 beyond the limit, to which services do not count.
@@ -50,6 +53,7 @@ class SweepWatch {
 
     ScriptEngine::Clock clock_;
     Serve serve_;
+    std::optional<std::int64_t> limit_;
     std::int64_t begin_;
     std::int64_t next_;
     std::int64_t seen_ = -1;
