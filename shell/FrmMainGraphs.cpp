@@ -325,7 +325,7 @@ void frmMain::playSelected() {
     pressTool(Tool::Arrow);
     pgPolarGraph().ClearGraph();
     for (int row = 0; row < pgPolarGraph().Plot().Count(); ++row)
-        pgPolarGraph().DrawGraph(toInt16(row + 1.0), row == rows.front());
+        if (!pgPolarGraph().DrawGraph(toInt16(row + 1.0), row == rows.front())) break;
 }
 
 void frmMain::showTable() {

@@ -205,8 +205,9 @@ class PolarGraph {
     /// at once whatever its delay; true lets those with a delay sweep step by step, with events served
     /// meanwhile, until StopAni becomes true. One that takes long serves events too: it ends when StopAni
     /// becomes true, the curves after it with it, and raises 32811 beyond the limit of SweepWatch. Raises the
-    /// script engine's errors; what was painted until then stays.
-    void DrawGraph(std::optional<std::int16_t> index = std::nullopt, bool instantly = false);
+    /// script engine's errors; what was painted until then stays. False where StopAni ended one that takes
+    /// long.
+    bool DrawGraph(std::optional<std::int16_t> index = std::nullopt, bool instantly = false);
 
     /// The selection, or the whole page without one, goes to the clipboard.
     void EditCopy();

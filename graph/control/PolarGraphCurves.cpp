@@ -34,15 +34,16 @@ class AtEnd {
 
 }  // namespace
 
-void PolarGraph::DrawGraph(std::optional<std::int16_t> index, bool instantly) {
-    if (suspended_ || isPutOff()) return;
+bool PolarGraph::DrawGraph(std::optional<std::int16_t> index, bool instantly) {
+    if (suspended_ || isPutOff()) return true;
     if (index) {
         drawItem(*index, instantly);
-        if (!curvesWanted_ || stopped_) return;
+        if (!curvesWanted_ || stopped_) return !stopped_;
     }
     // A curve that was hidden, changed or removed since would stay on the page otherwise.
     ClearGraph();
     drawAll(instantly && !index);
+    return !stopped_;
 }
 
 /// Curves that are wanted while a long sweep serves events share its engine and its page: they wait until it
@@ -122,17 +123,26 @@ void PolarGraph::sweep(const GrapInfo& graph) {
 void PolarGraph::paintPoints(const GrapInfo& curve, const std::function<bool(float)>& goesOn) {
     CurveSampler sampler(engine_, curve);
     CurvePainter painter(curve.Series, markerPictures(curve.Series), geometry_);
-    for (SweepAngles angles(curve); !angles.done(); angles.advance()) {
-        const CurvePoint point = sampler.at(angles.angle(), geometry_);
+    const auto finish = [&] {
         RecordedCanvas canvas = page();
-        painter.paint(canvas, point);
-        if (events.DrawProgress)
-            events.DrawProgress(point.angle, point.radius, static_cast<float>(point.x),
-                                static_cast<float>(point.y), curve.EndingAngle);
-        if (!goesOn(point.angle)) break;
+        painter.finish(canvas);
+    };
+    try {
+        for (SweepAngles angles(curve); !angles.done(); angles.advance()) {
+            const CurvePoint point = sampler.at(angles.angle(), geometry_);
+            RecordedCanvas canvas = page();
+            painter.paint(canvas, point);
+            if (events.DrawProgress)
+                events.DrawProgress(point.angle, point.radius, static_cast<float>(point.x),
+                                    static_cast<float>(point.y), curve.EndingAngle);
+            if (!goesOn(point.angle)) break;
+        }
+    } catch (const SweepStopped&) {
+        // What ended it otherwise draws the page anew.
+        if (own_.StopAni) finish();
+        throw;
     }
-    RecordedCanvas canvas = page();
-    painter.finish(canvas);
+    finish();
 }
 
 /// Shows how far a long sweep has come and serves events; false when it is to end. StopAni is False

@@ -93,6 +93,17 @@ TEST_F(SlowCurves, ClosingTheWindowEndsAllOfThem) {
     EXPECT_EQ(host_.pumps, 1) << "nothing more is drawn";
 }
 
+TEST_F(SlowCurves, OneEscapeEndsAllOfPlay) {
+    plotCurve("2", 0);
+    plotCurve("3", 0);
+    child<QTreeWidget>("lvwTable")->topLevelItem(0)->setSelected(true);
+    host_.onPump = [this] { QTest::keyClick(window_.get(), Qt::Key_Escape); };
+    host_.tick = 20;
+    window_->mnuGraphOption_Click(6);
+    EXPECT_EQ(host_.pumps, 1) << "the second curve is not begun";
+    EXPECT_TRUE(plot().StopAni());
+}
+
 TEST_F(SlowCurves, TheButtonPlotDoesNothingWhileItIsAtWork) {
     int presses = 0;
     host_.onPump = [&] {

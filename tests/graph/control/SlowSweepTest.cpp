@@ -78,6 +78,17 @@ TEST_F(SlowSweep, EndsByStopAniAndTheCurvesAfterItWithIt) {
     EXPECT_EQ(points, 2 * 37) << "the next redraw draws all of them again";
 }
 
+TEST_F(SlowSweep, ReachesItsLastPointWhereItIsStopped) {
+    add("0.001");
+    millisecondsAPoint = 100;
+    host.onPump = [this] { graph.StopAni(points == 5); };
+    EXPECT_FALSE(graph.DrawGraph());
+    EXPECT_EQ(points, 5);
+    EXPECT_EQ(lines(), 1U) << "steps too small to be seen are one line";
+    host.onPump = {};
+    EXPECT_TRUE(graph.DrawGraph());
+}
+
 TEST_F(SlowSweep, BeyondTheLimitIsAnErrorThatNamesTheFormula) {
     add("2+t");
     millisecondsAPoint = 1000;
@@ -193,7 +204,7 @@ TEST_F(SlowScript, TheEngineGoesOnAfterAStop) {
     EXPECT_EQ(points, 37);
 }
 
-TEST_F(SlowScript, ATableHasALimitOfItsSweepAlone) {
+TEST_F(SlowScript, ATableHasALimitOnlyWhereNothingCanStopIt) {
     GrapInfo curve;
     curve.Coefficient = endless;
     curve.Equation = "f(t)";
@@ -202,8 +213,10 @@ TEST_F(SlowScript, ATableHasALimitOfItsSweepAlone) {
     EXPECT_EQ(errorOf([&] { tabulateCurve(curve, clock); }),
               "32811 The script ran out of time: more than 30 seconds for one curve: 'f(t)'");
     int served = 0;
-    EXPECT_THROW(tabulateCurve(curve, clock, {}, [&served] { return ++served < 3; }), SweepStopped);
-    EXPECT_EQ(served, 3);
+    now = 0;
+    EXPECT_THROW(tabulateCurve(curve, clock, {}, [&served] { return ++served < 3000; }), SweepStopped);
+    EXPECT_EQ(served, 3000);
+    EXPECT_GT(now, 2 * SweepWatch::usualLimit);
 }
 
 }  // namespace
