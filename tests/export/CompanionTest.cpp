@@ -1,8 +1,9 @@
 // The companion as a command: its words, its exit status and its streams.
 
 #include <gtest/gtest.h>
-
+#include <linux/close_range.h>
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <QProcess>
 #include <filesystem>
@@ -31,6 +32,8 @@ Result runCompanion(const QStringList& words, std::optional<Limit> limit = {}) {
     QProcess process;
     if (limit)
         process.setChildProcessModifier([limit] {
+            // What this program has open, or was given, shall not count.
+            close_range(3, ~0U, CLOSE_RANGE_CLOEXEC);
             const rlimit bound{limit->most, limit->most};
             setrlimit(static_cast<__rlimit_resource_t>(limit->resource), &bound);
         });
