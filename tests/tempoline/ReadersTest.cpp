@@ -97,6 +97,17 @@ TEST(Readers, ALevelOf3dDatWithoutAHeightIsPassedOver) {
               "15: height: \"ten\" is no number");
 }
 
+TEST(Readers, ATimeOf3dDatIsTenDigits) {
+    Reading reading(InputKind::M3d);
+    reading.control.cellCoordinates = true;
+    reading.control.outputs[0].x = reading.control.outputs[0].y = 1;
+    const std::string hour = m3dHour("1000 10 280 90 6", "900 80 280 90 6");
+    for (const std::string stamp : {"200402290", "20040229000", "20040229x0"})
+        EXPECT_EQ(reading.failure(m3dHead("40 -97 30 60", -75) + stamp + hour.substr(10)),
+                  "14: time: a time as yyyymmddhh is needed")
+            << stamp;
+}
+
 TEST(Readers, APlaceBehindTheDateLineLiesInAGridFrom190Degrees) {
     Reading reading(InputKind::M3d);
     reading.control.outputs[0].x = -169.5;

@@ -127,6 +127,17 @@ TEST(Run, SaysWhatIsWrongInGriddedFiles) {
     EXPECT_EQ(ventos(good + "2004 1 1 0 0\n1\n"), "ERROR: in.dat:8: a row of u: it has 1 of 2 values");
 }
 
+TEST(Run, GriddedFilesMayBeOfEqualAreas) {
+    const auto ventos = [](const std::string& projection, const std::string& grid) {
+        return lastLineOf("ventos_ll.inp", {{"METSIM", "1"}},
+                          "VENTOS.DAT 2.1\n0\n2004 1 1 0 0 2004 1 2 0 0 UTC-0500 3600\n" + projection +
+                              " WGS-84 N NONE 0 0 41.25N 74.5W NONE NONE\n" + grid +
+                              "\n0 20\n2004 1 1 0 0\n1 2\n3 4\n1 2\n3 4\n");
+    };
+    EXPECT_EQ(ventos("LAZA", "2 2 1 -5 -5 10"), "RUN COMPLETED") << "the location is its origin";
+    EXPECT_EQ(ventos("LAZB", "2 2 1 -5 -5 10"), "ERROR: in.dat:4: PMAP: \"LAZB\" is no known projection");
+}
+
 TEST(Run, TheDesktopLoadsWhatItMade) {
     const InDirectory inside;
     const std::string line = "2004 1 1 1 1 0 0 0 0 0 0 0 0 0 0 4.0 90.0 10.0\n";
