@@ -68,5 +68,6 @@ std::optional<zg::FontRecord> TestHost::pickFont(const zg::FontRecord& current) 
 void TestHost::pumpEvents(int idleMs) {
     ++pumps;
     now += idleMs > 0 ? idleMs : 1;
-    if (onPump) onPump();
+    // A copy: what is called may set another.
+    if (const std::function<void()> act = onPump) act();
 }
