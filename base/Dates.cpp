@@ -24,7 +24,7 @@ chrono::days wholeDays(DateTime moment) {
     return chrono::floor<chrono::days>(chrono::seconds(moment.seconds));
 }
 
-/// The moment so many seconds later; raises 6 outside the years that moments have.
+/// The moment that many seconds later; raises 6 outside the years 100 to 9999.
 DateTime moved(DateTime moment, std::int64_t seconds) {
     constexpr std::int64_t first =
         chrono::seconds(chrono::sys_days(chrono::year(100) / 1 / 1) - epoch).count();
@@ -36,7 +36,7 @@ DateTime moved(DateTime moment, std::int64_t seconds) {
     return {moment.seconds + seconds};
 }
 
-/// A run of one to maxDigits digits and nothing else, as a number; raises 13 for anything else.
+/// The value of a text of 1 to maxDigits digits; raises 13 for anything else.
 int digitsOnly(std::string_view text, std::size_t maxDigits) {
     int value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);

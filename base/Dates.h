@@ -1,6 +1,6 @@
 #pragma once
 
-// Dates and times of day without a locale: whole seconds, English months.
+// Dates and times of day, independent of any locale: whole seconds, English month names.
 
 #include <cstdint>
 #include <string>
@@ -8,8 +8,8 @@
 
 namespace zg {
 
-/// A moment as whole seconds since the midnight that began December 30, 1899; 0 stands for "not known".
-/// Years run from 100 to 9999.
+/// A moment as whole seconds since 00:00 on December 30, 1899; 0 means "not known". Years run from 100 to
+/// 9999.
 struct DateTime {
     std::int64_t seconds = 0;
     auto operator<=>(const DateTime&) const = default;
@@ -35,25 +35,26 @@ TimeOfDay timeOf(DateTime moment);
 /// "Jan" to "Dec" for the number in the text, "" for anything outside 1 to 12.
 std::string MonthName3(std::string_view monthText);
 
-/// "Mar 5 ,1990": month name, day, year; years of one or two digits 0 to 29 are 20xx, 30 to 99 are 19xx.
-/// Raises 13 for what is no date.
+/// "Mar 5 ,1990": month name, day, year. One- and two-digit years 0 to 29 are 20xx, 30 to 99 are 19xx. Raises
+/// 13 for text that is not a date.
 DateTime parseDate(std::string_view text);
 
-/// The date of year, month and day as texts, by way of the month's name; raises 13 for what is no date.
+/// The date given by year, month and day as texts; raises 13 if they do not form one.
 DateTime DateFromParts(std::string_view year, std::string_view month, std::string_view day);
 
-/// "h:m:s" with parts of one or two digits in their usual ranges; else raises 13.
+/// "h:m:s" with parts of one or two digits in their usual ranges; raises 13 for anything else.
 TimeOfDay parseTime(std::string_view text);
 
-/// Seconds of hours, minutes and seconds that may overflow their ranges: timeSerial(0, 0, 3600) is one hour.
-/// Raises 6 for a part outside 32 bits.
+/// Seconds of hours, minutes and seconds, each of which may exceed its range: timeSerial(0, 0, 3600) is one
+/// hour. Raises 6 for a part outside 32 bits.
 std::int64_t timeSerial(std::int64_t hours, std::int64_t minutes, std::int64_t seconds);
 
-/// A later or, by a negative amount, earlier moment; raises 6 outside the years 100 to 9999.
+/// The moment shifted by an amount, which may be negative; raises 6 outside the years 100 to 9999.
 DateTime addDays(DateTime moment, std::int64_t days);
 DateTime addSeconds(DateTime moment, std::int64_t seconds);
 
-/// Adds hours, fractions included (half-hour zones), rounded to the nearest second; raises 6 as the others.
+/// Adds hours, fractions included (half-hour zones), rounded to the nearest second; raises 6 outside the
+/// years 100 to 9999.
 DateTime addHours(DateTime moment, double hours);
 
 /// "Jan 1, 2001"

@@ -8,13 +8,13 @@ namespace zg {
 
 namespace {
 
-/// Characters of windows-1252 from 0x80 to 0x9F; the five places it leaves open stand for themselves.
+/// Characters of windows-1252 from 0x80 to 0x9F; the five unassigned bytes map to themselves.
 constexpr std::array<std::uint16_t, 32> windowsCharacters = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-/// Takes one character off the front of the bytes; nothing where they are no valid UTF-8.
+/// Takes one character off the front of the bytes; nothing if they are not valid UTF-8.
 std::optional<std::uint32_t> takeCharacter(std::string_view& bytes) {
     const auto first = static_cast<unsigned char>(bytes.front());
     const std::size_t length = first < 0x80   ? 1
@@ -84,7 +84,7 @@ std::string fromUtf8(std::string_view utf8) {
         if (!byte) return std::string(utf8);
         out.push_back(*byte);
     }
-    // Some windows-1252 bytes happen to be other characters in UTF-8, and would be read as those.
+    // Some sequences of windows-1252 bytes are also valid UTF-8 and would be read back as other characters.
     return toUtf8(out) == utf8 ? out : std::string(utf8);
 }
 

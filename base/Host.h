@@ -1,7 +1,7 @@
 #pragma once
 
-// What the program asks of the person and the platform. Everything below the windows goes through this one
-// small interface, so that tests answer the questions and read what was asked.
+// What the program asks of the person and the platform. All code below the windows uses this one small
+// interface, so that tests can answer the questions and see what was asked.
 
 #include <cstdint>
 #include <optional>
@@ -25,10 +25,10 @@ struct MessageBox {
 
 struct FilePick {
     std::string title;
-    std::string filter;     ///< "Text|pattern;pattern|Text|pattern", blanks allowed round each piece
-    int filterIndex = 1;    ///< from 1
+    std::string filter;     ///< "Text|pattern;pattern|Text|pattern", blanks allowed around each piece
+    int filterIndex = 1;    ///< counted from 1
     std::string directory;  ///< where the dialog starts; "" leaves it to the platform
-    std::string fileName;   ///< offered name
+    std::string fileName;   ///< name offered at first
     bool overwritePrompt = false;
 };
 
@@ -44,24 +44,24 @@ class Host {
 
     virtual BoxAnswer showBox(const MessageBox& box) = 0;
 
-    /// Full path of the picked file, "" when cancelled.
+    /// Full path of the picked file, "" if cancelled.
     virtual std::string pickFileToOpen(const FilePick& pick) = 0;
     virtual std::string pickFileToSave(const FilePick& pick) = 0;
 
-    /// Full paths of the picked files, none when cancelled.
+    /// Full paths of the picked files, none if cancelled.
     virtual std::vector<std::string> pickFilesToOpen(const FilePick& pick) = 0;
 
-    /// Full path of the picked folder, "" when cancelled.
+    /// Full path of the picked folder, "" if cancelled.
     virtual std::string pickFolder(const FolderPick& pick) = 0;
 
-    /// The picked colour or font, nothing when cancelled; the dialog starts with the given one.
+    /// The picked colour or font, nothing if cancelled; the dialog starts with the given one.
     virtual std::optional<Colour> pickColour(Colour current) = 0;
     virtual std::optional<FontRecord> pickFont(const FontRecord& current) = 0;
 
-    /// Milliseconds of a clock that only moves forward.
+    /// Milliseconds of a monotonic clock.
     virtual std::int64_t tickCount() = 0;
 
-    /// Serves the waiting events; where none waits it may sleep up to so many milliseconds.
+    /// Processes pending events; if there are none it may sleep for up to this many milliseconds.
     virtual void pumpEvents(int idleMs) = 0;
 };
 

@@ -16,8 +16,8 @@ namespace {
 
 constexpr std::size_t windowSize = 65536;
 
-/// The first CR or LF of the bytes, or npos. Searched piece by piece: in a file without any LF a search for
-/// the next one would pass over all that is left, for every line.
+/// The first CR or LF of the bytes, or npos. It searches piece by piece: in a file without any LF, a plain
+/// search for the next one would scan the rest of the file for every line.
 std::size_t lineEnd(std::string_view bytes) {
     constexpr std::size_t pieceSize = 256;
     const auto find = [&bytes](char c, std::size_t from, std::size_t to) {
@@ -32,8 +32,8 @@ std::size_t lineEnd(std::string_view bytes) {
     return std::string_view::npos;
 }
 
-/// Line ends among the bytes, CR LF counted once, after a byte that may have been the CR of such a pair. The
-/// short inner runs let the compiler count many bytes at a time.
+/// Counts the line ends in the bytes, CR LF as one, given whether the byte before may have been the CR of
+/// such a pair. The short inner runs let the compiler vectorise the count.
 std::size_t countLineEnds(std::string_view bytes, char before) {
     constexpr std::size_t run = 128;
     std::size_t ends = 0;
@@ -53,11 +53,11 @@ std::size_t countLineEnds(std::string_view bytes, char before) {
 }  // namespace
 
 FileHandle openForReading(const std::string& path) {
-    // The C library would take such a name up to the NUL.
+    // The C library would cut such a name at the NUL.
     if (path.find('\0') != std::string::npos) raise(ErrorNumber::FileNotFound);
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
-    // A pipe that nobody writes to would hold the program for good.
+    // Opening a pipe that nobody writes to would block for good.
     if (fs::exists(status) && !fs::is_regular_file(status)) raise(ErrorNumber::PathFileAccessError);
     FileHandle file(std::fopen(path.c_str(), "rb"));
     if (!file) raiseFileError(errno);
@@ -66,7 +66,7 @@ FileHandle openForReading(const std::string& path) {
 
 LineReader::LineReader(const std::string& path, std::size_t longestLine)
     : longestLine_(longestLine), file_(openForReading(path)) {
-    // The reader keeps a window of its own: a second copy inside the stream would only cost.
+    // The reader has its own window, so a buffer in the stream would only add a copy.
     std::setvbuf(file_.get(), nullptr, _IONBF, 0);
 }
 
@@ -81,7 +81,7 @@ bool LineReader::fill() {
     if (endOfFile_ || !file_) return false;
     const std::size_t kept = window_.size();
     if (kept > 0 && window_.data() != buffer_.data()) std::memmove(buffer_.data(), window_.data(), kept);
-    // A line longer than the window doubles it, so that long lines cost linear time.
+    // A line longer than the window doubles the window, so that long lines cost linear time.
     if (buffer_.size() < kept + windowSize) buffer_.resize(std::max(kept + windowSize, 2 * kept));
     const std::size_t got = std::fread(buffer_.data() + kept, 1, buffer_.size() - kept, file_.get());
     if (got == 0) {
@@ -92,7 +92,7 @@ bool LineReader::fill() {
     return got > 0;
 }
 
-/// So many bytes may belong to one line.
+/// Raises 6, with the line number, if a line of this many bytes exceeds the limit.
 void LineReader::needShort(std::size_t bytes) const {
     if (bytes <= longestLine_) return;
     RunTimeError error(static_cast<int>(ErrorNumber::Overflow),
@@ -121,7 +121,7 @@ std::string_view LineReader::readLine() {
         window_ = window_.substr(window_.size());
         return last;
     }
-    // A CR at the very edge of the window may have its LF in the next part of the file.
+    // A CR at the end of the window may be followed by its LF in the next part of the file.
     if (window_[end] == '\r' && end + 1 == window_.size()) fill();
     const std::string_view line = window_.substr(0, end);
     const bool pair = window_[end] == '\r' && end + 1 < window_.size() && window_[end + 1] == '\n';
@@ -131,7 +131,7 @@ std::string_view LineReader::readLine() {
 
 std::size_t LineReader::skipAll() {
     std::size_t count = 0;
-    char last = '\n';  // what was read so far ended with its line
+    char last = '\n';  // the part read so far ended with a line end
     while (!atEnd()) {
         count += countLineEnds(window_, last);
         last = window_.back();

@@ -1,7 +1,7 @@
 #pragma once
 
-// Text files line by line: 8-bit bytes as they stand, lines ended by CR LF, CR or LF on reading, CR LF on
-// writing.
+// Text files line by line: 8-bit bytes, unconverted. Lines end with CR LF, CR or LF when read, with CR LF
+// when written.
 
 #include <cstdio>
 #include <memory>
@@ -16,39 +16,39 @@ struct FileCloser {
 };
 using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 
-/// Opens a plain file for binary reading; raises 53, 70, 75 or 76 where that fails, 75 for a directory, a
-/// pipe or a device.
+/// Opens a regular file for binary reading; raises 53, 70, 75 or 76 on failure, 75 for a directory, a pipe or
+/// a device.
 FileHandle openForReading(const std::string& path);
 
-/// Reads lines. Only a window of the file is in memory at a time, at least one line.
+/// Reads lines. Only a window of the file, of at least one line, is in memory at a time.
 class LineReader {
  public:
-    /// Lines of any length, or those up to so many bytes: readLine raises 6 for a longer one, with its
-    /// number.
+    /// Reads lines of any length, or up to a limit in bytes: readLine then raises 6, with the line number,
+    /// for a longer one.
     explicit LineReader(const std::string& path, std::size_t longestLine = std::string::npos);
 
     /// Reads from bytes in memory, which must outlive the reader.
     static LineReader ofText(std::string_view text);
 
-    /// No further line is there. A last line without its end is still a line.
+    /// Whether all lines have been read. A last line without a line end is still a line.
     bool atEnd();
 
-    /// What comes next as far as it has been fetched, line ends included, valid until the next call: at least
-    /// one byte where the end has not come, the first 64 KiB of a file (or all of it) before any line is
-    /// read.
+    /// The bytes that follow, as far as they have been fetched, line ends included, valid until the next
+    /// call: at least one byte unless the end is reached; before the first line, the first 64 KiB of the
+    /// file, or all of it if it is shorter.
     std::string_view ahead() { return atEnd() ? std::string_view() : window_; }
 
-    /// The next line without its end, valid until the next call; raises 62 past the end.
+    /// The next line without its line end, valid until the next call; raises 62 past the end.
     std::string_view readLine();
 
-    /// Passes over all lines that are left and gives their number; faster than reading them, and no line is
-    /// held whole.
+    /// Skips all remaining lines and returns how many there were; faster than reading them, and no whole line
+    /// is held in memory.
     std::size_t skipAll();
 
     /// Number of the line last read, from 1.
     std::size_t lineNumber() const { return lineNumber_; }
 
-    /// Hands over the open file, to be closed by the new owner; what has been fetched can still be read.
+    /// Hands over the open file, which the new owner closes; what has been fetched can still be read.
     FileHandle release() { return std::move(file_); }
 
  private:
@@ -64,29 +64,29 @@ class LineReader {
     std::size_t lineNumber_ = 0;
 };
 
-/// Writes lines ended by CR LF; the file is replaced. Raises the fitting error where that fails.
+/// Writes lines ended by CR LF; an existing file is replaced. Raises the fitting error on failure.
 class LineWriter {
  public:
     explicit LineWriter(const std::string& path);
 
     void writeLine(std::string_view text);
 
-    /// Bytes as they stand, without a line end.
+    /// Writes bytes unchanged, without a line end.
     void write(std::string_view bytes);
 
-    /// Flushes and closes; raises 61 or 57 where the bytes did not reach the file. A writer destroyed without
-    /// it closes silently.
+    /// Flushes and closes; raises 61 or 57 if the bytes did not reach the file. A writer destroyed without
+    /// this call closes without reporting errors.
     void close();
 
  private:
     FileHandle file_;
 };
 
-/// A quoted record as the graph and expression files hold it: the text in double quotes, inner quotes as they
-/// stand, CR LF.
+/// A quoted record of the graph and expression files: the text in double quotes, inner quotes unchanged, CR
+/// LF.
 void writeQuoted(LineWriter& writer, std::string_view text);
 
-/// The records of such a file: a quoted text up to its closing quote, or a bare text up to a comma or line
+/// Reads the records of such a file: quoted text up to its closing quote, or bare text up to a comma or line
 /// end. A comma separates only outside quotes.
 class QuotedRecordReader {
  public:
@@ -102,7 +102,7 @@ class QuotedRecordReader {
     std::size_t at_ = 0;
 };
 
-/// The whole file as bytes; raises as openForReading does.
+/// The whole file as bytes; raises the same errors as openForReading.
 std::string readWholeFile(const std::string& path);
 
 }  // namespace zg

@@ -17,10 +17,10 @@ namespace {
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
-/// A number at the beginning of a text, by the places of its parts.
+/// A number at the beginning of a text, by the offsets of its parts.
 struct NumberShape {
-    std::size_t length = 0;  ///< sign and exponent included; 0 where the text starts with no number
-    std::size_t exponentAt = std::string_view::npos;  ///< the E or D, where there is one
+    std::size_t length = 0;  ///< sign and exponent included; 0 if the text does not start with a number
+    std::size_t exponentAt = std::string_view::npos;  ///< the E or D, if there is one
 };
 
 NumberShape numberAtStart(std::string_view text) {
@@ -44,8 +44,8 @@ NumberShape numberAtStart(std::string_view text) {
     return {i, std::string_view::npos};
 }
 
-/// Whether a number outside the range lies beyond its large end: by the place of its first digit that is not
-/// 0, moved by the exponent. The library reports both ends of the range alike.
+/// Whether a number out of range is too large rather than too small, from the position of its first non-zero
+/// digit and its exponent. The library reports both cases alike.
 bool isBeyondLargeEnd(std::string_view number, std::size_t exponentAt) {
     const std::string_view mantissa = number.substr(0, exponentAt);
     const auto point = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
@@ -61,8 +61,8 @@ bool isBeyondLargeEnd(std::string_view number, std::size_t exponentAt) {
     return exponent > -place;
 }
 
-/// The value of a text that is one number of this shape. A number too small is 0; nothing stands for one too
-/// large.
+/// The value of a text that is one number of this shape. A number too small is 0; one too large gives
+/// nothing.
 template <typename Real>
 std::optional<Real> parseNumber(std::string_view text, const NumberShape& shape) {
     std::string withE;
@@ -79,7 +79,7 @@ std::optional<Real> parseNumber(std::string_view text, const NumberShape& shape)
     return Real(0);
 }
 
-/// Drops commas that stand before the decimal point; a comma anywhere else makes the text no number.
+/// Removes commas before the decimal point; a comma anywhere else means that the text is not a number.
 bool dropGroupingCommas(std::string_view text, std::string& plain) {
     const std::size_t wholeEnd = std::min(text.find_first_of(".eEdD"), text.size());
     if (text.find(',', wholeEnd) != std::string_view::npos) return false;
@@ -95,7 +95,7 @@ bool dropGroupingCommas(std::string_view text, std::string& plain) {
     return true;
 }
 
-/// The whole text as a number; raises 13 and 6 as toDouble does.
+/// The whole text as a number; raises the same errors as toDouble.
 template <typename Real>
 Real wholeNumber(std::string_view text) {
     text = trimmed(text);
@@ -168,13 +168,13 @@ double val(std::string_view text) {
 double toDouble(std::string_view text) { return wholeNumber<double>(text); }
 
 float toSingle(double value) {
-    // Up to half a step above the largest single, that one is the nearest.
+    // Values up to half a step above the largest single round down to it.
     constexpr double roundsBeyond = 0x1.ffffffp127;
     if (!(std::abs(value) < roundsBeyond)) raise(ErrorNumber::Overflow);
     return static_cast<float>(value);
 }
 
-// Not by way of a double: rounding twice may end beside the nearest single.
+// Not by way of a double: rounding twice may miss the nearest single.
 float toSingle(std::string_view text) { return wholeNumber<float>(text); }
 
 std::int16_t toInt16(double value) {
@@ -197,7 +197,7 @@ double roundHalfEven(double value, int decimals) {
     if (decimals == 0) return std::nearbyint(value);
     const double scale = std::pow(10.0, decimals);
     const double scaled = value * scale;
-    // From 2^52 on a double has no fraction, so that there is nothing to round (nor in what is no number).
+    // From 2^52 on a double has no fraction, so there is nothing to round (nor is there in NaN or infinity).
     if (!(std::abs(scaled) < 4503599627370496.0)) return value;
     return std::nearbyint(scaled) / scale;
 }

@@ -19,7 +19,7 @@ std::size_t lastSeparator(std::string_view path, char separator) {
     return path.find_last_of(both);
 }
 
-/// Both in one letter case. Linear in the text for each "*", without recursion.
+/// Both arguments must be in one letter case. Linear in the text for each "*", without recursion.
 bool matches(std::string_view name, std::string_view pattern) {
     std::size_t n = 0;
     std::size_t p = 0;
@@ -43,7 +43,7 @@ bool matches(std::string_view name, std::string_view pattern) {
     return p == pattern.size();
 }
 
-/// No look-up can be asked for such a name: it would take the part before the NUL.
+/// The system would look up only the part of such a name before the NUL.
 bool holdsNul(const fs::path& path) {
     return path.native().find(fs::path::value_type()) != fs::path::string_type::npos;
 }

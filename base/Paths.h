@@ -1,7 +1,7 @@
 #pragma once
 
-// Paths as users and files write them. The separator is an argument with the platform's own as default, so
-// that the rules for "\" hold, and are tested, everywhere.
+// Paths as users and files write them. The separator is an argument that defaults to the platform's own, so
+// that the rules for "\" are in force, and tested, everywhere.
 
 #include <string>
 #include <string_view>
@@ -15,35 +15,36 @@ constexpr char pathSeparator = '\\';
 constexpr char pathSeparator = '/';
 #endif
 
-/// The directory of the running program without a final separator; set once at start, by tests as they need
-/// it.
+/// The directory of the running program without a final separator. It is set once at the start; tests set it
+/// as they need.
 extern std::string applicationDirectory;
 
 /// applicationDirectory, the separator, and the name.
 std::string inApplicationDirectory(std::string_view name);
 
-/// The text after the last separator (the given one or "\"), the whole text if there is none.
+/// The text after the last separator (the given one or "\"), or the whole text if there is none.
 std::string FileNameOf(std::string_view path, char separator = pathSeparator);
 
 /// The text before the last separator, without it; "" if there is none.
 std::string DirOf(std::string_view path, char separator = pathSeparator);
 
-/// The trimmed path's part before the first ":", and ":"; a path without one gives the whole path and ":".
+/// The trimmed path up to and including the first ":"; a path without one gives the whole path followed by
+/// ":".
 std::string DriveOf(std::string_view path);
 
-/// A plain file of that name is there; "" is none. Where the platform's file system tells letter cases apart,
-/// another case of the same name counts when the exact name is missing.
+/// Whether a regular file of that name exists; false for "". On a case-sensitive file system another letter
+/// case of the name counts if the exact name does not exist.
 bool fileExists(const std::string& path);
 
-/// The name under which the file really lies (see fileExists); "" where there is none.
+/// The name that the file has on disk (see fileExists); "" if there is none.
 std::string existingFile(const std::string& path);
 
-/// A directory is there; an error in the look-up counts as false.
+/// Whether a directory of that name exists; an error in the look-up counts as false.
 bool IsDirectory(const std::string& path);
 
-/// The names (without directory) of the plain files that match a pattern like "/data/*.frq", in
-/// case-insensitive name order, hidden ones included; "*" and "?" stand for any text and any character,
-/// letter case does not count.
+/// The names (without directory) of the regular files that match a pattern such as "/data/*.frq", in
+/// case-insensitive order, hidden ones included. "*" matches any text and "?" any character; letter case does
+/// not count.
 std::vector<std::string> filesMatching(const std::string& pattern);
 
 }  // namespace zg

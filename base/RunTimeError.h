@@ -25,8 +25,8 @@ enum class ErrorNumber : int {
     CannotCreateObject = 429,
 };
 
-/// A failure that reaches the user as number and description. It is thrown where no local handling is wanted
-/// and caught at the boundary round each event handler, or where a handler of its own is described.
+/// A failure that reaches the user as a number and a description. It is thrown where no local handling is
+/// wanted and caught at the boundary around each event handler, or earlier by code that documents it.
 class RunTimeError : public std::exception {
  public:
     RunTimeError(int errorNumber, std::string errorDescription)
@@ -36,16 +36,16 @@ class RunTimeError : public std::exception {
 
     int number;
     std::string description;
-    std::string where;  ///< line and field of a file where they are known, as "17: percent of class 2"
+    std::string where;  ///< line and field of a file if known, such as "17: percent of class 2"
 };
 
-/// The fixed description of an error number, as "Type mismatch" for 13.
+/// The fixed description of an error number, such as "Type mismatch" for 13.
 const char* errorDescription(ErrorNumber number);
 
 /// Throws the RunTimeError of that number with its fixed description.
 [[noreturn]] void raise(ErrorNumber number);
 
-/// Throws the RunTimeError that fits the C error number of a failed file operation.
+/// Throws the RunTimeError that corresponds to the C error number of a failed file operation.
 [[noreturn]] void raiseFileError(int errnoValue);
 
 }  // namespace zg

@@ -16,22 +16,22 @@ constexpr unsigned blueOf(Colour colour) { return colour >> 16U & 0xFFU; }
 constexpr Colour black = 0;
 constexpr Colour white = rgb(255, 255, 255);
 
-/// The desktop's colours that drawing and field marks name.
+/// The colours of the desktop that drawing and field marks use.
 constexpr Colour scrollBarColour = 0x80000000U;
 constexpr Colour buttonFaceColour = 0x8000000FU;
 
-/// Marks of a field: in error, in error while disabled, clean.
+/// Marks of a field: wrong, wrong while disabled, correct.
 constexpr Colour yellowMark = 65535;
 constexpr Colour darkYellowMark = 49344;
 constexpr Colour cleanMark = white;
 
-/// A colour that was kept as a single-precision number, as it is painted: whole, and within 24 bits.
+/// The colour to paint for one kept as a single-precision number: whole, and within 24 bits.
 constexpr Colour paintedColour(float stored) {
     if (!(stored > 0.0F)) return 0;
     return stored >= 16777215.0F ? 16777215U : static_cast<Colour>(stored);
 }
 
-/// Font of one family of texts. The colour is a single-precision number, as the configuration file keeps it.
+/// The font of one group of texts. The colour is a single-precision number, as in the configuration file.
 struct FontRecord {
     float colour = 0;
     std::string name;

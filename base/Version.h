@@ -1,6 +1,6 @@
 #pragma once
 
-// The version that all programs of the project tell.
+// The version that all programs of the project report.
 
 namespace zg {
 
