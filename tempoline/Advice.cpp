@@ -14,8 +14,8 @@ std::string shareText(Seconds part, Seconds whole) {
 
 std::string secondsText(Seconds count) { return std::to_string(count) + " seconds"; }
 
-/// Whole records count for the step in which they begin, as where hours of UTC are counted by a clock that
-/// goes half an hour otherwise.
+/// Whole records count for the step in which they begin, for example hours of UTC in a run whose zone differs
+/// by half an hour.
 std::string onClock(const RecordCounts& records, const Control& control) {
     const std::string begin = isoText(control.begin + records.misalignment);
     return std::to_string(records.misaligned) +
@@ -27,14 +27,14 @@ std::string onClock(const RecordCounts& records, const Control& control) {
            ", or a time zone that is whole steps away from that of the data";
 }
 
-/// How much of `spacing` seconds valid steps hold, at most: half of a step is enough, and a record without
-/// length stands for the whole of its step.
+/// How many of `spacing` seconds valid steps cover, at most: a step is valid if half of it is covered, and a
+/// record without length covers its whole step.
 Seconds validPart(Seconds length, Seconds spacing, Seconds step) {
     const Seconds part = std::min(step, spacing);
     return length == 0 || 2 * length >= part ? part : 0;
 }
 
-/// The longest step that records make valid.
+/// The longest step that such records can make valid.
 Seconds bestStep(Seconds length, Seconds spacing) {
     const Seconds longest = length == 0 ? spacing : std::min(2 * length, spacing);
     return std::min(longest, secondsADay);

@@ -1,6 +1,6 @@
 #pragma once
 
-// What a person is warned of when the records of an output and the steps of the run do not suit each other.
+// Warnings for a run whose records do not suit its steps.
 
 #include <string>
 #include <vector>
@@ -10,7 +10,7 @@
 
 namespace zg::tempoline {
 
-/// Each says what was found and what to choose instead; nothing where all is well.
+/// Each text says what was found and what to choose instead; empty if all is well.
 std::vector<std::string> adviceOn(const RecordCounts& records, const Control& control);
 
 }  // namespace zg::tempoline

@@ -21,7 +21,7 @@ namespace {
     throw Failure(ExitStatus::Failed, path + ": " + std::strerror(error));
 }
 
-/// A pipe without a writer is waited for; an interrupt ends that.
+/// Opening a pipe waits for a writer; an interrupt ends the wait.
 int openForReading(const std::string& path) {
     int file = -1;
     do {
@@ -82,7 +82,8 @@ class PlainBlocks : public BlockReader {
     }
 
  private:
-    /// A pipe may stay silent for ever: now and then it is asked whether the run goes on. False for the end.
+    /// A pipe may stay silent for ever, so at intervals the caller is asked whether the run goes on. False if
+    /// it does not.
     bool waitForInput() const {
         constexpr int milliseconds = 100;
         pollfd state = {file_, POLLIN, 0};

@@ -1,6 +1,6 @@
 #pragma once
 
-// Blocks of a file in order, by one thread or with a second one that reads ahead.
+// Reads a file in consecutive blocks, optionally with a second thread that reads ahead.
 
 #include <condition_variable>
 #include <cstddef>
@@ -20,19 +20,19 @@ class BlockReader {
 
     virtual ~BlockReader() = default;
 
-    /// Puts up to blockSize bytes at the place and gives their number, 0 at the end; lineEnds become the
-    /// offsets of their line feeds. Throws a Failure.
+    /// Reads up to blockSize bytes to the given place and returns their number, 0 at the end; lineEnds
+    /// receives the offsets of their line feeds. Throws a Failure.
     virtual std::size_t read(char* place, std::vector<std::uint32_t>& lineEnds) = 0;
 
-    /// From another thread: a read that waits for a pipe gives up, and gives 0.
+    /// Called from another thread: a read that waits for a pipe gives up and returns 0.
     virtual void stop() {}
 };
 
-/// Reads when asked. A regular file that ends before the size it had when it was opened became shorter while
-/// it was read: that is a failure.
+/// Reads on demand. A regular file that ends before the size it had when it was opened was truncated during
+/// the run: that is a failure.
 std::unique_ptr<BlockReader> openBlocks(const std::string& path);
 
-/// The same with a thread that stays up to three blocks ahead, the search for their lines included.
+/// The same, with a thread that reads up to three blocks ahead and also searches their line feeds.
 std::unique_ptr<BlockReader> openBlocksAhead(const std::string& path);
 
 }  // namespace zg::tempoline

@@ -1,6 +1,6 @@
 #pragma once
 
-// The commonest of a stream of values.
+// The most frequent value of a stream.
 
 #include <cstdint>
 #include <vector>
@@ -9,12 +9,12 @@ namespace zg::tempoline {
 
 class CommonValue {
  public:
-    /// Only the first 32 different values are counted: a few are what regular data have.
+    /// Only the first 32 different values are counted; regular data have only a few.
     void add(std::int64_t value);
 
     bool isEmpty() const { return counts_.empty(); }
 
-    /// The one added most often, of equals the smaller; 0 where there is none.
+    /// The value added most often, the smaller one if two are equally frequent; 0 if there is none.
     std::int64_t commonest() const;
 
  private:
@@ -23,7 +23,7 @@ class CommonValue {
         std::int64_t times = 0;
     };
     std::vector<Count> counts_;
-    std::size_t last_ = 0;  ///< the place of the value before, which mostly comes again
+    std::size_t last_ = 0;  ///< index of the previous value, which usually repeats
 };
 
 }  // namespace zg::tempoline

@@ -12,21 +12,21 @@ namespace zg::tempoline {
 
 enum class InputKind { Surf, Up, MonitorW, AermSfc, AermPfl, Tsf, M3d, Ventos };
 
-/// The keyword of MDATA.
+/// The MDATA keyword of the kind.
 const char* keywordOf(InputKind kind);
 
-/// Whether places are asked of a grid, and not stations.
+/// Whether outputs are places in a grid rather than stations.
 inline bool isGridded(InputKind kind) { return kind == InputKind::M3d || kind == InputKind::Ventos; }
 
 struct OutputRequest {
     int id = 0;
-    std::string name;      ///< of the files, without directory and extension
+    std::string name;      ///< file name without directory and extension
     std::string location;  ///< may be empty
     std::string station;   ///< empty for gridded data
-    double x = 0;          ///< as the projection says: km, degrees or cells
+    double x = 0;          ///< in the units of the projection: km, degrees or cells
     double y = 0;
-    double height = 0;     ///< metres above the ground; negative where the run knows none
-    std::size_t line = 0;  ///< of its name in the control file
+    double height = 0;     ///< metres above the ground; negative if unknown
+    std::size_t line = 0;  ///< line of its name in the control file
 };
 
 struct Season {
@@ -34,7 +34,7 @@ struct Season {
     std::string name;
 };
 
-/// Hours by their end, 0 to 23; first above last goes over midnight.
+/// Hours numbered by their end, 0 to 23; a range whose first is above its last passes midnight.
 struct HourRange {
     int first = 0;
     int last = 0;
@@ -46,14 +46,14 @@ constexpr std::size_t classCount = 6;
 /// How winds are sorted into roses.
 struct RoseRules {
     std::array<double, classCount>
-        classLimits{};  ///< lower limits, m/s; none falls. The first is that of calm
-    std::array<std::string, classCount> limitTexts{};  ///< as they were written
+        classLimits{};  ///< lower limits, m/s, not decreasing; the first is that of calm
+    std::array<std::string, classCount> limitTexts{};  ///< as written in the control file
     std::vector<Season> seasons;
-    std::array<int, 12> seasonOfMonth{};  ///< ids; one that no season has stands for none
+    std::array<int, 12> seasonOfMonth{};  ///< season ids; an id without a season means none
     std::vector<HourRange> hourRanges;
 };
 
-/// Coordinates of a map. Kilometres and degrees, north and east positive.
+/// Coordinates of a map, in kilometres or degrees, north and east positive.
 struct MapSetting {
     std::string projection = "NONE";  ///< NONE, LL, UTM, TTM, LCC, PS, EM, LAZA
     std::string datum = "WGS-84";
@@ -67,7 +67,7 @@ struct MapSetting {
     double latitude2 = 0;
 };
 
-/// MPROF: the wind of 10 m that the data hold.
+/// The value of MPROF for the 10 m wind in the data.
 constexpr int directProfile = 4;
 
 enum class SpatialMethod { Bilinear = 1, Nearest = 2 };
@@ -83,7 +83,7 @@ struct Control {
     bool wantsSeries = true;
     Seconds begin = 0;  ///< in the zone of the run
     Seconds end = 0;
-    std::size_t endLine = 0;  ///< of its year in the control file
+    std::size_t endLine = 0;  ///< line of its year in the control file
     std::string zone;         ///< key
     Seconds zoneOffset = 0;
     Seconds step = secondsAnHour;
@@ -92,8 +92,8 @@ struct Control {
     int profileMethod = 3;
     bool cellCoordinates = false;
     RoseRules rules;
-    std::vector<std::string> assignments;  ///< "KEY = value", as they stand
-    std::vector<std::string> assumed;      ///< the same for keys that do not stand there
+    std::vector<std::string> assignments;  ///< "KEY = value", as written
+    std::vector<std::string> assumed;      ///< the same for keys that the file does not have
     std::vector<std::string> warnings;
 };
 

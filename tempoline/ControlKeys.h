@@ -1,6 +1,6 @@
 #pragma once
 
-// The assignments of a control file by key, with the conversions and their failures.
+// The assignments of a control file by key, with conversions and their error messages.
 
 #include <map>
 #include <string>
@@ -13,25 +13,25 @@ namespace zg::tempoline {
 
 class ControlKeys {
  public:
-    /// The text must outlive it. Throws for a key given twice that may stand once.
+    /// The assignments must outlive this object. Throws if a key that may appear once is given twice.
     explicit ControlKeys(const ControlText& text);
 
-    /// "KEY = value" for each key whose default was taken, in the order in which they were asked for.
+    /// "KEY = value" for each key whose default was used, in the order in which the keys were queried.
     const std::vector<std::string>& assumed() const { return assumed_; }
 
-    /// Throws for a key that there is not.
+    /// Throws for an unknown key.
     void needKnownKeys() const;
 
     bool has(std::string_view key) const { return find(key) != nullptr; }
     const std::vector<Assignment>& all() const { return text_.assignments; }
 
-    /// The value of a key that must be there, and must not be empty.
+    /// The value of a required key; throws if it is missing or empty.
     std::string text(std::string_view key);
 
-    /// The value, or the default where the key is not there.
+    /// The value, or the default if the key is missing.
     std::string textOr(std::string_view key, std::string_view fallback);
 
-    /// All values of a key, in their order; throws unless there are so many.
+    /// All values of a key, in file order; throws unless there are exactly that many.
     std::vector<std::string> texts(std::string_view key, std::size_t count, std::string_view countKey);
 
     int whole(std::string_view key, int lowest, int highest);
@@ -43,19 +43,19 @@ class ControlKeys {
     double number(std::string_view key, const std::string& item);
     double numberOf(const Assignment& entry, const std::string& item);
 
-    /// Degrees, north and east positive: a number with a letter behind it, or a signed number.
+    /// Degrees, north and east positive: a number followed by a letter, or a signed number.
     double latitude(std::string_view key);
     double longitude(std::string_view key);
 
-    /// The values between commas or blanks.
+    /// The values, separated by commas or blanks.
     std::vector<std::string> items(std::string_view key, std::string_view fallback);
 
-    /// The values between commas.
+    /// The values, separated by commas.
     std::vector<std::string> itemsOf(const Assignment& entry);
 
     void needCount(std::string_view key, std::size_t found, std::size_t wanted, std::string_view countKey);
 
-    /// Failures of a key name the line where it stands, or the last line looked at by `at`.
+    /// Failures of a key name its line, or the line last passed to `at`.
     void at(const Assignment& entry) { current_ = &entry; }
     Failure failure(std::string_view key, const std::string& text) const;
     Failure failure(const Assignment& entry, const std::string& text) const;

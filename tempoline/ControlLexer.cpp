@@ -17,7 +17,8 @@ bool isKeyCharacter(char c) {
     return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_';
 }
 
-/// The key that a text behind a "!" begins with, and where its value begins; an empty key for no assignment.
+/// The key at the start of the text after a "!", and where its value begins; an empty key if it is no
+/// assignment.
 struct KeyPart {
     std::string_view key;
     std::size_t valueBegin = 0;
@@ -40,7 +41,7 @@ bool mayFollowValue(std::string_view rest) {
     return rest[0] == '!' && !keyAt(rest.substr(1)).key.empty();
 }
 
-/// Where in the text the "!" of the end stands; npos for none.
+/// Position of the "!" that ends the value; npos if there is none.
 std::size_t endOfValue(std::string_view text) {
     for (std::size_t at = text.find('!'); at != std::string_view::npos; at = text.find('!', at + 1)) {
         if (mayFollowValue(text.substr(at + 1))) return at;
@@ -68,7 +69,7 @@ class Lexer {
             try {
                 readLine(line);
             } catch (const Failure&) {
-                continue;  // the other lines still count
+                continue;  // the other lines are still read
             }
         }
         return std::move(result_.assignments);

@@ -53,7 +53,7 @@ class OutputReader {
         opened_ = &entry;
     }
 
-    /// A TSFID begins one TSFOUT or one MET: a second one would pass over the first.
+    /// A TSFID belongs to one TSFOUT or one MET: a second one would discard the first.
     void needClosed() const {
         if (id_) throw idFailure(*opened_, " has neither TSFOUT nor MET behind it");
     }
@@ -115,7 +115,7 @@ class OutputReader {
     std::vector<OutputRequest> outputs_;
     std::map<int, std::size_t> declared_;  ///< place in the outputs by id
     std::set<int> located_;
-    std::optional<int> id_;               ///< of the lines at hand
+    std::optional<int> id_;               ///< of the current lines
     const Assignment* opened_ = nullptr;  ///< its TSFID
     std::optional<std::string> location_;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-// The outputs of a run: TSFID and TSFOUT name each, and TSFID, LOCMET and MET say where its winds are.
+// The outputs of a run: TSFID and TSFOUT name each one; TSFID, LOCMET and MET give the place of its winds.
 
 #include <string>
 #include <string_view>
@@ -11,11 +11,11 @@
 
 namespace zg::tempoline {
 
-/// In the order of their TSFOUT; of a series that is read again the one rose that ROSEPLT names. Throws a
-/// Failure where names and places do not belong together, or are not as many as NTSFOUT says.
+/// In the order of their TSFOUT; a series that is read again has the one rose that ROSEPLT names. Throws a
+/// Failure if names and places do not match, or if their number is not NTSFOUT.
 std::vector<OutputRequest> readOutputs(ControlKeys& keys, InputKind kind);
 
-/// The name itself; throws where it is empty or leads out of the current directory.
+/// Returns the name itself; throws if it is empty or leads out of the current directory.
 std::string plainFileName(const ControlKeys& keys, std::string_view key, const std::string& name);
 
 }  // namespace zg::tempoline

@@ -14,7 +14,7 @@ namespace zg::tempoline {
 namespace {
 
 constexpr int mostInputs = 10000;
-constexpr int mostSeasons = 400;  // an FRQ file of all its roses can still be loaded
+constexpr int mostSeasons = 400;  // few enough that an FRQ file of all its roses can be loaded
 constexpr Seconds longestStep = secondsADay;
 constexpr Seconds mostSteps = 100'000'000;
 
@@ -37,7 +37,7 @@ class Reader {
     }
 
     Control read() {
-        readKind();  // what is not supported is said before its keys are found unknown
+        readKind();  // unsupported features are reported before their keys are found to be unknown
         keys_.needKnownKeys();
         control_.listing = plainFileName(keys_, "TSFLST", keys_.textOr("TSFLST", "TEMPOLINE.LST"));
         readPeriod();
@@ -149,8 +149,8 @@ class Reader {
         if (code == "LCC") map.latitude2 = keys_.latitude("XLAT2");
     }
 
-    /// Classes, seasons and hours have defaults that only a run without roses may rely on: a control file
-    /// that was cut off shall not be counted by other rules than it was written with.
+    /// Only a run without roses may omit classes, seasons and hours: a truncated control file must not be run
+    /// with other rules than it was written with.
     void readRules() {
         if (control_.wantsRoses) {
             for (const char* const key : {"WSBIN", "NSEASN", "NTPD", "MSN"}) keys_.text(key);

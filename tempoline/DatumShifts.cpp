@@ -6,9 +6,9 @@ namespace {
 
 using enum Ellipsoid;
 
-// In the order of datums.csv. Where a later edition of the table has other figures under a code of its own
-// (INH-A1, TOY-B1), the code here keeps the figures that it had. NAP is left out: its editions differ by 11 m
-// under one code, and the later figure is held for a blunder.
+// In the order of datums.csv. If a later edition of the table publishes other figures under a new code
+// (INH-A1, TOY-B1), the old code keeps its figures. NAP is left out: its editions differ by 11 m under one
+// code, and the later figure is considered an error.
 constexpr DatumShift shifts[] = {
     {"ADI-E", Clarke1880, -118, -14, 218},
     {"ADI-F", Clarke1880, -134, -2, 210},

@@ -1,6 +1,6 @@
 #pragma once
 
-// Mean shifts of datums to WGS 84, as the national imagery and mapping agencies publish them. Plain data.
+// Mean shifts of datums to WGS 84, as published by the national imagery and mapping agencies. Plain data.
 
 #include <span>
 
@@ -33,7 +33,7 @@ enum class Ellipsoid {
 struct DatumShift {
     const char* code;
     Ellipsoid ellipsoid;
-    int x;  ///< metres to add to the geocentric coordinates, as are y and z
+    int x;  ///< metres added to the geocentric coordinates; so are y and z
     int y;
     int z;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-// Why a run ends early, and the status that the program then ends with.
+// Why a run ends early, and the exit status it then gives.
 
 #include <stdexcept>
 #include <string>
@@ -14,7 +14,7 @@ enum class ExitStatus : int {
     Interrupted = 130,
 };
 
-/// One line for the person: "file:line: field: what is wrong".
+/// One line of text: "file:line: field: what is wrong".
 class Failure : public std::runtime_error {
  public:
     Failure(ExitStatus exitStatus, const std::string& message)

@@ -1,6 +1,6 @@
 #pragma once
 
-// Lines cut into fields at blanks or commas, and fields as numbers.
+// Splits lines into fields at blanks or commas, and converts fields to numbers.
 
 #include <cstddef>
 #include <optional>
@@ -11,10 +11,10 @@ namespace zg::tempoline {
 
 inline bool isBlank(char c) { return c == ' ' || c == '\t'; }
 
-/// Cuts at runs of blanks and tabs; stops when the places are filled. The number of fields found.
+/// Splits at runs of blanks and tabs; stops when the array is full. Returns the number of fields found.
 std::size_t splitBlanks(std::string_view line, std::span<std::string_view> fields);
 
-/// Cuts at each comma; fields keep their blanks. Stops when the places are filled.
+/// Splits at each comma; fields keep their blanks. Stops when the array is full.
 std::size_t splitCommas(std::string_view line, std::span<std::string_view> fields);
 
 /// Without blanks and tabs at both ends.
@@ -24,8 +24,8 @@ std::string_view stripped(std::string_view text);
 /// asterisks), nothing for any other text.
 std::optional<double> valueOf(std::string_view field);
 
-/// The whole field as a whole number within the width of int: "7", "+7", "-7", and "7.", "7.0" as other
-/// programs print it.
+/// The whole field as a whole number within the range of int: "7", "+7", "-7", and also "7." and "7.0" as
+/// other programs print it.
 std::optional<int> wholeOf(std::string_view field);
 
 }  // namespace zg::tempoline

@@ -1,6 +1,6 @@
 #pragma once
 
-// The frequencies as the desktop program loads them: an FRQ file of version 2.3.
+// Writes the frequencies in the form the desktop program loads: an FRQ file of version 2.3.
 
 #include <string>
 
@@ -8,8 +8,8 @@
 
 namespace zg::tempoline {
 
-/// The whole text. A rose whose total is 0 is left out, since its reader divides by it; without any record in
-/// the period there is no rose at all, which is shown as "ALL DATA ARE MISSING".
+/// The whole text. A rose whose total is 0 is left out, because its reader divides by the total; if the
+/// period has no records at all, there is no rose, and the desktop program shows "ALL DATA ARE MISSING".
 std::string frqText(const RoseReport& report);
 
 }  // namespace zg::tempoline

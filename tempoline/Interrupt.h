@@ -1,17 +1,17 @@
 #pragma once
 
-// The wish of the person to stop: a run looks at it between two blocks of its input and then leaves by way of
-// a Failure, so that everything unfinished is removed.
+// Stopping on request: a run checks between blocks of its input whether it is to stop, and then throws a
+// Failure, so that everything unfinished is removed.
 
 namespace zg::tempoline {
 
-/// SIGINT, SIGTERM and SIGHUP (where nohup has not turned it off) only note the wish from here on.
+/// From now on SIGINT, SIGTERM and SIGHUP (unless nohup ignores it) only record the request.
 void catchInterrupts();
 
-/// Throws where the wish has been noted.
+/// Throws if a stop was requested.
 void throwIfInterrupted();
 
-/// As if a signal had come (true) or had not (false).
+/// Sets or clears the request, as a signal would.
 void setInterrupted(bool wish);
 
 }  // namespace zg::tempoline

@@ -22,7 +22,7 @@ void LineSource::failTooLong() const {
                                           " bytes");
 }
 
-/// Another block behind what is left, which holds no whole line; false where there is none.
+/// Appends another block to the rest of the last one, which holds no whole line; false at the end.
 bool LineSource::fill() {
     if (end_ - begin_ > longestLine) failTooLong();
     if (endOfFile_) return false;
@@ -36,7 +36,7 @@ bool LineSource::fill() {
     const std::size_t got = blocks_->read(buffer_.data() + end_, lineEnds_);
     end_ += got;
     endOfFile_ = got == 0;
-    // Only the first line of a block may be longer than a block.
+    // Only the first line of a block can be longer than a block.
     if (!lineEnds_.empty() && blockBegin_ + lineEnds_[0] > longestLine) failTooLong();
     return got > 0;
 }
@@ -89,7 +89,7 @@ Failure Place::failure(std::string_view field, std::string_view text) const {
 
 namespace {
 
-/// As it may stand in a message of one line.
+/// The text in a form fit for a message of one line.
 std::string shown(std::string_view field) {
     std::string text(field.substr(0, 40));
     for (char& c : text) {

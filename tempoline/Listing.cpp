@@ -18,7 +18,7 @@ std::string recordText(const RecordMark& record) {
            std::to_string(record.line);
 }
 
-/// A pipe has no size that would tell anything.
+/// The size of a pipe means nothing.
 std::string sizeText(const std::string& path) {
     struct stat about = {};
     if (stat(path.c_str(), &about) != 0 || !S_ISREG(about.st_mode)) return {};
@@ -28,7 +28,7 @@ std::string sizeText(const std::string& path) {
 std::string outputText(const OutputRequest& output) {
     std::string text = output.name;
     if (!output.station.empty()) text += ", station " + output.station;
-    if (output.height < 0) return text;  // of a series: there is nothing more
+    if (output.height < 0) return text;  // of a series: nothing else applies
     if (!output.location.empty()) text += ", \"" + output.location + "\"";
     return text + ", X " + shortText(output.x) + ", Y " + shortText(output.y) + ", " +
            metresText(output.height) + " m";
@@ -58,7 +58,7 @@ void Listing::describe(const Control& control) {
     for (const std::string& warning : control.warnings) line("WARNING: " + warning);
 }
 
-/// In the form in which they can be copied into another control file.
+/// In a form that can be copied into another control file.
 void Listing::describeControlFile(const Control& control) {
     line("");
     line("The control file says");

@@ -1,6 +1,6 @@
 #pragma once
 
-// The account of a run: what was asked, what was read, how it ended.
+// The report of a run: what was asked for, what was read, how it ended.
 
 #include <string>
 #include <vector>
@@ -15,31 +15,31 @@ class Listing {
     explicit Listing(std::string name) : name_(std::move(name)) {}
 
     void rename(std::string name) { name_ = std::move(name); }
-    /// One that begins with "WARNING: " or "NOTE: " is also among the remarks.
+    /// Adds a line; one that begins with "WARNING: " or "NOTE: " also becomes a remark.
     void line(const std::string& text);
     void lines(const std::vector<std::string>& texts) {
         for (const std::string& text : texts) line(text);
     }
 
-    /// All that the control file says, all that it leaves to be assumed, and how both were understood: a run
-    /// can be repeated from it.
+    /// Everything the control file says, all defaults that were used, and how both were understood: enough to
+    /// repeat the run.
     void describe(const Control& control);
 
-    /// What the reader says of the output, and its records.
+    /// What the reader reports about the output, and its record counts.
     void describeRecords(const OutputRequest& output, const RecordCounts& records,
                          const std::vector<std::string>& notes);
 
-    /// The same, with its steps and its roses.
+    /// The same, followed by its steps and its roses.
     void describeOutput(const OutputRequest& output, const Series& series, const Control& control,
                         const std::vector<std::string>& notes);
 
-    /// What a person should know although the run went well, in the order of the lines.
+    /// What a person should know even about a successful run, in the order of the lines.
     const std::vector<std::string>& remarks() const { return remarks_; }
 
     const std::string& text() const { return text_; }
 
-    /// Replaces the file with the last line added; throws as OutputFile does. Without a name nothing is
-    /// written.
+    /// Writes the file, replacing an older one, with this last line added; throws the same failures as
+    /// OutputFile. Without a name nothing is written.
     void write(const std::string& lastLine);
 
  private:

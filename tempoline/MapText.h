@@ -8,7 +8,7 @@
 
 namespace zg::tempoline {
 
-/// "LCC, RLAT0 = 40N, RLON0 = 97W, ...": all that counts for that projection, and the datum.
+/// "LCC, RLAT0 = 40N, RLON0 = 97W, ...": all parameters that matter for the projection, and the datum.
 std::string mapText(const MapSetting& map);
 
 /// "km", or "degrees" for LL.

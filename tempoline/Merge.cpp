@@ -45,7 +45,8 @@ RoseReport sumOf(const std::vector<std::string>& files) {
     return sum;
 }
 
-/// Where older results are kept nothing is read: they may be replaced before, and are removed after it.
+/// Older results are kept in files of that name, which may be replaced before they are read and are removed
+/// afterwards, so they cannot be an input.
 void needNoneAside(const std::vector<std::string>& files, const std::string& name, const ResultSet& results) {
     if (isKeptForOlder(name))
         throw Failure(ExitStatus::BadControl,
@@ -57,7 +58,8 @@ void needNoneAside(const std::vector<std::string>& files, const std::string& nam
                               file + ": older results of \"" + name + "\" are kept under this name");
 }
 
-/// Moves older results aside. Gives the files by their names after that, as older results may be among them.
+/// Moves older results aside. Returns the input files by their new names, since some of them may be older
+/// results.
 std::vector<std::string> moveAside(std::vector<std::string> files, const ResultSet& results,
                                    OlderResults& older) {
     std::vector<std::pair<std::string*, std::string>> own;
@@ -126,7 +128,7 @@ void mergeTabs(const std::vector<std::string>& files, const std::string& name) {
         tab.finish();
         frq.finish();
         throwIfInterrupted();
-        moveAside({}, results, older);  // another run may have made results of this name meanwhile
+        moveAside({}, results, older);  // meanwhile another run may have written results with this name
         OutputFile::commitAll({&tab, &frq});
     } catch (...) {
         const std::string kept = keptText(older.kept());

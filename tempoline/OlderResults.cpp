@@ -19,7 +19,7 @@ namespace {
 constexpr std::string_view asideEnding = ".previous";
 constexpr std::size_t mostNamed = 6;
 
-/// Of a file of that name that can be moved; a directory is none.
+/// Status of a file of that name that can be moved; nothing for a directory.
 std::optional<struct stat> stateOf(const std::string& name) {
     struct stat state = {};
     if (lstat(name.c_str(), &state) != 0 || S_ISDIR(state.st_mode)) return {};
@@ -32,10 +32,10 @@ bool areOneFile(const std::string& name, const std::string& other) {
     return state && second && state->st_dev == second->st_dev && state->st_ino == second->st_ino;
 }
 
-/// False with the error's number in errno.
+/// False on failure, with the error in errno.
 bool move(const std::string& name, const std::string& aside) {
     if (std::rename(name.c_str(), aside.c_str()) != 0) return false;
-    // Where both are names of one file, renaming it leaves both.
+    // If both are names of one file, rename leaves both in place.
     return !areOneFile(name, aside) || unlink(name.c_str()) == 0;
 }
 
@@ -65,7 +65,7 @@ std::string OlderResults::putAside(const std::vector<ResultSet>& sets) {
     return fault;
 }
 
-/// The file itself is remembered: what another run moves there is not this one's to remove.
+/// Remembers the identity of the file: one that another run moves there must not be removed by this one.
 void OlderResults::note(const std::string& name) {
     if (const std::optional<struct stat> state = stateOf(name)) aside_[name] = {state->st_dev, state->st_ino};
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-// A person takes a result for that of the last run. So that it is, a run moves older results of its names
-// aside before it reads any data; they are removed when it has succeeded, and stay aside when it has not.
+// A user will take any result for that of the last run. Therefore a run moves older results of its names
+// aside before it reads data; it removes them when it succeeds and leaves them aside when it fails.
 
 #include <sys/types.h>
 
@@ -12,27 +12,27 @@
 
 namespace zg::tempoline {
 
-/// The files of one output in the order in which they take their names: the last one stands where all do.
+/// The files of one output in the order in which they get their names: if the last one exists, all do.
 using ResultSet = std::vector<std::string>;
 
-/// "out.previous.frq" of "out.frq".
+/// "out.previous.frq" for "out.frq".
 std::string asideName(const std::string& result);
 
-/// Whether results of that output have names under which older ones of another are kept.
+/// Whether results of that output would have names under which older results of another are kept.
 bool isKeptForOlder(const std::string& output);
 
 class OlderResults {
  public:
-    /// Gives the files that have these names their names aside, one renaming after the other, so that each of
-    /// them is under one of its two names whenever the run is killed. What is aside already stays in place of
-    /// files that a killed run left behind, of which not all have their names; whole results take its place.
-    /// Tries all of them; gives what is wrong where one cannot be moved, else nothing.
+    /// Renames the existing files of these names to their names aside, one after the other, so that each is
+    /// always under one of its two names, even if the run is killed. An incomplete set of results, which a
+    /// killed run left, does not replace files that are already aside; a complete set does. Tries all files;
+    /// returns the problem if one cannot be moved, otherwise nothing.
     std::string putAside(const std::vector<ResultSet>& sets);
 
-    /// After success: removes those that are aside. Gives the names that could not be removed.
+    /// After success: removes the files that are aside. Returns the names that could not be removed.
     std::vector<std::string> remove() const;
 
-    /// The names under which older results are now, those of earlier failures too.
+    /// The names of the older results now aside, including those of earlier failed runs.
     std::vector<std::string> kept() const;
 
  private:
@@ -43,7 +43,7 @@ class OlderResults {
     std::map<std::string, Identity> aside_;  ///< by name
 };
 
-/// One line for the person; empty without names. With many of them the first ones stand there.
+/// One line of text; empty without names. Only the first of many names are listed.
 std::string keptText(const std::vector<std::string>& names);
 
 }  // namespace zg::tempoline

@@ -1,6 +1,7 @@
 #pragma once
 
-// A result takes its name only when it is whole: it is written under another name beside it and then renamed.
+// A result gets its name only when it is complete: it is written under another name beside it and then
+// renamed.
 
 #include <memory>
 #include <string>
@@ -13,10 +14,10 @@ namespace zg::tempoline {
 
 class OutputFile {
  public:
-    /// Of that name in the current directory; throws where none can be made there.
+    /// A file to be given that name in the current directory; throws if none can be created there.
     explicit OutputFile(std::string name);
 
-    /// Without commit nothing is left of it.
+    /// Removes everything unless commit was called.
     ~OutputFile();
     OutputFile(const OutputFile&) = delete;
     OutputFile& operator=(const OutputFile&) = delete;
@@ -26,20 +27,20 @@ class OutputFile {
         if (buffer_.size() >= bufferSize) flush();
     }
 
-    /// Hands what is left to the disk; throws where it is full.
+    /// Flushes what is buffered; throws if the disk is full.
     void finish();
 
-    /// Takes its name, in place of an older file.
+    /// Gives the file its name, replacing an older file.
     void commit();
 
-    /// All of them take their names, in this order, or none. An older file that has one of the names is lost:
+    /// Gives all of them their names, in this order, or none. An older file with one of the names is lost:
     /// see OlderResults.
     static void commitAll(const std::vector<OutputFile*>& files);
 
     const std::string& name() const { return name_; }
 
  private:
-    // Thousands of results may be open in one run: none of them keeps a handle, and its buffer is small.
+    // A run may have thousands of results open: none keeps a file handle, and its buffer is small.
     static constexpr std::size_t bufferSize = 16384;
 
     void flush();
@@ -51,7 +52,7 @@ class OutputFile {
     std::string buffer_;
 };
 
-/// Throws where no file can take that name: a directory has it, or the file system takes none as long.
+/// Throws if no file can have that name: it is a directory, or it is too long for the file system.
 void needFreeName(const std::string& name);
 
 }  // namespace zg::tempoline

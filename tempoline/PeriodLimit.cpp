@@ -11,8 +11,8 @@ namespace zg::tempoline {
 namespace {
 
 constexpr Seconds alwaysAllowed = 1'000'000;  // steps of all outputs: a century of hours
-constexpr Seconds leastRecord = 16;           // bytes; no kind of input has shorter ones
-constexpr Seconds mostEmpty = 10;             // steps a record
+constexpr Seconds leastRecord = 16;           // bytes; no supported format has shorter ones
+constexpr Seconds mostEmpty = 10;             // steps per record
 
 std::optional<Seconds> sizeOf(const Control& control) {
     Seconds size = 0;

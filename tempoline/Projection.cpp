@@ -16,19 +16,19 @@ namespace zg::tempoline {
 
 namespace {
 
-constexpr std::size_t mostKept = 64;  // transformations
+constexpr std::size_t mostKept = 64;  // number of transformations
 constexpr double sevenDigits = 1e-6;
-constexpr double smallAngle = 1e-4;  // degrees: what seven digits leave open, some 10 m
-constexpr double poleWidth = 1e-7;   // degrees: a centimetre
+constexpr double smallAngle = 1e-4;  // degrees: the uncertainty of seven digits, about 10 m
+constexpr double poleWidth = 1e-7;   // degrees: about a centimetre
 
 struct DatumRow {
     const char* code;
     const char* definition;
 };
 
-// Datums that are more than a shift, and three whose results are to stay what they were: PROJ's Clarke 1880
-// has the flattening 1/293.4663, the table's 1/293.465, and a pole 0.1 m aside. Spheres keep latitude and
-// longitude as they are, since that is how the models that use them mean it.
+// Datums that are more than a shift, and three whose results must not change: PROJ's Clarke 1880 has the
+// flattening 1/293.4663, the table's 1/293.465, which moves a pole by 0.1 m. For spheres latitude and
+// longitude are unchanged, because the models that use them do the same.
 constexpr DatumRow datumRows[] = {
     {"WGS-84", "+datum=WGS84"},
     {"WGS-72", "+ellps=WGS72 +towgs84=0,0,4.5,0,0,0.554,0.2263"},
@@ -44,7 +44,7 @@ struct EllipsoidRow {
     const char* definition;
 };
 
-// Axis and flattening stand where PROJ has no name for exactly this ellipsoid.
+// Axis and flattening are given if PROJ has no name for exactly this ellipsoid.
 constexpr EllipsoidRow ellipsoidRows[] = {
     {Ellipsoid::Airy1830, "+ellps=airy"},
     {Ellipsoid::AustralianNational, "+ellps=aust_SA"},
@@ -114,7 +114,7 @@ std::string falseOrigin(const MapSetting& map) {
     return parameter("x_0", 1000 * map.falseEasting) + parameter("y_0", 1000 * map.falseNorthing);
 }
 
-/// The projection plane of a polar map touches or cuts the earth at a parallel on the side of its pole.
+/// The projection plane of a polar map touches or cuts the earth at a parallel in the hemisphere of its pole.
 double poleOf(const MapSetting& map) {
     const double side = map.latitude1 != 0 ? map.latitude1 : map.latitude0;
     return side < 0 ? -90 : 90;
@@ -122,7 +122,7 @@ double poleOf(const MapSetting& map) {
 
 bool isSphere(const std::string& datum) { return datumDefinition(datum).value_or("").rfind("+R=", 0) == 0; }
 
-/// What PROJ's utm, which takes ellipsoids only, is on a sphere.
+/// The equivalent of PROJ's utm, which accepts ellipsoids only, for a sphere.
 std::string zoneOnSphere(const MapSetting& map) {
     return "+proj=tmerc +lat_0=0 +k=0.9996 +x_0=500000" + parameter("lon_0", 6 * map.utmZone - 183) +
            parameter("y_0", map.southern ? 1e7 : 0);
@@ -155,7 +155,7 @@ std::string definitionOf(const MapSetting& map) {
     return text;
 }
 
-/// Without what makes it a part of the earth: shape and size.
+/// The datum without its shift to WGS 84: the shape and size of the ellipsoid only.
 std::string shapeOf(const std::string& datum) {
     const std::size_t shift = std::min(datum.find(" +towgs84="), datum.find(" +nadgrids="));
     return datum.substr(0, shift);
@@ -163,7 +163,7 @@ std::string shapeOf(const std::string& datum) {
 
 bool agree(double a, double b) { return std::abs(a - b) <= sevenDigits * std::max(std::abs(a), std::abs(b)); }
 
-/// Of two longitudes or of two latitudes, which a full turn does not change.
+/// Whether two longitudes or two latitudes agree, disregarding full turns.
 bool agreeInAngle(double a, double b) { return std::abs(std::remainder(a - b, 360)) <= smallAngle; }
 
 /// A transformation with the context that it needs.
@@ -172,7 +172,7 @@ struct Operation {
     Transform transform;
 };
 
-/// Making one takes milliseconds, and the places of a run share a few of them.
+/// Creating one takes milliseconds, and the places of a run share only a few.
 template <typename Maker>
 PJ* keptOperation(const std::string& key, Maker make) {
     thread_local std::map<std::string, Operation> kept;
@@ -206,7 +206,7 @@ MapPoint transformed(MapPoint point, const MapSetting& from, const MapSetting& t
     return {result.xy.x, result.xy.y};
 }
 
-/// A polar map counts from the point of its origin, and PROJ counts from the pole.
+/// Coordinates of a polar map count from its origin; PROJ's count from the pole.
 MapPoint polarOrigin(const MapSetting& map) {
     if (map.projection != "PS" || std::abs(map.latitude0) == 90) return {};
     MapSetting degrees;
@@ -242,7 +242,7 @@ bool isSameMap(const MapSetting& a, const MapSetting& b) {
     if (code == "UTM") return a.utmZone == b.utmZone && a.southern == b.southern;
     if (!agreeInAngle(a.longitude0, b.longitude0)) return false;
     const bool sameFirst = agreeInAngle(a.latitude1, b.latitude1);
-    if (code == "EM") return sameFirst;  // it counts from the equator
+    if (code == "EM") return sameFirst;  // its coordinates count from the equator
     if (!agreeInAngle(a.latitude0, b.latitude0)) return false;
     if (code == "PS") return sameFirst;
     if (!agree(a.falseEasting, b.falseEasting) || !agree(a.falseNorthing, b.falseNorthing)) return false;

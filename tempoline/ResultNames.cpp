@@ -31,7 +31,7 @@ ResultSet resultsNamed(const std::string& name, bool series, bool roses) {
     return set;
 }
 
-/// The files that stay whatever a result is called, by their names and, where they are there, by themselves.
+/// The files that no result may replace, by name and, if they exist, by identity.
 class OtherFiles {
  public:
     void add(const std::string& name, const std::string& what) {
@@ -40,7 +40,7 @@ class OtherFiles {
         if (stat(name.c_str(), &state) == 0) files_.emplace(std::pair(state.st_dev, state.st_ino), what);
     }
 
-    /// What the file of that name is; empty for one of none's concern.
+    /// What the file of that name is; empty if it may be replaced.
     std::string whatIs(const std::string& name) const {
         if (const auto found = names_.find(name); found != names_.end()) return found->second;
         struct stat state = {};
@@ -54,7 +54,7 @@ class OtherFiles {
     std::map<std::pair<dev_t, ino_t>, std::string> files_;
 };
 
-/// Equal for all names that some file system takes for one; for others too.
+/// Equal for all names that any file system considers the same, and for some others.
 std::string looseName(const std::string& name) {
     std::string loose;
     for (const char c : lcase(name))
@@ -62,7 +62,7 @@ std::string looseName(const std::string& name) {
     return loose;
 }
 
-/// Makes files of those names in a directory of their own beside the results.
+/// Creates files with those names in a directory of its own beside the results.
 class NameTrial {
  public:
     NameTrial() : temporaries_(Temporaries::ofThisRun()), directory_(temporaries_->makeDirectory()) {}
@@ -74,7 +74,7 @@ class NameTrial {
     NameTrial(const NameTrial&) = delete;
     NameTrial& operator=(const NameTrial&) = delete;
 
-    /// The name made before whose file this one would be; empty where there is none.
+    /// The earlier name for the same file; empty if there is none.
     std::string takenBy(const std::string& name) {
         if (directory_.empty()) return {};
         if (make(name)) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// Everything that the files of one rose say: what was counted, of what, when.
+// Everything that the files of one rose report: what was counted, from which data, over which period.
 
 #include <string>
 #include <vector>
@@ -9,11 +9,11 @@
 
 namespace zg::tempoline {
 
-/// One run that took part in the counts.
+/// One run that contributed to the counts.
 struct CountedRun {
     Seconds begin = 0;
     Seconds end = 0;
-    std::string what;  ///< kind and names of the input, station and height: the same text is the same series
+    std::string what;  ///< kind and names of the input, station and height: equal texts mean the same series
 };
 
 struct RoseReport {
@@ -25,12 +25,12 @@ struct RoseReport {
     Seconds end = 0;
     Seconds step = secondsAnHour;
     RoseRules rules;
-    bool hasRecords = true;  ///< some record lay in the period
+    bool hasRecords = true;  ///< whether a record is in the period
     std::vector<CountedRun> runs;
     std::vector<RoseCounts> roses;
 };
 
-/// One line without control characters and blanks at its ends.
+/// The text on one line, without control characters and trimmed.
 std::string oneLine(const std::string& text);
 
 }  // namespace zg::tempoline

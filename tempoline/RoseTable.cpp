@@ -68,7 +68,7 @@ void RoseTable::findMonth(Seconds begin) {
 
 void RoseTable::add(Seconds begin, const Wind& wind) {
     findMonth(begin);
-    // An hour bears the number of its end, and a shorter step that of the hour in which it ends.
+    // An hour has the number of its end, and a shorter step that of the hour in which it ends.
     const Seconds toFullHour = step_ < secondsAnHour ? secondsAnHour - 1 : 0;
     Seconds secondOfDay = (begin + step_ + toFullHour) % secondsADay;
     if (secondOfDay < 0) secondOfDay += secondsADay;

@@ -1,6 +1,6 @@
 #pragma once
 
-// How often the wind blew: counts of steps by sector and class, one table a rose.
+// How often the wind blew: counts of steps by sector and class, one table per rose.
 
 #include <array>
 #include <cstdint>
@@ -27,12 +27,12 @@ extern const std::array<const char*, sectorCount> sectorLabels;
 /// "Hours 01-06"
 std::string hourRangeText(const HourRange& range);
 
-/// All roses of one output: all periods, each season, each range of hours.
+/// All roses of one output: the whole period, each season, each range of hours.
 class RoseTable {
  public:
     RoseTable(const RoseRules& rules, Seconds step);
 
-    /// Counts the step that begins at that moment; a wind that is not valid counts as missing.
+    /// Counts the step that begins at that moment; an invalid wind counts as missing.
     void add(Seconds begin, const Wind& wind);
 
     const std::vector<RoseCounts>& roses() const { return roses_; }
@@ -49,7 +49,7 @@ class RoseTable {
     std::size_t month_ = 0;
 };
 
-/// The class of a speed that is no calm: the last whose lower limit it reaches.
+/// The class of a speed above calm: the last one whose lower limit it reaches.
 std::size_t classOf(double speed, const std::array<double, classCount>& limits);
 
 }  // namespace zg::tempoline

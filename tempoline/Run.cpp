@@ -31,7 +31,7 @@ constexpr std::size_t longestControlFile = std::size_t{16} << 20;
 
 void tellError(const std::string& message) { std::fprintf(stderr, "tempoline: %s\n", message.c_str()); }
 
-/// So that they are seen although nobody reads the listing of a run that went well.
+/// Shown on standard error, because nobody reads the listing of a successful run.
 void tellRemarks(const std::vector<std::string>& remarks) {
     for (std::size_t i = 0; i < remarks.size() && i < mostRemarks; ++i) tellError(remarks[i]);
     if (remarks.size() > mostRemarks)
@@ -68,7 +68,7 @@ void putAside(const Control& control, OlderResults& older) {
     if (!fault.empty()) throw Failure(ExitStatus::Failed, fault);
 }
 
-/// The results of one output until they all take their names.
+/// The results of one output, until all of them get their names.
 struct Results {
     std::unique_ptr<TsfFile> series;
     std::unique_ptr<OutputFile> counts;
@@ -84,7 +84,7 @@ class Runner {
         for (std::size_t i = 0; i < control_.outputs.size(); ++i) series_.emplace_back(control_);
         results_.resize(control_.outputs.size());
         reader_ = makeReader(control_);
-        openResults();  // before a year of data is read it is known that they can be made
+        openResults();  // fails before a year of data is read, if they cannot be created
         if (control_.wantsSeries) openSeries();
         try {
             readInputs();
@@ -125,7 +125,7 @@ class Runner {
         return output < notes.size() ? notes[output] : std::vector<std::string>();
     }
 
-    /// Of a run that failed.
+    /// The remains of a failed run.
     void tellWhatWasRead() {
         tellNotes();
         listing_.line("");
@@ -201,8 +201,8 @@ class Runner {
         }
     }
 
-    /// The FRQ file comes last: where it stands, the others do. Another run may have made results of these
-    /// names meanwhile.
+    /// The FRQ file comes last: if it exists, the others do. Another run may meanwhile have written results
+    /// with these names.
     void commit() {
         putAside(control_, older_);
         std::vector<OutputFile*> files;
@@ -231,7 +231,7 @@ Control checkedControl(const std::string& text, const std::string& controlFile) 
 
 void runControl(const std::string& controlFile, Listing& listing, OlderResults& older) {
     const std::string text = readControlText(controlFile);
-    listing.rename("");  // nothing is written until its name is known to be free
+    listing.rename("");  // nothing is written until its name is known to be available
     const std::string name = freeListingName(text, controlFile);
     needFreeName(name);
     const std::shared_ptr<Temporaries> temporaries = Temporaries::ofThisRun();
@@ -239,7 +239,7 @@ void runControl(const std::string& controlFile, Listing& listing, OlderResults& 
     const Control control = [&] {
         try {
             return checkedControl(text, controlFile);
-        } catch (const Failure&) {  // of this run there will be no results under these names
+        } catch (const Failure&) {  // no result of this run will have one of these names
             const std::string fault = older.putAside(readableResults(text, controlFile));
             if (!fault.empty()) listing.line("WARNING: " + fault);
             throw;
@@ -269,12 +269,12 @@ Outcome outcomeOf(Work work) {
         return {failure.status, failure.what()};
     } catch (const std::bad_alloc&) {
         return {ExitStatus::Failed, "there is not enough memory"};
-    } catch (const std::exception& error) {  // of the system, such as a thread that it does not give
+    } catch (const std::exception& error) {  // a system failure, such as a thread that cannot be created
         return {ExitStatus::Failed, error.what()};
     }
 }
 
-/// The fault itself is the last line of both.
+/// The error itself is the last line of both.
 void tellFault(const Outcome& outcome, const OlderResults& older, Listing& listing) {
     const std::vector<std::string> kept = older.kept();
     if (!kept.empty()) {

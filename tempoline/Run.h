@@ -1,6 +1,6 @@
 #pragma once
 
-// One run: a control file in, its results out, all of them or none.
+// One run: reads a control file and writes all its results or none.
 
 #include <string>
 
@@ -8,8 +8,8 @@
 
 namespace zg::tempoline {
 
-/// Carries out the run that the control file of that path asks for, in the current directory. Whatever
-/// happens is told in the listing; what went wrong also on standard error, in one line.
+/// Executes the run of that control file in the current directory. The listing reports it in every case;
+/// errors also go to standard error, on one line.
 ExitStatus run(const std::string& controlFile);
 
 }  // namespace zg::tempoline

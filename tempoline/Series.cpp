@@ -12,7 +12,7 @@ namespace {
 
 constexpr double radiansADegree = std::numbers::pi / 180;
 constexpr std::int64_t stepsBetweenLooks = 1024;
-constexpr double noDirection = 1e-9;  // mean unit vectors shorter than this point nowhere
+constexpr double noDirection = 1e-9;  // a shorter mean unit vector has no direction
 
 }  // namespace
 
@@ -111,7 +111,7 @@ void Series::addPart(std::int64_t index, const Wind& wind, bool valid, double se
     average_.single = wind;
     average_.weight += seconds;
     average_.speed += wind.speed * seconds;
-    // A record that fills its step is alone there, and passes through without its vector.
+    // A record that fills its step is the only one in it and keeps its exact values.
     const bool alone = average_.count == 1 && !instant_ && seconds == static_cast<double>(step_);
     if (!alone && wind.speed > 0 && hasDirection(wind)) {
         average_.east += seconds * std::sin(wind.direction * radiansADegree);
@@ -144,7 +144,7 @@ void Series::countStep(const Wind& wind) {
 }
 
 void Series::closeStep() {
-    // Between two records millions of steps may lie, and as many behind the last one.
+    // There may be millions of steps between two records, and as many after the last one.
     if (current_ % stepsBetweenLooks == 0) throwIfInterrupted();
     const Seconds begin = periodBegin_ + current_ * step_;
     const Wind wind = averaged();

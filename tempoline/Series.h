@@ -1,6 +1,6 @@
 #pragma once
 
-// The records of one output, in the order of their times, become steps of the period.
+// Turns the records of one output, in order of time, into steps of the period.
 
 #include <cstdint>
 #include <functional>
@@ -24,29 +24,29 @@ class Series {
     RoseTable& table() { return table_; }
     const RoseTable& table() const { return table_; }
 
-    /// Every step goes there too.
+    /// Every step is also written there.
     void writeTo(TsfFile* file) { file_ = file; }
 
-    /// A record from begin to end (the zone of the run); an empty one stands for the step it falls in. A
-    /// record as long as the step passes through to the step in which it begins; a shorter one takes part in
-    /// the average of each step that it touches. Throws for a record that is longer than the step, ends
-    /// before it begins, lies before the one ahead of it or overlaps it.
+    /// Adds a record from begin to end (in the zone of the run); an empty one counts for the step it falls
+    /// in. A record as long as the step is the value of the step in which it begins; a shorter one takes part
+    /// in the average of each step that it overlaps. Throws for a record that is longer than the step, ends
+    /// before it begins, or begins before or overlaps the one before it.
     void add(Seconds begin, Seconds end, const Wind& wind, const Place& place,
              MissingReason reason = MissingReason::Values);
 
-    /// Closes all steps to the end of the period.
+    /// Closes all remaining steps of the period.
     void finish();
 
     const RecordCounts& records() const { return records_; }
     const StepCounts& steps() const { return steps_; }
 
-    /// Some record, valid or not, lies in the period.
+    /// Whether any record, valid or not, is in the period.
     bool hasRecords() const { return records_.used + records_.missing > 0; }
 
  private:
     struct Average {
-        bool isTouched = false;  ///< by some record, valid or not
-        int count = 0;           ///< of valid ones
+        bool isTouched = false;  ///< covered by some record, valid or not
+        int count = 0;           ///< covered by valid ones
         double weight = 0;       ///< seconds that valid records cover
         double speed = 0;
         double east = 0;  ///< of the unit vectors
@@ -54,7 +54,7 @@ class Series {
         Wind single;
     };
 
-    /// Whether the record lies in the period and may count.
+    /// Whether the record is in the period and is not a duplicate.
     bool isInside(Seconds begin, Seconds end);
     void countMissing(const Wind& wind, MissingReason reason);
     void countUsed(Seconds begin, Seconds end, const Wind& wind, const Place& place);
@@ -67,7 +67,7 @@ class Series {
     Seconds periodBegin_;
     Seconds step_;
     std::int64_t stepCount_;
-    Seconds periodEnd_;  ///< of the last whole step
+    Seconds periodEnd_;  ///< of the last complete step
     double calmLimit_;
     RoseTable table_;
     TsfFile* file_ = nullptr;
@@ -76,8 +76,8 @@ class Series {
     bool any_ = false;
     Seconds lastBegin_ = 0;
     Seconds lastEnd_ = 0;
-    bool instant_ = false;      ///< the record at hand has no length
-    std::int64_t current_ = 0;  ///< index of the open step
+    bool instant_ = false;      ///< the current record has no length
+    std::int64_t current_ = 0;  ///< index of the current step
     Average average_;
 };
 

@@ -149,7 +149,7 @@ class Reader {
             rules.seasonOfMonth[i] = static_cast<int>(number(seasons[i], "Months", 0, 2'000'000'000));
     }
 
-    /// "y m d h s y m d h s what"
+    /// Fields: y m d h s y m d h s what
     CountedRun readRun() {
         const std::string text = value("Run");
         std::array<std::string_view, 11> fields;

@@ -24,7 +24,7 @@ constexpr std::string_view temporaryEnding = ".tmp";
 constexpr int mostTries = 1000;
 constexpr std::size_t mostRunsNamed = 3;
 
-/// The name of this machine as a part of a file's name.
+/// The name of this machine, usable in a file name.
 std::string machineName() {
     std::array<char, 65> name{};
     if (gethostname(name.data(), name.size() - 1) != 0) return "unknown";
@@ -33,14 +33,14 @@ std::string machineName() {
     return text;
 }
 
-/// A lock that is held by nobody, and now by this process; -1 where a run holds it or where it cannot be
-/// told. Locks are those of open files: the system lets go of them when a process ends, however it ends.
+/// Opens a lock that nobody holds and locks it for this process; -1 if a run holds it or that cannot be
+/// determined. The lock belongs to the open file: the system releases it when the process ends in any way.
 int takeLock(const std::string& name) {
     const int file = open(name.c_str(), O_RDWR | O_CLOEXEC);
     if (file < 0) return -1;
     struct stat held = {};
     struct stat named = {};
-    // Between the two calls another run may have removed it, and a third one made it again.
+    // Between the two calls another run may have removed the file, and a third one created it again.
     if (flock(file, LOCK_EX | LOCK_NB) == 0 && fstat(file, &held) == 0 && stat(name.c_str(), &named) == 0 &&
         held.st_dev == named.st_dev && held.st_ino == named.st_ino)
         return file;
@@ -52,7 +52,7 @@ bool isNumber(std::string_view text) {
     return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-/// Cuts "-12" from the end.
+/// Removes "-12" from the end.
 bool cutNumber(std::string_view& name) {
     const std::size_t dash = name.rfind('-');
     if (dash == std::string_view::npos || !isNumber(name.substr(dash + 1))) return false;
@@ -66,8 +66,8 @@ bool cutEnding(std::string_view& name, std::string_view ending) {
     return true;
 }
 
-/// What the files of one run begin with: its machine, its process and a number; none where the name is that
-/// of something else.
+/// The common prefix of the files of one run: its machine, its process and a number; nothing if the name is
+/// not one of these.
 std::optional<std::string> stemOf(std::string_view name) {
     if (name.substr(0, prefix.size()) != prefix) return {};
     if (cutEnding(name, lockEnding)) return std::string(name);
@@ -79,7 +79,7 @@ bool isOfThisMachine(std::string_view stem) {
     return cutNumber(stem) && cutNumber(stem) && stem == std::string(prefix) + machineName();
 }
 
-/// The files in the current directory that runs have left or are using, by their runs.
+/// The files in the current directory that runs have left or are using, grouped by run.
 std::map<std::string, std::vector<std::string>> filesOfRuns() {
     std::map<std::string, std::vector<std::string>> files;
     std::error_code error;
@@ -91,7 +91,7 @@ std::map<std::string, std::vector<std::string>> filesOfRuns() {
     return files;
 }
 
-/// The lock goes last: as long as it is there, the next run finds what is left to remove.
+/// The lock goes last: while it exists, the next run finds what is left to remove.
 void removeFiles(const std::vector<std::string>& names, const std::string& lockName) {
     std::error_code ignored;
     for (const std::string& name : names)
@@ -111,7 +111,7 @@ std::shared_ptr<Temporaries> Temporaries::ofThisRun() {
     return temporaries;
 }
 
-/// Where no lock can be had the names are used all the same, and nobody takes them for those of a dead run.
+/// If no lock can be made the names are still used; nobody takes them for those of a dead run.
 Temporaries::Temporaries() {
     const std::string own = std::string(prefix) + machineName() + "-" + std::to_string(getpid()) + "-";
     for (int i = 1; i <= mostTries; ++i) {
@@ -120,8 +120,8 @@ Temporaries::Temporaries() {
     }
 }
 
-/// A run that was killed, or one in another container, may have had the same number of its process, and a run
-/// that looks for remains may hold the lock before this one has it: the next number then.
+/// A killed run, or one in another container, may have had the same process number, and a run that looks for
+/// remains may lock the file before this one does: then take the next number.
 bool Temporaries::lock() {
     const std::string name = stem_ + std::string(lockEnding);
     lock_ = open(name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
@@ -143,7 +143,7 @@ Temporaries::~Temporaries() {
     close(lock_);
 }
 
-/// Calls until it succeeds with a name that no file has.
+/// Repeats until the call succeeds with an unused name.
 template <typename Make>
 std::string Temporaries::underNewName(Make make) {
     for (;;) {
@@ -174,7 +174,7 @@ std::string Temporaries::removeRemains() const {
         const bool hasLock = std::find(names.begin(), names.end(), lockName) != names.end();
         if (isOfThisMachine(stem) && hasLock) {
             const int file = takeLock(lockName);
-            if (file < 0) continue;  // the run goes on
+            if (file < 0) continue;  // that run is alive
             removeFiles(names, lockName);
             close(file);
         } else if (++runs <= mostRunsNamed) {

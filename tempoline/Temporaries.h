@@ -1,7 +1,7 @@
 #pragma once
 
-// What a run writes before it takes its name lies beside the results under names of the run's own, and a lock
-// beside them tells others that the run lives: what a killed one left is removed by the next.
+// Unfinished results are beside the finished ones under temporary names that belong to the run; a lock file
+// tells other runs that it is alive. What a killed run left, the next one removes.
 
 #include <memory>
 #include <string>
@@ -11,20 +11,20 @@ namespace zg::tempoline {
 
 class Temporaries {
  public:
-    /// Those of this process in the current directory. They last as long as somebody holds them.
+    /// Those of this process in the current directory. They exist as long as somebody holds this object.
     static std::shared_ptr<Temporaries> ofThisRun();
 
     ~Temporaries();
     Temporaries(const Temporaries&) = delete;
     Temporaries& operator=(const Temporaries&) = delete;
 
-    /// The name of a new empty file, or of a new directory; empty where none can be made, with the reason in
+    /// The name of a new empty file or a new directory; empty if it cannot be created, with the reason in
     /// errno.
     std::string makeFile();
     std::string makeDirectory();
 
-    /// Removes what runs of this machine left that are gone. What may belong to a run that goes on elsewhere
-    /// stays: one line of text that names it, empty where there is none.
+    /// Removes what ended runs of this machine left. Files that may belong to a live run elsewhere stay:
+    /// returns one line that names them, empty if there are none.
     std::string removeRemains() const;
 
  private:

@@ -18,7 +18,7 @@ bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 }  // namespace
 
-// Counting from March puts the leap day at the end of the year; see any text on the civil calendar.
+// Counting years from March puts the leap day at the end of the year; see any text on the civil calendar.
 std::int64_t daysFromDate(int year, int month, int day) {
     const std::int64_t y = month <= 2 ? year - 1 : year;
     const std::int64_t era = (y >= 0 ? y : y - 399) / 400;

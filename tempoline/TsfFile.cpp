@@ -16,7 +16,7 @@ void appendWhole(std::string& text, std::int64_t value) {
     text.append(digits, end);
 }
 
-/// The shortest text that reads back as the same number, so that a rose made of the series is the same rose.
+/// The shortest text that reads back as the same number, so that a rose made from the series is identical.
 void appendValue(std::string& text, bool present, double value) {
     char digits[32] = "9999.";
     const char* end = digits + 5;

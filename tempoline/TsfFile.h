@@ -1,6 +1,6 @@
 #pragma once
 
-// Writes a time series of version 1.3: a header, then one line a step.
+// Writes a time series of version 1.3: a header, then one line per step.
 
 #include <memory>
 #include <string>
@@ -19,14 +19,14 @@ struct TsfHeading {
     Seconds begin = 0;
     Seconds end = 0;
     Seconds step = secondsAnHour;
-    double height = -1;  ///< metres; negative where it is not known
+    double height = -1;  ///< metres; negative if unknown
 };
 
 class TsfFile {
  public:
     TsfFile(const std::string& name, const TsfHeading& heading);
 
-    /// The step that begins then; what is missing stands as 9999.
+    /// Writes the step that begins at that moment; 9999 marks a missing value.
     void add(Seconds begin, const Wind& wind);
 
     OutputFile& file() { return file_; }

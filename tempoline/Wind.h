@@ -1,6 +1,6 @@
 #pragma once
 
-// One wind, and the plain rules of what counts as calm, valid and missing.
+// One wind, and the rules for calm, valid and missing.
 
 #include <cmath>
 #include <limits>
@@ -12,8 +12,8 @@ constexpr double highestSpeed = 90;
 
 inline bool hasValue(double value) { return !std::isnan(value); }
 
-/// Speed in m/s, direction in degrees from which the wind blows, clockwise from north; what is missing is
-/// outside the ranges (not-a-number too).
+/// Speed in m/s and the direction in degrees that the wind blows from, clockwise from north; missing values
+/// are outside the valid ranges or not-a-number.
 struct Wind {
     double speed = missingValue;
     double direction = missingValue;
@@ -24,32 +24,32 @@ inline bool hasDirection(const Wind& wind) { return wind.direction >= 0 && wind.
 
 inline bool isCalm(const Wind& wind, double calmLimit) { return hasSpeed(wind) && wind.speed < calmLimit; }
 
-/// A calm counts whatever its direction.
+/// A calm is valid whatever its direction.
 inline bool isValid(const Wind& wind, double calmLimit) {
     return hasSpeed(wind) && (wind.speed < calmLimit || hasDirection(wind));
 }
 
-/// 0 to 15, north first, clockwise: floor((direction + 11.25) / 22.5) mod 16.
+/// 0 to 15, clockwise from north: floor((direction + 11.25) / 22.5) mod 16.
 inline int sectorOf(double direction) { return static_cast<int>((direction + 11.25) / 22.5) % 16; }
 
-/// Eastward and northward part of a wind, m/s.
+/// Eastward and northward components of a wind, m/s.
 struct Components {
     double u = 0;
     double v = 0;
 };
 
-/// Of a wind that has both; a speed of 0 needs no direction.
+/// Of a wind with speed and direction; a speed of 0 needs no direction.
 Components componentsOf(const Wind& wind);
 
-/// The wind of these components. Computed speeds and directions are rounded to a millionth, so that the noise
-/// of the arithmetic moves no value over a limit: 3.24 and 4.32 m/s are exactly 5.4 m/s.
+/// The wind with these components. Computed speeds and directions are rounded to a millionth, so that
+/// rounding errors do not move a value across a limit: 3.24 and 4.32 m/s give exactly 5.4 m/s.
 Wind windOf(Components components);
 
-/// The same wind by a north that lies so many degrees counterclockwise; rounded as windOf does. Without a
-/// direction, and by 0 degrees, it stays untouched.
+/// The same wind relative to a north that is that many degrees counterclockwise; rounded like windOf.
+/// Unchanged without a direction, and for 0 degrees.
 Wind turned(const Wind& wind, double degrees);
 
-/// To the nearest millionth.
+/// Rounded to the nearest millionth.
 double roundedToMillionth(double value);
 
 }  // namespace zg::tempoline

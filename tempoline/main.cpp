@@ -1,4 +1,4 @@
-// The processor: the control file of a run, or the counts of partial runs to be joined.
+// The processor: runs a control file, or joins the counts of partial runs.
 
 #include <cstddef>
 #include <cstdio>
@@ -61,7 +61,7 @@ ExitStatus say(const std::string& text) {
     return written ? ExitStatus::Completed : ExitStatus::Failed;
 }
 
-/// A control file's name comes from that of the data, which may begin with a dash.
+/// A control file takes its name from the data, which may begin with a hyphen.
 bool isOption(const std::string& argument) { return argument.starts_with('-') && !zg::fileExists(argument); }
 
 ExitStatus start(const std::vector<std::string>& arguments) {
@@ -85,7 +85,7 @@ ExitStatus told(const char* message, ExitStatus status) {
     return status;
 }
 
-/// Whatever happens is told in one line.
+/// Every result is reported in one line.
 ExitStatus startGuarded(int argc, char** argv) {
     try {
         return start({argv + 1, argv + argc});

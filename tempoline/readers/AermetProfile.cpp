@@ -13,10 +13,10 @@ namespace zg::tempoline {
 
 namespace {
 
-constexpr std::size_t fieldCount = 8;  // as far as the wind
+constexpr std::size_t fieldCount = 8;  // up to the wind
 constexpr std::size_t levelHeightField = 4;
-constexpr double farAway = 10;          // metres between the asked height and the level: a warning
-constexpr std::size_t mostToTell = 20;  // different levels
+constexpr double farAway = 10;          // metres between height and level that are reported
+constexpr std::size_t mostToTell = 20;  // distinct levels
 
 struct NearestLevel {
     bool any = false;
@@ -24,7 +24,8 @@ struct NearestLevel {
     Wind wind;
 };
 
-/// Hours by the height of the level that was taken for an output; of a thousand heights, whatever the file.
+/// Counts hours by the height of the level used for an output; stops at a thousand heights, whatever the file
+/// holds.
 class LevelsUsed {
  public:
     void add(double height) {
@@ -53,7 +54,7 @@ class LevelsUsed {
     double highest_ = -std::numeric_limits<double>::infinity();
 };
 
-/// Several lines an hour, one a level, stamped at its end, in the zone of the run.
+/// Several lines per hour, one per level, stamped with its end, in the zone of the run.
 class AermetProfile : public InputReader {
  public:
     explicit AermetProfile(const Control& control)
@@ -66,7 +67,7 @@ class AermetProfile : public InputReader {
         std::array<std::string_view, fieldCount> fields;
         bool open = false;
         Seconds end = 0;
-        std::size_t firstLine = 0;  // of the hour
+        std::size_t firstLine = 0;  // of the current hour
         while (lines.next(line)) {
             const std::size_t count = splitBlanks(line, fields);
             if (count == 0) continue;
@@ -112,7 +113,7 @@ class AermetProfile : public InputReader {
             noteOutput(output, entryLine("Other levels", "in " + std::to_string(others) + " hours"));
     }
 
-    /// In the listing and on standard error: the other results say the height that was asked.
+    /// In the listing and on standard error: the other results state the requested height.
     void tellDistance(std::size_t output, double asked) {
         const double lowest = used_[output].lowest();
         const double highest = used_[output].highest();

@@ -16,7 +16,7 @@ constexpr std::size_t directionField = 16;
 constexpr std::size_t heightField = 17;
 constexpr std::size_t stationField = 5;
 
-/// One line an hour, stamped at its end, in the zone of the run.
+/// One line per hour, stamped with its end, in the zone of the run.
 class AermetSurface : public InputReader {
  public:
     explicit AermetSurface(const Control& control) : control_(control) {}
@@ -41,7 +41,7 @@ class AermetSurface : public InputReader {
     }
 
  private:
-    /// Without the header the first hour would be taken for it.
+    /// Without a header, the first hour would be taken for it.
     void readHeader(LineSource& lines) {
         std::array<std::string_view, stationField + 1> fields;
         const std::size_t count = splitBlanks(lines.need("the header"), fields);

@@ -11,17 +11,17 @@ namespace zg::tempoline {
 namespace {
 
 constexpr double roughness = 0.1;  // metres
-constexpr double noise = 1e-9;     // cells: what the conversion of a place to the grid may add
+constexpr double noise = 1e-9;     // cells: the error of converting a place to the grid
 constexpr double halfCell = 0.5;
 
-/// The same longitude, counted on from the western edge of the grid: grids go over the date line, or from 0
-/// to 360 degrees.
+/// The same longitude, within a full turn east of the grid's western edge: grids may cross the date line or
+/// run from 0 to 360 degrees.
 double longitudeIn(const Grid& grid, double longitude) {
     const double west = grid.x1 + (grid.firstI - 1 - halfCell - noise) * grid.cellSize;
     return longitude + 360 * std::ceil((west - longitude) / 360);
 }
 
-/// X and Y on the map of the data are taken as they stand.
+/// X and Y on the map of the data are used as given.
 MapPoint mapPlace(const OutputRequest& output, const Control& control, const Grid& grid) {
     if (control.cellCoordinates)
         return {grid.x1 + (output.x - 1) * grid.cellSize, grid.y1 + (output.y - 1) * grid.cellSize};
@@ -34,7 +34,7 @@ MapPoint mapPlace(const OutputRequest& output, const Control& control, const Gri
 
 struct Pair {
     int low = 1;
-    double share = 0;  ///< of the neighbour above
+    double share = 0;  ///< of the higher neighbour
 };
 
 Pair pairAt(double place, int first, int last) {
@@ -58,7 +58,7 @@ GridPlace placeIn(const Grid& grid, const OutputRequest& output, const Control& 
     }
     place.inCells = {1 + (place.onMap.x - grid.x1) / grid.cellSize,
                      1 + (place.onMap.y - grid.y1) / grid.cellSize};
-    // A place on a centre shall be that of the cell alone.
+    // A place at a cell's centre must take the value of that cell alone.
     for (double* const value : {&place.inCells.x, &place.inCells.y}) {
         if (std::abs(*value - std::round(*value)) < noise) *value = std::round(*value);
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the listing says of a grid and of the places in it.
+// What the listing reports about a grid and the places in it.
 
 #include <string>
 #include <vector>
@@ -9,10 +9,10 @@
 
 namespace zg::tempoline {
 
-/// The map, the cells that the file holds, their size.
+/// The map, the cells in the file, and their size.
 std::vector<std::string> gridLines(const Grid& grid);
 
-/// The map that X and Y were taken in, where they lie on the grid's, and the cells with their weights.
+/// The map of X and Y, their position in the grid, and the cells with their weights.
 std::vector<std::string> placeLines(const GridPlace& place, const std::vector<CellShare>& shares,
                                     const Control& control, const Grid& grid);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the headers of several kinds of files have in common.
+// Header lines that several formats share.
 
 #include <optional>
 #include <string>
@@ -12,32 +12,32 @@
 
 namespace zg::tempoline {
 
-/// The first line, cut at blanks: the name of the kind in any case, and the version behind it.
+/// The first line, split at blanks: the name of the format in any letter case, then its version.
 std::string versionOf(LineSource& lines, std::string_view kind);
 
-/// A line with a count (text may follow behind a hyphen) and so many lines of comment.
+/// A line with a count (text may follow after a hyphen), and that many comment lines after it.
 void skipComments(LineSource& lines);
 
 /// The number before a hyphen.
 int countOf(LineSource& lines, std::string_view what);
 
-/// "45.5N", "-45.5" and "97W" are degrees; "NONE" and "0" stand for what is not used.
+/// "45.5N", "-45.5" and "97W" are degrees; "NONE" and "0" mean that the parameter is not used.
 double degreesField(const LineSource& place, std::string_view field, std::string_view name);
 
-/// Kilometres, which have no letter: "NONE" stands for what is not used.
+/// Kilometres, without a letter: "NONE" means that the parameter is not used.
 double kilometresField(const LineSource& place, std::string_view field, std::string_view name);
 
-/// What a polar map is true at; throws for 0 and NONE, at which no polar map is drawn.
+/// The true latitude of a polar map; throws for 0 and NONE, for which there is no polar map.
 void needPolarParallel(const LineSource& place, const MapSetting& map);
 
-/// The end that a header promises, from year, month, day, hour and second, or from year, day of the year,
-/// hour and second. Only a warning hangs on it, so that it is nothing where the fields are no moment.
+/// The end given in a header, from year, month, day, hour and second, or from year, day of the year, hour and
+/// second. It is used for a warning only; nothing if the fields are not a valid time.
 std::optional<Seconds> promisedEnd(std::string_view year, std::string_view month, std::string_view day,
                                    std::string_view hour, std::string_view second);
 std::optional<Seconds> promisedEnd(std::string_view year, std::string_view julianDay, std::string_view hour,
                                    std::string_view second);
 
-/// Seconds east of Greenwich; throws for what is no key of a zone.
+/// Seconds east of Greenwich; throws for text that is not a zone.
 Seconds zoneField(const LineSource& place, std::string_view key);
 
 }  // namespace zg::tempoline

@@ -13,18 +13,18 @@ struct Level {
     Wind wind;
 };
 
-/// Metres: heights that differ by less are one, since sums of heights carry the noise of arithmetic.
+/// Metres: heights that differ by less are equal, since sums of heights carry rounding errors.
 constexpr double sameHeight = 1e-4;
 
-/// The lowest level at a height or above it; as many as there are levels where there is none.
+/// Index of the lowest level at or above a height; the number of levels if there is none.
 std::size_t firstLevelFrom(const std::vector<Level>& levels, double height);
 
-/// The wind at a height between levels that rise, components interpolated linearly in height; at a level its
-/// own wind, untouched. Missing below the first and above the last level, and where a level beside it has no
-/// wind.
+/// The wind at a height, by linear interpolation of the components between levels of rising height; at a
+/// level its own wind, unchanged. Missing below the first and above the last level, and if a level next to
+/// the height has no wind.
 Wind windAtHeight(const std::vector<Level>& levels, double height);
 
-/// A wind that can be interpolated: one with speed and direction, or of speed 0.
+/// Whether a wind can be interpolated: it has speed and direction, or its speed is 0.
 bool hasComponents(const Wind& wind);
 
 }  // namespace zg::tempoline

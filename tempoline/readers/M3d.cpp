@@ -18,24 +18,24 @@ namespace zg::tempoline {
 namespace {
 
 constexpr int mostCells = 100'000;         // along one side
-constexpr std::size_t surfaceFields = 12;  // as far as the 10 m wind
+constexpr std::size_t surfaceFields = 12;  // up to the 10 m wind
 
-/// What one cell says of an hour.
+/// The data of one cell for an hour.
 struct Column {
     Wind tenMetres;
     std::vector<Level> levels;
 };
 
-/// How the winds of an output came about, cell by cell and hour by hour.
+/// How the winds of an output were obtained, per cell and hour.
 struct LevelUse {
-    double lowest = std::numeric_limits<double>::infinity();    ///< level that took part, metres
-    double highest = -std::numeric_limits<double>::infinity();  ///< the same
+    double lowest = std::numeric_limits<double>::infinity();    ///< lowest level used, metres
+    double highest = -std::numeric_limits<double>::infinity();  ///< highest level used
     std::int64_t between = 0;                                   ///< at a level or between two
-    std::int64_t below = 0;                                     ///< the first level
-    std::int64_t above = 0;                                     ///< the last level, or there is none
+    std::int64_t below = 0;                                     ///< the first level was used
+    std::int64_t above = 0;                                     ///< the last level was used, or none
 };
 
-/// A needed cell: its number in the order of the file, and its place in the columns of the hour.
+/// A required cell: its number in file order, and its index in the columns of the hour.
 struct NeededCell {
     std::size_t order = 0;
     std::size_t column = 0;
@@ -43,8 +43,8 @@ struct NeededCell {
     int j = 0;
 };
 
-/// Hours of a mesoscale model, each stamped at its begin in UTC, all cells one after the other. Only the
-/// lines of the needed cells are read as numbers.
+/// Hours of a mesoscale model, each stamped with its begin in UTC, with all cells one after the other. Only
+/// lines of the required cells are converted to numbers.
 class M3d : public InputReader {
  public:
     explicit M3d(const Control& control) : control_(control), uses_(control.outputs.size()) {}
@@ -120,7 +120,7 @@ class M3d : public InputReader {
         if (!(grid_.cellSize > 0)) throw lines.failure("cell size", "it must be above 0");
     }
 
-    /// nx, ny and nz of the extract, behind the first time and the number of hours.
+    /// nx, ny and nz of the extract, after the first time and the number of hours.
     std::array<int, 3> sizesOf(const LineSource& lines, std::string_view line) {
         std::array<std::string_view, 5> fields;
         if (splitBlanks(line, fields) < fields.size())
@@ -157,7 +157,7 @@ class M3d : public InputReader {
                      static_cast<std::size_t>(grid_.lastJ - grid_.firstJ + 1);
     }
 
-    /// The lines of the cells tell in which order they stand in each hour.
+    /// The lines of the cells give their order in each hour.
     void findCells(LineSource& lines) {
         shares_.clear();
         std::map<std::pair<int, int>, std::size_t> columns;
@@ -192,7 +192,7 @@ class M3d : public InputReader {
         std::size_t order = 0;
         std::string_view line = firstLine;
         const std::size_t linesACell = static_cast<std::size_t>(levelCount_) + 1;
-        bool atFirst = true;  // the first line of the hour has been read
+        bool atFirst = true;  // the first line of the hour is already read
         for (const NeededCell& cell : needed_) {
             std::size_t skipped = (cell.order - order) * linesACell;
             if (skipped > 0 && atFirst) {
@@ -288,12 +288,12 @@ class M3d : public InputReader {
     std::size_t cellCount_ = 0;
     std::vector<std::vector<CellShare>> shares_;  ///< by output
     std::map<std::pair<int, int>, std::size_t> columnOf_;
-    std::vector<NeededCell> needed_;  ///< in the order of the file
+    std::vector<NeededCell> needed_;  ///< in file order
     std::vector<Column> columns_;
     std::vector<Wind> winds_;
     std::vector<LevelUse> uses_;       ///< by output
-    std::optional<Seconds> promised_;  ///< end of the data by the header, in the zone of the run
-    std::optional<Seconds> last_;      ///< end of the last hour of the file
+    std::optional<Seconds> promised_;  ///< end of the data according to the header, in the zone of the run
+    std::optional<Seconds> last_;      ///< end of the last hour in the file
 };
 
 }  // namespace

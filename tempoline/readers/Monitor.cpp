@@ -22,7 +22,7 @@ bool isAmong(const std::array<std::string_view, N>& names, std::string_view name
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-/// Comma-separated records of several stations, stamped at the end of their averaging time, in the zone of
+/// Comma-separated records of several stations, stamped with the end of their averaging time, in the zone of
 /// the run.
 class Monitor : public InputReader {
  public:
@@ -107,7 +107,7 @@ class Monitor : public InputReader {
         return minutes;
     }
 
-    /// "3/15/2005 13:00", with seconds and "AM" or "PM" where they stand.
+    /// "3/15/2005 13:00", optionally with seconds and "AM" or "PM".
     static Seconds timeOf(const LineSource& lines, std::string_view text) {
         std::array<std::string_view, 4> parts;
         const std::size_t count = splitBlanks(text, parts);
@@ -155,9 +155,9 @@ class Monitor : public InputReader {
     std::size_t direction_ = noColumn;
     std::size_t speed_ = noColumn;
     std::size_t columns_ = 0;
-    int averaging_ = 0;  ///< minutes, of the first record of the station
+    int averaging_ = 0;  ///< minutes, from the first record of the station
     bool found_ = false;
-    std::int64_t others_ = 0;  ///< records, of other stations
+    std::int64_t others_ = 0;  ///< records of other stations
 };
 
 }  // namespace

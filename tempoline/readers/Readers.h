@@ -1,6 +1,6 @@
 #pragma once
 
-// One maker a kind of input; makeReader chooses.
+// One factory per kind of input; makeReader chooses.
 
 #include <memory>
 

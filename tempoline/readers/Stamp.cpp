@@ -4,7 +4,7 @@ namespace zg::tempoline {
 
 namespace {
 
-/// "05" and the like without the checks of a general number; falls back to those.
+/// A fast path for "05" and the like; falls back to the general conversion.
 int shortWhole(const LineSource& place, std::string_view field, std::string_view name) {
     if (field.size() == 1 && field[0] >= '0' && field[0] <= '9') return field[0] - '0';
     if (field.size() == 2 && field[0] >= '0' && field[0] <= '9' && field[1] >= '0' && field[1] <= '9')

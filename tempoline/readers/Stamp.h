@@ -1,6 +1,6 @@
 #pragma once
 
-// Times as fields of a line, with their faults.
+// Times in the fields of a line, with error messages.
 
 #include <string_view>
 
@@ -9,7 +9,7 @@
 
 namespace zg::tempoline {
 
-/// Year (two digits are completed), month, day, hour (0 to 24) and the second within the hour.
+/// Year (two digits are completed), month, day, hour (0 to 24) and second within the hour.
 Seconds stampOf(const LineSource& place, std::string_view year, std::string_view month, std::string_view day,
                 std::string_view hour, std::string_view second = "0");
 

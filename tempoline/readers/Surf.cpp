@@ -17,7 +17,7 @@ constexpr std::size_t stationFields = 8;
 constexpr int mostStations = 1'000'000;
 constexpr int noRow = -1;
 
-/// A line of the time, then one a station. Version 2.0 stamps hours at their end.
+/// A line with the time, then one per station. Version 2.0 stamps hours with their end.
 class Surf : public InputReader {
  public:
     explicit Surf(const Control& control) : control_(control) {}
@@ -65,8 +65,8 @@ class Surf : public InputReader {
         readStationNames(lines);
     }
 
-    /// The number of an output is that of its row; a file of other rows is searched for the station's name.
-    /// Only the names that are asked for are kept, however many and long the others are.
+    /// An output has the number of its row; in a file with other rows the station is found by its name. Only
+    /// requested names are stored, however many and long the others are.
     void readStationNames(LineSource& lines) {
         std::map<std::string, int, std::less<>> firstRows;
         std::map<int, std::string_view> ownNames;
@@ -135,10 +135,10 @@ class Surf : public InputReader {
     bool hasSeconds_ = false;
     Seconds fileOffset_ = 0;
     int stationCount_ = 0;
-    std::multimap<int, std::size_t> rows_;  ///< row of the station, and the output that wants it
+    std::multimap<int, std::size_t> rows_;  ///< row of the station, and the output that uses it
     Seconds begin_ = 0;
     Seconds end_ = 0;
-    std::optional<Seconds> promised_;  ///< end of the data by the header, in the zone of the run
+    std::optional<Seconds> promised_;  ///< end of the data according to the header, in the zone of the run
 };
 
 }  // namespace

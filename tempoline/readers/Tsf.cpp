@@ -14,7 +14,7 @@ constexpr std::size_t timeFields = 10;
 constexpr std::size_t mostVariables = 200;
 constexpr double missingCode = 9999;
 
-/// A series that the processor wrote.
+/// A time series that the processor wrote.
 class Tsf : public InputReader {
  public:
     explicit Tsf(const Control& control) : control_(control) {}
@@ -112,7 +112,7 @@ class Tsf : public InputReader {
     std::size_t variables_ = 0;
     std::size_t direction_ = 0;
     std::size_t speed_ = 0;
-    std::optional<Seconds> promised_;  ///< end of the data by the header, in the zone of the run
+    std::optional<Seconds> promised_;  ///< end of the data according to the header, in the zone of the run
 };
 
 }  // namespace

@@ -19,8 +19,8 @@ constexpr std::size_t levelsALine = 4;
 
 bool isSeparator(char c) { return c == ',' || c == '/'; }
 
-/// Cuts the next value of a level off the line; an empty one stands between two separators, and behind one at
-/// the end of the line. Tells whether a separator stood behind the value.
+/// Takes the next value of a level off the line; it is empty between two separators, and after one at the end
+/// of the line. Returns whether a separator followed the value.
 std::string_view nextValue(std::string_view& line, bool& separated) {
     line = stripped(line);
     std::size_t end = 0;
@@ -32,8 +32,8 @@ std::string_view nextValue(std::string_view& line, bool& separated) {
     return value;
 }
 
-/// Soundings: a line of the time, then levels, four or fewer a line. Version 2.0 stamps the end of an hour
-/// and is in UTC, as soundings are; version 2.1 names begin, end and zone.
+/// Soundings: a line with the time, then levels, up to four per line. Version 2.0 stamps the end of an hour
+/// in UTC, the zone of soundings; version 2.1 states begin, end and zone.
 class Up : public InputReader {
  public:
     explicit Up(const Control& control) : control_(control) {}
@@ -43,7 +43,7 @@ class Up : public InputReader {
         readHeader(lines);
         std::optional<Seconds> last;
         Seconds lastBegin = 0;
-        Seconds spacing = 0;  // of soundings, which are due so long behind each other
+        Seconds spacing = 0;  // interval at which soundings are due
         std::string_view line;
         while (lines.next(line)) {
             if (stripped(line).empty()) continue;
@@ -154,7 +154,7 @@ class Up : public InputReader {
         if (hasComponents(wind) && !repeated) levels_.push_back({height, wind});
     }
 
-    /// Levels without a wind are passed over, so that their neighbours are the ones beside the height.
+    /// Levels without a wind are skipped, so that the levels next to the height have one.
     Wind windAbove(double height) const {
         return hasValue(ground_) ? windAtHeight(levels_, ground_ + height) : Wind{};
     }
@@ -165,9 +165,9 @@ class Up : public InputReader {
     Seconds begin_ = 0;
     Seconds end_ = 0;
     double ground_ = missingValue;  ///< height of the lowest level
-    double last_ = 0;               ///< height of the level before
+    double last_ = 0;               ///< height of the previous level
     std::vector<Level> levels_;
-    std::optional<Seconds> promised_;  ///< end of the data by the header, in the zone of the run
+    std::optional<Seconds> promised_;  ///< end of the data according to the header, in the zone of the run
 };
 
 }  // namespace

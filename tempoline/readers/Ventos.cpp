@@ -20,15 +20,15 @@ namespace {
 constexpr int mostCells = 100'000;  // along one side
 constexpr int mostLevels = 10'000;
 
-/// A row of values of the file that is needed, and which columns of it.
+/// A required row of values in the file, and its required columns.
 struct NeededRow {
-    std::size_t number = 0;           ///< among the rows of a component, all levels, south first
-    std::vector<std::size_t> values;  ///< places in the values of the step, by column of `columns`
+    std::size_t number = 0;           ///< index among the rows of a component, all levels, south first
+    std::vector<std::size_t> values;  ///< indices into the values of the step, parallel to `columns`
     std::vector<int> columns;         ///< from 1, rising
 };
 
-/// Fields of wind components of a diagnostic model, step by step. Only the rows around the places are read as
-/// numbers.
+/// Fields of wind components of a diagnostic model, step by step. Only the rows around the places are
+/// converted to numbers.
 class Ventos : public InputReader {
  public:
     explicit Ventos(const Control& control) : control_(control) {}
@@ -121,7 +121,7 @@ class Ventos : public InputReader {
         return size;
     }
 
-    /// The heights of the faces may go over several lines; a level lies in the middle of two.
+    /// The heights of the faces may continue on further lines; a level is in the middle between two faces.
     void readFaces(LineSource& lines) {
         std::vector<double> faces;
         std::string_view line;
@@ -141,7 +141,7 @@ class Ventos : public InputReader {
         for (std::size_t k = 0; k < levelCount_; ++k) heights_.push_back((faces[k] + faces[k + 1]) / 2);
     }
 
-    /// Two levels around a height; the same twice at a level, and where it lies below the first.
+    /// The two levels around a height; the same one twice at a level, and below the first.
     struct LevelPair {
         std::size_t low = 0;
         std::size_t high = 0;
@@ -291,13 +291,13 @@ class Ventos : public InputReader {
     Grid grid_;
     Seconds fileOffset_ = 0;
     Seconds fileStep_ = secondsAnHour;
-    std::optional<Seconds> promised_;  ///< end of the data by the header, in the zone of the run
+    std::optional<Seconds> promised_;  ///< end of the data according to the header, in the zone of the run
     std::size_t levelCount_ = 0;
     std::vector<double> heights_;                   ///< of the levels
     std::vector<std::vector<CellShare>> shares_;    ///< by output
     std::vector<LevelPair> pairs_;                  ///< by output
     std::vector<double> turns_;                     ///< by output: from grid north to true north, degrees
-    std::vector<std::vector<std::size_t>> places_;  ///< by output: values of its cells, low level first
+    std::vector<std::vector<std::size_t>> places_;  ///< by output: values of its cells, lowest level first
     std::vector<NeededRow> rows_;                   ///< rising
     std::vector<double> u_;
     std::vector<double> v_;
