@@ -29,7 +29,7 @@ TEST(Encoding, TypedTextIsStoredAsWindowsTextWhereItFits) {
 }
 
 TEST(Encoding, TypedTextWhoseWindowsBytesReadAsOtherTextStaysUtf8) {
-    const std::string text = "\xC3\x83\xC2\xA9";  // as windows-1252 these two characters are one in UTF-8
+    const std::string text = "\xC3\x83\xC2\xA9";  // in windows-1252 these bytes are one in UTF-8
     EXPECT_EQ(fromUtf8(text), text);
     EXPECT_EQ(toUtf8(fromUtf8(text)), text);
 }

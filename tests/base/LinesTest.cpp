@@ -164,7 +164,7 @@ TEST(LineReader, RaisesWithoutPermission) {
     std::filesystem::permissions(path, std::filesystem::perms::none);
     std::FILE* readable = std::fopen(path.c_str(), "rb");
     if (readable != nullptr) {
-        // The superuser reads everything; the number of the error is then that of nothing at all.
+        // The superuser can read every file, so there is no error to check.
         std::fclose(readable);
         EXPECT_EQ(readWholeFile(path), "a");
     } else {

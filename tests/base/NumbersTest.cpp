@@ -147,7 +147,8 @@ TEST(ToSingle, IsTheNearestSingleAndOverflowsBeyondIt) {
 }
 
 TEST(ToSingle, IsRoundedOnce) {
-    // A hair above the middle between two singles; as a double it is that middle, whose even neighbour is 1.
+    // Just above the middle between two singles; as a double it is exactly that middle, which rounds to even,
+    // to 1.
     EXPECT_EQ(toSingle("1.00000005960464477539062500000001"), std::nextafter(1.0F, 2.0F));
     EXPECT_EQ(toSingle("1.000000059604644775390625"), 1.0F);
     EXPECT_EQ(toSingle(1.0 + 0x1p-24), 1.0F);
@@ -232,7 +233,7 @@ TEST(RoundHalfEven, LeavesWhatHasNoFurtherDecimals) {
     EXPECT_EQ(roundHalfEven(std::numeric_limits<double>::infinity(), 2),
               std::numeric_limits<double>::infinity());
     EXPECT_TRUE(std::isnan(roundHalfEven(std::nan(""), 2)));
-    // Scaled and scaled back, some of these would come out beside themselves.
+    // Scaling up and down again would change some of these values.
     for (double x = 1e-3; x < 1e9; x *= 1.37) EXPECT_EQ(roundHalfEven(x, 22), x);
 }
 
@@ -283,7 +284,7 @@ TEST(SingleText, CarriesIntoANewDigit) {
     EXPECT_EQ(singleText(9.99999998e-8F), "0.0000001");
 }
 
-/// Singles of every size and sign: the bit patterns of a generator that meets each one once in its period.
+/// Singles of every size and sign: bit patterns from a generator that produces each one once per period.
 template <typename Check>
 void forManySingles(Check check) {
     std::uint32_t bits = 1;

@@ -28,7 +28,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-/// One of the two dialogs.
+/// One of the two forms.
 class OutputFields : public ::testing::Test {
  protected:
     void SetUp() override {
@@ -68,7 +68,7 @@ class OutputFields : public ::testing::Test {
     }
     std::string status() { return child<QLabel>("lblStatus")->text().toStdString(); }
     bool marked(const char* name) { return fieldMark(*child(name)) == yellowMark; }
-    /// All labels and frames, as they are read.
+    /// All labels and frames, in reading order.
     Names captions() {
         Names texts;
         for (const QGroupBox* frame : form_->findChildren<QGroupBox*>())
@@ -204,8 +204,8 @@ std::string frqWith(const Names& titles) {
     return freqtext::bytes(lines);
 }
 
-const std::string summer = "\xC9t\xE9";              // of a file in windows-1252
-const std::string summerUtf8 = "\xC3\x89t\xC3\xA9";  // as the file system has what is typed
+const std::string summer = "\xC9t\xE9";              // as a file in windows-1252 has it
+const std::string summerUtf8 = "\xC3\x89t\xC3\xA9";  // as the file system has what was typed
 
 class BatchNames : public OutputFields {
  protected:
@@ -217,7 +217,7 @@ class BatchNames : public OutputFields {
         window_->show();
         modPolarGraph.WorkDir = out_ + "/";
     }
-    /// Opens batch mode from the menu, fills it and lets it run.
+    /// Opens batch mode from the menu, fills it in and runs it.
     void run(const std::function<void(QWidget&)>& fill) {
         QTimer::singleShot(0, [&] {
             auto* dialog = QApplication::activeModalWidget();

@@ -14,7 +14,7 @@
 namespace zg {
 namespace {
 
-/// Stands in for the main window's commands: a load gives tables by the file's name.
+/// A stand-in for the main window's commands: a load sets the tables according to the file's name.
 class BatchRun : public ::testing::Test {
  protected:
     void SetUp() override {
@@ -62,7 +62,7 @@ class BatchRun : public ::testing::Test {
     TempDirectory directory_;
     TestHost host_;
     BatchRequest request_;
-    std::function<void()> load_;  ///< without one the file is refused
+    std::function<void()> load_;  ///< if empty, the file is refused
     BatchNotes notes_;
     std::vector<std::string> opened_;
     std::vector<std::string> saved_;
@@ -218,7 +218,7 @@ TEST_F(BatchRun, NotesNameTheRoseThatThePictureShowedLast) {
               "1 file, 0 refused; 3 roses saved in 1 picture, 0 left out.");
 }
 
-/// A file of two names stands for a file system that is blind to the letter case.
+/// Two hard links to one file simulate a file system that ignores letter case.
 TEST_F(BatchRun, NotesFindNamesThatDifferOnlyInTheirCase) {
     request_.workDirectory = directory_.path() + "/";
     directory_.write("Rose.bmp", "");

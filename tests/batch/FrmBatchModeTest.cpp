@@ -268,7 +268,7 @@ TEST(FrmBatchModeInTheWindow, EveryRoseBecomesABitmap) {
     EXPECT_FALSE(settings.BatchMode);
 }
 
-/// A batch run over a directory of three files, worked as a person would.
+/// A batch run over a directory of three files, operated as a user would.
 class BatchOfADirectory : public ::testing::Test {
  protected:
     void SetUp() override {

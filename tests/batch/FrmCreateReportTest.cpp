@@ -16,7 +16,7 @@ namespace {
 
 using Calls = std::vector<std::string>;
 
-/// Keeps what it was asked for, in order.
+/// Records what it was asked for, in order.
 class RecordingWriter : public ReportWriter {
  public:
     explicit RecordingWriter(Calls& calls) : calls_(calls) {}

@@ -1,4 +1,4 @@
-// Reports made by the real office, opened again.
+// Reports made by the real office program and opened again.
 
 #include <gtest/gtest.h>
 
@@ -17,7 +17,7 @@ namespace {
 
 class OfficeReport : public ::testing::Test {
  protected:
-    /// A picture of its own colours.
+    /// A picture with colours of its own.
     std::string picture(const char* name, QSize size, QRgb colour) {
         QImage image(size, QImage::Format_RGB32);
         image.fill(colour);
@@ -27,7 +27,7 @@ class OfficeReport : public ::testing::Test {
         EXPECT_TRUE(image.save(QString::fromStdString(path), "BMP"));
         return path;
     }
-    /// The report in a form that can be read, beside it.
+    /// Converts the report to a readable format, beside it.
     std::string opened(const std::string& report, const char* kind) {
         QProcess office;
         office.start("soffice",
@@ -42,7 +42,7 @@ class OfficeReport : public ::testing::Test {
         for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++found;
         return found;
     }
-    /// The value of an attribute at its n-th appearance behind a place in points.
+    /// The value of a length attribute after position `from`, in points.
     static double points(const std::string& text, const std::string& attribute, std::size_t from = 0) {
         const std::size_t at = text.find(attribute + "=\"", from) + attribute.size() + 2;
         const double value = std::stod(text.substr(at));
@@ -223,7 +223,7 @@ TEST_F(OfficeReport, AFileThatIsNoPictureIsNamed) {
     }
 }
 
-/// An office that makes any report.
+/// A stand-in for the office program that accepts any report.
 std::string quickOffice(TempDirectory& directory) {
     const std::string program = directory.write("office",
                                                 "#!/bin/sh\nwhile [ $# -gt 1 ]; do [ \"$1\" = --outdir ] && "
@@ -243,7 +243,7 @@ TEST_F(OfficeReport, ATargetThatCannotBeWrittenIsNamed) {
     }
 }
 
-/// The copy beside the place has a name of its own, which may be too long where the report's is not.
+/// The temporary copy has a longer name, which may be too long even if the report's is not.
 TEST_F(OfficeReport, AnOldReportIsNoProofOfANewOne) {
     const std::string name = std::string(250, 'r') + ".ppt";
     directory_.write(name, "old");

@@ -1,4 +1,4 @@
-// The companion as a command: its words, its exit status and its streams.
+// The companion as a command: arguments, exit status and streams.
 
 #include <gtest/gtest.h>
 #include <linux/close_range.h>
@@ -22,7 +22,7 @@ struct Result {
     QByteArray errors;
 };
 
-/// A limit of the system that the command runs under.
+/// A system limit for the command.
 struct Limit {
     int resource;
     rlim_t most;
@@ -32,7 +32,7 @@ Result runCompanion(const QStringList& words, std::optional<Limit> limit = {}) {
     QProcess process;
     if (limit)
         process.setChildProcessModifier([limit] {
-            // What this program has open, or was given, shall not count.
+            // Files that this program has open or inherited must not count.
             close_range(3, ~0U, CLOSE_RANGE_CLOEXEC);
             const rlimit bound{limit->most, limit->most};
             setrlimit(static_cast<__rlimit_resource_t>(limit->resource), &bound);
@@ -128,7 +128,7 @@ TEST_P(CompanionWithoutRoom, AFileThatMayNotGrowEndsTheRunInOneLine) {
 INSTANTIATE_TEST_SUITE_P(, CompanionWithoutRoom, ::testing::Values("png", "bmp", "svg", "pdf"),
                          [](const auto& format) { return std::string(format.param); });
 
-#ifndef __SANITIZE_ADDRESS__  // which takes more than any limit for itself
+#ifndef __SANITIZE_ADDRESS__  // which needs more than any limit itself
 TEST(Companion, WhatTheToolkitCannotDoWithoutEndsTheRunInOneLine) {
     const TempDirectory directory;
     const Result result =

@@ -20,7 +20,7 @@ namespace zg {
 
 namespace {
 
-/// A list that drops down says its current row in place of a name: its labels are what names it.
+/// A drop-down list reports its current row as its name, so its label has to name it.
 QString spokenName(QWidget& control) {
     QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&control);
     if (interface == nullptr) return {};
@@ -43,7 +43,7 @@ const QGroupBox* frameOf(const QWidget& control) {
 
 using Keys = std::map<std::string, std::vector<Finding>>;
 
-/// A button may have a key of its own in place of a letter of its caption.
+/// A button may have a shortcut instead of a letter of its caption.
 QKeySequence keyOf(const QWidget& control) {
     if (const auto* button = qobject_cast<const QAbstractButton*>(&control)) return button->shortcut();
     return QKeySequence::mnemonic(captionOf(control));
@@ -54,7 +54,7 @@ void addKey(Keys& keys, const QKeySequence& of, const QString& caption, const QW
     if (!key.isEmpty()) keys[key.toStdString()].push_back(finding(control, caption.toStdString()));
 }
 
-/// Of a wizard's steps one is active at a time: the keys of the others do nothing.
+/// Only one step of a wizard is active at a time: the shortcuts of the others do nothing.
 bool isOfIdleStep(const QWidget& control) {
     if (control.isEnabled()) return false;
     const QGroupBox* frame = frameOf(control);
@@ -83,7 +83,7 @@ Keys acceleratorsOf(const QWidget& form) {
 
 bool hasKey(const QString& caption) { return !QKeySequence::mnemonic(caption).isEmpty(); }
 
-/// Labels and frames with an accelerator take the user to these.
+/// Labels and frames whose accelerator moves the focus to these controls.
 std::set<const QWidget*> reachedByLabels(const QWidget& form) {
     std::set<const QWidget*> reached;
     for (QWidget* each : shownControls(form))
@@ -111,7 +111,7 @@ Findings checkNames(const QWidget& form) {
     Findings found;
     std::map<std::pair<const QGroupBox*, QString>, const QWidget*> known;
     for (QWidget* stop : tabStops(form)) {
-        if (stop->inherits("QTabBar")) continue;  // its tabs say their texts
+        if (stop->inherits("QTabBar")) continue;  // its tabs announce their texts
         const QString name = spokenName(*stop);
         if (!hasWord(name))
             found.push_back(finding(*stop, "has no name for screen readers"));

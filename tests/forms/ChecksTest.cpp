@@ -1,4 +1,4 @@
-// The checks themselves, on dialogs that are right but for one fault.
+// The checks themselves, on dialogs with exactly one fault.
 
 #include <gtest/gtest.h>
 
@@ -18,7 +18,7 @@
 namespace zg {
 namespace {
 
-/// A labelled box over a default button.
+/// A box with a label above a default button.
 class ChecksOfForms : public ::testing::Test {
  protected:
     ChecksOfForms() {

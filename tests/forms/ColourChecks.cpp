@@ -1,4 +1,4 @@
-// Colours of texts and their grounds.
+// Colours of texts and backgrounds.
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
@@ -32,7 +32,8 @@ double luminance(const QColor& colour) {
            0.0722 * linear(colour.blueF());
 }
 
-/// The ratio that the guidelines for accessible content define: 1 for equal colours, 21 for black on white.
+/// The contrast ratio defined by the guidelines for accessible content: 1 for equal colours, 21 for black on
+/// white.
 double contrast(const QColor& first, const QColor& second) {
     const auto [dark, light] = std::minmax({luminance(first), luminance(second)});
     return (light + 0.05) / (dark + 0.05);
@@ -68,7 +69,7 @@ bool isMarked(const QWidget& control) {
     return mark == yellowMark || mark == darkYellowMark;
 }
 
-/// The control is marked, or its text is painted on something that is.
+/// Whether the control is marked, or its text is painted on a marked one.
 bool liesOnAMark(const QWidget& control) {
     const QWidget* at = &control;
     if (hasGroundOfItsOwn(control)) {
@@ -79,7 +80,7 @@ bool liesOnAMark(const QWidget& control) {
     return isMarked(*at);
 }
 
-/// What is disabled may be faint, but not a mark.
+/// Disabled text may be faint, but not on a mark.
 void checkText(Findings& found, const QWidget& control, const std::string& when) {
     if (!hasGroundOfItsOwn(control) && captionOf(control).isEmpty()) return;
     if (!control.isEnabled() && !liesOnAMark(control)) return;
@@ -94,14 +95,14 @@ void checkText(Findings& found, const QWidget& control, const std::string& when)
     found.push_back(finding(control, fault.str()));
 }
 
-/// The control and all in it.
+/// The control and all its children.
 void checkTexts(Findings& found, const QWidget& control, const std::string& when) {
     checkText(found, control, when);
     for (const QWidget* each : control.findChildren<QWidget*>())
         if (each->isVisible()) checkText(found, *each, when);
 }
 
-/// An icon is seen by its lines: enough of its pixels stand out from what it lies on.
+/// An icon is recognised by its lines: enough of its pixels contrast with the background.
 void checkIcon(Findings& found, const QToolButton& button) {
     const QImage image = button.icon().pixmap(button.iconSize()).toImage();
     const QColor ground = painterOfGround(button).palette().color(QPalette::Window);

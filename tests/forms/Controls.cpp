@@ -22,7 +22,7 @@ bool isAnyOf(const QWidget* widget) {
     return ((dynamic_cast<const Kinds*>(widget) != nullptr) || ...);
 }
 
-/// A child that the toolkit made for a control, or a surface of the plot.
+/// Whether the toolkit made the child as part of a control, or it belongs to the plot.
 bool isPartOfAControl(const QWidget& widget, const QWidget& form) {
     for (const QWidget* at = widget.parentWidget(); at != nullptr && at != &form; at = at->parentWidget())
         if (isAnyOf<QAbstractScrollArea, QComboBox, QAbstractSpinBox, QTabBar, QLineEdit, QMenuBar,
@@ -63,7 +63,7 @@ std::vector<QWidget*> shownControls(const QWidget& form) {
 }
 
 QPushButton* defaultButton(const QWidget& form) {
-    // A button that has the focus is the default one meanwhile.
+    // A focused button is temporarily the default one.
     QWidget* focused = form.focusWidget();
     if (focused != nullptr) focused->clearFocus();
     QPushButton* standard = nullptr;

@@ -6,11 +6,11 @@ namespace zg {
 
 enum class Check { Names, Accelerators, ToolTips, TabOrder, Enter, Room, Colours };
 
-/// A control that a check leaves alone, and why.
+/// A control that a check ignores, and why.
 struct Exception {
     Check check;
     const char* form;
-    const char* control;  ///< as in a finding; one "*" stands for any text
+    const char* control;  ///< as in a finding; one "*" matches any text
     const char* reason;
 };
 

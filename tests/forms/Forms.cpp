@@ -117,7 +117,7 @@ std::function<void(QWidget&)> withClickOn(const char* control) {
     return [control](QWidget& form) { form.findChild<QAbstractButton*>(QLatin1String(control))->click(); };
 }
 
-/// A press of the button finds the text of the field wrong and says so in the status line.
+/// The button rejects the text of the field and says so in the status line.
 std::function<void(QWidget&)> withRefusal(const char* field, const char* text, const char* button) {
     return [=](QWidget& form) {
         auto* file = form.findChild<QLineEdit*>(QStringLiteral("txtSingleFRQFile"));
@@ -128,7 +128,7 @@ std::function<void(QWidget&)> withRefusal(const char* field, const char* text, c
     };
 }
 
-/// A run waits, and the line under the status says why.
+/// A run is waiting, and the line below the status says why.
 void waitWithReason(QWidget& form) {
     form.findChild<QLabel*>(QStringLiteral("lblStatus"))->setText(QStringLiteral("Running..."));
     dynamic_cast<ReasonLabel&>(*form.findChild<QLabel*>(QStringLiteral("lblReason")))
@@ -156,7 +156,7 @@ FormPointer batchForm(FormWorld& world) {
     return std::make_unique<frmBatchMode>(world.host, BatchHooks{[] { return true; }, [] {}});
 }
 
-/// Every file is refused: the roses that stand in memory take their names.
+/// Every file is refused: the roses still in memory are saved under its names.
 FormPointer refusingBatchForm(FormWorld& world) {
     return std::make_unique<frmBatchMode>(world.host, BatchHooks{[] { return false; }, [] {}});
 }
@@ -185,7 +185,7 @@ FormPointer directoryForm(FormWorld& world) {
     return std::make_unique<frmChangeDir>(world.host, world.chosenDirectory, start);
 }
 
-/// Its period ends where it begins, of which a box tells.
+/// Its period ends where it begins, which a box reports.
 FormPointer refusingUpForm(FormWorld& world) {
     world.host.boxAnswers = {BoxAnswer::Ok};
     return ofInput<frmOpenUPDATFile>(world);
@@ -195,7 +195,7 @@ void click(QWidget& form, const char* button) {
     form.findChild<QAbstractButton*>(QLatin1String(button))->click();
 }
 
-/// A wizard that has come as far as the given step with one file.
+/// A wizard at the given step with one file.
 std::unique_ptr<GridForm> wizardAt(FormWorld& world, const GridVariation& variation, int step,
                                    bool byStation) {
     LoadStationData();
@@ -223,7 +223,7 @@ FormPointer wizard(FormWorld& world) {
     return wizardAt(world, Variation, Step, ByStation);
 }
 
-/// A place in degrees; the projection dialog passes by on a timer.
+/// A place in degrees; a timer passes the projection dialog.
 FormPointer degreesForm(FormWorld& world) {
     std::filesystem::copy(ZG_SOURCE_DIR "/data/datums.csv", world.directory.file("datums.csv"));
     auto form = wizardAt(world, ventosVariation, 2, false);

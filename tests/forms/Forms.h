@@ -15,13 +15,13 @@
 
 namespace zg {
 
-/// Does nothing: no form of these tests gets as far as a run.
+/// Does nothing: no form in these tests starts a run.
 class IdleStarter : public ProcessStarter {
  public:
     void start(const std::string&, WindowStyle) override {}
 };
 
-/// What forms need to be made: a program directory of its own, a person, and a plot with a file loaded.
+/// What forms need: a program directory, a stand-in for the user, and a plot with a file loaded.
 struct FormWorld {
     FormWorld();
 
@@ -36,23 +36,23 @@ struct FormWorld {
 /// A form in one of its states.
 struct FormRow {
     const char* form;   ///< objectName
-    const char* state;  ///< "" where it has only one
+    const char* state;  ///< "" if it has only one
     std::function<std::unique_ptr<QWidget>(FormWorld&)> make;
-    std::function<void(QWidget&)> bring = {};  ///< brings the form that is on show into the state
+    std::function<void(QWidget&)> bring = {};  ///< brings the displayed form into the state
 };
 
-/// Every form of the program. A new form is one more row.
+/// Every form of the program; a new form needs only another row.
 const std::vector<FormRow>& forms();
 
 std::string rowName(const FormRow& row);
 
-/// How a row is told by a test that fails.
+/// Prints the row in a failed test.
 void PrintTo(const FormRow& row, std::ostream* out);
 
-/// Makes the form of that row and shows it; it has the focus.
+/// Creates and shows the form of that row, with the focus.
 std::unique_ptr<QWidget> open(const FormRow& row, FormWorld& world);
 
-/// Calls the function for each tab page of the form in turn, or once where it has none.
+/// Calls the function for each tab page of the form, or once if it has none.
 void forEachPage(QWidget& form, const std::function<void(const std::string& page)>& look);
 
 }  // namespace zg

@@ -1,4 +1,4 @@
-// Every form of the program is put on show and walked control by control.
+// Shows every form of the program and checks it control by control.
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@
 namespace zg {
 namespace {
 
-/// One "*" of the pattern stands for any text.
+/// One "*" in the pattern matches any text.
 bool fits(const std::string& control, const std::string& pattern) {
     const std::size_t star = pattern.find('*');
     if (star == std::string::npos) return control == pattern;
@@ -36,7 +36,7 @@ std::set<const Exception*>& usedExceptions() {
     return used;
 }
 
-/// What is left of the findings, in lines.
+/// The remaining findings, one per line.
 std::string unexcused(Check check, const FormRow& row, const std::string& page, const Findings& findings) {
     std::string lines;
     for (const Finding& found : findings) {

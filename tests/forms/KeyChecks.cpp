@@ -1,4 +1,4 @@
-// The order of the Tab key, and what Enter presses.
+// The Tab order, and what Enter presses.
 
 #include <QDialog>
 #include <QPushButton>
@@ -17,8 +17,8 @@ std::vector<const QWidget*> ancestry(const QWidget& control) {
     return chain;
 }
 
-/// Is the second read before the first, going by lines and then from the left? A column at the right is read
-/// after what lies left of it.
+/// Whether the second is read before the first, line by line and from the left. A column on the right comes
+/// after everything to its left.
 bool isReadBefore(const QRect& second, const QRect& first) {
     const bool above = second.bottom() < first.top();
     const bool below = second.top() > first.bottom();

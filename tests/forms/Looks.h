@@ -2,13 +2,13 @@
 
 namespace zg {
 
-/// Fonts of the desktop for all forms that are made from now on, as a multiple of the usual size.
+/// Scales the desktop's fonts, for all forms created afterwards.
 void enlargeFonts(double factor);
 
-/// Colours of a dark desktop theme for all forms.
+/// The colours of a dark desktop theme, for all forms.
 void takeDarkTheme();
 
-/// The usual fonts and colours again.
+/// Restores the usual fonts and colours.
 void resetLooks();
 
 }  // namespace zg

@@ -1,4 +1,4 @@
-// Writes a picture of every form, as it looks on this machine, into a directory.
+// Writes a picture of every form, as displayed on this machine, into a directory.
 
 #include <QApplication>
 #include <QDir>
@@ -14,7 +14,7 @@
 
 namespace {
 
-/// A reader of the guide has no such scratch directory.
+/// The guide must not show this scratch directory.
 void hideScratch(QWidget& form, const zg::FormWorld& world) {
     const QString scratch = QString::fromStdString(world.directory.path());
     const QString instead = QStringLiteral("/data");

@@ -1,4 +1,4 @@
-// Room for the texts.
+// Whether there is room for the texts.
 
 #include <QAbstractSpinBox>
 #include <QComboBox>
@@ -19,7 +19,7 @@ namespace zg {
 
 namespace {
 
-/// Of a screen of 1366 by 768 what the frame of a window and a panel leave.
+/// A screen of 1366 by 768 without a window frame and a panel.
 constexpr QSize smallScreen(1350, 700);
 
 std::string shortBy(const char* what, int has, int needs) {
@@ -44,7 +44,7 @@ void checkLabel(Findings& found, const QLabel& label) {
     needHeight(found, label, label.height(), label.sizeHint().height());
 }
 
-/// A button with a short caption may be narrower than the style's usual ones.
+/// A button with a short caption may be narrower than the style's default.
 void checkButton(Findings& found, const QPushButton& button) {
     if (button.text().isEmpty()) return;
     const int text = button.fontMetrics().horizontalAdvance(plainText(button.text())) + 12;

@@ -21,8 +21,7 @@ FuzzFunction chosen = nullptr;
 FuzzTarget::FuzzTarget(const char* name, FuzzFunction function) { targets()[name] = function; }
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
-    // The fuzzer starts itself again for some of its work, with the words that it has read: without the
-    // target.
+    // The fuzzer starts itself again for some work, with the remaining arguments: without the target.
     const char* inherited = std::getenv("ZG_FUZZ_TARGET");
     const std::string name = inherited != nullptr ? inherited : *argc > 1 ? (*argv)[1] : "";
     const auto target = targets().find(name);

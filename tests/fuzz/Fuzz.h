@@ -3,10 +3,10 @@
 #include <cstddef>
 #include <cstdint>
 
-/// What a target does with one input: 0, or it ends the program.
+/// Runs a target on one input and returns 0; on a defect it ends the program.
 using FuzzFunction = int (*)(const std::uint8_t* data, std::size_t size);
 
-/// Makes a target known under a name before main.
+/// Registers a target by name before main starts.
 struct FuzzTarget {
     FuzzTarget(const char* name, FuzzFunction function);
 };

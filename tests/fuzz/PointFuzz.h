@@ -13,7 +13,7 @@
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 
-/// Nobody answers.
+/// A host whose boxes and pickers get no real answers.
 class DeafHost : public zg::Host {
  public:
     zg::BoxAnswer showBox(const zg::MessageBox&) override { return zg::BoxAnswer::Ok; }
@@ -27,7 +27,7 @@ class DeafHost : public zg::Host {
     void pumpEvents(int) override {}
 };
 
-/// Makes a directory and the program's own of it, with the input of readAsFile in it under these names.
+/// Creates a directory and makes it the program's own, with the input of readAsFile in it under these names.
 inline void useAsApplicationDirectory(char* pattern, const std::string& file,
                                       std::initializer_list<const char*> names) {
     if (mkdtemp(pattern) == nullptr) std::abort();
@@ -36,7 +36,7 @@ inline void useAsApplicationDirectory(char* pattern, const std::string& file,
         if (symlink(file.c_str(), zg::inApplicationDirectory(name).c_str()) != 0) std::abort();
 }
 
-/// Hands the bytes to the reader as a file that lies in memory.
+/// Passes the bytes to the reader as an in-memory file.
 template <typename Read>
 void readAsFile(const std::uint8_t* data, std::size_t size, Read read) {
     static const int file = memfd_create("input", 0);
@@ -46,6 +46,6 @@ void readAsFile(const std::uint8_t* data, std::size_t size, Read read) {
     try {
         read(host, path);
     } catch (const zg::RunTimeError&) {
-        return;  // told to the user
+        return;  // an expected outcome
     }
 }

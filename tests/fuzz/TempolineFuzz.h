@@ -1,6 +1,6 @@
 #pragma once
 
-// Any bytes as a data file of a kind: its winds, or a Failure, and nothing else.
+// Any bytes as a data file: gives winds or a Failure, and nothing else.
 
 #include <sys/mman.h>
 #include <unistd.h>
@@ -15,7 +15,7 @@
 
 namespace zg::tempoline {
 
-/// The first days of 2004, two outputs where the kind makes several.
+/// The first days of 2004, with two outputs if the format allows several.
 inline Control fuzzControl(InputKind kind) {
     Control control;
     control.kind = kind;
@@ -56,7 +56,7 @@ inline void readAnyBytes(InputKind kind, const std::uint8_t* data, std::size_t s
     try {
         makeReader(control)->read(path, series);
     } catch (const Failure&) {
-        return;  // told to the user
+        return;  // an expected outcome
     }
     for (Series& one : series) {
         one.finish();

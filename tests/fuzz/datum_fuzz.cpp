@@ -1,4 +1,4 @@
-// Any bytes as the table of datums: its rows come back whole, or a RunTimeError.
+// Any bytes as the table of datums: gives whole rows or a RunTimeError.
 
 #include "dialogs/gridded/DatumTable.h"
 #include "tests/fuzz/Fuzz.h"

@@ -1,5 +1,5 @@
-// The FRQ loader on any bytes: whatever they are, it loads them, refuses them or raises a run-time error, and
-// the tables stay usable. Nothing is written to disk.
+// Any bytes through the FRQ loader: it loads them, refuses them or raises a run-time error, and the tables
+// remain usable. Nothing is written to disk.
 
 #include <cstddef>
 #include <cstdint>
@@ -15,7 +15,7 @@
 
 namespace {
 
-/// Takes the message of a refused file; nothing else may be asked.
+/// Accepts the message of a refused file; nothing else may be asked.
 class RefusalHost : public zg::Host {
  public:
     zg::BoxAnswer showBox(const zg::MessageBox& box) override {
@@ -39,7 +39,7 @@ void check(bool holds) {
     if (!holds) std::abort();
 }
 
-/// What every reader of the tables counts on after a load.
+/// What every reader of the tables relies on after a load.
 void checkLoaded(const zg::ModPolarGraph& tables) {
     const std::size_t size = static_cast<std::size_t>(tables.FrqRoseCount) + 1;
     check(tables.FrqLoaded && tables.FrqRoseCount >= 0 && tables.CurrentRose == 1);

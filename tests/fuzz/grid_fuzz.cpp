@@ -1,4 +1,4 @@
-// Any bytes as a gridded file of either kind: a header, or a text that tells what is wrong.
+// Any bytes as a gridded file of either format: gives a header, or a message that says what is wrong.
 
 #include "dialogs/gridded/GridFileHeader.h"
 #include "tests/fuzz/Fuzz.h"

@@ -1,4 +1,4 @@
-// Any bytes as a file of this kind: what it holds, or a RunTimeError, and nothing else.
+// Any bytes as a file of this format: gives its contents or a RunTimeError, and nothing else.
 
 #include "dialogs/point/MonitorHeader.h"
 #include "tests/fuzz/Fuzz.h"

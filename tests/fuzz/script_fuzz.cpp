@@ -1,6 +1,6 @@
-// The script engine on any text: the first line is an expression, what follows is code that runs before it.
-// Each gives a value or a ScriptError at a place in its text, the two forms of a formula agree, and the
-// engine works afterwards.
+// Any text through the script engine: the first line is an expression, the rest is code that runs before it.
+// Each gives a value or a ScriptError at a place in its text, both forms of a formula agree, and the engine
+// works afterwards.
 
 #include <algorithm>
 #include <cmath>
@@ -22,7 +22,7 @@ void check(bool holds, const char* what) {
     std::abort();
 }
 
-/// What became of a piece of script: its number, or its error.
+/// The outcome of a script: its number, or its error.
 struct Outcome {
     double number = 0;
     std::string error;
@@ -30,7 +30,7 @@ struct Outcome {
     bool operator==(const Outcome& other) const { return error == other.error && number == other.number; }
 };
 
-/// Nothing but a ScriptError may come out, and its place must be one.
+/// Only a ScriptError may be thrown, and its place must be valid.
 template <typename Action>
 Outcome outcomeOf(std::string_view text, Action action) {
     Outcome outcome;
@@ -67,7 +67,7 @@ FUZZ_TARGET(script) {
         engine.AddCode(code);
         return 0.0;
     });
-    // An error may lie in a procedure of the code, whose text is the longer one.
+    // An error may be in a procedure of the code, which may be the longer text.
     const std::string_view longer = input;
     const auto evaluated = [&] { return outcomeOf(longer, [&] { return engine.evalNumber(expression); }); };
     evaluated();

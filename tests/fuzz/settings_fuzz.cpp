@@ -1,5 +1,5 @@
 // Any bytes as the file of settings and as the list of expressions: they are read or replaced by the
-// factory's, and what is then written is read back as the same.
+// defaults, and what is then written reads back the same.
 
 #include "base/Lines.h"
 #include "base/Paths.h"
@@ -33,7 +33,7 @@ FUZZ_TARGET(settings) {
         if (bytesOf(base + "first.cfg") != bytesOf(base + "second.cfg")) std::abort();
 
         auto expressions = zg::readExpressions(path);
-        // The format has no way to write a quotation mark, or a line's end, within a record.
+        // The format cannot represent a quotation mark or a line end within a record.
         std::erase_if(expressions, [](const auto& one) { return one.find_first_of("\"\r\n") != one.npos; });
         if (!zg::writeExpressions(base + "expr.dat", expressions)) std::abort();
         if (zg::readExpressions(base + "expr.dat") != expressions) std::abort();

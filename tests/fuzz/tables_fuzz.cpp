@@ -1,5 +1,5 @@
-// Any bytes as the table of stations, the table of time zones and the suite's configuration: rows come back
-// whole, or none does.
+// Any bytes as the table of stations, the table of time zones and the suite's configuration: gives whole
+// rows, or none.
 
 #include "graph/control/SuiteConfiguration.h"
 #include "processing/Stations.h"
@@ -21,7 +21,7 @@ void readZones() {
         try {
             zg::TimeZoneFromHours(zg::HoursFromTimeZone(key));
         } catch (const zg::RunTimeError&) {
-            continue;  // told to the user
+            continue;  // an expected outcome
         }
     }
 }

@@ -1,4 +1,4 @@
-// Any bytes as a control file: a run, or a Failure, and nothing else.
+// Any bytes as a control file: gives a run or a Failure, and nothing else.
 
 #include <cstdint>
 #include <string_view>
@@ -15,7 +15,7 @@ FUZZ_TARGET(tempoline_control) {
         zg::tempoline::freeListingName(text, "c.inp");
         zg::tempoline::readControl(text, "c.inp");
     } catch (const zg::tempoline::Failure&) {
-        return 0;  // told to the user
+        return 0;  // an expected outcome
     }
     return 0;
 }

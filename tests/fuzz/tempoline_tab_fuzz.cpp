@@ -1,4 +1,4 @@
-// Any bytes as a file of counts: what is read is written as the same counts again.
+// Any bytes as a file of counts: what is read is written back as the same counts.
 
 #include <cstdint>
 #include <cstdlib>
@@ -15,7 +15,7 @@ FUZZ_TARGET(tempoline_tab) {
     try {
         report = readTab({reinterpret_cast<const char*>(data), size}, "a.tab");
     } catch (const Failure&) {
-        return 0;  // told to the user
+        return 0;  // an expected outcome
     }
     frqText(report);
     const std::string text = tabText(report);

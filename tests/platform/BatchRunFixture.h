@@ -18,7 +18,7 @@ namespace zg {
 
 constexpr int longEnoughMs = 60'000;
 
-/// A run's directories, both with characters that a shell would read, and a processor that is a script.
+/// The directories of a run, both with shell metacharacters in their names, and a processor that is a script.
 class BatchRun : public ::testing::Test {
  protected:
     void SetUp() override {
@@ -43,7 +43,7 @@ class BatchRun : public ::testing::Test {
         writeBatchFile(batchLines(out_ + "/", base, programs_));
         starter_.start(batchFile(), WindowStyle::NormalFocus);
     }
-    /// Carries the lines out to their end; gives what the terminal shows of it.
+    /// Runs the lines to their end; returns the text that the terminal shows.
     std::string carryOut(const std::string& base = "B", const std::string& report = "") {
         QProcess shell;
         shell.start(QStringLiteral("sh"),
@@ -55,7 +55,7 @@ class BatchRun : public ::testing::Test {
     bool comes(const std::string& name) {
         return QTest::qWaitFor([&] { return isThere(name); }, longEnoughMs);
     }
-    /// What the starter tells in the end.
+    /// The starter's final message.
     std::string outcome() {
         EXPECT_TRUE(QTest::qWaitFor([&] { return !starter_.outcome(batchFile()).empty(); }, longEnoughMs));
         return starter_.outcome(batchFile());

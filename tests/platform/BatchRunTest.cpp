@@ -1,4 +1,4 @@
-// The contract of a processor run with stand-in processors: the batch file, the results and the marker.
+// The contract of a processor run, with stand-in processors: the batch file, the results and the marker.
 
 #include <unistd.h>
 

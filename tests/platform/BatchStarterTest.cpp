@@ -16,10 +16,10 @@
 
 #ifndef _WIN32
 namespace {
-int forksThatSucceed = -1;  // any number of them
+int forksThatSucceed = -1;  // unlimited
 }
 
-// The linker leads the calls here (--wrap). A child has a count of its own, which goes on from its parent's.
+// The linker redirects the calls here (--wrap). A child process has its own copy of the count.
 extern "C" {
 pid_t __real_fork();
 pid_t __wrap_fork() {
@@ -38,7 +38,7 @@ namespace {
 
 #ifndef _WIN32
 
-/// Programs are looked for in a directory of the test's own.
+/// Programs are searched in a directory of the test.
 class BatchStarterTest : public ::testing::Test {
  protected:
     void SetUp() override {
@@ -47,7 +47,7 @@ class BatchStarterTest : public ::testing::Test {
     }
     void TearDown() override { qputenv("PATH", path_); }
 
-    /// A viewer that notes what it was asked to show.
+    /// A viewer that records what it was asked to show.
     void addViewer() {
         const std::string viewer = directory_.write(
             "xdg-open", "#!/bin/sh\necho \"$#:$1\" > '" + directory_.file("part") + "'\n/bin/mv '" +

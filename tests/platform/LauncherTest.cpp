@@ -1,4 +1,4 @@
-// What the launcher runs, what it refuses, and what it tells of a run that leaves no marker.
+// What the launcher runs, what it refuses, and what it reports about a run that leaves no marker.
 
 #include <pty.h>
 #include <sys/wait.h>
@@ -14,7 +14,7 @@ namespace {
 
 class Launcher : public BatchRun {
  protected:
-    /// The error of a start with these lines, which must run nothing.
+    /// The error of starting these lines, which must not run anything.
     std::string refusal(const std::vector<std::string>& lines) {
         processor("touch \"$0.ran\"\n");
         writeBatchFile(lines);
@@ -133,7 +133,7 @@ TEST_F(Launcher, TellsOfTheLastStartAlone) {
     EXPECT_EQ(outcome(), "tempoline.exe ended with status 5");
 }
 
-/// The script in a terminal, in which someone loses patience as soon as the processor works.
+/// Runs the script in a terminal that is interrupted as soon as the processor works.
 class Terminal {
  public:
     explicit Terminal(const std::string& script) {

@@ -1,4 +1,4 @@
-// The checks of pixels themselves: what a failing one says and leaves.
+// The pixel checks themselves: what a failing one reports and leaves on disk.
 
 #include "tests/support/Pixels.h"
 
@@ -15,7 +15,7 @@ const std::string folder = ZG_BINARY_DIR "/pictures/";
 class Pixels : public ::testing::Test {
  protected:
     Pixels() { page_.fill(qRgb(255, 0, 0)); }
-    /// What is left of a picture; the file itself goes.
+    /// The contents of a picture left on disk; the file is removed.
     static QImage takenAway(const std::string& path) {
         QImage image(QString::fromStdString(path));
         std::filesystem::remove(path);

@@ -177,7 +177,7 @@ TEST_F(PolarGraphWidgetTest, TheTrackingLinesGoWhenThePointerLeavesThePage) {
         return child(name)->grab().toImage().pixelColor(at) == QColor(200, 0, 0);
     };
     QTest::mouseMove(child("picGraph"), QPoint(100, 200));
-    // The page lies 25 pixels from the edges, the rulers' holders begin at 20.
+    // The page is 25 pixels from the edges, the frames of the rulers begin at 20.
     EXPECT_TRUE(tracked("picRulerH", QPoint(105, 2)));
     EXPECT_TRUE(tracked("picRulerV", QPoint(2, 205)));
     QEvent leave(QEvent::Leave);

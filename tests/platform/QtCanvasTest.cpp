@@ -126,7 +126,7 @@ TEST(QtCanvas, TextSizesAreOfNinetySixDotsAnInchOnEveryDevice) {
     const TextSize onPage = QtCanvas(page, 100, 100).measure("Wind", style);
     const TextSize onSharp = QtCanvas(sharp, 100, 100).measure("Wind", style);
     const TextSize onPrint = QtCanvas(print, 100, 100).measure("Wind", style);
-    // 20 points are 26.67 pixels; the metric-compatible faces have lines of 1.15 times that.
+    // 20 points are 26.67 pixels; the metric-compatible fonts have a line height of 1.15 times that.
     EXPECT_NEAR(onPage.height, 26.67 * 1.15, 1.5);
     EXPECT_NEAR(onSharp.height, onPage.height, 1.0);
     EXPECT_NEAR(onPrint.height, onPage.height, 1.0);

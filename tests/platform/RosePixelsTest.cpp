@@ -1,4 +1,4 @@
-// The picture itself, probed where the file's figures say that a colour must be.
+// The picture itself, probed where the figures of the file determine the colour.
 
 #include <gtest/gtest.h>
 
@@ -31,7 +31,7 @@ class RosePixels : public ::testing::TestWithParam<const char*> {
         redrawFrame(PlotSettings{}, polar_, modPolarGraph, canvas, geometry_);
     }
 
-    /// The pixel at that distance towards a compass bearing from the centre.
+    /// The pixel at that distance and compass bearing from the centre.
     QPoint placeOf(double bearingDegrees, double radius) const {
         const double bearing = bearingDegrees * std::numbers::pi / 180;
         return {static_cast<int>(geometry_.CentreX + radius * std::sin(bearing)),
@@ -57,7 +57,7 @@ TEST_P(RosePixels, EverySectorHasItsClassColoursAtTheRadiiOfTheFile) {
             share += modPolarGraph.FrqFraction(row, speedClass);
             const double outer = share * 20 * geometry_.UnitLength;
             const double middle = (inner + outer) / 2;
-            // A band is probed where neither outlines nor antialiased edges reach the middle pixel.
+            // A band is probed where neither outlines nor antialiased edges touch the middle pixel.
             if (outer - inner > 5 && middle > 25) {
                 ++probed;
                 const QPoint place = placeOf(bearing, middle);

@@ -10,7 +10,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-/// Where a name goes into a batch file, and the separator by which its shell is told.
+/// Where a name occurs in a batch file, with the separator that identifies its shell.
 struct Place {
     const char* what;
     std::string (*put)(const std::string& name, char separator);

@@ -1,4 +1,4 @@
-// Whole control files of every dialog against the expected ones in control/, byte for byte.
+// Whole control files of every dialog, compared byte for byte with the expected ones in control/.
 
 #include "processing/ControlFile.h"
 
@@ -114,7 +114,7 @@ TEST(ControlFile, AFieldThatLooksLikeAPlaceholderIsWrittenAsItStands) {
         EXPECT_NE(bytes.find(line), std::string::npos) << line;
 }
 
-/// The projection's keys that stand active, in the file's order.
+/// The keys of the projection that are active, in file order.
 std::string activeProjection(const std::string& map) {
     ControlFile v = common(InputType::Ventos, {"a.dat"});
     v.projection = {map, "fe", "fn", "zone", "hem", "lat0", "lon0", "lat1", "lat2", "WGS-84"};
@@ -184,7 +184,7 @@ TEST(ControlFile, AFullDiskIsAnErrorOfItsOwn) {
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit before{};
     getrlimit(RLIMIT_FSIZE, &before);
-    // Full in the middle, and by the last byte, which only the end of the writing tells.
+    // Full half-way, and full at the last byte, which only closing the file reports.
     for (const std::size_t room : {std::size_t{5'000}, controlFileBytes(values).size() - 1}) {
         const rlimit small{room, before.rlim_max};
         setrlimit(RLIMIT_FSIZE, &small);

@@ -48,7 +48,7 @@ TEST(MakeDirectoryTreeTest, LevelsEndAtBackslashes) {
 #ifdef _WIN32
     EXPECT_TRUE(IsDirectory(temp.file("x/y")));
 #else
-    // To this file system a backslash is a letter: each level shows as a name of its own.
+    // On this file system a backslash is an ordinary character: each level is one name.
     EXPECT_TRUE(IsDirectory(temp.file("x")));
     EXPECT_TRUE(IsDirectory(temp.file("x\\y")));
 #endif

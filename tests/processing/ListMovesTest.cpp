@@ -8,7 +8,7 @@ namespace {
 
 using namespace zg;
 
-/// One letter a row, the selected ones in upper case.
+/// One letter per row, the selected ones in upper case.
 std::vector<ListRow> rows(const std::string& letters) {
     std::vector<ListRow> out;
     for (const char c : letters) {

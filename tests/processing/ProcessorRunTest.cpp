@@ -79,7 +79,7 @@ class ProcessorRun : public ::testing::Test {
     std::vector<RunOutput> outputs_ = {{"one", "1001"}, {"two", "1002"}, {"three", "1003"}};
     Texts log_;
     std::string status_;
-    Texts reasons_;  ///< each as it changes
+    Texts reasons_;  ///< every change
     std::string tip_;
     bool abandoned_ = false;
 };
@@ -284,7 +284,7 @@ TEST_F(ProcessorRun, ADirectoryRemovedDuringTheWaitOnlyMeansThatNoMarkerComes) {
 
 TEST(AnimateRunning, TakesThreeTimes300MillisecondsHoweverLongAPumpTakes) {
     TestHost host;
-    host.onPump = [&] { host.now += 70; };  // 120 ms a slice
+    host.onPump = [&] { host.now += 70; };  // 120 ms per slice
     std::vector<std::pair<std::int64_t, std::string>> texts;
     AnimateRunning(
         host, [&](const std::string& text) { texts.emplace_back(host.now, text); }, [] { return false; });

@@ -18,7 +18,7 @@ int lookedAt = 0;
 int wrongNumbers = 0;
 }  // namespace
 
-// The linker leads the calls here (--wrap).
+// The linker redirects the calls here (--wrap).
 extern "C" {
 int __real_lstat(const char* path, struct stat* state);
 int __wrap_lstat(const char* path, struct stat* state) {
@@ -32,7 +32,7 @@ int __wrap_lstat(const char* path, struct stat* state) {
 namespace zg {
 namespace {
 
-/// Another process, begun before this one has any lock, as windows are.
+/// Another process, started before this one has any lock, as a second window would be.
 class OtherProcess {
  public:
     OtherProcess() {

@@ -16,7 +16,7 @@ TEST(WaitMsTest, ServesEventsUntilTheClockHasMovedOn) {
     EXPECT_GT(host.pumps, 0);
 }
 
-/// Its pump comes back early, as when events keep arriving.
+/// Its pump returns early, as it does when events keep arriving.
 class BusyHost : public TestHost {
  public:
     void pumpEvents(int idleMs) override {

@@ -70,8 +70,8 @@ TEST(HoursFromTimeZoneTest, WestIsPositive) {
     EXPECT_EQ(HoursFromTimeZone("UTC-1200"), 12.0F);
 }
 
-// Half an hour is added whichever the side, so that it comes out on the wrong one east of UTC: -2.5 belongs
-// to UTC+0330, and UTC+0530 gives -4.5. Differences of these values carry the arithmetic of the dialogs.
+// Half an hour is added on either side of UTC, which gives wrong values to the east: -2.5 for UTC+0330, -4.5
+// for UTC+0530. The dialogs calculate with differences of these values.
 TEST(HoursFromTimeZoneTest, HalfAnHourIsAddedOnEitherSide) {
     EXPECT_EQ(HoursFromTimeZone("UTC+0330"), -2.5F);
     EXPECT_EQ(HoursFromTimeZone("UTC+0530"), -4.5F);

@@ -1,5 +1,5 @@
-// The same road where something stands in the way: odd names, a processor that is missing or ends early, a
-// program directory that takes no files, a run of another window.
+// The whole path with obstacles: odd names, a processor that is missing or ends early, a program directory
+// that is not writable, a run of another window.
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -24,7 +24,7 @@ class HardRoad : public WholeRoad {
         type("txtAnemometerHeight", "50");
         type("txtStationID", "");
     }
-    /// Runs until the second line says something, and ends the program there.
+    /// Runs until the second line shows a text, then ends the program.
     std::string reasonOfTheWait(const char* button = "cmdView") {
         std::string reason;
         host_.onPump = [this, &reason] {
@@ -162,7 +162,7 @@ TEST_F(HardRoad, AnotherDirectoryIsOfferedWhereAnotherWindowWaits) {
         << "the lock of the other window alone";
 }
 
-/// Files can be made in it by no one, not even by the superuser: a directory has the name of the settings.
+/// Not even the superuser can write these files: a directory has the name of the settings file.
 class ReadOnlyRoad : public HardRoad {
  protected:
     void prepareProgram() override {

@@ -38,7 +38,7 @@ inline const std::string samples = ZG_SOURCE_DIR "/data/samples/";
 
 class WholeRoad : public ::testing::Test {
  protected:
-    /// What a test changes of the program's directory before the program starts in it.
+    /// Lets a test change the program's directory before the program starts in it.
     virtual void prepareProgram() {}
 
     void SetUp() override {
@@ -61,7 +61,7 @@ class WholeRoad : public ::testing::Test {
         window_->resize(900, 700);
         window_->show();
         empty_ = page();
-        // The processor is another program: time must pass for it too.
+        // The processor is another process: real time must pass for it too.
         host_.onPump = [] {
             QCoreApplication::processEvents();
             QThread::msleep(1);
@@ -103,7 +103,7 @@ class WholeRoad : public ::testing::Test {
         return "no listing";
     }
     std::string status() { return child<QLabel>("lblStatus").text().toStdString(); }
-    /// The last run plotted that file, with all its roses, one of them on show.
+    /// Whether the last run plotted that file, with all its roses, one of them on display.
     void expectRose(const std::string& name) {
         EXPECT_EQ(status(), "Finished") << listing();
         ASSERT_EQ(FileNameOf(settings.CurrentFrqPath), name + ".frq") << listing();

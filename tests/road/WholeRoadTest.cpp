@@ -1,12 +1,12 @@
-// From a raw file to the rose in the main window, with nothing in between made up: the real forms, the real
-// batch file, the real processor.
+// From a raw file to the rose in the main window without stand-ins: the real forms, the real batch file, the
+// real processor.
 
 #include "tests/road/RoadFixture.h"
 
 namespace zg {
 namespace {
 
-/// Every count and share of the file on show.
+/// Every count and share of the displayed file.
 void expectSameRoses(const ModPolarGraph& a, const ModPolarGraph& b) {
     ASSERT_EQ(a.FrqRoseCount, b.FrqRoseCount);
     ASSERT_EQ(a.FrqFraction.rows(), b.FrqFraction.rows());

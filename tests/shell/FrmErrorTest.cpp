@@ -17,7 +17,7 @@ class ErrorDialog : public ::testing::Test {
         while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
     }
 
-    /// Shows the dialog and acts in it; it is closed afterwards in any case.
+    /// Shows the dialog and operates it; it is closed afterwards in any case.
     void show(const QString& modType, const std::function<void()>& act) {
         QTimer::singleShot(0, &form_, [this, act] {
             EXPECT_EQ(QApplication::activeModalWidget(), &form_);

@@ -1,4 +1,4 @@
-// The menus, toolbars and lists of the main window, worked as a user does.
+// The menus, toolbars and lists of the main window, operated as a user does.
 
 #include <gtest/gtest.h>
 

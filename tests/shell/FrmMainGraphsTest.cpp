@@ -1,4 +1,4 @@
-// The list of graphs, its row of boxes and its pop-up, worked with mouse and keys.
+// The list of graphs, its row of boxes and its context menu, operated by mouse and keys.
 
 #include <gtest/gtest.h>
 
@@ -70,7 +70,7 @@ class FrmMainGraphs : public ::testing::Test {
             if (table().topLevelItem(row)->isSelected()) rows.push_back(row);
         return rows;
     }
-    /// Opens the pop-up as a right click does, on the selection as it is, and closes it again.
+    /// Opens the context menu by a right click on the current selection, and closes it again.
     void openPopUp() {
         auto* menu = window_->menuAction("mnuGraph")->menu();
         menu->popup(QPoint(0, 0));
@@ -84,7 +84,7 @@ class FrmMainGraphs : public ::testing::Test {
         ASSERT_TRUE(offers(index)) << index;
         window_->menuAction("mnuGraphOption_" + std::to_string(index))->trigger();
     }
-    /// Pixels of the page that are nearer to blue than to any grey.
+    /// Number of pixels of the page that are closer to blue than to any grey.
     int bluePixels() {
         const QImage page = child<PolarGraphWidget>("pgPolarGraph")->pageImage();
         int count = 0;

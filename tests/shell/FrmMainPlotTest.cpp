@@ -1,5 +1,4 @@
-// What the main window and its plot do for each other: locks, selection, pointers, output, unit of the
-// legend.
+// How the main window and its plot interact: locks, selection, pointers, output, unit of the legend.
 
 #include <gtest/gtest.h>
 
@@ -53,7 +52,7 @@ class FrmMainPlot : public ::testing::Test {
     }
     QWidget& page() { return *child("picGraph"); }
 
-    /// Opens a modal dialog by its entry; the act works it, and then it is cancelled.
+    /// Opens a modal dialog by its entry, lets the act operate it, then cancels it.
     void inDialogOf(
         const char* name, std::function<void(QDialog&)> act = [](QDialog&) {}) {
         bool opened = false;
@@ -122,9 +121,9 @@ constexpr const char* freeControls[] = {"tblToolbox_Arrow", "tblToolbox_Cross", 
 
 TEST_F(FrmMainPlot, WhatACurveLocksIsGivenBackAtItsEnd) {
     curve();
-    select();  // so that Copy is enabled before
+    select();  // so that Copy is enabled beforehand
     for (const char* name : lockedEntries) {
-        if (!entry(name).isVisible()) continue;  // what is hidden is disabled
+        if (!entry(name).isVisible()) continue;  // hidden entries are disabled
         EXPECT_TRUE(entry(name).isEnabled()) << name << " before";
     }
     for (const char* name : lockedControls) EXPECT_TRUE(child(name)->isEnabled()) << name << " before";

@@ -1,4 +1,4 @@
-// What the main window does once at its start, and what it leaves alone.
+// What the main window does once at the start, and what it leaves alone.
 
 #include <gtest/gtest.h>
 

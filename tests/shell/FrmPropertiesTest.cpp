@@ -29,7 +29,7 @@ class FrmProperties : public ::testing::Test {
     bool canApply() { return child<QWidget>("cmdApply")->isEnabled(); }
     void showOptions() { child<QTabWidget>("tbsProp")->setCurrentIndex(1); }
 
-    /// Types into a box and leaves it; gives what it holds then.
+    /// Types into a box and leaves it; returns its contents afterwards.
     std::string left(const char* name, const char* text) {
         QLineEdit& field = box(name);
         field.setFocus();
@@ -39,7 +39,7 @@ class FrmProperties : public ::testing::Test {
         child<QWidget>("cmdCancel")->setFocus();
         return field.text().toStdString();
     }
-    /// Pixels of the sample that are neither its ground nor its frame.
+    /// Number of pixels of the sample other than its background and its frame.
     int inked() {
         QWidget& sample = *child<QWidget>("picPattern");
         const QImage image = sample.grab(sample.rect().adjusted(1, 1, -1, -1)).toImage();

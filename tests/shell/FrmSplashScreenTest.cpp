@@ -17,7 +17,7 @@ class SplashTest : public ::testing::Test {
               shownAt_ = host_.now;
           }) {}
 
-    /// What the user does in the first moment of the wait.
+    /// What the user does at the start of the wait.
     void runWith(const std::function<void()>& act) {
         bool acted = false;
         host_.onPump = [&] {

@@ -52,7 +52,7 @@ TEST_F(MenuTreeTest, ShortcutsAreThoseOfTheCommands) {
     EXPECT_EQ(actions_.at("mnuEditOption_1")->shortcut(), QKeySequence("Ctrl+A"));
 }
 
-/// What a menu shows from top to bottom, "-" for a separator.
+/// The entries of a menu from top to bottom, "-" for a separator.
 QStringList shownIn(const QAction& menu) {
     QStringList rows;
     for (const QAction* entry : menu.menu()->actions())

@@ -1,4 +1,4 @@
-// The dialogs that choose a rose and restyle the plot, worked by their controls.
+// The dialogs that choose a rose and restyle the plot, through their controls.
 
 #include <gtest/gtest.h>
 
@@ -454,7 +454,7 @@ TEST_F(PlotOptions, ABackgroundThatIsNoPictureIsTold) {
 }
 
 TEST_F(PlotOptions, APictureFarTooLargeIsRefusedWithoutTakingTheMemory) {
-    // A bitmap of 20,000 x 20,000 pixels of 32 bits, of which the disk holds nothing but the head.
+    // A bitmap of 20,000 x 20,000 pixels of 32 bits, of which the file has only the header.
     std::string head("BM\0\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x20\x4E\0\0\x20\x4E\0\0\x01\0\x20\0", 30);
     head.resize(54, '\0');
     const std::string path = directory_.write("huge.bmp", head);

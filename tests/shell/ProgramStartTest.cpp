@@ -27,7 +27,7 @@ class ProgramStart : public ::testing::Test {
         settings = Settings();
         applicationDirectory = directory_.path();
         startSettings();
-        // A program that does not end by itself ends here.
+        // Ends a program that does not end by itself.
         QTimer::singleShot(5000, &guard_, [] { QCoreApplication::exit(stillRunning); });
     }
 
@@ -39,7 +39,7 @@ class ProgramStart : public ::testing::Test {
         return nullptr;
     }
 
-    /// What the user does once, in the first moment of the splash.
+    /// What the user does once, at the start of the splash.
     void during(const std::function<void()>& act) {
         host_.onPump = [this, act] {
             host_.onPump = nullptr;

@@ -1,5 +1,5 @@
-// Curves that take long to draw, stopped from the window. Each look at the clock takes 20 ms, so that they do
-// take long.
+// Curves that take long to draw, stopped from the window. Each reading of the clock takes 20 ms, so that
+// drawing does take long.
 
 #include <gtest/gtest.h>
 

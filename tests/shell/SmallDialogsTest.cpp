@@ -164,7 +164,7 @@ class PlotDialogs : public ::testing::Test {
 
 struct Entry {
     const char* text;
-    const char* message;  ///< "" is accepted
+    const char* message;  ///< "" if accepted
 };
 
 class AspectEntries : public PlotDialogs, public ::testing::WithParamInterface<Entry> {};
@@ -276,7 +276,7 @@ TEST_F(PlotDialogs, ATypedZoomIsNotCompletedToARowOfTheList) {
     EXPECT_EQ(plot().Zoom(), 42);
 }
 
-/// Key presses that carry their characters, as those of a keyboard that has them.
+/// Key presses that carry their characters, as a real keyboard sends them.
 void typeEach(QWidget& box, const QString& text) {
     for (const QChar character : text) {
         QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(character));

@@ -1,6 +1,6 @@
 #pragma once
 
-// FRQ files as lines, for tests and benchmarks that want one of a given shape and then change it.
+// FRQ files as lines, for tests and benchmarks that need one of a given shape and then modify it.
 
 #include <cstdio>
 #include <string>
@@ -13,7 +13,7 @@ using Lines = std::vector<std::string>;
 
 inline bool twoCounts(std::string_view version) { return version == "2.2" || version == "2.3"; }
 
-/// The header of a version: titles "Station A" and "Site   survey 2001", a period of the year 2001.
+/// The header for a version: titles "Station A" and "Site survey 2001", a period in 2001.
 inline Lines header(std::string_view version) {
     Lines lines = {"WIND.FRQ        " + std::string(version) + "             Zephyrgraph FRQ File Format"};
     if (twoCounts(version)) {

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-/// Names that a file may have and that a shell, a command line or a file system may take for something else.
-/// None has a line end or a blank.
+/// Valid file names that a shell, a command line or a file system may misinterpret. None has a line end or a
+/// blank.
 inline std::vector<std::string> oddNames() {
     const std::string readable =
         R"names(-dash --out -- --merge a"b " it's '' a%PATH%b %s%n%d a&touch${IFS}PWNED&b a^b !x a!!b!END! $(touch${IFS}PWNED)

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int squareSide = 7;
 
-/// The running test's own name for a picture: "/" and blanks would make folders and broken words.
+/// The running test's name, usable as a file name: "/" and blanks are replaced.
 std::string pathOf(const char* what) {
     const ::testing::TestInfo* test = ::testing::UnitTest::GetInstance()->current_test_info();
     std::string name = test == nullptr ? "test" : std::string(test->test_suite_name()) + "." + test->name();
@@ -27,7 +27,7 @@ std::string left(const QImage& picture, const char* what) {
     return picture.save(QString::fromStdString(path), "PNG") ? path : path + " (could not be written)";
 }
 
-/// What was expected so far, by the path it is kept under: one test may probe a picture often.
+/// The expected picture so far, by the path under which it is kept: one test may probe a picture often.
 QImage& expectedSoFar(const QImage& picture) {
     static std::map<std::string, QImage> expected;
     QImage& found = expected[pathOf("expected")];

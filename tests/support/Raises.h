@@ -6,7 +6,7 @@
 
 #include "base/RunTimeError.h"
 
-/// What a statement raises as "13: Type mismatch", "" where it raises nothing.
+/// The error of a statement as "13: Type mismatch", "" if there is none.
 template <typename Statement>
 std::string raisedBy(Statement statement) {
     try {
@@ -17,6 +17,6 @@ std::string raisedBy(Statement statement) {
     return {};
 }
 
-/// The expression raises the run-time error of this number and description.
+/// Expects the expression to raise the run-time error of this number and description.
 #define EXPECT_RAISES(number, description, expression) \
     EXPECT_EQ(raisedBy([&] { static_cast<void>(expression); }), std::to_string(number) + ": " + (description))

@@ -17,7 +17,7 @@ void PrintTo(const LineStyle& style, std::ostream* out);
 
 namespace zg::drawn {
 
-/// The command's kind and values, for the messages of failed tests.
+/// The command's kind and values, for messages of failed tests.
 std::string describe(const Command& command);
 
 void PrintTo(const Clear& command, std::ostream* out);
@@ -36,8 +36,8 @@ void PrintTo(const Text& command, std::ostream* out);
 
 namespace drawn = zg::drawn;
 
-/// Keeps every drawing command in a list. Its text metrics are fixed: a character is 6 wide at size 8 and
-/// grows with the size, a line is one and a half sizes high, an empty text too.
+/// Records every drawing command in a list. Its text metrics are fixed: a character is 6 wide at size 8 and
+/// scales with the size; a line, even an empty one, is one and a half sizes high.
 class RecordingCanvas : public zg::Canvas {
  public:
     explicit RecordingCanvas(double width = 300, double height = 300) : width_(width), height_(height) {}
@@ -53,16 +53,16 @@ class RecordingCanvas : public zg::Canvas {
         return found;
     }
 
-    /// The texts written, in order.
+    /// The written texts, in order.
     std::vector<std::string> texts() const;
 
-    /// The first text that reads so; fails the test where none does.
+    /// The first text with these characters; fails the test if there is none.
     drawn::Text textReading(const std::string& text) const;
 
-    /// The kinds of all commands in order, runs of one kind counted: "Clear", "Line x64".
+    /// The kinds of all commands in order, with the length of runs of one kind: "Clear", "Line x64".
     std::vector<std::string> kinds() const;
 
-    /// The surface's size from now on.
+    /// Changes the surface's size.
     void resize(double width, double height);
 
     double width() const override { return width_; }
@@ -90,7 +90,7 @@ class RecordingCanvas : public zg::Canvas {
     zg::Point position_;
 };
 
-/// A picture that has nothing but a size.
+/// A picture that has only a size.
 class BlankPicture : public zg::Picture {
  public:
     BlankPicture(int width, int height) : width_(width), height_(height) {}

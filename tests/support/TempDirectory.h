@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-/// A directory of its own for one test, removed with all it holds at the end.
+/// A directory for one test, removed with its contents at the end.
 class TempDirectory {
  public:
     TempDirectory();
@@ -16,10 +16,10 @@ class TempDirectory {
     /// Full path of a name in it.
     std::string file(std::string_view name) const;
 
-    /// Writes a file with exactly these bytes and gives its full path.
+    /// Writes a file with exactly these bytes and returns its full path.
     std::string write(std::string_view name, std::string_view bytes) const;
 
-    /// The bytes of a file in it; fails the test where it cannot be read.
+    /// The bytes of a file in it; fails the test if it cannot be read.
     std::string read(std::string_view name) const;
 
  private:

@@ -68,6 +68,6 @@ std::optional<zg::FontRecord> TestHost::pickFont(const zg::FontRecord& current) 
 void TestHost::pumpEvents(int idleMs) {
     ++pumps;
     now += idleMs > 0 ? idleMs : 1;
-    // A copy: what is called may set another.
+    // A copy, because the function may set another one.
     if (const std::function<void()> act = onPump) act();
 }

@@ -8,9 +8,9 @@
 
 #include "base/Host.h"
 
-/// Stands in for the person: answers are queued before, what was asked is read after. A box or a picker that
-/// no answer waits for fails the test. The clock moves only when events are pumped,
-/// or by each look at it where a test says so.
+/// A stand-in for the user: answers are queued in advance, what was asked can be read afterwards. A box or
+/// picker without a queued answer fails the test. The clock advances only when events are pumped, or by each
+/// reading of it if a test says so.
 class TestHost : public zg::Host {
  public:
     ~TestHost() override;
@@ -32,9 +32,9 @@ class TestHost : public zg::Host {
     std::deque<std::string> folderAnswers;
     std::deque<std::optional<zg::Colour>> colourAnswers;
     std::deque<std::optional<zg::FontRecord>> fontAnswers;
-    std::function<void()> onPump;  ///< runs at each pump, as the events that arrive meanwhile
+    std::function<void()> onPump;  ///< called at each pump, as events that arrive meanwhile
 
-    std::function<void()> onBox;  ///< runs at each box that is answered, as what is done about it meanwhile
+    std::function<void()> onBox;  ///< called before each box is answered, as something that happens meanwhile
 
     std::vector<zg::MessageBox> boxes;
     std::vector<zg::FilePick> openPicks;
@@ -44,6 +44,6 @@ class TestHost : public zg::Host {
     std::vector<zg::Colour> colourPicks;
     std::vector<zg::FontRecord> fontPicks;
     std::int64_t now = 0;
-    std::int64_t tick = 0;  ///< milliseconds that each look at the clock takes
+    std::int64_t tick = 0;  ///< milliseconds that each reading of the clock takes
     int pumps = 0;
 };

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The file beside the program that the build wrote: a line for each thing needed, its target and its path.
+/// A file beside the program, written by the build: one line per requirement, with its target and its path.
 bool everythingNeededIsThere(const std::filesystem::path& program) {
     std::ifstream list(program.string() + ".needs");
     bool complete = true;

@@ -23,7 +23,7 @@ std::string refused(const std::string& text) {
     return failureOf([&] { readControl(text, "c.inp"); }, ExitStatus::BadControl);
 }
 
-/// The text with another value of the key.
+/// The text with another value for the key.
 std::string with(const std::string& text, const std::string& key, const std::string& value) {
     const std::regex pattern("! " + key + "( *)=[^!\\r\\n]*!");
     EXPECT_TRUE(std::regex_search(text, pattern)) << key;

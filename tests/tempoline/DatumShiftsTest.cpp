@@ -26,11 +26,12 @@ struct Figure {
     double axis;  // m
     double inverseFlattening;
 };
-/// Two millimetres of the pole: PROJ has Modified Airy by its polar axis, which is rounded to them.
+/// Allows for two millimetres at the pole: PROJ defines Modified Airy by its polar axis, rounded to
+/// millimetres.
 constexpr double sameFlattening = 3e-5;
 constexpr Figure wgs84{6378137, 298.257223563};
 
-// What the table of the shifts says of each ellipsoid, under its name in datums.csv.
+// The figures of each ellipsoid in the table of shifts, by its name in datums.csv.
 const std::map<std::string, Figure> figures = {
     {"Airy 1830", {6377563.396, 299.3249646}},
     {"Australian National", {6378160, 298.25}},
@@ -57,10 +58,10 @@ const std::map<std::string, Figure> figures = {
 
 const std::set<std::string> moreThanAShift = {"WGS-84", "WGS-72", "NWS-84", "ESR-S"};
 const std::set<std::string> unknown = {"NAP"};
-/// Their flattening is PROJ's own: 1/293.4663.
+/// These have PROJ's own flattening: 1/293.4663.
 const std::set<std::string> otherClarke = {"ADI-M", "ARF-M", "CAP"};
 
-/// Fields between commas; double quotes keep a comma inside one.
+/// The fields between commas; double quotes protect a comma.
 std::vector<std::string> fieldsOf(const std::string& line) {
     std::vector<std::string> fields(1);
     bool quoted = false;
@@ -94,7 +95,7 @@ MapSetting degrees(const std::string& datum) {
     return map;
 }
 
-/// The ellipsoid as PROJ understands the definition; nothing but zeros for one that it refuses.
+/// The ellipsoid as PROJ understands the definition; all zeros if PROJ rejects it.
 Figure figureOf(const std::string& definition) {
     Figure figure{};
     PJ* crs = proj_create(PJ_DEFAULT_CTX, ("+proj=longlat " + definition + " +no_defs +type=crs").c_str());
@@ -133,7 +134,7 @@ MapPoint geographic(const std::array<double, 3>& place, const Figure& figure) {
     return {std::atan2(place[1], place[0]) / degree, latitude / degree};
 }
 
-/// The plain definition: to geocentric coordinates, three additions, and back on the other ellipsoid.
+/// The direct computation: to geocentric coordinates, three additions, and back on the other ellipsoid.
 MapPoint shifted(MapPoint point, const Figure& figure, const DatumShift& shift) {
     std::array<double, 3> place = geocentric(point, figure);
     place[0] += shift.x;
@@ -178,7 +179,7 @@ TEST(DatumShifts, TheEllipsoidIsTheOneOfTheDialog) {
     }
 }
 
-/// Against the plain definition, at a place where all three of x, y and z count.
+/// Compared with the direct computation, at a place where x, y and z all matter.
 TEST(DatumShifts, PointsMoveByTheShift) {
     const std::map<std::string, std::string> datums = deliveredDatums();
     for (const DatumShift& shift : datumShifts()) {
@@ -189,7 +190,7 @@ TEST(DatumShifts, PointsMoveByTheShift) {
     }
 }
 
-/// Kusaie lies 2.2 km aside, no other more than 1.6 km.
+/// Kusaie moves by 2.2 km, all others by at most 1.6 km.
 TEST(DatumShifts, NoneIsOutOfTheWay) {
     for (const DatumShift& shift : datumShifts()) {
         const double length = std::hypot(shift.x, shift.y, shift.z);

@@ -30,7 +30,7 @@ void FileCalls::before(int number, std::function<void()> action) {
 }
 void FileCalls::beBlindToCase(bool blind) { isBlind = blind; }
 
-// The linker leads the calls here (--wrap).
+// The linker redirects the calls here (--wrap).
 extern "C" {
 
 int __real_open(const char* path, int flags, ...);

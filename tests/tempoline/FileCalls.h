@@ -1,16 +1,16 @@
 #pragma once
 
-// The calls that change a directory: those of the processor's code in this program come through here, so that
-// a test can step in before each of them, or be on a file system that does not tell letter cases apart.
+// The system calls that change a directory: those of the processor's code in this program pass through here,
+// so that a test can intervene before each of them, or simulate a file system that ignores letter case.
 
 #include <functional>
 
 namespace FileCalls {
 
-/// Before the call of that number, counted from 1, this happens.
+/// Called before the call of that number, counted from 1.
 void before(int number, std::function<void()> action);
 
-/// Names differ in more than their letter case, as far as they are made anew and removed.
+/// Simulates a file system that ignores letter case, when names are created or removed.
 void beBlindToCase(bool blind);
 
 }  // namespace FileCalls

@@ -94,7 +94,7 @@ TEST(Grid, LongitudesCountOnOverTheDateLine) {
     }
     EXPECT_EQ(firstCell(190, -170.5, "WGS-84"), 1) << "the western edge belongs to the grid";
     EXPECT_EQ(firstCell(190, -167.5, "WGS-84"), 3) << "the eastern one too";
-    grid.cellSize = 0.1;  // of which no fraction is a whole number of bits
+    grid.cellSize = 0.1;  // whose fractions have no exact binary form
     EXPECT_EQ(firstCell(-179.85, -179.9, "WGS-84"), 1);
     EXPECT_EQ(firstCell(-179.85, -179.6, "WGS-84"), 3);
     EXPECT_NE(failureOf([&] { firstCell(-179.85, -179.9001, "WGS-84"); }), "");
@@ -109,12 +109,12 @@ TEST(Grid, OnTheMapOfTheDataXAndYAreTakenAsTheyStand) {
     grid.x1 = 594;
     Control control = dayControl();
     control.map = grid.map;
-    control.map.latitude1 = 0;  // no control file can say it
+    control.map.latitude1 = 0;  // no control file can state it
     control.outputs[0].x = 600;
     control.outputs[0].y = 4500;
     EXPECT_EQ(placeIn(grid, control.outputs[0], control).onMap.x, 600);
     EXPECT_EQ(cellsOf(control, grid)[0].i, 4);
-    control.map.longitude0 = -96.9;  // 10.4 km aside at the equator, and true there
+    control.map.longitude0 = -96.9;  // off by 10.4 km at the equator, and true there
     EXPECT_NEAR(placeIn(grid, control.outputs[0], control).onMap.x,
                 (600 + 11.1177) * std::cos(20 * 0.0174532925), 0.01);
 }

@@ -11,7 +11,7 @@ namespace {
 
 const ResultSet usual = {"out.tsf", "out.tab", "out.frq"};
 
-/// Every file of the directory with what stands in it.
+/// Every file of the directory with its contents.
 std::string contentsHere() {
     std::map<std::string, std::string> files;
     for (const auto& entry : std::filesystem::directory_iterator("."))

@@ -47,7 +47,7 @@ TEST(Projection, TheCentralMeridianOfAZone) {
     EXPECT_NEAR(again.y, 5678.9, metre);
 }
 
-/// Against the closed formula of the sphere.
+/// Compared with the closed formula for the sphere.
 TEST(Projection, ZonesOnASphere) {
     for (const auto& [datum, radius] : {std::pair("NWS-84", 6370.0), std::pair("ESR-S", 6371.0)}) {
         MapSetting utm = plane("UTM", datum, 0, 0);
@@ -67,7 +67,7 @@ TEST(Projection, ZonesOnASphere) {
     }
 }
 
-/// Against the closed formula of the sphere.
+/// Compared with the closed formula for the sphere.
 TEST(Projection, LambertConformalOnASphere) {
     MapSetting map = plane("LCC", "NWS-84", 40, -97);
     map.latitude1 = 33;
@@ -130,7 +130,7 @@ double convergence(const MapSetting& map, double longitude, double latitude) {
     return convergenceAt(converted({longitude, latitude}, degrees(map.datum), map), map);
 }
 
-/// The direction, by the map, of a short way to the north, the other way round.
+/// The map direction of a short way north, with the sign reversed.
 double byTwoPoints(const MapSetting& map, double longitude, double latitude) {
     constexpr double way = 1e-4;  // degrees
     const MapPoint low = converted({longitude, latitude - way}, degrees(map.datum), map);
@@ -138,7 +138,7 @@ double byTwoPoints(const MapSetting& map, double longitude, double latitude) {
     return -std::atan2(high.x - low.x, high.y - low.y) / degree;
 }
 
-/// What the library itself says for a definition that is written down here.
+/// The library's own result for a definition written here.
 double byProj(const char* definition, double longitude, double latitude) {
     PJ_CONTEXT* const context = proj_context_create();
     PJ* const projection = proj_create(context, definition);
@@ -166,7 +166,7 @@ TEST(Projection, ConvergenceOfSpheresByTheirClosedFormulas) {
     polar.latitude1 = 60;
     EXPECT_NEAR(convergence(polar, 35, 70), 25, close);
     EXPECT_NEAR(convergence(polar, -80, 66), -90, close);
-    polar.latitude0 = 60;  // where it counts from does not matter
+    polar.latitude0 = 60;  // the origin does not matter
     EXPECT_NEAR(convergence(polar, 35, 70), 25, close);
     polar.latitude0 = -90;
     polar.latitude1 = -71;
@@ -268,7 +268,7 @@ TEST(Projection, UnknownCodesAndPlacesAreNamed) {
               }),
               "projection LL, datum ABC-9: \"ABC-9\" is no datum code that is known here");
     EXPECT_NE(failureOf([] { converted({10, 95}, degrees("WGS-84"), plane("EM", "WGS-84", 0, 0)); }), "");
-    MapSetting flat = plane("LCC", "WGS-84", 0, 0);  // parallels on both sides at one distance make no cone
+    MapSetting flat = plane("LCC", "WGS-84", 0, 0);  // symmetrical parallels do not define a cone
     flat.latitude1 = 30;
     flat.latitude2 = -30;
     EXPECT_NE(failureOf([&] { converted({10, 9}, degrees("WGS-84"), flat); }), "");

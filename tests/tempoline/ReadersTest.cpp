@@ -7,7 +7,7 @@ namespace zg::tempoline {
 
 namespace {
 
-/// One output of a day, read from a file with that text.
+/// One output for one day, read from a file with that text.
 struct Reading {
     explicit Reading(InputKind kind) {
         control.kind = kind;
@@ -39,7 +39,7 @@ struct Reading {
 const std::string upHead = "UP.DAT 2.1\n0\nx\nUTC+0000\n2004 60 0 0 2004 61 0 0\nx\n6201 00072\n";
 const std::string upTime = "6201 00072 2004 2 29 0 0 2004 2 29 1 0 9 2\n";
 
-/// Two by two cells of one degree with two levels; the angles of the projection as they are given.
+/// Two by two cells of one degree with two levels, with the given angles of the projection.
 std::string m3dHead(const std::string& angles, double west) {
     return "3D.DAT 2.1\n0\n1 1 1 1 0 1\nLL " + angles + " " + std::to_string(west) +
            " 40 1 2 2 2\n1 2 3\n2004022900 1 2 2 2\n1 1 2 2 1 2\n0.9\n0.8\n1 1\n2 1\n1 2\n2 2\n";

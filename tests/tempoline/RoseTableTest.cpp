@@ -46,10 +46,10 @@ TEST(RoseTable, AStepUnderAnHourBelongsToTheHourThatItLiesIn) {
         table.add(control.begin + 24 * secondsAnHour - step, {2, 0});
         EXPECT_EQ(table.roses()[6].total, 1) << step;
     }
-    RoseTable halves(control.rules, 2400);  // one that lies in two hours is of the later one
+    RoseTable halves(control.rules, 2400);  // a step that spans two hours counts for the later one
     halves.add(control.begin + 5 * secondsAnHour + 2400, {2, 0});
     EXPECT_EQ(halves.roses()[4].total, 1);
-    for (const int step : {3600, 7200}) {  // longer ones go by the clock at their end
+    for (const int step : {3600, 7200}) {  // longer steps count for the hour at their end
         RoseTable table(control.rules, step);
         table.add(control.begin + 6 * secondsAnHour + 1800 - step, {2, 0});
         EXPECT_EQ(table.roses()[3].total, 1) << step;

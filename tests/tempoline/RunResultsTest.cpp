@@ -1,4 +1,5 @@
-// What a run leaves of older results and under which names: whole, failed, or killed at any step.
+// What a run leaves of older results, and under which names: after success, failure, or being killed at any
+// step.
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -19,7 +20,7 @@ namespace zg::tempoline {
 namespace {
 
 using Changes = std::vector<std::pair<std::string, std::string>>;
-using Results = std::map<std::string, std::string>;  // "frq" and so on with what stands there
+using Results = std::map<std::string, std::string>;  // extension, such as "frq", and contents
 
 const std::string runListing = "base_20050307-20051231_tempoline.lst";
 const std::vector<std::string> resultEndings = {"tsf", "tab", "frq"};
@@ -32,7 +33,7 @@ void writeControl(const InDirectory& inside, const std::string& file, const Chan
     inside.directory.write(name, control(file, all));
 }
 
-/// The usual one, made once.
+/// The usual one, made only once.
 void writeControl(const InDirectory& inside) {
     static const std::string text = [] {
         const InDirectory other;
@@ -73,7 +74,7 @@ Results resultsHere(const std::string& name) {
     return results;
 }
 
-/// What a run over that wind makes.
+/// The results of a run over that wind.
 Results made(const std::string& speed) {
     const InDirectory inside;
     writeControl(inside);
@@ -82,7 +83,7 @@ Results made(const std::string& speed) {
     return resultsHere("out");
 }
 
-/// Runs the work in a process that is killed before its step of that number; false where it came to its end.
+/// Runs the work in a process that is killed before its step of that number; false if it finished.
 template <typename Work>
 bool isKilledBefore(int step, Work work) {
     const pid_t child = fork();
@@ -98,8 +99,8 @@ bool isKilledBefore(int step, Work work) {
     return WIFSIGNALED(status);
 }
 
-/// Of those generations of results one is there whole: that of the FRQ file, under its own name or aside. Of
-/// superseded ones files may stand there too.
+/// One of those generations of results is complete: that of the FRQ file, under its own name or aside. Files
+/// of superseded generations may exist too.
 ::testing::AssertionResult oneIsWhole(const std::vector<Results>& generations,
                                       const Results& superseded = {}) {
     const Results own = resultsHere("out");
@@ -223,7 +224,7 @@ TEST(RunResults, KilledTwiceAtAnyStepsOneOfThemIsWhole) {
     bool killed = true;
     for (int first = 1; killed; ++first) {
         bool killedAgain = true;
-        for (int second = 1 + first % 3; killedAgain; second += 3) {  // all of them come with some first ones
+        for (int second = 1 + first % 3; killedAgain; second += 3) {  // each occurs with some first ones
             const InDirectory inside;
             writeControl(inside);
             writeResults(inside, older, "out.previous");
@@ -299,7 +300,7 @@ TEST(RunResults, NamesThatTheFileSystemTakesForOneAreRefused) {
     EXPECT_TRUE(std::regex_search(outcome("st\xC3\xA4rke 1", true),
                                   std::regex("c\\.inp:\\d+: TSFOUT: the name \"st\xC3\xA4rke 1\" is one with "
                                              "\"St\xC3\xA4rke 1\" in line \\d+: ")));
-    // where they are two names, and where they only look alike, the run goes on to its data
+    // if the names differ, or only look alike, the run goes on to its data
     EXPECT_NE(outcome("st\xC3\xA4rke 1", false).find("No such file"), std::string::npos);
     EXPECT_NE(outcome("st\xC3\xB6rke 1", true).find("No such file"), std::string::npos);
 }
@@ -383,7 +384,7 @@ TEST(RunResults, AFailedMergeLeavesNoneOfItsName) {
     mergeTabs({"part.tab"}, "sum");
     EXPECT_EQ(inside.directory.read("sum.frq"), good);
     EXPECT_FALSE(std::filesystem::exists("sum.previous.frq"));
-    mergeTabs({"sum.tab"}, "sum");  // of itself
+    mergeTabs({"sum.tab"}, "sum");  // a sum of itself
     EXPECT_EQ(inside.directory.read("sum.frq"), good);
     EXPECT_FALSE(std::filesystem::exists("sum.previous.tab"));
 }

@@ -9,7 +9,7 @@
 
 namespace zg::tempoline {
 
-/// What the desktop program writes, with other values.
+/// The control file that the desktop program writes, with other values.
 inline std::string control(const std::string& file,
                            const std::vector<std::pair<std::string, std::string>>& changes) {
     std::string text = readWholeFile(std::string(ZG_SOURCE_DIR) + "/tests/processing/control/" + file);

@@ -15,7 +15,7 @@ namespace zg::tempoline {
 
 namespace {
 
-/// The result of reading the text as the input of that control file: the last line of the listing.
+/// The outcome of a run with the text as input and that control file: the last line of the listing.
 std::string lastLineOf(const std::string& controlFile,
                        std::vector<std::pair<std::string, std::string>> changes, const std::string& data) {
     const InDirectory inside;
@@ -150,7 +150,7 @@ TEST(Run, TheDesktopLoadsWhatItMade) {
     ModPolarGraph tables;
     TestHost host;
     ASSERT_EQ(loadFreqFile("out.frq", tables, host), FreqFileOutcome::Loaded);
-    EXPECT_EQ(tables.FrqRoseCount, 6);  // no month of a day in January is of the second season
+    EXPECT_EQ(tables.FrqRoseCount, 6);  // no month of a day in January is in the second season
     EXPECT_EQ(tables.FrqVersion, "2.3");
     EXPECT_EQ(tables.FrqMeasure, "Height = 10.0 m");
     EXPECT_EQ(tables.FrqRoseTitle(2), "Wet");

@@ -203,8 +203,8 @@ TEST_F(SeriesTest, SeasonsGoByBeginsAndHoursByEnds) {
     series.finish();
     const std::vector<RoseCounts>& roses = series.table().roses();
     ASSERT_EQ(roses.size(), 5U);
-    EXPECT_EQ(roses[1].total, 24);  // the leap day is winter
-    EXPECT_EQ(roses[2].total, 1);   // and what begins on March 1 is spring
+    EXPECT_EQ(roses[1].total, 24);  // the leap day is in winter
+    EXPECT_EQ(roses[2].total, 1);   // and steps that begin on March 1 are in spring
     EXPECT_EQ(roses[3].title, "Hours 01-12");
     EXPECT_EQ(roses[3].total, 13);
     EXPECT_EQ(roses[4].title, "Hours 13-00");

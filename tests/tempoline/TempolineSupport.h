@@ -9,7 +9,7 @@
 #include "tempoline/Failure.h"
 #include "tests/support/TempDirectory.h"
 
-/// The message of the failure that the call ends in; fails the test where there is none.
+/// The message of the failure that the call throws; fails the test if it throws none.
 template <typename Call>
 std::string failureOf(Call call, zg::tempoline::ExitStatus status = zg::tempoline::ExitStatus::Failed) {
     try {
@@ -22,7 +22,7 @@ std::string failureOf(Call call, zg::tempoline::ExitStatus status = zg::tempolin
     return {};
 }
 
-/// The current directory is one of the test's own as long as it lives.
+/// While it exists, the current directory is a directory of the test.
 class InDirectory {
  public:
     InDirectory() : before_(std::filesystem::current_path()) {

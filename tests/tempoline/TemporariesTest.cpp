@@ -28,7 +28,7 @@ std::string machine() {
     return name;
 }
 
-/// A run that makes files and is killed; its process.
+/// Starts a run that creates files and is killed; returns its process.
 pid_t killedRun() {
     const pid_t child = fork();
     if (child == 0) {

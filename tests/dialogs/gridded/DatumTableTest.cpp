@@ -63,7 +63,7 @@ TEST_F(DatumTable, TheFirstCallIsForTheCountAlone) {
     modDatums.init = [&asked](std::int32_t record, InitResult& r) {
         asked.push_back(record);
         r.DatumCount = 3;
-        r.status = asked.size() == 1 || record == 2 ? 5 : 0;  // a status of the first call is not looked at
+        r.status = asked.size() == 1 || record == 2 ? 5 : 0;  // the status of the first call is ignored
     };
     EXPECT_FALSE(ReadDatumTable());
     EXPECT_EQ(asked, (std::vector<std::int32_t>{1, 1, 2})) << "it stops at once";

@@ -7,7 +7,7 @@
 
 namespace zg {
 
-/// The wizard's form without a window: what it shows, and what was done to it.
+/// The wizard's form without a window: records what it shows and what was done to it.
 class FakeGridView : public GridView {
  public:
     std::string text(const char* control) const override {
@@ -59,7 +59,7 @@ class FakeGridView : public GridView {
         if (onProjection) onProjection();
     }
 
-    /// The step whose buttons are enabled; 0 where they disagree.
+    /// The step whose buttons are enabled; 0 if they do not all belong to one step.
     int step1to4() const {
         int active = 0;
         const std::map<int, std::string> buttons = {
@@ -83,11 +83,11 @@ class FakeGridView : public GridView {
     std::map<std::string, bool> visibleControls;
     std::string focused;
     std::string statusTip;
-    std::string otherDirectory;  ///< the choice of the one who is asked for another
+    std::string otherDirectory;  ///< the answer when the wizard asks for another directory
     bool isBusy = false;
     int projectionAsked = 0;
     std::function<void()> onProjection;
-    std::function<void()> onBusy;  ///< runs as a run begins
+    std::function<void()> onBusy;  ///< called at the start of a run
 };
 
 }  // namespace zg

@@ -50,7 +50,7 @@ class FrmProjectionInfo : public ::testing::Test {
     QComboBox& combo(const char* name) { return *child<QComboBox>(name); }
     QLineEdit& box(const char* name) { return *child<QLineEdit>(name); }
     void click(const char* name) { QTest::mouseClick(child(name), Qt::LeftButton); }
-    /// Picks an entry of a list as a user does.
+    /// Selects an entry of a list as a user does.
     void pick(const char* name, const QString& entry) {
         QComboBox& list = combo(name);
         const int row = list.findText(entry);

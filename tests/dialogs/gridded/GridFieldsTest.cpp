@@ -1,5 +1,5 @@
-// The wizards by their controls: keys, Cancel, going back, the wait for the processor, names that are not
-// ASCII.
+// The wizards through their controls: keys, Cancel, going back, the wait for the processor, names that are
+// not ASCII.
 
 #include "shell/settings/CfgFile.h"
 #include "tests/dialogs/gridded/GridForms.h"
@@ -15,7 +15,7 @@ class GridFields : public GridFormTest {
         click("cmdNext1");
         pickMethods();
     }
-    /// Step 3 for so many cells of model data.
+    /// Step 3 with this many cells of model data.
     void toCells(int count) {
         toStep2(m3dVariation, m3dText());
         type("txtNumberOfLocations", std::to_string(count).c_str());
@@ -27,7 +27,7 @@ class GridFields : public GridFormTest {
         click("optByStation");
         click("cmdNext2");
     }
-    /// Step 4 for cells of these names.
+    /// Step 4 with cells of these names.
     void fillCells(const std::vector<std::string>& names) {
         toCells(static_cast<int>(names.size()));
         for (const std::string& name : names) {
@@ -46,7 +46,7 @@ class GridFields : public GridFormTest {
         form_->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form_.get()));
     }
-    /// Enter goes where Tab goes, and does nothing else.
+    /// Enter moves the focus as Tab does, and does nothing else.
     void expectEnterIsTab(const char* name) {
         SCOPED_TRACE(name);
         child(name)->setFocus();
@@ -57,7 +57,7 @@ class GridFields : public GridFormTest {
         child(name)->setFocus();
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
             child(name)->setFocus();
-            // A step that went on all the same may have opened a dialog, which waits for an answer.
+            // If the step was taken by mistake, it may have opened a dialog that waits for an answer.
             QTimer::singleShot(0, form_.get(), [] {
                 if (QWidget* dialog = QApplication::activeModalWidget()) dialog->close();
             });

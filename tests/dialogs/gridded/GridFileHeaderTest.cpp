@@ -129,7 +129,7 @@ TEST_F(GridFileHeader, CutAtEveryLineIsToldWithTheLine) {
 
 TEST_F(GridFileHeader, CutAtEveryByteNeverPassesAsWhole) {
     const std::string whole = ventosText();
-    // The last number may lose its last digit and still be one.
+    // The last number may lose its last digit and still be a number.
     for (std::size_t i = 0; i + 4 < whole.size(); ++i)
         EXPECT_EQ(read(GridKind::Ventos, whole.substr(0, i)).errorFlag, 1) << i;
 }
@@ -184,7 +184,7 @@ class GridFileFields : public GridFileHeader {
  protected:
     static std::string text(GridKind kind) { return kind == GridKind::M3d ? m3dText() : ventosText(); }
 
-    /// The file with one line, counted from 1, made anew from its fields.
+    /// The file with one line, counted from 1, rebuilt from its fields.
     template <typename Change>
     static std::string withLine(GridKind kind, int number, Change change) {
         const std::string whole = text(kind);
@@ -198,8 +198,8 @@ class GridFileFields : public GridFileHeader {
         return before + made + "\n" + after;
     }
 
-    /// What is told when the line ends after no field, after one, and so on: "(period): year" for each field
-    /// that is then missing.
+    /// The messages for a line that ends after no field, after one, and so on: "(period): year" for each
+    /// field that is then missing.
     std::vector<std::string> missing(GridKind kind, int number) {
         std::vector<std::string> told;
         const std::string start = "line " + std::to_string(number) + " ";

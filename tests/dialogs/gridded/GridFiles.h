@@ -1,6 +1,6 @@
 #pragma once
 
-// Small files of the two kinds, headers and a little of their data.
+// Small files of the two formats: headers and a little data.
 
 #include <string>
 
@@ -21,7 +21,7 @@ inline std::string ventosText(const std::string& map = "LCC NWS-84 NONE 0 100.5 
            map + "\r\n2 2 1 -100.5 20 12\r\n0 20\r\n";
 }
 
-/// The first lines of a text, line ends included.
+/// The first lines of a text, with their line ends.
 inline std::string firstLines(const std::string& text, int count) {
     std::size_t at = 0;
     for (int i = 0; i < count && at != std::string::npos; ++i) at = text.find('\n', at) + 1;

@@ -1,4 +1,4 @@
-// Both wizards by their controls, from the first click to the rose in the main window.
+// Both wizards through their controls, from the first click to the rose in the main window.
 
 #include "tests/dialogs/gridded/GridForms.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// Both wizards by their controls.
+// Drives both wizards through their controls.
 
 #include "dialogs/gridded/GridForm.h"
 
@@ -29,7 +29,7 @@
 
 namespace zg {
 
-/// A processor that copies a rose to every output that its control file names.
+/// A stand-in for the processor: copies a rose to every output that the control file names.
 class CopyingProcessor : public ProcessStarter {
  public:
     void start(const std::string& program, WindowStyle) override {
@@ -42,7 +42,7 @@ class CopyingProcessor : public ProcessStarter {
         LineWriter(directory_ + "finished.txt").writeLine("x");
     }
 
-    bool isSlow = false;  ///< it ends only when it is told to
+    bool isSlow = false;  ///< it ends only when told to
 
  private:
     static void readOutputs(const std::string& path, const std::string& directory) {
@@ -126,7 +126,7 @@ class GridFormTest : public ::testing::Test {
         if (auto* profiling = child<QComboBox>("cboVertProfilingMethod")) profiling->setCurrentIndex(2);
         box("txtOutputDirectory").setText(QString::fromStdString(directory_.file("out/")));
     }
-    /// Clicks NEXT of step 2 and answers the projection dialog, once it is open, with its OK or Cancel.
+    /// Clicks NEXT in step 2 and, once the projection dialog is open, its OK or Cancel.
     void nextThroughProjection(const char* button) {
         bool seen = false;
         QTimer::singleShot(0, [&] {

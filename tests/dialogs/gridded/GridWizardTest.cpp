@@ -23,7 +23,7 @@
 namespace zg {
 namespace {
 
-/// Ends at once and makes the outputs it was told to make.
+/// Ends at once and writes the requested outputs.
 class WatchedProcessor : public ProcessStarter {
  public:
     void start(const std::string& program, WindowStyle) override {
@@ -64,7 +64,7 @@ class GridWizardTest : public ::testing::Test {
         wizard_->Form_Load();
         std::filesystem::create_directory(directory_.file("out"));
     }
-    /// Through step 1 with one file.
+    /// Goes through step 1 with one file.
     void openFile(const std::string& text) {
         view_.files = {directory_.write("wind.dat", text)};
         wizard_->cmdNext1_Click();
@@ -75,7 +75,7 @@ class GridWizardTest : public ::testing::Test {
         view_.texts["txtTitleLine"] = "A title";
         view_.texts["txtOutputDirectory"] = directory_.file("out/");
     }
-    /// OK in the projection dialog, with the native projection and this datum.
+    /// Presses OK in the projection dialog, with the native projection and this datum.
     void acceptProjection(const std::string& datum) {
         view_.onProjection = [this, datum] {
             if (!datum.empty()) projection.DATUM = datum;
@@ -88,7 +88,7 @@ class GridWizardTest : public ::testing::Test {
         view_.texts["txtYCoord"] = view_.texts["txtLat"] = view_.texts["txtGridPointJ"] = y;
         view_.texts["txtFRQOutputFilename"] = name;
     }
-    /// Runs an action that shows one box and gives its text.
+    /// Runs an action that shows one box and returns its text.
     std::string boxOf(const std::function<void()>& action, BoxAnswer answer = BoxAnswer::Ok,
                       const char* title = "Error") {
         host_.boxes.clear();
@@ -104,7 +104,7 @@ class GridWizardTest : public ::testing::Test {
     bool enabled(const char* control) { return view_.enabledControls[control]; }
     std::string caption() { return view_.texts["Frame_Step3"]; }
     std::string controlFile() { return directory_.read("out/" + wizard_->RunRoot + "_tempoline.inp"); }
-    /// The file made by the script, with this test's input.
+    /// The file made by the script, given this test's input.
     std::string expected(const std::string& name) {
         std::string text = readWholeFile(ZG_SOURCE_DIR "/tests/processing/control/" + name);
         const std::string mark = "@FILE@";
@@ -465,7 +465,7 @@ TEST_F(VentosWizard, NumbersThatAreNoneAreRunTimeErrors) {
     }
 }
 
-/// From the first click to the control file, by projection.
+/// From the first click to the control file, for each projection.
 class ByProjection : public GridWizardTest,
                      public ::testing::WithParamInterface<std::array<const char*, 3>> {};
 

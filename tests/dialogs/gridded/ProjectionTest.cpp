@@ -19,7 +19,7 @@ std::string faultOf(const char* pmap, const Texts& texts) {
     });
 }
 
-/// All boxes of a choice filled with good values.
+/// All boxes of a projection filled with valid values.
 Texts filled(const char* pmap) {
     Texts texts;
     for (const AngleField& angle : choiceOfPmap(pmap)->angles) {

@@ -1,4 +1,4 @@
-// A library as a user may lay it beside the program: it answers with what it was asked for.
+// A library such as a user may put beside the program: it returns its arguments.
 
 #include <cstdint>
 #include <cstring>

@@ -72,7 +72,7 @@ class FrmOpenSURFDATFile : public ::testing::Test {
         box("txtFRQOutputFilename").setText("x");
         box("txtOutputDirectory").setText(QString::fromStdString(directory_.file("out/")));
     }
-    /// Presses RUN and gives the one box that it shows.
+    /// Presses RUN and returns the text of the one box that it shows.
     std::string refusal() {
         host_.boxes.clear();
         host_.boxAnswers = {BoxAnswer::Ok};
@@ -345,7 +345,7 @@ TEST_F(FrmOpenSURFDATFile, ItsButtonsOpenSeasonsAndClasses) {
     EXPECT_EQ(classes_, 1);
 }
 
-/// The whole road in the window, with a processor that copies a rose for two of the three stations.
+/// A complete run in the window, with a processor that copies a rose for two of the three stations.
 TEST(SurfRoad, ASurfFileBecomesTheRoseInTheWindow) {
     TempDirectory directory;
     modPolarGraph = ModPolarGraph();

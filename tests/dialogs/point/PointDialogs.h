@@ -1,6 +1,6 @@
 #pragma once
 
-// The dialogs for point data, worked by their controls.
+// Drives the dialogs for point data through their controls.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// The dialogs for UP.DAT, monitor, AERMET and time-series files, worked by their controls.
+// The dialogs for UP.DAT, monitor, AERMET and time-series files, through their controls.
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,8 @@ TEST_F(PointDialogs, UpShowsItsPeriodInItsOwnZone) {
     EXPECT_EQ(box("txtExtractionHeights").text(), "10");
     browse("u.dat", upText);
     EXPECT_EQ(host_.openPicks[0].filter, "UP.DAT Data Files (*.dat) | *.dat|All Files (*.*) | *.*; |");
-    // First shown in Eastern Time, 5 hours back, then the file's own zone moves it, never before its begin.
+    // First shown in Eastern Time, 5 hours behind UTC; then the file's own zone moves it, but never before
+    // the file's begin.
     EXPECT_EQ(begin(), "1990-01-08 00:30:00");
     EXPECT_EQ(end(), "1990-01-15 12:00:00");
     EXPECT_EQ(child<QComboBox>("cboTimeZone")->currentText(),
@@ -98,7 +99,7 @@ TEST_F(PointDialogs, TheScreensPointerIsAnHourglassDuringARunAndNormalAfterAnyEn
     int seen = 0;
     starter_.onStart = [&](const std::string&) {
         seen += hourglass() ? 1 : 0;
-        // A second start while the first waits ends before it.
+        // A second start during the wait of the first ends before it.
         if (starter_.starts == 1) click("cmdView");
         if (starter_.starts == 2) directory_.write("out/finished.txt", "");
     };

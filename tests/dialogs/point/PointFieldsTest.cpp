@@ -1,4 +1,4 @@
-// The fields of the dialogs for point data: what leaving, browsing, keys and odd contents do.
+// The fields of the dialogs for point data: leaving, browsing, keys and odd contents.
 
 #include "dialogs/point/FrmOpenAERMETFile.h"
 #include "dialogs/point/FrmOpenAMMNETDataFile.h"
@@ -19,7 +19,7 @@ class PointFields : public PointDialogs {
         std::string text;
     };
 
-    /// Opens a dialog after the other and does the same in each; a file is chosen before.
+    /// Opens one dialog after the other and does the same in each, with a file chosen.
     void inEach(const std::function<void(const Kind&)>& action) {
         const std::vector<Kind> kinds = {
             {"SURF", [this] { open<frmOpenSURFDATFile>(); }, "s.dat", surfText},

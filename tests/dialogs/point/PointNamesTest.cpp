@@ -1,5 +1,5 @@
-// Names that are not ASCII, in every place where one goes: a station of the table, an identifier of the data,
-// the paths.
+// Names that are not ASCII, everywhere a name can occur: stations of the table, identifiers in the data,
+// paths.
 
 #include "base/Lines.h"
 #include "dialogs/point/FrmOpenAERMETFile.h"
@@ -15,7 +15,7 @@ namespace {
 
 constexpr int mostPumps = 5'000;
 
-/// "Montréal" as windows-1252 and as UTF-8.
+/// "Montréal" in windows-1252 and in UTF-8.
 const std::string montreals[] = {
     "Montr\xE9"
     "al",
@@ -25,7 +25,7 @@ const QString shownName = QString::fromUtf8(
     "Montr\xC3\xA9"
     "al");
 
-/// The batch file is carried out, with a processor that makes each rose that its control file names.
+/// Runs the batch file, with a processor that writes each rose that its control file names.
 class PointNames : public PointDialogs {
  protected:
     void SetUp() override {
@@ -57,7 +57,7 @@ class PointNames : public PointDialogs {
         box("txtFRQOutputFilename").setText("x");
         box("txtOutputDirectory").setText(QString::fromStdString(out_));
     }
-    /// Presses RUN and gives the bytes of the control file.
+    /// Presses RUN and returns the bytes of the control file.
     std::string run(const std::string& base) {
         plotted_.clear();
         host_.pumps = 0;

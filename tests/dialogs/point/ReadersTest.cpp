@@ -197,7 +197,7 @@ TEST_F(PointReaders, AWrongAermetFileIsAnError) {
     EXPECT_EQ(errorOf([&] { readAermetPeriod(file("x y z 1\n"), AermetKind::Profile); }), 13);
 }
 
-/// Lines that begin so and have 50 characters each.
+/// Lines of 50 characters each that begin with these texts.
 std::string fiftyCharacters(const std::string& begin, int lines) {
     const std::string line = begin + std::string(50 - begin.size(), 'x') + "\n";
     std::string text;

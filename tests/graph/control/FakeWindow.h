@@ -9,7 +9,7 @@
 #include "graph/control/PolarGraph.h"
 #include "tests/support/RecordingCanvas.h"
 
-/// A part of a page of which only the size counts.
+/// A part of a page of which only the size matters.
 class CopiedPage : public zg::Picture {
  public:
     explicit CopiedPage(const zg::Rect& part) : part_(part) {}
@@ -20,7 +20,8 @@ class CopiedPage : public zg::Picture {
     zg::Rect part_;
 };
 
-/// A window without a toolkit: it keeps what the control asked of it, in order, and its page records.
+/// A window without a toolkit: it records the control's requests in order, and its page records what is
+/// drawn.
 class FakeWindow : public zg::ControlWindow {
  public:
     RecordingCanvas canvas{1, 1};
@@ -28,10 +29,10 @@ class FakeWindow : public zg::ControlWindow {
     std::vector<std::pair<int, int>> pageSizes;
     std::string aboutTitle;
 
-    /// How often a call came since the last forget.
+    /// Number of calls since the last forget.
     long count(const std::string& call) const { return std::count(calls.begin(), calls.end(), call); }
 
-    /// Whole frames painted since the last forget.
+    /// Number of whole frames painted since the last forget.
     std::size_t frames() const { return canvas.all<drawn::KeepPicture>().size(); }
 
     void forget() {

@@ -1,4 +1,4 @@
-// Graph file, copies of the page, and what goes to the printer.
+// Graph file, copies of the page, and printed output.
 
 #include "base/Lines.h"
 #include "graph/control/GraphFile.h"

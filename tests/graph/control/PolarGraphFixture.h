@@ -10,7 +10,7 @@
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 
-/// Fresh tables and a program directory of its own, and a control in a fake window.
+/// Fresh tables, a program directory for the test, and a control in a fake window.
 class PolarGraphFixture : public ::testing::Test {
  protected:
     PolarGraphFixture() {
@@ -22,7 +22,7 @@ class PolarGraphFixture : public ::testing::Test {
         zg::applicationDirectory.clear();
     }
 
-    /// The number of the run-time error that the action ends in, 0 for none.
+    /// The number of the run-time error that the action raises, 0 if none.
     template <typename Action>
     static int errorNumberOf(Action action) {
         try {

@@ -1,4 +1,4 @@
-// What the rulers are told of the page.
+// What the rulers learn about the page.
 
 #include "tests/graph/control/PolarGraphFixture.h"
 

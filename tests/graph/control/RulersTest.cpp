@@ -64,7 +64,7 @@ TEST(Rulers, NothingIsMarkedBeforeTheFirstDrawing) {
     EXPECT_TRUE(rulerMarks(view).empty());
 }
 
-/// What is filled, the marks left out.
+/// The filled rectangles without the marks.
 std::vector<drawn::FillRectangle> ground(const RecordingCanvas& canvas) {
     std::vector<drawn::FillRectangle> found;
     for (const drawn::FillRectangle& one : canvas.all<drawn::FillRectangle>())

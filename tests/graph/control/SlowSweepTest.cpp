@@ -1,4 +1,4 @@
-// Sweeps that take long: events are served meanwhile, they can be stopped, and none goes on for ever.
+// Long sweeps: events are processed meanwhile, the sweeps can be stopped, and none runs for ever.
 
 #include <gtest/gtest.h>
 
@@ -163,7 +163,7 @@ TEST_F(SlowSweep, TheVariablesOfACurveAreItsOwnToTheEnd) {
     for (std::size_t i = 0; i < 38; ++i) EXPECT_EQ(radii[i], 2) << i;
 }
 
-/// Each look at the clock takes its time: so do scripts, which look at it now and then.
+/// Each reading of the clock takes time, and scripts read it now and then.
 class SlowScript : public SlowSweep {
  protected:
     static constexpr const char* endless = "Function f(x):Do:Loop:End Function";

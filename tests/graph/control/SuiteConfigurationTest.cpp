@@ -32,7 +32,7 @@ TEST(SuiteConfiguration, DirectoryOfThatNameIsNoFile) {
 
 TEST(SuiteConfiguration, FileThatCannotBeReadKeepsTheOldValueAndIsNotTold) {
     const TempDirectory directory;
-    // It opens, and its first byte cannot be read.
+    // It can be opened, but its first byte cannot be read.
     std::filesystem::create_symlink("/proc/self/mem", directory.file("orbita.cfg"));
     std::string workDir = "old";
     EXPECT_NO_THROW(readSuiteWorkDir(directory.file("orbita.cfg"), workDir));

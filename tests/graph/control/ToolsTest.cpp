@@ -1,4 +1,4 @@
-// The tools of the page, step by step as the pointer does them.
+// The tools of the page, step by step as the pointer operates them.
 
 #include <cmath>
 #include <tuple>

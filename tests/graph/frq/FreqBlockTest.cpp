@@ -38,7 +38,7 @@ class FreqBlock : public FreqLoad {
     }
 };
 
-/// The number that is taken off the text and what follows it; "refused" where none is.
+/// The number taken from the start of the text and the rest; "refused" if there is none.
 std::string plainPercentOf(std::string_view text) {
     const char* at = text.data();
     double value = -1;
@@ -161,7 +161,7 @@ TEST_F(FreqBlock, EveryNumberIsTheNearestDouble) {
     for (std::size_t decimals = 1; decimals <= 15; ++decimals)
         numbers.push_back(std::string("123456789012345").insert(15 - decimals, "."));
     for (const std::string& text : numbers) {
-        // A blank before one "%" has the whole row read by the general way.
+        // A blank before one "%" makes the general routine read the whole row.
         for (const char* end : {"%", " %"}) {
             loadRow("N : " + text + "%  " + text + end + text + "%2%3%" + text + "%");
             for (const int c : {1, 2, 3, 6})
@@ -249,7 +249,7 @@ TEST_F(FreqBlock, PercentValidHasOneDecimalAndHalvesGoToEven) {
     loadStatistics("T = 3; V = 1; C = 0");
     EXPECT_EQ(tables.FrqPercentValid(1), 33.3F);
     EXPECT_NE(tables.FrqRoseCaption(1).find("(33.3%)"), std::string::npos);
-    loadStatistics("T = 2000; V = 1849; C = 0");  // 92.45, which as a single lies below
+    loadStatistics("T = 2000; V = 1849; C = 0");  // 92.45, but less as a single
     EXPECT_EQ(tables.FrqPercentValid(1), 92.4F);
     loadStatistics("T = 1000; V = 0; C = 0");
     EXPECT_NE(tables.FrqRoseCaption(1).find("(0%)"), std::string::npos);

@@ -1,4 +1,4 @@
-// What the tables hold after a load that a run-time error has ended.
+// The contents of the tables after a load that ended with a run-time error.
 
 #include <sys/stat.h>
 
@@ -12,7 +12,7 @@ namespace {
 
 class FreqFailure : public FreqLoad {
  protected:
-    /// An older file is loaded, of another shape than the one that will fail.
+    /// An older file is loaded, of another shape than the one that is to fail.
     void SetUp() override {
         load(freqtext::file("2.1", 1));
         tables.CurrentRose = 9;

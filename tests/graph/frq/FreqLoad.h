@@ -11,7 +11,7 @@
 
 namespace zg {
 
-/// Loads lines or bytes as a file into tables of its own.
+/// Loads lines or bytes as a file, into separate tables.
 class FreqLoad : public ::testing::Test {
  protected:
     FreqFileOutcome loadBytes(const std::string& bytes) {
@@ -20,7 +20,7 @@ class FreqLoad : public ::testing::Test {
 
     FreqFileOutcome load(const freqtext::Lines& lines) { return loadBytes(freqtext::bytes(lines)); }
 
-    /// Number of the run-time error that the load raises, 0 where it raises none.
+    /// Number of the run-time error that the load raises, 0 if none.
     int errorOf(const freqtext::Lines& lines) {
         try {
             load(lines);
@@ -35,7 +35,7 @@ class FreqLoad : public ::testing::Test {
     ModPolarGraph tables;
 };
 
-/// A parameter's version as the name of its case: "2.0" is "v20".
+/// A version as part of a test name: "2.0" is "v20".
 inline std::string versionName(const ::testing::TestParamInfo<const char*>& info) {
     const std::string version = info.param;
     return "v" + version.substr(0, 1) + version.substr(2);

@@ -30,7 +30,7 @@ TEST(FactoryStyle, FillsTablesThatHaveNone) {
     EXPECT_EQ(tables.GridLineColor, factoryGridLineColor);
 }
 
-/// Tables with colours of the user and two fonts named or not.
+/// Tables with user-defined colours and two fonts, with or without names.
 ModPolarGraph chosen(const char* labelFont, const char* legendFont) {
     ModPolarGraph tables;
     tables.LabelFont = {255, labelFont, 12, true, true};

@@ -124,7 +124,7 @@ TEST_P(EveryVersion, ReadsEveryLineEnd) {
 
 TEST_P(EveryVersion, TakesALastLineWithoutItsEnd) {
     std::string bytes = freqtext::bytes(freqtext::file(version(), 1));
-    // Version 2.0 ends with an empty line, which without its end is no line at all.
+    // Version 2.0 ends with an empty line; without its line end there is no such line.
     if (!statistics()) bytes.insert(bytes.size() - 2, "x");
     bytes.resize(bytes.size() - 2);
     EXPECT_EQ(loadBytes(bytes), FreqFileOutcome::Loaded);
@@ -284,7 +284,7 @@ TEST_F(OpenFreqFile, ARefusedFileBeforeAnyLoadLeavesNothingLoaded) {
     EXPECT_EQ(tables.CurrentRose, 1);
 }
 
-/// How many open files of this process are that one.
+/// How many of this process's open files are that file.
 int openHandlesOn(const std::string& path) {
     int count = 0;
     std::error_code closedMeanwhile;

@@ -1,4 +1,4 @@
-// The delivered sample files, as the loader sees them.
+// The delivered sample files, as loaded.
 
 #include <set>
 #include <string>
@@ -34,7 +34,7 @@ class SampleFile : public FreqLoad, public ::testing::WithParamInterface<Sample>
         ASSERT_EQ(loadFreqFile(path, tables, host), FreqFileOutcome::Loaded);
     }
 
-    /// Percent of a rose, all directions, classes and calm.
+    /// Percent total of a rose: all directions, classes and calm.
     double sumOf(int rose) const {
         double sum = toDouble(tables.FrqCalmPercent(rose));
         for (int r = 0; r < 16; ++r)
@@ -52,7 +52,7 @@ TEST_P(SampleFile, HasItsVersionAndRoses) {
 }
 
 TEST_P(SampleFile, SumsToHundredPercent) {
-    // The percentages of the real file were rounded one by one.
+    // The percentages in this file were rounded individually.
     const double tolerance = std::string(GetParam().name) == "LOVETT_1988" ? 0.01 : 1e-9;
     for (int rose = 1; rose <= tables.FrqRoseCount; ++rose)
         EXPECT_NEAR(sumOf(rose), 100.0, tolerance) << rose;

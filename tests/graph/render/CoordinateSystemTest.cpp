@@ -89,7 +89,7 @@ TEST_F(CoordinateSystem, WithoutAGridDiscAndSectorsStay) {
 TEST_F(CoordinateSystem, AnyOtherGridValueHasRingsWithoutSpokes) {
     for (const std::int32_t value : {3, -1, 2000000000}) {
         settings.ShowGrid = 1;
-        redraw();  // a former redraw's spokes do not count
+        redraw();  // so that spokes of an earlier redraw do not count
         settings.ShowGrid = value;
         redraw();
         EXPECT_EQ(canvas.all<drawn::Circle>().size(), 5U) << value;

@@ -111,7 +111,7 @@ TEST_F(Legend, FileWithoutRosesHasBoxAndSwatchesButNoCalmLine) {
     EXPECT_EQ(canvas.all<drawn::FillRectangle>().size(), 7U);
     ASSERT_EQ(texts.size(), 7U);
     EXPECT_EQ(texts.front(), "  =  0.5 to 1.8 m/s");
-    EXPECT_EQ(texts.back(), "");  // the notice of the file without roses
+    EXPECT_EQ(texts.back(), "");  // the notice for a file without roses
 }
 
 TEST_F(Legend, TooFewLimitsAreAnErrorOfTheSubscript) {

@@ -30,7 +30,7 @@ struct PercentLabels : ::testing::Test {
 constexpr double cosine = 0.98078528040323;  // of 11.25 degrees
 constexpr double sine = 0.19509032201613;
 
-/// Where label j stands on the surface of 300 with unit length 20, after a label of that size.
+/// The position of label j on the surface of 300 with unit length 20, after a label of that size.
 Point place(int j, double previousWidth, double previousHeight) {
     return {(300 - 2.5 * previousWidth) / 2 + 20 * j * cosine + 0.75 * previousWidth * cosine,
             (300 - 0.5 * previousHeight) / 2 - 20 * j * sine - 0.75 * previousHeight * sine};

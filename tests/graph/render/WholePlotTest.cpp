@@ -1,4 +1,5 @@
-// The whole plot over the range of its options, each operation against the geometry worked out here anew.
+// The whole plot over the range of its options, each operation compared with geometry computed independently
+// here.
 
 #include <gtest/gtest.h>
 

@@ -62,7 +62,7 @@ TEST(DrawPiePiece, PassesRadiansAndOutlinesInTheScrollBarColour) {
 TEST_F(WindRose, StacksTheClassesFromTheWidestToTheFirst) {
     redraw();
     const auto bars = stack(0);
-    // Cumulated percents 21, 15, 10, 6, 3, 1 at 4 units of length a percent.
+    // Cumulated percents 21, 15, 10, 6, 3, 1 at 4 units of length per percent.
     const double radii[] = {84, 60, 40, 24, 12, 4};
     const Colour fills[] = {rgb(0, 0, 0),   rgb(0, 255, 255), rgb(255, 255, 0),
                             rgb(0, 0, 255), rgb(0, 255, 0),   rgb(255, 0, 0)};

@@ -1,4 +1,5 @@
-// A sweep evaluates a formula hundreds of times; none of them may ask for memory. This program counts.
+// A sweep evaluates a formula hundreds of times; no evaluation may allocate memory. This program counts
+// allocations.
 
 #include <gtest/gtest.h>
 

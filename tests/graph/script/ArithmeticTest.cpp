@@ -133,7 +133,7 @@ TEST(ArithmeticErrors, KeepTheirNumbersApart) {
               "line 1, column 8: 438 Object doesn't support this property or method");
 }
 
-/// The products are the nearest double, as far as the wider reference can tell.
+/// The products are the nearest double, as far as the wider reference type can tell.
 TEST(SmallPowers, AreCorrectlyRounded) {
     std::uint64_t state = 12345;
     for (int i = 0; i < 20000; ++i) {

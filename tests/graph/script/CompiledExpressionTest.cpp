@@ -65,7 +65,7 @@ TEST_F(Sweep, ErrorsComeOutWithTheirPlace) {
     EXPECT_EQ(scriptError([&] { engine.compile("2 + *"); }), "line 1, column 5: 1002 Syntax error");
 }
 
-/// Each would be an ordinary number again if an overflow on the way were not noticed.
+/// An undetected overflow in an intermediate step would end in an ordinary number again.
 TEST_F(Sweep, NoOverflowIsSwallowed) {
     const zg::VariableSlot t = engine.slot("t");
     engine.setNumber(t, 1e308);
@@ -146,7 +146,7 @@ struct Formula {
 
 void PrintTo(const Formula& row, std::ostream* out) { *out << row.text; }
 
-/// The fast form gives exactly what the machine gives.
+/// The fast form gives exactly the machine's result.
 class BothForms : public testing::TestWithParam<Formula> {};
 
 TEST_P(BothForms, Agree) {

@@ -75,7 +75,7 @@ INSTANTIATE_TEST_SUITE_P(Syntax, ExpressionFault,
                                          Fault{"t.5", "line 1, column 2: 1025 Expected end of statement"},
                                          Fault{"t.\"a\"", "line 1, column 3: 1010 Expected identifier"},
                                          Fault{"1+(2*\n3)", "line 1, column 6: 1002 Syntax error"},
-                                         // The first cause, not what follows from it.
+                                         // The first error, not its consequences.
                                          Fault{")+?\"", "line 1, column 1: 1002 Syntax error"}));
 
 INSTANTIATE_TEST_SUITE_P(RunTime, ExpressionFault,

@@ -140,7 +140,7 @@ TEST(Limits, ArrayElements) {
               "line 1, column 15: 7 Out of memory");
 }
 
-/// A clock that moves on by so much whenever it is looked at.
+/// A clock that advances by this amount whenever it is read.
 class Timeout : public testing::Test {
  protected:
     std::int64_t looks = 0;

@@ -7,7 +7,7 @@
 
 #include "graph/script/ScriptEngine.h"
 
-/// A value with its type as scripts name it: "Integer 6", "String abc", "Empty".
+/// A value with its type name as scripts know it: "Integer 6", "String abc", "Empty".
 inline std::string shown(const zg::script::Value& value) {
     std::string out = zg::script::typeName(value.type());
     if (value.is(zg::script::ValueType::Empty) || value.is(zg::script::ValueType::Null) ||
@@ -16,7 +16,7 @@ inline std::string shown(const zg::script::Value& value) {
     return out + " " + zg::script::toText(value);
 }
 
-/// What an expression gives in a fresh engine that knows MathLib, after the code before it.
+/// The value of an expression in a fresh engine that knows MathLib, after running the code.
 inline std::string evaluated(std::string_view expression, std::string_view code = "") {
     zg::ScriptEngine engine;
     engine.AddObject("MathLib", zg::MathLibrary{});
@@ -24,7 +24,7 @@ inline std::string evaluated(std::string_view expression, std::string_view code 
     return shown(engine.Eval(expression));
 }
 
-/// What a statement raises, as "line 1, column 5: 11 Division by zero"; "" where it raises nothing.
+/// The error of a statement, as "line 1, column 5: 11 Division by zero"; "" if there is none.
 template <typename Statement>
 std::string scriptError(Statement statement) {
     try {
@@ -50,7 +50,7 @@ inline std::string codeError(std::string_view code) {
     return scriptError([&] { engine.AddCode(code); });
 }
 
-/// An expression with what it is to give.
+/// An expression and its expected value.
 struct Evaluation {
     const char* expression;
     const char* result;

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// Code with the value of `r` after it.
+/// Code and the value of `r` after it.
 struct Run {
     const char* code;
     const char* result;
@@ -159,7 +159,7 @@ TEST(Statements, KeepProceduresBetweenCalls) {
     EXPECT_EQ(shown(engine.Eval("f(2)")), "Integer -2");
 }
 
-/// A coefficient is added anew for every drawing.
+/// A coefficient is added again for every drawing.
 TEST(Statements, MayBeAddedAgain) {
     zg::ScriptEngine engine;
     const char* const code =

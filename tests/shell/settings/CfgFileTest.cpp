@@ -12,7 +12,7 @@ using namespace zg;
 
 class CfgFileTest : public SettingsFixture {
  protected:
-    /// Values of their own on every line of the file.
+    /// A distinct value on every line of the file.
     static void setOwnValues() {
         settings.DefaultTimeZone = "  (UTC+01:00) Here ";
         settings.SeasonOfMonth = {"Fall",   "Fall",   "Spring", "Spring", "Winter", "Summer",
@@ -290,7 +290,7 @@ TEST_F(CfgFileTest, FullDiskLeavesTheDefaultFile) {
 TEST_F(CfgFileTest, ReadOnlyFileKeepsItsBytesWhereTheSystemForbidsWriting) {
     writeCfg(defaultBytes());
     std::filesystem::permissions(cfgPath(), std::filesystem::perms::owner_read);
-    // The system's administrator may write to it all the same.
+    // An administrator may write to it all the same.
     const bool mayWrite = access(cfgPath().c_str(), W_OK) == 0;
     setOwnValues();
     WriteCfgFile(cfgPath());

@@ -43,7 +43,7 @@ TEST_F(ExprFileTest, OfAnotherKindOrNoneHasNoExpressions) {
 }
 
 TEST_F(ExprFileTest, ThatCannotBeWrittenStaysAsItWas) {
-    // The name under which the new file is made is a directory that holds something.
+    // The name under which the new file would be created is a directory that is not empty.
     directory_.write("user.expr", "old");
     std::filesystem::create_directories(directory_.file("user.expr.new/x"));
     EXPECT_FALSE(writeExpressions(path(), {"t"}));

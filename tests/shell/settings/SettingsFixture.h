@@ -38,7 +38,7 @@ class SettingsFixture : public testing::Test {
     }
     static std::string defaultBytes() { return dataFile("default.cfg"); }
 
-    /// The lines of a file's bytes, without their ends.
+    /// The lines of a file's bytes, without line ends.
     static std::vector<std::string> linesOf(const std::string& bytes) {
         std::vector<std::string> lines;
         zg::LineReader reader = zg::LineReader::ofText(bytes);

@@ -85,7 +85,7 @@ TEST_F(StartSequenceTest, WithoutAWritableFileChangesHoldUntilTheEnd) {
 }
 
 TEST_F(StartSequenceTest, ADamagedFileThatCannotBeReplacedIsReadNoMore) {
-    settings.CfgFilePath = "/proc/self/status";  // readable, of other lines, and never to be written
+    settings.CfgFilePath = "/proc/self/status";  // readable, with other lines, and never to be written
     ReadCfgFile(settings.CfgFilePath);
     ReadCfgFile(settings.CfgFilePath);
     EXPECT_EQ(settings.DefaultTimeZone, "(UTC-05:00) Eastern Time (US & Canada)");
