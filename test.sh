@@ -2,8 +2,8 @@
 # Sets everything up, builds and runs all tests without a display.
 #   ./test.sh                    everything
 #   ./test.sh graph/render       builds and runs the tests of one folder of tests/
-#   ./test.sh -L fast            words with a dash go to ctest: here the tests that need no toolkit
-#   ./test.sh --e2e [DIRECTORY]  walks through the whole program instead, in a real window on a display of its own
+#     ./test.sh -L fast            options go to ctest: here the tests that need no toolkit
+#     ./test.sh --e2e [DIRECTORY]  walks through the whole program instead, in a real window on a separate display
 set -euo pipefail
 cd "$(dirname "$0")"
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""How fast the processor reads, beside `wc -lw` on the same file in the same run, and how much memory it takes.
+"""How fast the processor reads, compared with `wc -lw` on the same file in the same run, and how much memory it takes.
 
 tempoline_bench.py PROCESSOR [MEGABYTES]     the best of three; run it on a quiet machine
 The surface file is read on one core, the gridded file on one and on two.
@@ -20,7 +20,7 @@ REPEATS = 3
 
 
 def make_surface(path, size):
-    """The hours of the sample with other dates, year after year; the number of years."""
+    """The hours of the sample with other dates, year after year; returns the number of years."""
     lines = SAMPLE.read_bytes().decode("ascii").split("\r\n")
     header, hours = lines[0], [line for line in lines[1:] if line]
     hours = [line for line in hours if line.split()[1:3] != ["2", "29"]]
@@ -51,7 +51,7 @@ def make_winds(path, size):
 
 
 def measured(command, directory, cores):
-    """Best seconds, processor seconds, and the most memory in MB."""
+    """Best wall-clock seconds, processor seconds, and peak memory in MB."""
     best, cpu, memory = None, 0, 0
     for _ in range(REPEATS):
         begin = time.perf_counter()

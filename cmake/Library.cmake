@@ -1,12 +1,12 @@
-# Every folder of the map is one library, and its link list is the promise of what it may use:
-# a folder that links no toolkit cannot use one.
+# Every folder of the map is one library; its link list enforces what it may use:
+# a folder that does not link the toolkit cannot use it.
 
 add_library(zg_flags INTERFACE)
 target_compile_options(zg_flags INTERFACE -Wall -Wextra -Wconversion -Wshadow)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # Version 12 of the compiler sees overlapping copies in string concatenation where there are none.
+    # Version 12 of the compiler reports overlapping copies in string concatenation where there are none.
     target_compile_options(zg_flags INTERFACE -Wno-restrict)
-    # It takes a source that is compiled together with others for a header, whose unnamed namespace would be a mistake.
+    # It takes a source that is compiled together with others for a header, and warns of its unnamed namespace.
     target_compile_options(zg_flags INTERFACE -Wno-subobject-linkage)
 endif()
 if(ZG_WERROR)
@@ -22,7 +22,7 @@ if(ZG_FUZZER)
     target_compile_options(zg_flags INTERFACE -O1 -gline-tables-only -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined)
 endif()
 
-# Windows spend their time in the toolkit, and compiling them is dear.
+# Windows spend their time in the toolkit, and optimising them takes long.
 if(CMAKE_BUILD_TYPE STREQUAL "Release")
     set(ZG_FORM_OPTIMISATION -O1)
 endif()
@@ -32,8 +32,8 @@ include(${CMAKE_CURRENT_LIST_DIR}/Precompiled.cmake)
 option(ZG_UNITY "Compile several sources of a library at once" ON)
 set(ZG_UNITY_SOURCES 8)
 
-# zg_compile_together(TARGET KIND): what makes a build fast. Files of one library are compiled some at a time, so names in their unnamed namespaces
-# must differ, and headers that nearly all read are compiled once.
+# zg_compile_together(TARGET KIND): for a fast build, sources of one library are compiled in groups, so names in their unnamed namespaces
+# must differ, and headers that nearly all of them include are precompiled.
 function(zg_compile_together target kind)
     set_target_properties(${target} PROPERTIES UNITY_BUILD ${ZG_UNITY} UNITY_BUILD_BATCH_SIZE ${ZG_UNITY_SOURCES})
     zg_precompile(${target} ${kind})

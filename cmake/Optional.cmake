@@ -1,6 +1,6 @@
-# What only tests or benchmarks need may be missing.
+# Packages that only tests or benchmarks need may be missing.
 
-# zg_optional(OPTION WHAT FOUND PACKAGE): makes a plain truth of AUTO, ON or OFF.
+# zg_optional(OPTION WHAT FOUND PACKAGE): turns AUTO, ON or OFF into a boolean.
 function(zg_optional option what found package)
     if(${option} STREQUAL "AUTO")
         if(found)
@@ -14,7 +14,7 @@ function(zg_optional option what found package)
     endif()
 endfunction()
 
-# A program compiled for the fuzzer has neither tests nor benchmarks beside it, and both need the toolkit.
+# A build for the fuzzer has neither tests nor benchmarks, which need the toolkit.
 if(ZG_FUZZER)
     set(ZG_TOOLKIT OFF)
 endif()
@@ -27,7 +27,7 @@ if(ZG_TESTS)
     find_package(GTest QUIET)
     find_package(Qt6 QUIET COMPONENTS Test)
     if(TARGET Qt6::Test)
-        # It gives each folder its own words for a macro that is not used here, and those would keep precompiled headers from being shared.
+        # It defines a macro, unused here, differently for each folder, which would keep precompiled headers from being shared.
         set_property(TARGET Qt6::Test PROPERTY INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
     endif()
     find_package(Python3 QUIET COMPONENTS Interpreter)

@@ -1,4 +1,4 @@
-# Read once for each kind of package.
+# CPack reads this file once for each kind of package.
 if(CPACK_GENERATOR STREQUAL "DEB")
     set(CPACK_COMPONENTS_ALL app system)
     set(CPACK_PACKAGING_INSTALL_PREFIX /usr/lib/zephyrgraph)

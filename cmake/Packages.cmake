@@ -1,5 +1,5 @@
-# Two packages: a portable folder, and one for Debian. The program keeps everything beside itself, so both hold the same folder; Debian's
-# adds what the system wants to find elsewhere.
+# Two packages: a portable folder, and one for Debian. The program keeps all its files in its own directory, so both contain the same folder; the
+# Debian package adds what the system expects elsewhere.
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME app)
 install(TARGETS zephyrgraph zephyrgraph-export tempoline DESTINATION . COMPONENT app)
 install(FILES ${PROJECT_SOURCE_DIR}/data/TimeZones.txt ${PROJECT_SOURCE_DIR}/data/Station_Data.csv ${PROJECT_SOURCE_DIR}/data/datums.csv

@@ -1,8 +1,8 @@
-# Headers that nearly every file of a kind reads, compiled once for each kind of target. A source still includes what it uses: nothing may depend on
-# these, and a build with -DZG_PRECOMPILED=OFF shows it.
+# Headers that nearly every file of a kind includes, precompiled once for each kind of target. A source still includes what it uses: nothing may
+# rely on these, which a build with -DZG_PRECOMPILED=OFF verifies.
 option(ZG_PRECOMPILED "Compile the headers of the standard library, the toolkit and the test framework once" ON)
 
-# zg_precompiled(NAME LINKS ... HEADERS ...): a kind. Those who use it must be compiled with the same options.
+# zg_precompiled(NAME LINKS ... HEADERS ...): a kind. Targets that use it must be compiled with the same options.
 function(zg_precompiled name)
     cmake_parse_arguments(ARG "" "" "LINKS;OPTIONS;HEADERS" ${ARGN})
     if(NOT ZG_PRECOMPILED)

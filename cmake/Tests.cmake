@@ -1,10 +1,10 @@
-# Fewer than in a library: tests are changed more often than they are built from nothing.
+# Fewer than in a library: tests are changed more often than they are built from scratch.
 set(ZG_UNITY_SOURCES 5)
 
-# What a test itself computes is little, and optimising it is dear.
+# Tests compute little themselves, and optimising them takes long.
 set(ZG_TEST_OPTIMISATION -O0)
 
-# zg_test_library(NAME [QT] SOURCES a.cpp ... LINKS ...): what several test programs share.
+# zg_test_library(NAME [QT] SOURCES a.cpp ... LINKS ...): code that several test programs share.
 function(zg_test_library name)
     cmake_parse_arguments(ARG "QT" "" "SOURCES;LINKS" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
@@ -20,8 +20,8 @@ function(zg_test_library name)
 endfunction()
 
 # zg_test(NAME [QT] SOURCES a.cpp ... LINKS zg_base ... [NEEDS target ...] [PARTS n])
-# One test program, which can also be run by itself. ctest runs it whole, or in n parts side by side. Its labels are the folders on its way
-# from tests/ and "toolkit" or "fast". NEEDS names the programs and libraries that it starts or loads: they are built with it.
+# One test program, which can also be run by itself. ctest runs it whole, or in n parts side by side. Its labels are the folders on its path
+# below tests/ and "toolkit" or "fast". NEEDS names the programs and libraries that it starts or loads: they are built with it.
 function(zg_test name)
     cmake_parse_arguments(ARG "QT" "PARTS" "SOURCES;LINKS;NEEDS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
@@ -60,7 +60,7 @@ function(zg_test name)
     endforeach()
 endfunction()
 
-# zg_add_test_run(RUN PROGRAM KIND [VARIABLE=VALUE ...]): the program as a test of ctest, with these words in its environment.
+# zg_add_test_run(RUN PROGRAM KIND [VARIABLE=VALUE ...]): the program as a test of ctest, with these environment variables.
 function(zg_add_test_run run program kind)
     add_test(NAME ${run} COMMAND ${program} --gtest_brief=1)
     zg_label(${run} ${kind})
@@ -69,7 +69,7 @@ function(zg_add_test_run run program kind)
     set_property(TEST ${run} PROPERTY TIMEOUT 600)
 endfunction()
 
-# zg_label(TEST LABEL ...): these and the folders on the way from tests/ to here as labels.
+# zg_label(TEST LABEL ...): labels the test with these and with the folders on the path below tests/.
 function(zg_label test)
     file(RELATIVE_PATH folders ${PROJECT_SOURCE_DIR}/tests ${CMAKE_CURRENT_SOURCE_DIR})
     string(REPLACE "/" ";" folders "${folders}")

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Where the time of a build went, from ninja's log of it.
-#   tools/build_times.sh [DIRECTORY]             seconds by target and the twenty dearest files (of build/test, or of the directory given)
-#   tools/build_times.sh [DIRECTORY] --headers   and the dearest headers of those files, as clang reads them (some minutes)
-# Seconds are those that the jobs took, side by side jobs counted each.
+# Where the time of a build was spent, from ninja's log.
+#     tools/build_times.sh [DIRECTORY]             seconds by target and the twenty slowest files (of build/test, or of the given directory)
+#     tools/build_times.sh [DIRECTORY] --headers   and the slowest headers of those files, as clang reads them (some minutes)
+# Seconds are those of the jobs; parallel jobs count separately.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

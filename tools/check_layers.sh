@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Each folder may include only what stands below it in the map, and no toolkit header stands below platform/.
+# Each folder may include only folders below it in the map, and no folder below platform/ may include a toolkit header.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 fail=0

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Makes both packages, installs each into a clean Debian 12 made for it, and starts the programs there as a user without rights. Needs the
-# superuser (for chroot) and the network the first time; the clean system is kept in build/package-check.
-#   tools/check_packages.sh [BUILD]   the programs of that build directory; build/run, which is built first, if nothing is said
+# Makes both packages, installs each in a clean Debian 12, and starts the programs there as an unprivileged user. Needs root
+# (for chroot) and, the first time, the network; the clean system is kept in build/package-check.
+#     tools/check_packages.sh [BUILD]   the programs of that build directory; by default build/run, which is built first
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -54,7 +54,7 @@ start_once() {
     [ "$(ls "$root/tmp/out" | wc -l)" -eq 9 ] || { echo "$what: nine pictures were expected in /tmp/out" >&2; exit 1; }
     as_user sh -c "cd /tmp/out && '$place/tempoline.exe' /tmp/run.inp"
     [ -s "$root/tmp/out/out.frq" ] || { echo "$what: the processor made no rose" >&2; exit 1; }
-    # Ten seconds of the desktop program: it must still be there at the end.
+    # The desktop program must still be running after ten seconds.
     status=0
     as_user timeout 10 "$place/zephyrgraph" 2>"$work/start.log" || status=$?
     [ "$status" -eq 124 ] || { echo "$what: the program ended by itself with status $status" >&2; cat "$work/start.log" >&2; exit 1; }

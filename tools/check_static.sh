@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Static analysis of the programs' sources.
 #   tools/check_static.sh            cppcheck of everything: seconds
-#   tools/check_static.sh --tidy     and clang-tidy with the checks of .clang-tidy, by the commands of build/test: some minutes on two cores
-#   tools/check_static.sh --changed  the same, but clang-tidy only for what differs from the branch main or is not committed
+#     tools/check_static.sh --tidy     also clang-tidy with the checks of .clang-tidy and the commands of build/test: some minutes on two cores
+#     tools/check_static.sh --changed  the same, but clang-tidy only for files that differ from the branch main or are not committed
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

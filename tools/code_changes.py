@@ -1,4 +1,4 @@
-"""Finds the places of a C++ source where one small change makes another program, for tools/mutate.py.
+"""Finds the places in a C++ source where one small change gives a different program, for tools/mutate.py.
 
 The source is cut into words, not parsed: it counts on the project's own format (blanks on both sides of an operator of two
 sides, none inside the angles of a template). What it takes wrongly for code does not compile and costs one compilation.
@@ -6,7 +6,7 @@ sides, none inside the angles of a template). What it takes wrongly for code doe
 import re
 from collections import namedtuple
 
-# start and end are positions in the text; new is what the source has there after the change.
+# start and end are positions in the text; new is the text there after the change.
 Change = namedtuple("Change", "kind start end new")
 Word = namedtuple("Word", "kind text start end")
 
@@ -26,7 +26,7 @@ COMPARISONS = {"<": ("<=", ">="), "<=": ("<", ">"), ">": (">=", "<="), ">=": (">
                "&&": ("||",), "||": ("&&",)}
 ARITHMETIC = {"+": "-", "-": "+", "*": "/", "/": "*", "%": "*", "+=": "-=", "-=": "+=", "*=": "/=", "/=": "*=",
               "++": "--", "--": "++"}
-# A statement that begins with one of these is a declaration, or what it says has no effect of its own.
+# A statement that begins with one of these is a declaration or has no effect of its own.
 NO_STATEMENT = set("using typedef namespace template struct class enum union static const constexpr auto extern friend inline "
                    "virtual explicit operator static_assert assert mutable volatile public private protected "
                    "unsigned signed int double float bool char long short void goto return".split())
@@ -49,7 +49,7 @@ def words_of(text):
 
 
 class Source:
-    """One source and where its brackets close."""
+    """One source and the matching brackets in it."""
 
     def __init__(self, text):
         self.text = text
@@ -72,7 +72,7 @@ class Source:
         return self.words[i].text if 0 <= i < len(self.words) else ""
 
     def loose(self, i):
-        """An operator of two sides: blanks on both sides of it."""
+        """A binary operator: blanks on both sides of it."""
         word = self.words[i]
         return self.text[word.start - 1:word.start].isspace() and self.text[word.end:word.end + 1].isspace()
 
@@ -80,11 +80,11 @@ class Source:
         return any(0 <= at < len(self.words) and self.words[at].kind == "string" for at in (i - 1, i + 1))
 
     def touches(self, i):
-        """Nothing between this word and the one before it."""
+        """No space between this word and the one before it."""
         return i > 0 and self.words[i - 1].end == self.words[i].start
 
     def in_angles(self, i):
-        """A number that is an argument of a template: array<int, 4>."""
+        """A number that is a template argument: array<int, 4>."""
         while i > 0 and self.words[i].kind in ("name", "number") or self.word(i) in (",", "::"):
             i -= 1
         return self.word(i) == "<" and self.touches(i)
@@ -96,7 +96,7 @@ class Source:
 
 
 def number_after(text):
-    """Other numbers to put in the place of one, or none where it is not plain."""
+    """Other numbers to replace one with, or none if it is not a plain number."""
     match = re.fullmatch(r"(.*?)([uUlLzZ]*)", text)
     body, suffix = match.group(1).replace("'", ""), match.group(2)
     if re.fullmatch(r"\d+", body) and (len(body) == 1 or body[0] != "0"):
@@ -145,13 +145,13 @@ def expression_changes(source):
 
 
 def condition_changes(source):
-    """A condition turned round."""
+    """A negated condition."""
     for i, word in enumerate(source.words):
         if word.text not in ("if", "while") or source.word(i + 1) != "(" or i + 1 not in source.closing:
             continue
         first, last = i + 1, source.closing[i + 1]
         inside = [w.text for w in source.words[first + 1:last]]
-        if ";" in inside or "=" in inside:  # declares what it asks for
+        if ";" in inside or "=" in inside:  # it contains a declaration
             continue
         start, end = source.words[first].end, source.words[last].start
         yield "negation", [Change("negation", start, end, "!(" + source.text[start:end] + ")")]
@@ -215,7 +215,7 @@ def argument_changes(source):
 
 
 def own_start(source, start, end):
-    """Where a statement begins after `if (...)`, `else`, `case 3:` and their like."""
+    """Where a statement begins after `if (...)`, `else`, `case 3:` and the like."""
     while start < end:
         text = source.word(start)
         if text in ("if", "for", "while", "switch"):
@@ -235,13 +235,13 @@ def own_start(source, start, end):
 
 
 def is_statement(source, start, end):
-    """Whether the words are something to do, not a declaration."""
+    """Whether the words are an action, not a declaration."""
     text = source.word(start)
     if end == start + 1 and text == "return":
         return True
     if start >= end or text in NO_STATEMENT or text == "[" or text == "}":
         return False
-    if any(word.text == "reserve" for word in source.words[start:end]):  # makes it faster only
+    if any(word.text == "reserve" for word in source.words[start:end]):  # affects only speed
         return False
     return text in ("break", "continue", "throw", "delete") or not declares(source, start, end)
 
@@ -256,8 +256,8 @@ def block_kind(source, start, brace):
 
 
 def statement_changes(source):
-    """A statement taken away."""
-    blocks = []  # (kind, where the statement round it began)
+    """A removed statement."""
+    blocks = []  # (kind, where the enclosing statement began)
     start = i = 0
     parens = [0]
     while i < len(source.words):
@@ -284,7 +284,7 @@ def statement_changes(source):
 
 
 def changes_of(text):
-    """Every place of the text where a change can be made: a list of (kind, [Change, ...]), in the order of the text."""
+    """Every place of the text where a change is possible: a list of (kind, [Change, ...]), in the order of the text."""
     source = Source(text)
     found = []
     for finder in (expression_changes, condition_changes, argument_changes, statement_changes):

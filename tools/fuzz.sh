@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Runs every fuzz target for some seconds, one a core, with what ./test.sh has built. New inputs go to build/fuzz-inputs, never into the kept corpus.
-#   tools/fuzz.sh [SECONDS] [TARGET ...]     10 seconds of all targets, if nothing is said
+# Runs every fuzz target for some seconds, one per core, as built by ./test.sh. New inputs go to build/fuzz-inputs, never into the corpus.
+#     tools/fuzz.sh [SECONDS] [TARGET ...]     by default 10 seconds of all targets
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Makes the pictures of the user guide anew, by the program: forms as the tests know them, and moments of the walk in a real window. Needs what
-# ./test.sh has built (or the programs of the directory that is given) and what ./test.sh --e2e needs.
+# Renews the pictures of the user guide: forms from the tests' table, and moments of the walk in a real window. Needs what
+# ./test.sh has built (or the programs in the given directory) and what ./test.sh --e2e needs.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes the made-up raw samples: the same two months of a valley wind in every layout that the processor reads.
+"""Makes the invented raw samples: the same two months of a valley wind in every format that the processor reads.
 
 python3 tools/make_raw_samples.py [data/samples]
 """
@@ -64,7 +64,7 @@ def up(path):
 
 
 def monitor(path):
-    """One station after the other, the code in the third column: the dialog lists a station each time it comes anew."""
+    """One station after the other, the code in the third column: the dialog lists a station each time its code changes."""
     generator = random.Random(3)
     lines = ["DATETIME,DATAAVID,STNCODE,WDIR,WSPD,TEMP"]
     for station, height in (("valley", 10.0), ("ridge", 60.0)):

@@ -91,7 +91,7 @@ def class_shares(speed, shape, limits):
 
 
 def whole_parts(shares, total):
-    """Whole numbers in the proportion of the shares that add up to the total (largest remainders)."""
+    """Whole numbers in proportion to the shares that add up to the total (largest remainders)."""
     scale = total / sum(shares)
     parts = [math.floor(share * scale) for share in shares]
     by_remainder = sorted(range(len(shares)), key=lambda i: (parts[i] - round(shares[i] * scale, 6), i))

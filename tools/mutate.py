@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Lets the tests of a folder judge themselves: changes one thing of its code at a time, builds and runs its tests, and prints
+"""Lets the tests of a folder be judged: makes one change at a time to its code, builds and runs its tests, and prints
 the changes that no test noticed.
 
     tools/mutate.py graph/frq                    40 changes
@@ -51,7 +51,7 @@ class Outcome:
 
 
 def bring_up_to_date(copy):
-    """Makes the copy hold what the checkout holds, and nothing else. What is the same keeps its time."""
+    """Makes the copy equal to the checkout. Unchanged files keep their time."""
     listed = subprocess.run(["git", "ls-files", "-z", "-co", "--exclude-standard"], cwd=ROOT, check=True, capture_output=True)
     wanted = {name for name in os.fsdecode(listed.stdout).split("\0") if name and (ROOT / name).is_file()}
     for path in list(copy.rglob("*")) if copy.exists() else []:
@@ -68,7 +68,7 @@ def bring_up_to_date(copy):
 
 @contextmanager
 def changed(path, change):
-    """The file with the change made, for as long as the block runs, however it ends."""
+    """The file with the change made, while the block runs, however it ends."""
     before = path.read_bytes()
     text = before.decode("utf-8")
     try:
@@ -88,17 +88,17 @@ def limits():
 
 
 def end_session(session):
-    """Ends all that a child of ours started, the compilers of a build too, which have process groups of their own."""
+    """Ends all descendants of this process, including the compilers of a build, which have process groups of their own."""
     for entry in Path("/proc").glob("[0-9]*/stat"):
         try:
             if int(entry.read_text("utf-8", "replace").rpartition(")")[2].split()[3]) == session:
                 os.kill(int(entry.parent.name), signal.SIGKILL)
         except (OSError, IndexError, ValueError):
-            pass  # it ended meanwhile
+            pass  # it has ended meanwhile
 
 
 def run(command, cwd, seconds=None, env=None, limited=False):
-    """Exit status and output; None instead of a status where the time ran out. No child outlives the call."""
+    """Exit status and output; no status (None) after a time-out. No child outlives the call."""
     child = subprocess.Popen(command, cwd=cwd, env=env, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                              stderr=subprocess.STDOUT, start_new_session=True, preexec_fn=limits if limited else None)
     try:
@@ -150,7 +150,7 @@ def ended(status):
 
 
 class Work:
-    """The copy, its build and the tests that judge."""
+    """The copy, its build and the tests to run."""
 
     def __init__(self, base, folder):
         self.folder, self.copy, self.build = folder, base / "tree", base / "cmake"
@@ -169,7 +169,7 @@ class Work:
             raise CannotRun(output)
 
     def find_tests(self, wanted, also, ctest):
-        """The test programs that are built of sources in tests/FOLDER, then those named, then those of ctest."""
+        """The test programs built from sources in tests/FOLDER, then the named ones, then those of ctest."""
         suites = {}
         for command in json.loads((self.build / "compile_commands.json").read_text()):
             source = Path(command["file"])
@@ -191,7 +191,7 @@ class Work:
         return run(["ninja", "-C", str(self.build), "-j1"] + self.targets, self.copy)
 
     def prove(self):
-        """The tests pass on the code as it is; their time says how long a changed program may take."""
+        """The tests pass on the unchanged code; their time determines how long a changed program may take."""
         status, output = self.make()
         if status != 0:
             raise CannotRun(output)
@@ -203,7 +203,7 @@ class Work:
             test.seconds = 10 + 5 * (time.monotonic() - before)
 
     def judge(self, change):
-        """What became of the program with the change, and which test saw it."""
+        """The outcome for the program with the change, and which test noticed it."""
         with changed(self.copy / change["file"], change):
             status, _ = self.make()
             if status != 0:
@@ -219,7 +219,7 @@ class Work:
 
 
 def text_of(path):
-    """With its own line ends, so that positions hold for the file."""
+    """With its own line ends, so that positions in the file are right."""
     return path.read_bytes().decode("utf-8")
 
 
@@ -237,7 +237,7 @@ def described(copy, path, text, change):
 
 
 def chosen_changes(copy, paths, seed):
-    """All changes in the order in which they are drawn: each kind in its turn, each place once."""
+    """All changes in random order: the kinds in turn, each place once."""
     chance = random.Random(seed)
     by_kind = {kind: [] for kind in KINDS}
     for path in paths:
@@ -253,7 +253,7 @@ def chosen_changes(copy, paths, seed):
 
 
 def found_again(copy, changes):
-    """The changes of an earlier run, each where its line is now; those whose code is no longer there are left out."""
+    """The changes of an earlier run, at their current lines; those whose code no longer exists are left out."""
     for change in changes:
         path = copy / change["file"]
         text = text_of(path) if path.exists() else ""
@@ -275,7 +275,7 @@ def told(change):
 
 
 def judge_all(work, drawn, count, results):
-    """Judges changes until so many compiled. Those of one file come together, which saves compiling it back."""
+    """Judges changes until that many have compiled. Those of one file come together, to save recompiling it."""
     while True:
         missing = count - sum(result["outcome"] != Outcome.NOT_COMPILED for result in results)
         batch = [change for _, change in zip(range(missing), drawn)]

@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that building, running and testing need: only those that are missing.
+# Installs the Debian packages for building, running and testing that are missing.
 #   tools/setup.sh            what ./run.sh needs
 #   tools/setup.sh --tests    and what ./test.sh needs
-#   tools/setup.sh --e2e      and what the walk through the program in a real window needs
+#     tools/setup.sh --e2e      and what the walk through the program in a real window needs
 #   tools/setup.sh --checks   and what the stricter checks need
 #   tools/setup.sh --windows  and the compiler for Windows
-#   tools/setup.sh --cluster  what tests/cluster/slurm.sh needs, and nothing else
+#     tools/setup.sh --cluster  only what tests/cluster/slurm.sh needs
 set -euo pipefail
 
 packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libcli11-dev nlohmann-json3-dev libproj-dev
@@ -53,10 +53,10 @@ fi
 echo "Installing: ${missing[*]}"
 export DEBIAN_FRONTEND=noninteractive
 install() { "${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null; }
-# The package lists may be missing or too old: only then are they fetched.
+# The package lists may be missing or too old: only then they are fetched.
 install 2>/dev/null || { "${as_root[@]}" apt-get update -qq && install; }
 
-# The checks start daemons of their own; those of the packages that came just now are not to run.
+# The checks start their own daemons; those of the newly installed packages must not run.
 if [ "${1:-}" = --cluster ] && [ -d /run/systemd/system ]; then
     for service in munge slurmctld slurmd; do
         case " ${missing[*]} " in *" $service "*) "${as_root[@]}" systemctl disable --now --quiet $service || true ;; esac

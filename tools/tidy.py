@@ -1,4 +1,4 @@
-"""clang-tidy over the sources of the named folders, by the compile commands of a build directory.
+"""Runs clang-tidy on the sources of the named folders, with the compile commands of a build directory.
 
     tools/tidy.py BUILD FOLDER ... -- [CHANGED ...]
 
@@ -17,7 +17,7 @@ import sys
 
 
 def sources_of(file):
-    """The sources that a file of the build directory puts together, or the file itself."""
+    """The sources that a file of the build directory combines, or the file itself."""
     if not re.search(r"/Unity/unity_\d+_cxx\.cxx$", file):
         return [file]
     with open(file, encoding="utf-8") as text:
@@ -37,7 +37,7 @@ def plain(command):
 
 
 def reads(entry, changed):
-    """Whether the sources of a command, or headers that they name, are among the changed ones."""
+    """Whether the sources of a command, or headers that they include, are among the changed files."""
     for source in sources_of(entry["file"]):
         if os.path.relpath(source) in changed:
             return True
@@ -64,7 +64,7 @@ def main():
         json.dump(wanted, text)
 
     def run(entry):
-        # A file that puts sources together may include them.
+        # A file that combines sources may include them.
         return subprocess.run(["clang-tidy-14", "-quiet", "-p", place, "--checks=-bugprone-suspicious-include",
                                "--header-filter=^(?!.*(autogen|/usr/)).*\\.(h|cpp)$", entry["file"]],
                               capture_output=True, text=True, check=False)

@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
 # Runs several control files on all cores of this machine and joins their counts.
-#   parallel.sh NAME A.inp B.inp ...     makes NAME.frq and NAME.tab of the TAB files of the runs
-# TEMPOLINE names the processor when it does not lie in the PATH as tempoline.exe.
+#     parallel.sh NAME A.inp B.inp ...     makes NAME.frq and NAME.tab from the TAB files of the runs
+# TEMPOLINE names the processor if it is not in the PATH as tempoline.exe.
 set -euo pipefail
 
 export TEMPOLINE=${TEMPOLINE:-tempoline.exe}
 name=$1
 shift
 
-# Each output of a run stands in its control file as "! TSFOUT = NAME !", the one of a run that reads a series as
+# A control file names each output in a line "! TSFOUT = NAME !"; that of a run that reads a series has
 # "! ROSEPLT = NAME !".
 outputs() {
     sed -n "s/ *!END!.*//; s/.*! *$1 *= *\\(.*[^ ]\\) *!.*/\\1/p" "$2"
@@ -24,7 +24,7 @@ done
 if command -v parallel >/dev/null 2>&1; then
     parallel --halt now,fail=1 "$TEMPOLINE" {} ::: "$@"
 else
-    # xargs begins nothing more only after a status of 255.
+    # Only a status of 255 keeps xargs from starting further runs.
     printf '%s\0' "$@" | xargs -0 -n 1 -P "$(nproc)" sh -c '"$TEMPOLINE" "$0" || exit 255'
 fi
 "$TEMPOLINE" --merge --out "$name" "${tabs[@]}"

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# The documented array job under a real Slurm: a cluster of one node, started here on the loopback and stopped at the end.
+# The documented array job with a real Slurm: a cluster of one node, started here on the loopback interface and stopped at the end.
 #   tests/cluster/slurm.sh PROCESSOR
-# Three parts of a year and the merge that depends on them give the result of one run over all; when a task is killed the merge
-# does not run, and a second submission of the same succeeds.
+# Three parts of a year and the dependent merge give the result of one run over all; if a task is killed the merge
+# does not run, and submitting the same again succeeds.
 set -euo pipefail
 
 root=$(cd "$(dirname "$0")/../.." && pwd)
@@ -132,7 +132,7 @@ submit() {
     merge=$(sbatch --parsable --dependency=afterok:"$array" --wrap "$TEMPOLINE --merge --out all part*.tab")
 }
 
-# The dependent merge, and with it all tasks, have completed, and its result is that of one run over all.
+# The dependent merge, and with it all tasks, have completed, and its result equals that of one run over all.
 check_merge() {
     await "end of the merge" is_over "$merge"
     [ "$(state_of "$merge")" = "COMPLETED None" ] || fail "the merge: $(state_of "$merge"); $(cat slurm-*.out)"
@@ -159,7 +159,7 @@ echo "== one task is killed while it reads"
 sed -i 's/! METINP = a.sfc !/! METINP = held.sfc !/' part1.inp
 mkfifo held.sfc
 (
-    exec 9>held.sfc  # goes on when the processor has opened it
+    exec 9>held.sfc  # continues when the processor has opened it
     touch opened
     exec sleep 60
 ) &

@@ -1,4 +1,4 @@
-"""A display of its own with a window manager, and the hands and eyes of a user at it: keys, mouse, screenshots."""
+"""A separate display with a window manager, and what a user does there: keys, mouse, screenshots."""
 import os
 import pathlib
 import re
@@ -9,7 +9,7 @@ import time
 
 
 class Failed(Exception):
-    """A step did not come to what was expected."""
+    """A step did not have the expected result."""
 
 
 class Desk:
@@ -54,7 +54,7 @@ class Desk:
         return done.stdout.strip()
 
     def work(self):
-        """What the display, the window manager and the program have computed so far; None while one of them still computes."""
+        """Processor time used so far by the display, the window manager and the program; None while one of them is busy."""
         total = 0
         for child in self.children:
             for task in pathlib.Path(f"/proc/{child.pid}/task").glob("*"):
@@ -67,7 +67,7 @@ class Desk:
         return total
 
     def settle(self, seconds=10):
-        """Waits until what was done before has come to its end, however slow the machine is. A caret that blinks does not count."""
+        """Waits until earlier input has been processed completely, however slow the machine is. A blinking caret does not count."""
         end = time.monotonic() + seconds
         before = None
         while time.monotonic() < end:
@@ -78,7 +78,7 @@ class Desk:
             time.sleep(0.06)
 
     def windows(self):
-        """Titles of the windows on show, by their numbers."""
+        """Titles of the visible windows, by number."""
         found = {}
         for number in self.tool("xdotool", "search", "--onlyvisible", "--name", "").split():
             title = self.tool("xdotool", "getwindowname", number)
@@ -87,7 +87,7 @@ class Desk:
         return found
 
     def wait(self, what, test, seconds=20):
-        """Polls until the test gives something; says what was expected and what is on show otherwise."""
+        """Polls until the test returns something; otherwise reports what was expected and what is displayed."""
         end = time.monotonic() + seconds
         while time.monotonic() < end:
             seen = test()
@@ -97,7 +97,7 @@ class Desk:
         raise Failed(f"expected within {seconds} s: {what}; windows on show: {sorted(set(self.windows().values()))}")
 
     def window(self, title, seconds=20):
-        """The number of the window whose title matches, once it is there and has the keyboard."""
+        """The number of the window whose title matches, once it exists and has the focus."""
         def look():
             for number, name in self.windows().items():
                 if re.fullmatch(title, name):
@@ -131,7 +131,7 @@ class Desk:
         self.tool("xdotool", "mouseup", 1)
 
     def shot(self, name, window="root", still=True):
-        """A picture of a window, once it is painted. While something moves there is nothing to wait for."""
+        """A picture of a window, once it is painted. Does not wait while something is animated."""
         if still:
             self.settle()
         self.count += 1
@@ -140,7 +140,7 @@ class Desk:
         return path
 
     def colours(self, path, box=None):
-        """How many pixels of each colour a picture, or a part of it as WxH+X+Y, has."""
+        """Number of pixels of each colour in a picture, or in a part of it given as WxH+X+Y."""
         crop = ["-crop", box, "+repage"] if box else []
         text = self.tool("convert", path, *crop, "-depth", "8", "-format", "%c", "histogram:info:-")
         found = {}
@@ -152,5 +152,5 @@ class Desk:
 
 
 def needed():
-    """Programs that are missing."""
+    """Required programs that are missing."""
     return [name for name in ("Xvfb", "openbox", "xdotool", "import", "convert") if shutil.which(name) is None]

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""A new user's walk through the whole program: a real window, keys and mouse only, judged by what can be seen and what lies in the files.
+"""A new user's walk through the whole program: a real window, keys and mouse only, judged by what is visible and by the files.
 
 python3 tests/e2e/walk.py BIN SHOTS
 
@@ -22,7 +22,7 @@ PAGE = "640x560+60+70"  # of the main window: the page without its surroundings
 
 class Walk:
     def __init__(self, programs, shots):
-        if "ZG_WALK_DIR" in os.environ:  # for pictures that are the same each time
+        if "ZG_WALK_DIR" in os.environ:  # for pictures that are always the same
             self.scratch = pathlib.Path(os.environ["ZG_WALK_DIR"])
             self.scratch.mkdir()
         else:
@@ -61,7 +61,7 @@ class Walk:
         self.desk.gone(title)
 
     def fill(self, key, text):
-        """Goes to a field by its key and replaces its text."""
+        """Moves to a field by its key and replaces its text."""
         self.desk.keys("alt+" + key)
         self.desk.keys("ctrl+a")
         self.desk.type(str(text))
@@ -72,7 +72,7 @@ class Walk:
         return self.desk.shot(name, self.main, still)
 
     def changed(self, before, after, what):
-        """The page differs in more than a few pixels."""
+        """Whether the page differs in more than a few pixels."""
         done = subprocess.run(["compare", "-metric", "AE", "-extract", PAGE, before, after, "null:"], capture_output=True, text=True)
         different = float(re.match(r"[\d.e+]+", done.stderr.strip() or "0").group(0))
         if different < 30:
@@ -185,7 +185,7 @@ class Walk:
         self.changed(before, after, "a curve")
 
     def pop_up(self, *keys):
-        """Opens the pop-up of the first row of the list of curves and presses keys in it."""
+        """Opens the context menu of the first row of the list of curves and presses keys in it."""
         _, height = self.size(self.main)
         self.desk.click(self.main, 100, height - 78)
         self.desk.click(self.main, 100, height - 78, 3)

@@ -1,4 +1,4 @@
-"""What all attacks share: a program started within limits, what no program may ever do, and the book of what happened."""
+"""What all attacks share: starting a program within limits, what no program may ever do, and the list of findings."""
 import collections
 import concurrent.futures
 import itertools
@@ -8,7 +8,7 @@ import traceback
 
 WORKERS = 2
 MOST_TOLD = 5
-PATIENCE = 60  # seconds after which a program hangs; none of these runs takes one
+PATIENCE = 60  # seconds after which a program counts as hanging; none of these runs takes one
 ODD_NAMES = [
     b'roses\n"touch" PWNED.frq', b"roses\r\ntouch PWNED", b"a b", b"-dash", b"--out", b"--", b'a"b', b"a'b", b"a%PATH%b", b"a&touch PWNED&b",
     b"a^b", b"a!b", b"a!!b!END!", b"$(touch PWNED)", b"`touch PWNED`", b"a;touch PWNED", b"a|touch PWNED", b"a>PWNED", b"*", b"?", b"[a]", b"~",
@@ -17,14 +17,14 @@ ODD_NAMES = [
 
 
 class Book:
-    """Counts attacks and keeps the faults that they found."""
+    """Counts attacks and collects the faults that they found."""
 
     def __init__(self):
         self.counts = collections.Counter()
         self.faults = collections.defaultdict(list)
 
     def run(self, kind, attack, cases):
-        """Carries out the attack on each case, some of them side by side."""
+        """Runs the attack on each case, some of them in parallel."""
         with concurrent.futures.ThreadPoolExecutor(WORKERS) as pool:
             for case, fault in pool.map(lambda case: (case, self.fault_of(attack, case)), cases):
                 self.counts[kind] += 1
@@ -54,7 +54,7 @@ class Book:
 
 
 class Place:
-    """Directories of their own for attacks; what lies beside one shows whether an attack got out of it."""
+    """Separate directories for attacks; files beside one show whether an attack wrote outside it."""
 
     def __init__(self, root):
         self.root = root
@@ -71,7 +71,7 @@ def names(directory):
 
 
 def launch(command, directory, limits=(), environment=None, status=(0, 1, 2), **named):
-    """Runs it to its end. It neither crashes nor hangs, gives one of those statuses, and leaves its directory alone."""
+    """Runs it to its end. It must not crash or hang, must exit with one of those statuses, and must leave its directory alone."""
     command = [os.fsencode(word) for word in command]
     if limits:
         command = [b"prlimit"] + [os.fsencode(limit) for limit in limits] + [b"--"] + command
@@ -95,7 +95,7 @@ def judge(status, errors, wanted):
 
 
 def kill_within(command, directory, seconds, environment=None):
-    """Whether it was killed after so many seconds, and not at its end before."""
+    """Whether it was killed after that many seconds, and had not ended before."""
     process = subprocess.Popen(command, cwd=directory, env=environment, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
                                stderr=subprocess.PIPE)
     try:

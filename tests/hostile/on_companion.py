@@ -16,7 +16,7 @@ CORPUS = HERE.parent / "fuzz" / "corpus" / "frq"
 
 
 def needs_whole(path):
-    """A picture under its own name is one from its first byte to its last."""
+    """A picture under its own name is complete."""
     with open(path, "rb") as file:
         data = file.read()
     end = os.path.splitext(path)[1].lower()
@@ -66,7 +66,7 @@ class Companion:
 
     @staticmethod
     def needs_lines(done):
-        """A failure is told, in lines that people can read."""
+        """A failure is reported in readable lines."""
         lines = done.stderr.decode(errors="replace").splitlines()
         assert bool(lines) == (done.returncode != 0), done.stderr
         assert len(lines) <= 12 and all(line.strip() for line in lines), done.stderr
@@ -135,7 +135,7 @@ class Companion:
     def within_limits(self, limit):
         directory = self.place.new()
         shutil.copy(SAMPLE, directory / "a.frq")
-        # Under the least of memory the system cannot load it (127), or its toolkit gives up before it can speak.
+        # With the least memory the system cannot load it (127), or its toolkit gives up before it can report anything.
         done = self.export(directory, "a.frq", "--size", "200", limits=[limit], status=(0, 1, 127))
         if done.returncode == 127:
             return

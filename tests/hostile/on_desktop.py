@@ -1,4 +1,4 @@
-"""Attacks on the start of the desktop program: what it reads beside itself is damaged."""
+"""Attacks on the start of the desktop program: the files that it reads from its own directory are damaged."""
 import os
 import pathlib
 import random
@@ -14,7 +14,7 @@ READ = ["Zephyrgraph.cfg", "orbita.cfg", "expr.dat", "TimeZones.txt", "Station_D
 
 
 def computed(process):
-    """Seconds that it has computed so far, and whether it waits."""
+    """Processor seconds used so far, and whether it is waiting."""
     fields = pathlib.Path("/proc/%d/stat" % process.pid).read_text().rpartition(")")[2].split()
     return int(fields[11]) + int(fields[12]), fields[0] == "S"
 
@@ -44,7 +44,7 @@ class Desktop:
         return directory
 
     def start(self, directory):
-        """It comes to its main window, or to a box that waits for an answer, and ends when it is told to."""
+        """It reaches its main window, or a box that waits for an answer, and ends when told to."""
         environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", HOME=str(directory.parent), XDG_CONFIG_HOME=str(directory.parent / "config"))
         process = subprocess.Popen([directory / "zephyrgraph"], cwd=directory, env=environment, stdin=subprocess.DEVNULL,
                                    stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)

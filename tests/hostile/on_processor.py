@@ -46,7 +46,7 @@ def clean(directory):
 
 
 def needs_told(done, directory, listing=LISTING):
-    """A failure is the last line on standard error, and the listing's last one."""
+    """The error is the last line on standard error and in the listing."""
     lines = done.stderr.decode(errors="replace").splitlines()
     assert done.returncode == 0 or lines and lines[-1].startswith("tempoline: "), done.stderr
     path = directory / listing
@@ -104,7 +104,7 @@ class Processor:
     # Kills
 
     def killed(self, lane):
-        """Of each output there is always one whole result, under its name or aside, and the next run cleans up."""
+        """Of each output one complete result always exists, under its name or aside, and the next run cleans up."""
         number, kills = lane
         chance = random.Random("%s kills %d" % (self.seed, number))
         directory = self.place.new()
@@ -195,7 +195,7 @@ class Processor:
         kind = KINDS[number % len(KINDS)]
         directory = self.sandbox(kind)
         text = (directory / "c.inp").read_bytes()
-        # Most of the file is commentary: the faults go into its assignments.
+        # Most of the file is commentary: damage its assignments.
         begin = [match.start() for match in re.finditer(rb"(?m)^.*! [A-Z0-9]+ *=.*$", text)]
         at = chance.choice(begin)
         text = text[:at] + mutated(chance, text[at:at + 150]) + text[at + 150:]
@@ -219,7 +219,7 @@ class Processor:
     # Names
 
     def named_run(self, directory, expected, arguments=("c.inp",), status=(0, 1, 2)):
-        """What it leaves are those files and no others; a run that fails leaves none of them."""
+        """It leaves exactly those files; a failed run leaves none of them."""
         before = set(names(directory))
         done = launch([self.program, *arguments], directory, status=status)
         made = set(names(directory)) - before
@@ -241,7 +241,7 @@ class Processor:
 
     @staticmethod
     def can_stand(name):
-        """A value is a line's part without blanks at its ends; a "!" ends it only where it looks like an end."""
+        """A value is a trimmed part of a line; a "!" ends it only where it looks like an end."""
         return name == name.strip() and not any(c < 32 or c == 127 for c in name) and b"!  !" not in name and b"!END!" not in name
 
     def name_of_control(self, name):
@@ -314,7 +314,7 @@ class Processor:
             surface_line(2004, 1, 1 + hour // 24, hour % 24 + 1) for hour in range(48)).encode() + b"\n")
         for end in ("frq", "tab", "tsf"):
             (directory / ("out." + end)).write_bytes(b"old")
-        # Under the least of memory the system cannot even load it.
+        # With the least memory the system cannot even load it.
         done = launch([self.program, "c.inp"], directory, [limit], status=(0, 1, 127))
         if done.returncode == 127:
             return
@@ -324,7 +324,7 @@ class Processor:
             assert len(content) == 1 and (content[0] == b"old") == (done.returncode != 0), names(directory)
 
     def full_disk(self, kilobytes):
-        """In a file system of its own, of that size; a system that gives none is told."""
+        """In a separate file system of that size; reports if the system does not provide one."""
         directory = self.place.new()
         (directory / "in.dat").write_bytes(b"header\n" + "\n".join(good_day()).encode() + b"\n")
         (directory / "c.inp").write_bytes(control(KINDS[0], ["../in.dat"]))

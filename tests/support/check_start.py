@@ -1,4 +1,4 @@
-"""A test program that lacks something says what, and how to build it.
+"""A test program reports what it lacks, and how to build it.
 
     check_start.py PROGRAM DIRECTORY
 """

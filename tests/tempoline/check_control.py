@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What the processor refuses before it reads any data: broken control files, names that are taken.
+"""What the processor refuses before it reads any data: damaged control files, names that are not available.
 
 check_control.py PROCESSOR WORK_DIRECTORY [CASE ...]
 """
@@ -14,7 +14,7 @@ from run_support import OLD, day_control, good_day, main, names, needs_aside, ne
 
 
 def case_cut_control(processor, directory):
-    """Cut at every line: refused with status 2, until nothing that is needed is missing."""
+    """Truncated after every line: refused with status 2, unless only optional lines are missing."""
     surface(directory, good_day())
     day_control(directory)
     whole = (directory / "c.inp").read_bytes()
@@ -106,7 +106,7 @@ def case_listing_over_others(processor, directory):
 
 
 def case_results_over_inputs(processor, directory):
-    """A result with the name of an input is refused, and the raw data stay."""
+    """A result with the name of an input is refused, and the raw data are unchanged."""
     surface(directory, good_day())
     data = (directory / "a.sfc").read_bytes()
     day_control(directory)
@@ -125,8 +125,8 @@ def case_results_over_inputs(processor, directory):
 
 
 def case_names_taken(processor, directory):
-    """A result that cannot take its name ends the run before the data are read, and the others stay as they are."""
-    day_control(directory)  # of data that are not there
+    """A result that cannot be created ends the run before the data are read, and the others are unchanged."""
+    day_control(directory)  # the data do not exist
     good = (directory / "c.inp").read_bytes().decode("latin-1")
     for end in ("frq", "tab", "tsf"):
         old_results(directory)
@@ -143,7 +143,7 @@ def case_names_taken(processor, directory):
         done = run(processor, directory, "c.inp")
         pattern = r"^tempoline: \w+(\.\w+)*: cannot be written: (File name too long|Is a directory)\n$"
         assert done.returncode == 1 and re.search(pattern, done.stderr), done.stderr
-    # a run that was killed, with the same number of its process, left files
+    # a killed run with the same process number left files
     (directory / "c.inp").write_bytes(good.encode("latin-1"))
     surface(directory, good_day())
     old_results(directory)

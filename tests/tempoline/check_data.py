@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The processor and its data: bad ones, interrupts, a full disk, little memory.
+"""The processor and its data: bad data, interrupts, a full disk, little memory.
 
 check_data.py PROCESSOR WORK_DIRECTORY [CASE ...]
 """
@@ -42,7 +42,7 @@ def case_bad_data(processor, directory):
     (directory / "a.sfc").rmdir()
     (directory / "a.sfc").write_bytes(b"")
     needs_failure(processor, directory, r"a\.sfc:1: the file ends where the header should stand")
-    # what is missing or stands twice is counted, not refused
+    # missing or repeated values are counted, not refused
     surface(directory, day[:5] + [day[4]] + [surface_line(2004, 1, 1, 6, "NaN", "nan")] + [surface_line(2004, 1, 1, 7, "*****")] + day[7:])
     assert run(processor, directory, "c.inp").returncode == 0
     listing = (directory / LISTING).read_text()
@@ -52,7 +52,7 @@ def case_bad_data(processor, directory):
 
 
 def case_long_line(processor, directory):
-    """A line of 1 GB (a hole in the file) is an error, and the memory for it is not there."""
+    """A line of 1 GB (a hole in the file) is an error, although there is no memory for it."""
     day_control(directory)
     for at in (0, 1):
         with open(directory / "a.sfc", "wb") as file:
@@ -67,7 +67,7 @@ def case_long_line(processor, directory):
 
 
 def case_memory(processor, directory):
-    """200 MB through less address space than that, with the gridded reader's thread too."""
+    """200 MB in less address space than that, also with the gridded reader's thread."""
     line = surface_line(2004, 1, 1, 1).encode()
     with open(directory / "a.sfc", "wb") as file:
         file.write(HEADER.encode() + b"\n")
@@ -76,7 +76,7 @@ def case_memory(processor, directory):
     done = run(processor, directory, "c.inp", preexec_fn=limited(64))
     assert done.returncode == 0, done.stderr
     (directory / "a.sfc").unlink()
-    with open(directory / "a.dat", "wb") as file:  # names of stations that nobody asks for
+    with open(directory / "a.dat", "wb") as file:  # stations that are not requested
         file.write(b"SURF.DAT 2.1\n0\nx\nUTC-0500\n2004 1 0 0 2004 2 0 0 2001\n00072\n")
         for _ in range(2000):
             file.write(b"x" * 100_000 + b"\n")
@@ -86,7 +86,7 @@ def case_memory(processor, directory):
     paths = [directory / "a.dat", directory / "b.dat"]
     make_inputs.ventos(paths)
     write_control(directory / "c.inp", "ventos_utm.inp", ["a.dat", "b.dat"], [(1, "out", "", 503, 4503, 10)], YEAR, gridded=True)
-    done = run(processor, directory, "c.inp", preexec_fn=limited(256))  # a thread has an arena of its own
+    done = run(processor, directory, "c.inp", preexec_fn=limited(256))  # each thread has its own arena
     assert done.returncode == 0, done.stderr
 
 
@@ -107,7 +107,7 @@ def case_outside_period(processor, directory):
 
 
 def with_hangup():
-    signal.signal(signal.SIGHUP, signal.SIG_DFL)  # under nohup it is off, and inherited so
+    signal.signal(signal.SIGHUP, signal.SIG_DFL)  # nohup ignores it, and this process may have inherited that
 
 
 def has_begun(directory):
@@ -116,7 +116,7 @@ def has_begun(directory):
 
 
 def fifo_run(processor, directory, name, text):
-    """A run in the middle of its input: its listing has been begun, and its results."""
+    """A run in the middle of its input: its listing and its results have been started."""
     (directory / LISTING).unlink(missing_ok=True)
     os.mkfifo(directory / name)
     process = subprocess.Popen([processor, "c.inp"], cwd=directory, stderr=subprocess.PIPE, text=True, preexec_fn=with_hangup)
@@ -151,7 +151,7 @@ def case_interrupted(processor, directory):
     text = (directory / "whole.dat").read_text()[:30_000]
     write_control(directory / "c.inp", "ventos_utm.inp", ["a.dat"], [(1, "out", "", 503, 4503, 10)], YEAR, gridded=True)
     interrupt(processor, directory, signal.SIGINT, "a.dat", text)
-    # a fault ends the run although the pipe stays open
+    # an error ends the run although the pipe stays open
     process, pipe = fifo_run(processor, directory, "a.dat", "VENTOS.DAT 2.0\n")
     assert 'version: "2.0" is not 2.1' in process.communicate(timeout=60)[1] and process.returncode == 1
     pipe.close()
@@ -173,7 +173,7 @@ def case_interrupted_opening(processor, directory):
 
 
 def case_killed(processor, directory):
-    """Of runs that were killed the next one removes what they left, unless they go on or are of another machine."""
+    """The next run removes what killed runs left, but not the files of live runs or other machines."""
     day_control(directory)
     text = "\n".join([HEADER] + good_day()[:5]) + "\n"
     for _ in range(3):
@@ -207,7 +207,7 @@ def case_killed(processor, directory):
 
 
 def case_failed_counts(processor, directory):
-    """The listing of a run that failed says what was counted until then."""
+    """The listing of a failed run reports what was counted until then."""
     day_control(directory)
     day = good_day()
     surface(directory, day[:5] + [day[4], surface_line(2004, 1, 1, 6, "0.3"), surface_line(2004, 1, 1, 7, "999.0")] +
@@ -221,7 +221,7 @@ def case_failed_counts(processor, directory):
 
 
 def case_shrinking_file(processor, directory):
-    """Cut while it is read: stopped in the middle, cut, and let go on."""
+    """Truncated while it is read: stopped in the middle, truncated, and continued."""
     day_control(directory)
     line = surface_line(2004, 1, 1, 1)
     count = 400_000
@@ -250,7 +250,7 @@ def case_shrinking_file(processor, directory):
 
 
 def read_position(pid, path):
-    """How far a process has read a file; 0 where it has not opened it."""
+    """How far a process has read a file; 0 if it has not opened it."""
     try:
         for entry in os.scandir("/proc/%d/fd" % pid):
             if os.readlink(entry.path) == str(path):
@@ -262,7 +262,7 @@ def read_position(pid, path):
 
 
 def case_full_disk(processor, directory):
-    """No more than so many bytes go into a file: what does not fit is an error, at whatever point it comes."""
+    """A file size limit: exceeding it is an error, wherever it happens."""
     surface(directory, [surface_line(2004, 1 + day // 29, 1 + day % 29, hour) for day in range(58) for hour in range(1, 25)])
     for limit in (1000, 40_000):
         day_control(directory, period=[2004, 1, 1, 0, 0, 2004, 2, 29, 0, 0])
@@ -271,7 +271,7 @@ def case_full_disk(processor, directory):
         assert done.returncode == 1 and re.search(r"out\.tsf: cannot be written: File too large", done.stderr), done.stderr
         needs_aside(directory)
         assert not temporaries(directory), names(directory)
-    assert run(processor, directory, "c.inp").returncode == 0  # and with room it is made
+    assert run(processor, directory, "c.inp").returncode == 0  # and with enough room it succeeds
     assert roses_of_frq(directory / "out.frq")["All Periods"][2] == 59 * 24
 
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Compares every shift of DatumShifts.cpp with the transformations in the database that comes with PROJ.
+"""Compares every shift in DatumShifts.cpp with the transformations in the database that comes with PROJ.
 
 check_datums.py
 
@@ -16,7 +16,7 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parent.parent.parent
 SKIPPED = 77
 
-# As the table of the shifts has them.
+# As in the table of shifts.
 ELLIPSOIDS = {
     "Airy 1830": (6377563.396, 299.3249646),
     "Australian National": (6378160, 298.25),
@@ -41,11 +41,11 @@ ELLIPSOIDS = {
     "WGS 84": (6378137, 298.257223563),
 }
 
-# The database has these numbers with the Everest ellipsoids that the national surveys use today, and warns itself that those are not the
-# ones the numbers were made for.
+# The database gives these numbers for the Everest ellipsoids that the national surveys use today, and itself warns that they are not the
+# ones for which the numbers were determined.
 OTHER_ELLIPSOID = {"IND-I", "IND-P"}
 
-# The database names the area by another word than the dialog's region.
+# The database uses another word for the area than the dialog's region.
 OTHER_AREA = {"EUS": "europe", "KUS": "kosrae", "REU": "reunion", "SAN-M": "america", "SGM": "selvagens"}
 
 QUERY = """
@@ -72,7 +72,7 @@ class Transformation:
         self.axis = axis * metre
 
     def has_ellipsoid(self, axis, inverse):
-        # Different agencies round the axis of Clarke 1880 and the flattening of the Everests differently.
+        # Agencies round the axis of Clarke 1880 and the flattening of the Everests differently.
         return abs(self.axis - axis) < 0.2 and abs(self.inverse - inverse) < 0.002
 
     def __str__(self):
@@ -103,14 +103,14 @@ def processor_rows():
 
 
 def words(text):
-    """Only those that tell one place from another."""
+    """Only the words that distinguish one place from another."""
     common = {"mean", "for", "island", "islands", "excluding", "near", "east", "west", "north", "south", "eastern", "western",
               "northern", "southern", "and", "the", "saint", "onshore", "offshore"}
     return {word for word in re.findall(r"[a-z]{3,}", text.lower()) if word not in common}
 
 
 def problem(code, shift, dialog, transformations):
-    """What is wrong with the row, "" for nothing."""
+    """What is wrong with the row, "" if nothing."""
     ellipsoid, region = dialog
     same = [t for t in transformations if t.shift == shift]
     if not same:

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Runs over parts of a period, joined: by hand, by the script for GNU parallel, by that for Slurm.
+"""Runs over parts of a period, joined by hand, by the script for GNU parallel, and by that for Slurm.
 
 check_joined.py PROCESSOR WORK_DIRECTORY [CASE ...]
 """
@@ -16,7 +16,7 @@ from run_support import ROOT, SKIPPED, limited, main, names, run
 
 
 def parts_of_year(directory, bounds):
-    """A control file for each part of the year; their names."""
+    """Writes a control file for each part of the year; returns their names."""
     make_inputs.aermet_surface(directory / "a.sfc")
     controls = []
     for number, (begin, end) in enumerate(zip(bounds, bounds[1:])):
@@ -56,7 +56,7 @@ def case_merged(processor, directory):
         assert done.returncode == 1 and re.search(pattern, done.stderr), done.stderr
         assert not (directory / "none.frq").exists() and not (directory / "none.tab").exists()
     assert run(processor, directory, "--merge").returncode == 2
-    done = run(processor, directory, "--merge", "part0.tab", "none.tab")  # of which there were results
+    done = run(processor, directory, "--merge", "part0.tab", "none.tab")  # results of that name existed
     kept = "tempoline: the results of an earlier run are kept as merged.previous.frq, merged.previous.tab"
     assert done.returncode == 1 and done.stderr.splitlines()[0] == kept, done.stderr
     assert not (directory / "merged.frq").exists() and not (directory / "merged.tab").exists()
@@ -66,7 +66,7 @@ def case_merged(processor, directory):
 
 
 def case_huge_tab(processor, directory):
-    """3 GB (a hole) where a TAB file should be: told, and the memory for it is not there."""
+    """3 GB (a hole) in place of a TAB file: reported, although there is no memory for it."""
     for head in (b"", b"WIND.TAB        1.0             Zephyrgraph counts of winds\r\n"):
         with open(directory / "big.tab", "wb") as file:
             file.write(head)
@@ -74,7 +74,7 @@ def case_huge_tab(processor, directory):
         done = run(processor, directory, "--merge", "big.tab", preexec_fn=limited(250))
         assert done.returncode == 1 and done.stderr == "tempoline: big.tab: this is too long for a TAB file\n", done.stderr
     assert names(directory) == ["big.tab"], names(directory)
-    # with less memory than that it is still told
+    # with less memory than that it is still reported
     done = run(processor, directory, "--merge", "big.tab", preexec_fn=limited(40))
     assert done.returncode == 1 and done.stderr == "tempoline: there is not enough memory\n", (done.returncode, done.stderr)
     (directory / "big.tab").unlink()
@@ -113,7 +113,7 @@ def check_parallel(processor, directory, path):
     done = parallel_script(directory, processor, "again.inp", path=path)
     assert done.returncode == 0, done.stderr
     assert roses_of_tab(directory / "joined.tab") == roses_of_tab(directory / "again.tab")
-    # a run that fails ends all, and those that have not begun never do
+    # a failed run ends all others, and no further one starts
     (directory / "joined.frq").unlink()
     last = ["last%d.inp" % number for number in range(40)]
     for control in last:
@@ -137,12 +137,12 @@ def case_parallel(processor, directory):
 
 
 def case_parallel_xargs(processor, directory):
-    """The same where there is no GNU parallel."""
+    """The same without GNU parallel."""
     check_parallel(processor, directory, path_without_parallel(directory))
 
 
 def case_slurm(processor, directory):
-    """The array file of the documentation, its tasks started as the scheduler would start them."""
+    """The documented array file, its tasks started as the scheduler would start them."""
     controls = parts_of_year(directory, BOUNDS)
     (directory / "controls.txt").write_text("".join(name + "\n" for name in controls))
     assert run(processor, directory, "whole.inp").returncode == 0

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What results and listing mean: north, place, hour and height are those that a person takes them for.
+"""What results and listing mean: north, place, hour and height are what a user takes them for.
 
 check_meaning.py PROCESSOR WORK_DIRECTORY [CASE ...]
 """
@@ -18,14 +18,14 @@ HOUR = timedelta(hours=1)
 
 
 def completes(processor, directory):
-    """Standard error and the listing of a run that completes."""
+    """Standard error and the listing of a run that succeeds."""
     done = run(processor, directory, "c.inp")
     assert done.returncode == 0, done.stderr
     return done.stderr, (directory / LISTING).read_text(encoding="latin-1")
 
 
 def ventos(path, projection, grid, rows, hours=24, promised=24):
-    """One level at 10 m; rows: the lines of u and of v of every hour."""
+    """One level at 10 m; rows: the lines of u and of v for every hour."""
     last = datetime(2004, 1, 1) + promised * HOUR
     lines = ["VENTOS.DAT 2.1", "0", "2004 1 1 0 0 %d %d %d %d 0 UTC+0000 3600" % (last.year, last.month, last.day, last.hour),
              projection, grid, "0 20"]
@@ -40,14 +40,14 @@ def ventos_control(directory, x, y, height=10, **keys):
 
 
 def sectors(directory, name="out"):
-    """The sectors with winds, by their number of steps."""
+    """The sectors with winds, and their number of steps."""
     rows = roses_of_tab(directory / (name + ".tab"))["All Periods"][0]
     labels = ["N", "NNE", "NE", "ENE", "E", "ESE", "SE", "SSE", "S", "SSW", "SW", "WSW", "W", "WNW", "NW", "NNW"]
     return {label: sum(row) for label, row in zip(labels, rows) if sum(row) > 0}
 
 
 def case_true_north(processor, directory):
-    """Twenty-one degrees east of its meridian a conical grid is turned by more than half a sector."""
+    """Twenty-one degrees east of its meridian a conical grid is rotated by more than half a sector."""
     half = lambda latitude: math.tan(math.radians(45 + latitude / 2))
     n = math.log(math.cos(math.radians(33)) / math.cos(math.radians(47))) / math.log(half(47) / half(33))
     rho = lambda latitude: 6370 * math.cos(math.radians(33)) * (half(33) / half(latitude)) ** n / n
@@ -64,7 +64,7 @@ def case_true_north(processor, directory):
         assert sectors(directory) == {sector: 24}, (wind, sectors(directory))
         told = float(re.search(r"Grid north +([\d.-]+) degrees clockwise of true north", listing).group(1))
         assert abs(told - turn) < 2e-6, (told, turn)
-    # the same winds of a grid in degrees are not turned
+    # the same winds on a grid in degrees are not rotated
     ventos_control(directory, -76, 40, PMAP="LL", DATUM="NWS-84")
     ventos(directory / "a.dat", "LL NWS-84 N NONE 0 0 NONE NONE NONE NONE", "1 1 1 -76.5 39.5 1", ["0", "5"])
     _, listing = completes(processor, directory)
@@ -72,7 +72,7 @@ def case_true_north(processor, directory):
 
 
 def case_right_place(processor, directory):
-    """Cells of 10 km whose winds tell which they are; the map of the data is true at 20 degrees."""
+    """Cells of 10 km whose winds identify them; the map of the data is true at 20 degrees."""
     east = " ".join("0" for _ in range(20))
     north = " ".join(str(-1 - column) for column in range(20))
     ventos(directory / "a.dat", "EM NWS-84 N NONE 0 0 0.0N 97.0W 20.0N NONE", "20 1 1 495 1995 10", [east, north])
@@ -89,7 +89,7 @@ def case_right_place(processor, directory):
     ventos_control(directory, 600, 2128.4, **{**keys, "RLON0": "96.999W"})
     _, listing = completes(processor, directory)
     assert re.search(r"X and Y are +on EM, RLON0 = 96.999W, XLAT1 = 0N, DATUM = NWS-84", listing), listing
-    # broken headers
+    # damaged headers
     for parallel in ("0", "0.0N", "NONE"):
         ventos(directory / "a.dat", "PS NWS-84 N NONE 0 0 90.0N 97.0W %s NONE" % parallel, "20 1 1 495 1995 10", [east, north])
         needs_failure(processor, directory, r"a\.dat:4: XLAT1: a polar map needs the parallel that it is true at")
@@ -103,7 +103,7 @@ def case_right_place(processor, directory):
 
 
 def monitor(path, minutes, hours):
-    """The wind of an hour is that of its number, in records of so many minutes."""
+    """The wind of an hour is that of its number, in records of this many minutes."""
     lines = ["DATETIME,STNCODE,DATAAVID,WDIR,WSPD"]
     for i in range(hours * 60 // minutes):
         end = datetime(2004, 1, 1) + (i + 1) * timedelta(minutes=minutes)
@@ -114,7 +114,7 @@ def monitor(path, minutes, hours):
 
 
 def case_right_hour(processor, directory):
-    """Roses of the same wind in steps of an hour and of ten minutes agree."""
+    """Roses of the same wind in steps of an hour and of ten minutes are equal."""
     period = [2004, 1, 1, 0, 0, 2004, 1, 5, 0, 0]
     for step, minutes in ((3600, 60), (600, 10), (1800, 10), (600, 5)):
         monitor(directory / "m.csv", minutes, 96)
@@ -130,7 +130,7 @@ def case_right_hour(processor, directory):
             assert frq[title][2:] == (many * total, many * valid, many * calms), title
             assert tab[title][0] == [[many * count for count in row] for row in hourly[1][title][0]], title
     assert "Hours 01-06" in hourly[0] and hourly[0]["Hours 01-06"][2] == 24
-    # that range holds what begins at midnight, and not what begins at six
+    # that range includes what begins at midnight, and not what begins at six
     write_control(directory / "c.inp", "monitorw.inp", ["m.csv"], ONE, [2004, 1, 1, 0, 0, 2004, 1, 1, 0, 600], step=600)
     completes(processor, directory)
     assert "Hours 01-06" in roses_of_frq(directory / "out.frq")
@@ -140,7 +140,7 @@ def case_right_hour(processor, directory):
 
 
 def case_heights(processor, directory):
-    """The results say the height that was asked; listing and standard error say the level."""
+    """The results state the requested height; listing and standard error state the level."""
     lines = ["2004 1 1 %d %s 0 %d 5.0 1 2 3" % (hour, height, direction)
              for hour in range(1, 25) for height, direction in ((10, 90), (41 if hour < 24 else 45, 180))]
     make_inputs.write(directory / "a.pfl", lines)
@@ -160,11 +160,11 @@ def case_heights(processor, directory):
         assert "Height: %s m" % height in (directory / (name + ".frq")).read_text()
         assert "Height: %s m" % height in (directory / (name + ".tab")).read_text()
         assert "WSPEED  M/S  %s\n" % height in (directory / (name + ".tsf")).read_text()
-    assert sectors(directory, "tie") == {"E": 24}, sectors(directory, "tie")  # the lower of two equals
+    assert sectors(directory, "tie") == {"E": 24}, sectors(directory, "tie")  # the lower of two at the same distance
 
 
 def case_early_end(processor, directory):
-    """A header promises a day, and the file holds ten hours of it."""
+    """A header states a day, and the file holds ten hours of it."""
     promise = r"WARNING: a\.dat: the header promises data until 2004-01-02 00:00:00, and the last record ends 2004-01-01 10:00:00"
     hours = range(10)
     surf_head = ["SURF.DAT 2.1", "0", "x", "UTC-0500", "2004 1 0 0 2004 1 24 0 1", "00072"]
@@ -190,20 +190,20 @@ def case_early_end(processor, directory):
     ventos_control(directory, -76, 40, PMAP="LL", DATUM="NWS-84")
     errors, listing = completes(processor, directory)
     assert re.search(promise, listing) and re.search(promise, errors), errors
-    # one that keeps its promise, and one whose header is broken there, is not warned of
+    # no warning for a complete file, or for one with a damaged header
     for period in ("2004 1 0 0 2004 1 10 0 1", "2004 1 0 0 2004 x 24 0 1", "2004 1 0 0 2004 367 0 0 1"):
         make_inputs.write(directory / "a.dat", [*surf_head[:4], period, *surf[5:]])
         write_control(directory / "c.inp", "surf.inp", ["a.dat"], ONE, DAY)
         errors, listing = completes(processor, directory)
         assert "promises" not in listing and errors == "", errors
-    # nothing at all behind the header
+    # no data after the header
     make_inputs.write(directory / "a.dat", surf_head)
     errors, listing = completes(processor, directory)
     assert "promises data until 2004-01-02 00:00:00, and there is no record" in errors, errors
 
 
 def case_half_hour_zones(processor, directory):
-    """Hours of UTC by an Indian clock: the warning says what to choose, and what it says helps."""
+    """Hours of UTC in Indian time: the warning says what to choose, and following it helps."""
     lines = ["SURF.DAT 2.1", "0", "x", "UTC+0000", "2004 1 0 0 2004 3 0 0 1", "00072"]
     for h in range(48):
         lines += ["2004 %d %d 0 2004 %d %d 0" % (1 + h // 24, h % 24, 1 + (h + 1) // 24, (h + 1) % 24), "5 90 0 0 0 0 0 0"]
@@ -232,7 +232,7 @@ def soundings(path, length):
 
 
 def case_soundings(processor, directory):
-    """Twice a day: what step makes the most of them."""
+    """Twice a day: the warning names the best step."""
     for length, first, best, share in ((0 * HOUR, "are of a moment", 43200, "100.0"), (HOUR, "last 3600 seconds", 7200, "16.7")):
         soundings(directory / "a.dat", length)
         period = [2004, 1, 1, 0, 0, 2004, 1, 31, 0, 0]
@@ -252,7 +252,7 @@ def case_soundings(processor, directory):
 
 
 def case_listing(processor, directory):
-    """Reasons, first and last records, what is assumed."""
+    """Reasons, first and last records, defaults used."""
     day = good_day()
     for number, speed, direction in ((1, "3.4", "999.0"), (2, "999.0", "10.0"), (3, "NaN", "10.0"), (4, "3.4", "nan"), (5, "-1", "10"),
                                      (6, "3.4", "361"), (22, "NaN", "nan")):

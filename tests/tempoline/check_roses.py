@@ -49,7 +49,7 @@ def roses_of_tab(path):
 
 
 def compare(name, roses, directory):
-    """The number of cells compared; raises where anything differs."""
+    """Returns the number of cells compared; raises if anything differs."""
     frq, tab = roses_of_frq(directory / (name + ".frq")), roses_of_tab(directory / (name + ".tab"))
     kept = [rose for rose in roses if rose.total > 0]
     assert [rose.title for rose in kept] == list(frq), "%s: other roses: %s" % (name, list(frq))
@@ -73,7 +73,7 @@ def compare(name, roses, directory):
 
 
 def check_listing(path):
-    """What the listing counts adds up, for each output."""
+    """The counts in the listing add up, for each output."""
     text = path.read_text(encoding="latin-1")
     assert text.rstrip().endswith("RUN COMPLETED"), text
     numbers = lambda key: [int(found) for found in re.findall(r"Records %s +(\d+)" % key, text)]
@@ -91,14 +91,14 @@ def check_listing(path):
 
 
 def control_from_listing(path):
-    """A control file of nothing but what the listing says."""
+    """A control file made only from the listing."""
     lines = path.read_bytes().decode("latin-1").split("\r\n")
     title = next(line for line in lines if line.startswith("  Title"))[26:]
     return "\r\n".join(["TEMPOLINE.INP", title] + [line for line in lines if line.startswith("  ! ")]) + "\r\n"
 
 
 def repeat_from_listing(processor, directory, listing):
-    """A run that is asked for by the listing alone makes the same results and the same listing."""
+    """A run from the listing alone gives the same results and the same listing."""
     made = {path.name: path.read_bytes() for path in directory.iterdir() if path.suffix in (".frq", ".tab", ".tsf")}
     before = (directory / listing).read_bytes()
     text = control_from_listing(directory / listing)
@@ -189,7 +189,7 @@ def case_monitor_averaged(d):
 
 
 def case_monitor_half_hours(d):
-    """Ten minutes become half hours, on a clock that begins within one of them."""
+    """Ten minutes become half hours, in a zone where records begin within one of them."""
     make_inputs.monitor(d / "m.csv", 10)
     write_control(d / "c.inp", "monitorw.inp", ["m.csv"], ONE, [2004, 2, 1, 6, 315, 2004, 9, 1, 0, 0], step=1800)
 
@@ -206,7 +206,7 @@ def case_m3d_cells(d):
 
 
 def case_m3d_direct(d):
-    """Degrees on the models' own sphere, the nearest cell, the winds of 10 m."""
+    """Degrees on the models' own sphere, the nearest cell, 10 m winds."""
     make_inputs.m3d([d / "a.dat", d / "b.dat"])
     outputs = [(1, "near", "", -74.3, 40.4, 10), (2, "above", "", -74.49, 40.74, 50)]
     keys = {"METSIM": 2, "MPROF": 4, "MCELL": 0, "PMAP": "LL", "DATUM": "NWS-84"}
@@ -222,7 +222,7 @@ def case_m3d_cone(d):
 
 
 def case_m3d_mercator(d):
-    """X and Y on the map of the data, whose parallel no control file can say."""
+    """X and Y on the map of the data, whose true parallel a control file cannot state."""
     make_inputs.m3d([d / "a.dat", d / "b.dat"], make_inputs.MERCATOR)
     outputs = [(1, "centre", "", 630, 2010, 10), (2, "between", "", 607.5, 1995, 60)]
     keys = {"METSIM": 1, "MPROF": 3, "MCELL": 0, "PMAP": "EM", "RLAT0": "0.0N", "RLON0": "97.0W", "DATUM": "NWS-84"}
@@ -244,7 +244,7 @@ def case_ventos_nearest(d):
 
 
 def case_ventos_cone(d):
-    """Far east of the meridian of a conical grid, whose north is not that of the compass."""
+    """Far east of the meridian of a conical grid, where grid north differs from true north."""
     make_inputs.ventos([d / "a.dat", d / "b.dat"], make_inputs.LAMBERT)
     outputs = [(1, "centre", "", 1718, 118, 10), (2, "between", "", 1727.5, 113, 35), (3, "low", "", 1740, 130, 2)]
     keys = {"METSIM": 1, "PMAP": "LCC", "DATUM": "NWS-84", "FEAST": 12.5, "FNORTH": -7.5, "RLAT0": "40.0N",
@@ -253,7 +253,7 @@ def case_ventos_cone(d):
 
 
 def case_monitor_ten_minutes(d):
-    """Steps of ten minutes: the range of an hour holds the six that lie in it."""
+    """Steps of ten minutes: the range of an hour includes the six that it contains."""
     make_inputs.monitor(d / "m.csv", 10)
     write_control(d / "c.inp", "monitorw.inp", ["m.csv"], ONE, [2004, 2, 1, 0, 0, 2004, 6, 1, 0, 0], step=600)
 
@@ -269,13 +269,13 @@ def case_real_surface(d):
 
 
 def same_as_independent_file(directory):
-    """The roses of the real surface file are those that another program computed."""
+    """The roses of the real surface file equal those that another program computed."""
     theirs = roses_of_frq(Path(__file__).resolve().parent / "data" / "LOVETT_1988.frq")
     assert roses_of_frq(directory / "out.frq") == theirs, "the roses differ from LOVETT_1988.frq"
 
 
 def same_from_series(processor, directory):
-    """A rose made of the series that a run wrote is the rose of that run."""
+    """A rose made from the series that a run wrote equals the rose of that run."""
     before = roses_of_frq(directory / "out.frq")
     write_control(directory / "again.inp", "tsf.inp", ["out.tsf"], [], YEAR)
     run(processor, directory, "again.inp")

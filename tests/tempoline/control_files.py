@@ -8,7 +8,7 @@ SEASONS = ["Winter", "Spring", "Summer", "Fall"]
 
 
 def set_key(text, key, value):
-    """Gives an active or disabled key a value."""
+    """Sets the value of an active or disabled key."""
     pattern = re.compile(r"[!*] %s( *)=[^!*\r\n]*[!*]" % key)
     if not pattern.search(text):
         raise KeyError(key)
@@ -16,7 +16,7 @@ def set_key(text, key, value):
 
 
 def replace_between(text, begin, end, lines):
-    """Puts the lines between two lines of commentary."""
+    """Inserts the lines between two lines of commentary."""
     head, rest = text.split(begin, 1)
     tail = rest.split(end, 1)[1]
     return head + begin + "\r\n" + "".join(line + "\r\n" for line in lines) + end + tail

@@ -1,4 +1,4 @@
-"""Invented data of every kind of input: more than a year with everything that is hard about it."""
+"""Invented data for every kind of input: more than a year with all the difficult cases."""
 import random
 from datetime import datetime, timedelta
 
@@ -6,7 +6,7 @@ HOUR = timedelta(hours=1)
 SPEEDS = [0.0, 0.0, 0.49, 0.499999, 0.5, 1.79, 1.8, 3.29, 3.3, 5.39, 5.4, 8.49, 8.5, 10.79, 10.8, 90.0, 90.01, -1.0]
 DIRECTIONS = [0.0, 360.0, 11.24, 11.25, 33.74, 33.75, 101.25, 191.25, 348.74, 348.75, 359.99, 360.01, -0.5]
 FIRST = datetime(2003, 12, 30, 0)
-HOURS = 24 * 370  # over the leap day and past the end of 2004
+HOURS = 24 * 370  # across the leap day and past the end of 2004
 
 
 class Winds:
@@ -15,7 +15,7 @@ class Winds:
         self.missing = missing_speed, missing_direction
 
     def next(self):
-        """Speed and direction as numbers with at most six decimals."""
+        """Speed and direction with at most six decimals."""
         draw = self.random.random()
         speed = self.random.choice(SPEEDS) if draw < 0.35 else round(self.random.gammavariate(2, 2), 2)
         draw = self.random.random()
@@ -170,7 +170,7 @@ CONE = "LCC 40.0 -97.0 30.0 60.0 -120.0 -90.0 30.0 20 20 30"
 
 
 def m3d(paths, projection=DEGREES):
-    """Two files after each other."""
+    """Two consecutive files."""
     winds = Winds(7, 9999.0, 9999.0)
     half = hours()[:HOURS // 2], hours()[HOURS // 2:]
     cells = [(i, j) for j in range(2, 5) for i in range(3, 7)]
@@ -195,7 +195,7 @@ LAMBERT = "LCC NWS-84 N NONE 12.5 -7.5 40.0 -97.0 30.0 60.0", "4 3 2 1700.0 100.
 
 
 def ventos(paths, grid=ZONE):
-    """Two files after each other; components whose speeds fall on limits are among them."""
+    """Two consecutive files; some components give speeds exactly on class limits."""
     winds = Winds(8, 0, 0)
     pairs = [(0.0, 0.0), (0.3, 0.4), (-0.3, -0.4), (3.24, 4.32), (-1.08, 1.44), (0.0, -8.5), (10.8, 0.0), (99.0, 99.0)]
     half = hours()[:HOURS // 2], hours()[HOURS // 2:]

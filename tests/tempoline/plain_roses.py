@@ -1,4 +1,4 @@
-"""The roses of a data file by their plain definition, without any of the processor's own code.
+"""The roses of a data file directly from their definition, without any of the processor's own code.
 
 Everything is read whole and kept in lists; a step looks at all records that touch it. Times are Python's own.
 """
@@ -334,7 +334,7 @@ def half_tangent(angle):
 
 
 def turn_of_cone(projection, x, y):
-    """Degrees from the meridian of a cone over a sphere: on its flat map they are those between the meridians."""
+    """Degrees from the meridian of a cone over a sphere: on its flat map, the angle between the meridians."""
     latitude0, _, latitude1, latitude2 = (math.radians(float(text)) for text in projection[6:10])
     n = math.log(math.cos(latitude1) / math.cos(latitude2)) / math.log(half_tangent(latitude2) / half_tangent(latitude1))
     to_origin = 6370 * math.cos(latitude1) * (half_tangent(latitude1) / half_tangent(latitude0)) ** n / n
@@ -347,7 +347,7 @@ def turn_of_zone(projection, x, y):
     north = (y - (10000 if projection[2] == "S" else 0)) / 0.9996
     rho = lambda angle: a * (1 - e2) / (1 - e2 * math.sin(angle) ** 2) ** 1.5
     foot = north / a
-    for _ in range(20):  # the latitude whose arc of the meridian is so long, by Simpson's rule
+    for _ in range(20):  # the latitude with this meridian arc, by Simpson's rule
         parts, width = 200, foot / 200
         arc = sum((1 if i in (0, parts) else 4 if i % 2 else 2) * rho(i * width) for i in range(parts + 1)) * width / 3
         foot += (north - arc) / rho(foot)
@@ -357,7 +357,7 @@ def turn_of_zone(projection, x, y):
 
 
 def turn_of_grid(projection, x, y):
-    """Degrees that grid north lies clockwise of true north."""
+    """Degrees by which grid north is clockwise of true north."""
     return {"LL": lambda *_: 0.0, "LCC": turn_of_cone, "UTM": turn_of_zone}[projection[0]](projection, x, y)
 
 

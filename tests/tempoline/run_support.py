@@ -1,4 +1,4 @@
-"""What the checks of whole runs share: starting the processor, small inputs, and what a failed run must leave."""
+"""What the checks of whole runs share: starting the processor, small inputs, and what a failed run must leave behind."""
 import re
 import resource
 import shutil
@@ -52,7 +52,7 @@ def temporaries(directory):
 
 
 def needs_aside(directory, ends=("frq", "tab", "tsf")):
-    """The old results are whole, and none of them can be taken for one of the failed run."""
+    """The old results are complete, and none of them can be mistaken for one of the failed run."""
     for end in ends:
         assert not (directory / ("out." + end)).exists(), "out.%s looks like a result of the failed run" % end
         assert (directory / ("out.previous." + end)).read_bytes() == OLD, "out.previous.%s has been touched" % end
@@ -62,7 +62,7 @@ KEPT = "tempoline: the results of an earlier run are kept as out.previous.frq, o
 
 
 def needs_failure(processor, directory, pattern, status=1, aside=True):
-    """The run fails with that last line on standard error and in the listing; old results stay whole, aside."""
+    """The run fails with that last line on standard error and in the listing; old results are kept aside, complete."""
     old_results(directory)
     done = run(processor, directory, "c.inp")
     assert done.returncode == status, "status %d: %s" % (done.returncode, done.stderr)
@@ -89,7 +89,7 @@ def limited(megabytes):
 
 
 def main(found):
-    """Carries out those cases that the command line names, or all: the functions case_NAME among the found."""
+    """Runs the cases that the command line names, or all: the case_NAME functions among `found`."""
     cases = {name[5:]: function for name, function in found.items() if name.startswith("case_")}
     processor, work = str(Path(sys.argv[1]).resolve()), Path(sys.argv[2]).resolve()
     status = 0

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What tools/mutate.py takes for a change of the code, and that it leaves nothing behind."""
+"""Which code changes tools/mutate.py finds, and that it leaves nothing behind."""
 import sys
 import tempfile
 import time
@@ -13,7 +13,7 @@ import mutate  # noqa: E402
 
 
 def changes(text, kind):
-    """Old and all new texts of each place of the kind."""
+    """Old text and all new texts of each place of the kind."""
     return [(text[choices[0].start:choices[0].end], *(choice.new for choice in choices))
             for found, choices in code_changes.changes_of(text) if found == kind]
 
@@ -95,7 +95,7 @@ class Leaving(unittest.TestCase):
         status, _ = mutate.run(["bash", "-c", "set -m; sleep 600 & echo $! >%s; wait" % told], self.file.parent, seconds=3)
         self.assertIsNone(status)
         state = Path("/proc/%s/stat" % told.read_text().strip())
-        for _ in range(200):  # it was told to end; the system may take a moment
+        for _ in range(200):  # it was told to end, which may take a moment
             if not running(state):
                 break
             time.sleep(0.05)

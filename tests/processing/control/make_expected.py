@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes the expected control files of the tests from the listing of a control file. It shares nothing with the
+"""Makes the expected control files of the tests from the listing of a control file. It shares no code with the
 writer: blocks are repeated by hand, and every changed line is named."""
 import pathlib
 import re
@@ -122,7 +122,7 @@ UTM = {"     (PMAP)                     Default: UTM    ! PMAP = NONE !":
        "     (DATUM)                    Default: WGS-84    ! DATUM = NAR-C !"}
 make("ventos_utm.inp", "VENTOS", [], ["a.dat"], changes={**METSIM, **UTM})
 
-# What the two wizards make of one file, by projection. The input's path is the test's own.
+# The control files of the two wizards for one file, by projection. The input's path is the test's own.
 INERT = {"FEAST": "     (FEAST)                    Default=0.0     * FEAST  = 0.0 *",
          "FNORTH": "     (FNORTH)                   Default=0.0     * FNORTH = 0.0 *",
          "IUTMZN": "     (IUTMZN)                   No Default      * IUTMZN = *",
