@@ -33,7 +33,8 @@ std::string rebuildLegendLimits(ModPolarGraph& tables) {
         unit = "m/s";
     }
     if (tables.ClassesInKnots) {
-        // The unit may have come with the settings after the file, and not by a choice made for it.
+        // The unit may have been set when the settings were loaded after the file, and not by a choice for
+        // this file.
         if (!tables.KnotTableReady) buildKnotTable(tables);
         tables.LegendClassLimit = tables.KnotClassLimit;
         unit = "knots";

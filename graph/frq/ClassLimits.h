@@ -1,7 +1,7 @@
 #pragma once
 
-// The limits of the speed classes in the unit that the legend speaks. The shares belong to the classes that
-// the file was made with; only the wording changes.
+// The limits of the speed classes in the unit of the legend. The shares belong to the classes with which the
+// file was made; only the wording changes.
 
 #include <string>
 
@@ -9,13 +9,13 @@
 
 namespace zg {
 
-/// Makes KnotClassLimit of FrqClassLimit: the calm threshold as "9.72E-01", the others with two decimals at
-/// most. Raises 9 where the file gave no limits and 13 for a limit that is no number.
+/// Makes KnotClassLimit from FrqClassLimit: the calm threshold as "9.72E-01", the others with up to two
+/// decimals. Raises 9 if the file has no limits and 13 for a limit that is not a number.
 void buildKnotTable(ModPolarGraph& tables);
 
-/// Rebuilds LegendClassLimit for the unit chosen and gives the unit's word, "m/s" or "knots". Where neither
-/// is chosen, the word and the seven limits are empty. A knot table that is not ready is built first, with
-/// the errors of buildKnotTable.
+/// Rebuilds LegendClassLimit for the chosen unit and returns its name, "m/s" or "knots". If no unit is
+/// chosen, the name and the seven limits are empty. A missing knot table is built first, with the errors of
+/// buildKnotTable.
 std::string rebuildLegendLimits(ModPolarGraph& tables);
 
 }  // namespace zg

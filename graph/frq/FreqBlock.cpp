@@ -72,7 +72,8 @@ void readCalm(std::string_view line, std::int16_t rose, ModPolarGraph& tables) {
     tables.FrqCalmPercent(rose) = trimmed(freqField(freqField(line, ':', 1), '%', 0));
 }
 
-/// "Valid Periods = 8700" is 8700, by way of a single: from nine digits on it may move by some units.
+/// "Valid Periods = 8700" is 8700, by way of a single: numbers of nine digits and more may change by some
+/// units.
 std::int32_t countOf(std::string_view part) {
     return toInt32(static_cast<double>(toSingle(trimmed(freqField(part, '=', 1)))));
 }
@@ -107,7 +108,7 @@ void readStatistics(std::string_view line, std::int16_t rose, ModPolarGraph& tab
 
 void readFreqBlock(LineReader& reader, const FreqVersion& version, std::int16_t rose, ModPolarGraph& tables) {
     const bool statistics = version.statistics == FreqStatistics::Present;
-    if (statistics) reader.readLine();  // parts the block from what is above it
+    if (statistics) reader.readLine();  // separates the block from the lines above
     tables.FrqRoseTitle(rose) = reader.readLine();
     reader.readLine();  // column headings
     readDirections(reader, rose, tables);
@@ -117,7 +118,7 @@ void readFreqBlock(LineReader& reader, const FreqVersion& version, std::int16_t 
         readStatistics(reader.readLine(), rose, tables);
         return;
     }
-    reader.readLine();  // parts the block from what is below it
+    reader.readLine();  // separates the block from the lines below
     tables.FrqRoseCaption(rose) = tables.FrqRoseTitle(rose);
 }
 

@@ -11,9 +11,9 @@ namespace zg {
 
 namespace {
 
-constexpr std::int16_t fieldLines = 6;  // of the one-count header, up to and with the period line
+constexpr std::int16_t fieldLines = 6;  // lines of a one-count header, up to and including the period line
 
-/// The sum in 16 bits; raises 6 where it does not fit.
+/// The sum in 16 bits; raises 6 if it does not fit.
 std::int16_t sum16(std::int16_t a, std::int16_t b) { return toInt16(static_cast<double>(a + b)); }
 
 /// "5 - Header lines" is 5.
@@ -24,7 +24,7 @@ std::string measureText(std::string_view line) {
     return std::string(key) + " = " + trim(freqField(line, ':', 1));
 }
 
-/// The limits as they stand between the commas, blanks included.
+/// The limits exactly as between the commas, blanks included.
 std::vector<std::string> classLimits(std::string_view line) {
     const Pieces pieces = split(freqField(line, ':', 1), ",");
     std::vector<std::string> limits;
@@ -67,7 +67,7 @@ void readFreqHeaderFields(LineReader& reader, const FreqVersion& version, const 
 }
 
 void skipFreqHeaderRest(LineReader& reader, const FreqVersion& version, const FreqHeaderSize& size) {
-    // A header of two counts goes straight on to the first rose, whatever its second count says.
+    // After a header of two counts the first rose follows at once, whatever the second count is.
     if (version.preamble == FreqPreamble::OneCount)
         skipFreqLines(reader, sum16(size.leadCount, static_cast<std::int16_t>(-fieldLines)));
 }

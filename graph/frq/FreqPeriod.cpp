@@ -8,13 +8,13 @@ namespace zg {
 
 namespace {
 
-/// One end of the period: its date, and its hour as the text that stands in the line.
+/// One end of the period: its date, and its hour as written in the line.
 struct PeriodEnd {
     DateTime date;
     std::string hour;
 };
 
-/// The end whose year, month, day and hour begin at a token. Hour "24" is the next day's hour "0".
+/// The end whose year, month, day and hour start at that token. Hour "24" is hour "0" of the next day.
 PeriodEnd periodEnd(const Pieces& tokens, std::size_t first) {
     const DateTime date = DateFromParts(tokens[first], tokens[first + 1], tokens[first + 2]);
     const std::string_view hour = tokens[first + 3];
@@ -24,7 +24,7 @@ PeriodEnd periodEnd(const Pieces& tokens, std::size_t first) {
 
 std::string hourText(const PeriodEnd& end) { return formatDate(end.date) + " - HR" + format00(end.hour); }
 
-/// The date and the time of an hour and its seconds. A full hour of seconds begins the same hour again.
+/// The date and the time of an hour and its seconds. 3600 seconds give the begin of the same hour again.
 std::string timeText(const PeriodEnd& end, std::string_view secondsToken) {
     const std::int32_t inHour = imod(toInt32(secondsToken), 3600);
     const std::int32_t minutes = (inHour - inHour % 60) / 60;

@@ -1,7 +1,7 @@
 #pragma once
 
-// The four versions of the FRQ file and what tells them apart. Version 2.1 sides with 2.0 in its header and
-// with the later ones in its blocks, so each trait is a column of its own.
+// The four versions of the FRQ file and how they differ. The header of version 2.1 is like that of 2.0, its
+// blocks are like those of later versions, so each feature is a column of its own.
 
 #include <array>
 #include <cstdint>
@@ -24,11 +24,12 @@ struct FreqVersion {
 
 extern const std::array<FreqVersion, 4> freqVersions;
 
-/// The version whose literal the line is, blanks around it aside; null where it is none.
+/// The version whose literal the line is, blanks around it ignored; null if it is none.
 const FreqVersion* freqVersionOf(std::string_view firstLine);
 
-/// The text, blanks before it aside, begins with the beginning of one of the literals, or is all blanks: more
-/// of it decides. What fails here is refused without reading its first line, however long that is.
+/// Whether the text, without leading blanks, begins like one of the literals or is all blanks, so that more
+/// of it must be read to decide. Anything else is refused without reading its first line, however long that
+/// is.
 bool mayBeFreqFile(std::string_view firstBytes);
 
 }  // namespace zg

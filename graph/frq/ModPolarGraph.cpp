@@ -14,7 +14,7 @@ std::array<float, 6> factoryWindClassColor() {
 }
 
 void fillFactoryStyle(ModPolarGraph& tables) {
-    // A font with a name shows that the configuration has been read: what the user chose stays.
+    // A font with a name means that the configuration has been read: keep what the user chose.
     const bool fresh = tables.LabelFont.name.empty() && tables.LegendFont.name.empty();
     if (tables.LabelFont.name.empty()) tables.LabelFont = factoryLabelFont();
     if (tables.DirectionFont.name.empty()) tables.DirectionFont = factoryDirectionFont();

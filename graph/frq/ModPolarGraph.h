@@ -1,7 +1,7 @@
 #pragma once
 
-// The tables of the FRQ file on show and the style of the plot's texts. They live from one load to the next
-// and are shared by the control and the dialogs around it, which read and write them directly.
+// The tables of the displayed FRQ file and the style of the plot's texts. They persist from one load to the
+// next and are shared by the control and the dialogs, which read and write them directly.
 
 #include <array>
 #include <cstdint>
@@ -13,11 +13,11 @@
 
 namespace zg {
 
-/// A table that grows with the file; an index outside it raises 9, "Subscript out of range".
+/// A table that grows with the file; an index out of bounds raises 9, "Subscript out of range".
 template <typename T>
 class Table {
  public:
-    /// All values fresh, indexes 0 to lastIndex.
+    /// Replaces all values by fresh ones, indexes 0 to lastIndex.
     void redim(std::size_t lastIndex) { values_.assign(lastIndex + 1, T()); }
     void clear() { values_.clear(); }
     void assign(std::vector<T> values) { values_ = std::move(values); }
@@ -60,11 +60,11 @@ class FractionTable {
     std::vector<double> cells_;
 };
 
-/// Per-rose tables run from index 1; index 0 stays empty. Rows of rose k in FrqFraction are 17k - 16 to 17k
-/// - 1.
+/// Tables per rose start at index 1; index 0 is unused. Rows of rose k in FrqFraction are 17k - 16 to 17k -
+/// 1.
 struct ModPolarGraph {
     std::string FrqVersion;         ///< "2.0" to "2.3", "" before the first load
-    std::int16_t FrqLineCount = 0;  ///< lines of the file plus one
+    std::int16_t FrqLineCount = 0;  ///< number of lines in the file plus one
     std::int16_t FrqRoseCount = 0;
     FractionTable FrqFraction;             ///< 0 to 1
     Table<std::string> FrqDirectionLabel;  ///< 0 to 16
@@ -72,7 +72,7 @@ struct ModPolarGraph {
     Table<std::string> FrqCalmPercent;
     Table<std::string> FrqRoseTitle;
     Table<std::string> FrqRoseCaption;
-    Table<std::int32_t> FrqTotalPeriods;  ///< empty for version 2.0, as the next three
+    Table<std::int32_t> FrqTotalPeriods;  ///< empty for version 2.0, as are the next three
     Table<std::int32_t> FrqValidPeriods;
     Table<std::int32_t> FrqCalmPeriods;
     Table<float> FrqPercentValid;
@@ -87,8 +87,8 @@ struct ModPolarGraph {
     std::int16_t CurrentRose = 0;  ///< from 1
 
     Table<std::string> KnotClassLimit;    ///< the limits in knots, made on demand
-    Table<std::string> LegendClassLimit;  ///< the limits that the legend speaks of, rebuilt at each legend
-    bool ClassesFromFile = false;         ///< the legend speaks in metres per second, as the file does
+    Table<std::string> LegendClassLimit;  ///< the limits in the legend's unit, rebuilt at each legend
+    bool ClassesFromFile = false;         ///< the legend uses metres per second, as the file does
     bool ClassesInKnots = false;
     bool KnotTableReady = false;
 
@@ -114,7 +114,7 @@ FontRecord factoryLegendFont();
 constexpr float factoryGridLineColor = 14737632;  // 224, 224, 224
 std::array<float, 6> factoryWindClassColor();
 
-/// Factory style in every font record without a name, and colours with them.
+/// Sets the factory style in every font record without a name, and with it the colours.
 void fillFactoryStyle(ModPolarGraph& tables);
 
 }  // namespace zg

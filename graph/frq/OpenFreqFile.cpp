@@ -12,8 +12,8 @@ namespace zg {
 
 namespace {
 
-/// A refused file stays open; every load opens its own. Only the last few stay so to the end of the process:
-/// a directory of a thousand refused files must leave handles for those after them.
+/// A refused file stays open; every load opens its own. Only the last few remain open to the end of the
+/// process: a directory of a thousand refused files must leave file handles for the following ones.
 void keepOpen(FileHandle file) {
     constexpr std::size_t mostKept = 16;
     static std::array<FileHandle, mostKept> refusedFiles;
@@ -27,7 +27,7 @@ void tellRefused(const std::string& path, Host& host) {
     host.showBox(box);
 }
 
-/// Lines of the file plus one; raises 6 where that leaves 16 bits.
+/// Number of lines in the file plus one; raises 6 if that exceeds 16 bits.
 std::int16_t countLines(LineReader reader) { return toInt16(static_cast<double>(reader.skipAll() + 1)); }
 
 std::int16_t roseCount(std::int16_t lineCount, const FreqHeaderSize& header, const FreqVersion& version) {
@@ -35,7 +35,7 @@ std::int16_t roseCount(std::int16_t lineCount, const FreqHeaderSize& header, con
     return toInt16(blockLines / version.linesARose);
 }
 
-/// Fresh tables for the roses counted; raises 9 where the header claims more lines than the file has.
+/// Fresh tables for the counted roses; raises 9 if the header claims more lines than the file has.
 void sizeRoseTables(const FreqVersion& version, ModPolarGraph& tables) {
     if (tables.FrqRoseCount < 0) raise(ErrorNumber::SubscriptOutOfRange);
     const auto last = static_cast<std::size_t>(tables.FrqRoseCount);
@@ -56,7 +56,7 @@ void sizeRoseTables(const FreqVersion& version, ModPolarGraph& tables) {
     tables.FrqDirectionLabel.redim(static_cast<std::size_t>(freqDirections));
 }
 
-/// Runs a pass over the file; an error in it learns the line that was read last.
+/// Runs a pass over the file; adds the number of the last line read to an error.
 template <typename Pass>
 void withLine(LineReader& reader, Pass pass) {
     try {

@@ -24,11 +24,11 @@ struct GrapInfo {
     zg::Series Series;
 };
 
-/// The curves by number from 1, and by key (letter case does not count) where one was given. An item stays
-/// where it is in memory until it is removed.
+/// The curves by number from 1, and by key (letter case does not matter) if one was given. An item keeps its
+/// address until it is removed.
 class Plot {
  public:
-    /// Adds a curve with its colours; raises 457 for a key that is taken.
+    /// Adds a curve with its colours; raises 457 for a key that is already in use.
     GrapInfo& Add(std::string Coefficient, std::string Equation, Colour PenFillColor, Colour MarkerFillColor,
                   std::string Key = {});
 
@@ -37,12 +37,12 @@ class Plot {
     GrapInfo& Item(std::string_view key);
     const GrapInfo& Item(std::int64_t index) const;
 
-    /// The graph is one of the list.
+    /// Whether the graph is in the list.
     bool contains(const GrapInfo& graph) const;
 
     std::int32_t Count() const { return static_cast<std::int32_t>(items_.size()); }
 
-    /// Raises as Item does.
+    /// Raises the same errors as Item.
     void Remove(std::int64_t index);
     void Remove(std::string_view key);
 

@@ -7,7 +7,7 @@
 
 namespace zg {
 
-/// Centre of the grid. While Auto is set the centre follows the middle of the surface.
+/// Centre of the grid. While Auto is set it is the middle of the surface.
 struct Origin {
     bool Auto = true;
     float X = 0;  ///< shift to the right at 100 percent zoom
@@ -28,7 +28,7 @@ struct Polar {
     zg::Origin Origin;
     float Unit = 0.5F;  ///< spacing between ruler and grid marks in polar units
 
-    /// Of the circle whose radius is Radius x Unit.
+    /// Of the circle with radius Radius x Unit.
     float Area() const { return static_cast<float>(MathLibrary::Area(Radius * Unit)); }
     float Circumference() const { return static_cast<float>(MathLibrary::Circumference(Radius * Unit)); }
     float Diameter() const { return static_cast<float>(MathLibrary::Diameter(Radius * Unit)); }

@@ -45,7 +45,7 @@ struct Marker {
         PictureHeight = height;
     }
 
-    /// Stores the sum and derives the two flags that drawing reads.
+    /// Stores the sum and derives from it the two flags that drawing uses.
     void setAlignment(std::int32_t alignment) {
         Alignment = alignment;
         GetHorizAlign = alignment & 3;

@@ -4,7 +4,7 @@ namespace zg::script {
 
 namespace {
 
-/// Holds a counter raised while it lives.
+/// Holds a counter raised for its lifetime.
 class Raised {
  public:
     explicit Raised(int& counter) : counter_(++counter) {}
@@ -54,7 +54,7 @@ void StatementParser::ifLine(Statement& made) {
     }
     if (accept(TokenKind::Else)) lineStatements(made.branches.emplace_back().body);
     lineIfEnded_ = true;
-    // "End If" may close the line; any other End belongs to a block around it.
+    // "End If" may end the line; any other End belongs to an enclosing block.
     if (!at(TokenKind::EndWord)) return;
     const Token end = token_;
     advance();

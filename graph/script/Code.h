@@ -1,6 +1,6 @@
 #pragma once
 
-// What the compiler makes of syntax and the machine carries out.
+// The output of the compiler, which the machine runs.
 
 #include <cstdint>
 #include <memory>
@@ -19,13 +19,13 @@ enum class Op : std::uint8_t {
     Store,           ///< pop into a place
     StoreObject,     ///< pop an object into a place
     StoreElement,    ///< pop a value, then indexes: into an array's element
-    MakeArray,       ///< pop upper bounds: a new array in a place
+    MakeArray,       ///< pop upper bounds: create an array in a place
     Index,           ///< pop arguments: push an element or a function's result
     IndexReference,  ///< the same, an element by reference
     CallProcedure,   ///< pop arguments, run a procedure, drop its result
     Member,          ///< pop arguments and an object: push the result of function `target`
-    UnknownMember,   ///< pop arguments and an object: there is no such member
-    AssignMember,    ///< pop a value and an object: no member can be assigned
+    UnknownMember,   ///< pop arguments and an object: no such member
+    AssignMember,    ///< pop a value and an object: members cannot be assigned
     HostFunction,    ///< pop arguments: push the result of function `target`
     Unary,           ///< the operator is `arguments`
     Binary,          ///< the operator is `arguments`
@@ -35,23 +35,23 @@ enum class Op : std::uint8_t {
     Jump,         ///< to `target`
     JumpIfFalse,  ///< pop a condition
     JumpIfTrue,
-    Raise,  ///< the error of number `target`
+    Raise,  ///< raise the error of number `target`
     Return,
 };
 
 inline constexpr std::uint16_t noLocal = 0xFFFF;
 inline constexpr std::uint32_t noGlobal = 0xFFFFFFFF;
 
-/// An operation, with the place it works on: a local variable, a global name, or both where the global one
-/// counts as soon as it exists.
+/// An operation and its place: a local variable, a global name, or both if the global one takes precedence as
+/// soon as it exists.
 struct Instruction {
     Op op = Op::Return;
     std::uint8_t arguments = 0;
     std::uint16_t local = noLocal;
-    std::uint32_t target = noGlobal;  ///< the global name, or what the operation says
+    std::uint32_t target = noGlobal;  ///< the global name, or as the operation defines
 };
 
-/// What the pieces of code made from one text share.
+/// What all pieces of code from one text share.
 struct CodeUnit {
     std::string text;
     std::vector<Value> constants;
@@ -61,16 +61,16 @@ struct CodeUnit {
 struct CodeBlock {
     std::shared_ptr<const CodeUnit> unit;
     std::vector<Instruction> code;
-    std::vector<std::uint32_t> offsets;  ///< in the text, one an instruction
+    std::vector<std::uint32_t> offsets;  ///< in the text, one per instruction
     std::size_t parameters = 0;
     std::size_t locals = 0;     ///< parameters included
-    std::size_t stackNeed = 0;  ///< values at most above the locals
+    std::size_t stackNeed = 0;  ///< maximum number of values above the locals
 };
 
 struct Procedure : Payload {
     CodeBlock block;
     std::vector<bool> byReference;
-    bool isFunction = false;  ///< its result is the local behind the parameters
+    bool isFunction = false;  ///< its result is the local after the parameters
 };
 
 struct ArrayPayload : Payload {

@@ -33,8 +33,8 @@ std::uint16_t Scope::takeTemporary(std::uint32_t offset) {
     return index;
 }
 
-/// Declared local names go first, then declared global ones, then the language's functions. Any other name
-/// is a global variable; in a procedure it is one of the procedure's own until a global one exists.
+/// Declared local names come first, then declared global ones, then the language's functions. Any other name
+/// is a global variable; in a procedure it is a local one until a global one exists.
 Place Scope::find(std::uint32_t name, std::uint32_t offset) {
     const std::string& text = context_.syntax.names[name];
     Place place;
@@ -141,7 +141,7 @@ void CodeBuilder::indexNode(const Node& node) {
     const int effect = 1 - node.arguments;
     if (place.function) return hostFunction(*place.function, node.arguments, effect, node.offset);
     if (place.isUndefined) return raiseLater(ScriptErrorNumber::VariableUndefined, effect, node.offset);
-    // Inside a function its own name with parentheses is a call, not the result so far.
+    // Inside a function its own name with parentheses is a call, without them the result so far.
     if (scope_.isFunctionResult(node.index)) {
         place.local = noLocal;
         place.global = context_.globals.indexOf(context_.syntax.names[node.index]);

@@ -13,7 +13,7 @@
 
 namespace zg::script {
 
-/// What a name stands for where it is used.
+/// What a name means at the point of use.
 struct Place {
     std::uint16_t local = noLocal;
     std::uint32_t global = noGlobal;
@@ -22,7 +22,7 @@ struct Place {
     bool isUndefined = false;
 };
 
-/// What the pieces of one text share while they are compiled.
+/// What the pieces of one text share during compilation.
 struct UnitContext {
     Globals& globals;
     const Syntax& syntax;
@@ -34,20 +34,20 @@ struct UnitContext {
     }
 };
 
-/// Which place a name has in a piece of code, as the declarations of the piece and its surroundings say.
+/// Finds the place of a name in a piece of code, according to the declarations in it and around it.
 class Scope {
  public:
     explicit Scope(UnitContext& context) : context_(context) {}
 
-    /// From here on names belong to a procedure.
+    /// From now on names belong to a procedure.
     void enterProcedure() { insideProcedure_ = true; }
-    /// A new local variable; raises 1041 for a name that is one already.
+    /// A new local variable; raises 1041 if the name is already declared.
     std::uint16_t declareLocal(std::uint32_t name, std::uint32_t offset, bool isConstant);
-    /// The same for the result of the function whose name it is.
+    /// The same for a function's result, which has the function's name.
     void declareResult(std::uint32_t name, std::uint32_t offset);
     bool isFunctionResult(std::uint32_t name) const { return hasResult_ && resultName_ == name; }
     Place find(std::uint32_t name, std::uint32_t offset);
-    /// A local variable without a name, used again after it was given back.
+    /// An unnamed local variable, reused after it is given back.
     std::uint16_t takeTemporary(std::uint32_t offset);
     void giveBack(std::uint16_t temporary) { freeTemporaries_.push_back(temporary); }
     std::size_t localCount() const { return localCount_; }
@@ -70,7 +70,7 @@ class Scope {
     std::size_t localCount_ = 0;
 };
 
-/// Appends instructions and keeps count of the stack they need.
+/// Appends instructions and tracks the stack depth they need.
 class CodeBuilder {
  public:
     explicit CodeBuilder(UnitContext& context) : context_(context), scope_(context) {
@@ -85,13 +85,13 @@ class CodeBuilder {
     void emitPlace(Op op, int stackEffect, const Place& place, std::uint32_t offset,
                    std::uint8_t arguments = 0);
     void pushConstant(Value value, std::uint32_t offset);
-    /// Pops into a place; a constant or function raises 501 when the code runs.
+    /// Pops into a place; for a constant or function, raises 501 when the code runs.
     void store(const Place& place, std::uint32_t offset, Op op = Op::Store);
     void expression(Expression range);
 
-    /// The place of the next instruction, for jumps backwards.
+    /// The index of the next instruction, for backward jumps.
     std::uint32_t here() const { return static_cast<std::uint32_t>(block_.code.size()); }
-    /// A jump whose target comes later.
+    /// A jump whose target is set later.
     std::size_t jump(Op op, std::uint32_t offset);
     void jumpBack(Op op, std::uint32_t target, std::uint32_t offset);
     void land(std::size_t jump) { block_.code[jump].target = here(); }

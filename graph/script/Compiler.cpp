@@ -17,7 +17,7 @@ class StatementCompiler {
     void block(const Block& statements) {
         for (const Statement& each : statements) statement(each);
     }
-    /// Makes the arrays and constants of a procedure or, with global places, of a text.
+    /// Creates the arrays and constants of a procedure or, with global places, of a text.
     void declare(const Declaration& declaration, const Place& place);
 
  private:
@@ -44,7 +44,7 @@ class StatementCompiler {
     void storeTemporary(std::uint16_t temporary, std::uint32_t offset) {
         code_.emitPlace(Op::Store, -1, Place{.local = temporary}, offset);
     }
-    /// Where in the text the first value of an expression stands.
+    /// The position in the text of the first value of an expression.
     std::uint32_t offsetOf(Expression range) const { return context_.syntax.nodes[range.first].offset; }
 
     UnitContext& context_;
@@ -154,7 +154,7 @@ void StatementCompiler::select(const Statement& each) {
     code_.scope().giveBack(chosen);
 }
 
-/// The limit and the step are taken once, before the first round.
+/// The limit and the step are evaluated once, before the first iteration.
 void StatementCompiler::forLoop(const Statement& each) {
     const std::uint16_t limit = code_.scope().takeTemporary(each.offset);
     const std::uint16_t step = code_.scope().takeTemporary(each.offset);
@@ -202,7 +202,7 @@ void StatementCompiler::loop(const Statement& each) {
     const std::uint32_t top = code_.here();
     const bool before = each.test == LoopTest::WhileBefore || each.test == LoopTest::UntilBefore;
     const bool after = each.test == LoopTest::WhileAfter || each.test == LoopTest::UntilAfter;
-    // An Exit Do inside While and Wend leaves the Do around it.
+    // An Exit Do inside While and Wend leaves the enclosing Do.
     loops_.push_back({each.kind == StatementKind::Do ? ExitKind::Do : ExitKind::Sub, {}});
     if (before) {
         code_.expression(each.value);
@@ -231,7 +231,7 @@ void StatementCompiler::exit(const Statement& each) {
     }
 }
 
-/// Enters a name declared outside procedures; raises 1041 for one that was declared before in the text.
+/// Declares a name outside procedures; raises 1041 if the text has declared it before.
 void declareGlobally(UnitContext& context, std::uint32_t name, std::uint32_t offset) {
     if (!context.declared.insert(name).second) context.fail(ScriptErrorNumber::NameRedefined, offset);
 }

@@ -11,7 +11,7 @@
 
 namespace zg::script {
 
-/// A text of statements, ready to run. Its names are entered by install, before `main` runs.
+/// A compiled text of statements. `install` declares its names before `main` runs.
 struct CompiledCode {
     struct Variable {
         std::uint32_t global = 0;
@@ -28,16 +28,16 @@ struct CompiledCode {
     std::vector<NamedProcedure> procedures;
 };
 
-/// Compiles statements. New names get a number in `globals` and nothing else. Raises a ScriptError.
+/// Compiles statements. New names only get a number in `globals`. Raises a ScriptError.
 CompiledCode compileCode(std::string_view text, Globals& globals);
 
-/// Compiles what parseExpression made of the text, to code that leaves one value on the stack.
+/// Compiles the result of parseExpression to code that leaves one value on the stack.
 CodeBlock compileExpression(std::string_view text, Syntax&& syntax, Globals& globals);
 
-/// Enters the declared names: variables empty, constants, procedures.
+/// Declares the names: variables as empty, constants, procedures.
 void install(const CompiledCode& code, Globals& globals);
 
-/// Whether a lower-case name stands for the language's function and not for a name of the script.
+/// Whether a lower-case name means the language's function rather than a name of the script.
 bool isHostFunctionName(const std::string& name, Globals& globals);
 
 }  // namespace zg::script

@@ -49,7 +49,7 @@ double plainInt(double x) { return wholeBetween(x, -32768, 32767); }
 double plainLng(double x) { return wholeBetween(x, -2147483648.0, 2147483647.0); }
 double plainDbl(double x) { return x; }
 
-/// The digits of a long in the base, negative ones as the bits of their width.
+/// The digits of a long in the given base, negative ones as the bits of their width.
 Value digits(HostContext& context, const Value& value, int base) {
     if (value.is(ValueType::Null)) return value;
     auto bits = static_cast<std::uint32_t>(toLong(value));
@@ -65,8 +65,8 @@ Value digits(HostContext& context, const Value& value, int base) {
 Value hex(HostContext& context, Arguments arguments) { return digits(context, arguments[0], 16); }
 Value oct(HostContext& context, Arguments arguments) { return digits(context, arguments[0], 8); }
 
-/// Red, green and blue, each 0 to 255, as the number of the colour: red in its lowest byte. What is above 255
-/// counts as 255.
+/// The colour number of red, green and blue, each 0 to 255, with red in the lowest byte. Values above 255
+/// count as 255.
 Value rgb(HostContext&, Arguments arguments) {
     double colour = 0;
     double place = 1;

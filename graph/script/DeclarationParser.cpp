@@ -13,7 +13,7 @@ void StatementParser::optionStatement() {
     syntax_.optionExplicit = true;
 }
 
-/// Dim, Public or Private, which is current unless it was taken, and its names.
+/// Parses Dim, Public or Private, which is the current token unless already taken, and the names.
 void StatementParser::declareVariables() {
     accept(TokenKind::Dim);
     do {
@@ -59,7 +59,7 @@ void StatementParser::declareConstants() {
     } while (at(TokenKind::Comma));
 }
 
-/// A number with its sign, a text or a word for a value.
+/// The value of a constant: a number with an optional sign, a text or a word.
 Value StatementParser::literal() {
     const std::uint32_t signOffset = offset();
     const bool negative = accept(TokenKind::Minus);

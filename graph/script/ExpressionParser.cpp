@@ -10,7 +10,7 @@ namespace {
 struct BinaryOperator {
     TokenKind token;
     Operator operation;
-    int precedence;  ///< the higher, the more binding
+    int precedence;  ///< higher binds more tightly
 };
 
 constexpr int impPrecedence = 1;
@@ -102,7 +102,7 @@ Expression ExpressionParser::expression() {
     return range;
 }
 
-/// An operand and every operator behind it that binds at least so much; operators of one precedence group
+/// An operand and every operator after it that binds at least this tightly; operators of one precedence group
 /// from the left.
 void ExpressionParser::binary(int lowest) {
     const Nesting nesting(*this);
@@ -120,7 +120,7 @@ void ExpressionParser::binary(int lowest) {
     }
 }
 
-/// A sign binds less than ^ and more than *; Not binds less than comparisons.
+/// A sign binds less tightly than ^ and more tightly than *; Not binds less tightly than comparisons.
 void ExpressionParser::prefix() {
     const std::uint32_t signOffset = offset();
     if (accept(TokenKind::Plus)) {
@@ -136,7 +136,7 @@ void ExpressionParser::prefix() {
     }
 }
 
-/// What stands behind ^: its own sign, as in 2^-1, binds more than a further ^.
+/// The right side of ^: its own sign, as in 2^-1, binds more tightly than a further ^.
 void ExpressionParser::exponent() {
     const Nesting nesting(*this);
     const std::uint32_t signOffset = offset();
@@ -212,7 +212,7 @@ void ExpressionParser::namePostfix(std::uint32_t name, std::uint32_t nameOffset)
     }
     while (accept(TokenKind::Dot)) {
         const std::uint32_t memberOffset = offset();
-        // A word of the language may name a member.
+        // A word of the language may be the name of a member.
         if (token_.text.empty() || at(TokenKind::Text)) fail(ScriptErrorNumber::ExpectedIdentifier);
         const std::uint32_t member = nameIndex(token_.text);
         advance();
@@ -240,7 +240,7 @@ std::uint8_t ExpressionParser::argumentList(bool mayBeReferences) {
     return count;
 }
 
-/// A variable or element that is an argument by itself, without parentheses round it, may be changed by a
+/// A variable or element that is an argument by itself, without parentheses around it, may be changed by a
 /// procedure.
 void ExpressionParser::argument(bool mayBeReference) {
     const bool startsWithName = at(TokenKind::Identifier);

@@ -8,18 +8,18 @@
 
 namespace zg::script {
 
-/// A name that lives as long as the engine: a variable, a constant, an object or a procedure.
+/// A name that exists as long as the engine: a variable, a constant, an object or a procedure.
 struct Global {
     Value value;
-    bool exists = false;    ///< something was stored, or the name was declared
-    bool declared = false;  ///< it goes before a function of the language of the same name
+    bool exists = false;    ///< a value was stored, or the name was declared
+    bool declared = false;  ///< takes precedence over a function of the language with the same name
     bool constant = false;
 };
 
-/// The global names by number. A number and the address of its entry stay good.
+/// The global names by number. A number and the address of its entry remain valid.
 class Globals {
  public:
-    /// The number of a lower-case name, made where it is new.
+    /// The number of a lower-case name, which is added if it is new.
     std::uint32_t indexOf(const std::string& name) {
         const auto [entry, isNew] = indexes_.emplace(name, static_cast<std::uint32_t>(entries_.size()));
         if (isNew) entries_.emplace_back();

@@ -93,7 +93,7 @@ std::size_t Lexer::identifierEnd(std::size_t from) const {
     return from;
 }
 
-/// A blank, an underscore and nothing more in the line join it with the next one.
+/// A blank and an underscore at the end of a line continue it on the next one.
 bool Lexer::skipContinuation() {
     if (at(offset_) != '_' || offset_ == 0 || !isBlank(text_[offset_ - 1])) return false;
     std::size_t end = offset_ + 1;
@@ -153,7 +153,7 @@ Token Lexer::word() {
     return token;
 }
 
-/// Whole digits without point or exponent are an integer of the narrowest width that holds them.
+/// Digits without point or exponent are an integer of the narrowest width that holds it.
 Token Lexer::number() {
     std::size_t end = offset_;
     bool isWhole = true;
@@ -181,7 +181,7 @@ Token Lexer::number() {
     return token;
 }
 
-/// The digits are the bits of an integer, of a long where there are more of them or "&" follows.
+/// The digits are the bits of an integer, or of a long if there are more digits or "&" follows.
 Token Lexer::radixNumber(int base) {
     std::size_t end = offset_ + 2;
     while (digitValue(at(end)) < base) ++end;

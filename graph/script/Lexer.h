@@ -6,7 +6,7 @@
 
 namespace zg::script {
 
-/// Cuts a text into tokens. Blanks, comments and continued line ends are passed over.
+/// Splits a text into tokens. Blanks, comments and continued line ends are skipped.
 class Lexer {
  public:
     /// The text must outlive the lexer.
@@ -14,10 +14,11 @@ class Lexer {
 
     std::string_view text() const { return text_; }
 
-    /// The next token; End again and again at the end. Raises a ScriptError for what begins no token.
+    /// The next token; End repeatedly at the end. Raises a ScriptError for a character that cannot begin a
+    /// token.
     Token next();
 
-    /// Goes on behind a token that was given out before.
+    /// Continues after a token that was returned before.
     void rewindTo(const Token& token) { offset_ = token.end; }
 
  private:

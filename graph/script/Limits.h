@@ -1,6 +1,6 @@
 #pragma once
 
-// The bounds within which any script stays, however it was written. Each is far beyond what a formula needs.
+// The limits for every script. Each is far beyond what a formula needs.
 
 #include <cstddef>
 #include <cstdint>
@@ -11,13 +11,13 @@ namespace zg::script {
 inline constexpr std::size_t maxProgramLength = 1'000'000;
 /// Characters of one name.
 inline constexpr std::size_t maxNameLength = 255;
-/// Parentheses, operators waiting for a right side, and blocks within each other.
+/// Nesting of parentheses, operators waiting for their right side, and blocks.
 inline constexpr int maxNesting = 500;
 /// Arguments of a call, parameters of a procedure and dimensions of an array.
 inline constexpr std::size_t maxArguments = 60;
 /// Variables of one procedure.
 inline constexpr std::size_t maxLocals = 2000;
-/// Procedures running within each other.
+/// Procedures running at the same time.
 inline constexpr std::size_t maxCallDepth = 1000;
 /// Values that wait on the machine's stack, variables of running procedures included.
 inline constexpr std::size_t maxStackValues = 32'768;
@@ -27,7 +27,7 @@ inline constexpr std::size_t maxTextLength = 65'536;
 inline constexpr std::size_t maxTextTotal = 16u << 20;
 /// Elements of all arrays alive at once.
 inline constexpr std::size_t maxArrayElements = 100'000;
-/// Steps of the machine from one look at the clock to the next. Work on long texts counts as several steps.
+/// Steps of the machine between readings of the clock. Work on long texts counts as several steps.
 inline constexpr std::int64_t stepsBetweenClockChecks = 4096;
 
 }  // namespace zg::script

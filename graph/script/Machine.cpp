@@ -29,7 +29,7 @@ Value Machine::run(const CodeBlock& block, std::int64_t timeoutMs) {
         rethrowWithPlace(static_cast<int>(ScriptErrorNumber::OutOfMemory),
                          errorDescription(ScriptErrorNumber::OutOfMemory));
     } catch (...) {
-        reset();  // what whileRunning throws to end the script
+        reset();  // the exception with which whileRunning ends the script
         throw;
     }
     Value result = std::move(result_);
@@ -43,7 +43,7 @@ void Machine::reset() {
     result_.clear();
 }
 
-/// The place is that of the instruction being carried out.
+/// The position is that of the current instruction.
 void Machine::rethrowWithPlace(int number, const std::string& description, bool isZeroByZero) {
     const auto at = static_cast<std::size_t>(next_ - block_->code.data()) - 1;
     ScriptError error(number, description, block_->unit->text, block_->offsets[at]);
@@ -172,7 +172,7 @@ void Machine::load(const Instruction& instruction) {
     push(value);
 }
 
-/// Constants and functions give values, so that no procedure can change them.
+/// Constants and functions are passed by value, so that no procedure can change them.
 void Machine::reference(const Instruction& instruction) {
     Value& value = place(instruction);
     if (value.is(ValueType::Procedure)) return call(value, 0, true);
@@ -213,7 +213,7 @@ void Machine::binary(const Instruction& instruction) {
     pop();
 }
 
-/// A counter that a negative step lowers runs down to the limit, any other up to it.
+/// With a negative step the counter runs down to the limit, otherwise up to it.
 void Machine::forCheck() {
     const Value& counter = top(2);
     const Operator operation = top().number() < 0 ? Operator::GreaterEqual : Operator::LessEqual;

@@ -9,22 +9,22 @@
 
 namespace zg::script {
 
-/// Carries out compiled code on a stack of values. Variables of running procedures lie on the same stack.
+/// Runs compiled code on a stack of values, which also holds the variables of running procedures.
 class Machine {
  public:
     Machine(Globals& globals, HostContext& context) : globals_(globals), context_(context) {}
 
-    /// Runs a block to its end and gives the value it leaves, Empty where it leaves none. Raises a
-    /// ScriptError; the machine is ready for the next block in either case. A time-out in milliseconds below
-    /// 0 is none.
+    /// Runs a block to its end and returns the value that it leaves, Empty if it leaves none. Raises a
+    /// ScriptError; the machine can run another block in either case. A time-out below 0 milliseconds means
+    /// none.
     Value run(const CodeBlock& block, std::int64_t timeoutMs);
 
  private:
     struct Frame {
         const CodeBlock* block;
         const Procedure* procedure;  ///< null for code outside procedures
-        const Instruction* next;     ///< where the caller goes on
-        std::size_t base;            ///< of its variables on the stack
+        const Instruction* next;     ///< where the caller continues
+        std::size_t base;            ///< start of its variables on the stack
         bool wantsResult;
     };
 
@@ -33,7 +33,7 @@ class Machine {
     void reset();
     [[noreturn]] void rethrowWithPlace(int number, const std::string& description, bool isZeroByZero = false);
 
-    // The stack. Whatever lies above its top is Empty.
+    // The stack. All values above its top are Empty.
     Value& top(std::size_t below = 0) { return stack_[top_ - 1 - below]; }
     void push(const Value& value) { stack_[top_++] = value; }
     void push(Value&& value) { stack_[top_++] = std::move(value); }

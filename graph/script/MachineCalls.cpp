@@ -31,7 +31,7 @@ void Machine::call(const Value& callee, std::size_t arguments, bool wantsResult)
     enter(procedure.block, &procedure, top_ - arguments, wantsResult);
 }
 
-/// Ends the running piece of code; true where it was the outermost one.
+/// Ends the running piece of code; returns whether it was the outermost one.
 bool Machine::leave() {
     const Frame frame = frames_.back();
     Value result;
@@ -49,7 +49,7 @@ bool Machine::leave() {
     return false;
 }
 
-/// Arguments handed over by reference become the values they refer to.
+/// Replaces arguments passed by reference with the values they refer to.
 void Machine::takeValues(std::size_t arguments) {
     for (std::size_t i = 0; i < arguments; ++i) {
         Value& argument = top(i);
@@ -71,7 +71,7 @@ void Machine::requireObject(std::size_t below) {
     if (!top(below).is(ValueType::Object)) raise(ScriptErrorNumber::ObjectRequired);
 }
 
-/// The element whose indexes lie so many values below the top, the first one lowest.
+/// The array element whose indexes are that many values below the top, the first one lowest.
 Value& Machine::element(const Value& array, std::size_t indexes, std::size_t below) {
     auto& content = *static_cast<ArrayPayload*>(array.payload());
     if (indexes != content.bounds.size()) raise(ErrorNumber::SubscriptOutOfRange);

@@ -18,8 +18,8 @@ inline bool isFinite(double x) { return std::fabs(x) <= DBL_MAX; }
 
 }  // namespace
 
-/// An overflow stays visible as an infinity or not-a-number through most operations; those that could turn it
-/// into an ordinary number again look at their operand first.
+/// An overflow remains visible as an infinity or not-a-number through most operations; those that could turn
+/// it into an ordinary number check their operand first.
 double NumericCode::run() const {
     double x = 0;
     for (const NumericInstruction* i = code_.data();; ++i) {

@@ -1,10 +1,10 @@
 #pragma once
 
 // The fast form of a formula: a formula over plain numbers needs no types at run time, because integers of
-// every width give the same number in doubles. It runs on an accumulator and cells of memory, constants and
-// variables being read where they lie. Where anything goes wrong (a variable holds a text, a result
-// overflows) it gives up, and the machine evaluates the formula anew and knows the exact error; a formula has
-// no side effects.
+// every width give the same number in doubles. It runs on an accumulator and memory cells; constants and
+// variables are read in place. In every unusual case (a variable holds a text, a result overflows) it gives
+// up, and the machine evaluates the formula again and determines the exact error; formulas have no side
+// effects.
 
 #include <cstdint>
 #include <limits>
@@ -74,21 +74,21 @@ struct NumericInstruction {
 class NumericCode {
  public:
     NumericCode() = default;
-    // The instructions point into the cells: the code may move, but not be copied.
+    // The instructions point into the cells: the code can be moved, but not copied.
     NumericCode(NumericCode&&) = default;
     NumericCode& operator=(NumericCode&&) = default;
 
-    /// Becomes the code of an expression over plain numbers; false for any other one. Its variables are read
-    /// from `globals`, which must outlive the code.
+    /// Compiles an expression over plain numbers; false for any other one. Its variables are read from
+    /// `globals`, which must outlive the code.
     bool compile(const Syntax& syntax, Globals& globals);
 
-    /// The value as the variables are now; not finite where the machine is to be asked.
+    /// The value for the current variables; not finite if the machine has to evaluate it.
     double evaluate() const;
 
  private:
     friend class NumericCompiler;
 
-    /// The shortest formulas: *a * *b + *c. Without cells where the formula is a longer one.
+    /// The shortest formulas: *a * *b + *c. Without cells if the formula is a longer one.
     struct Linear {
         const double* a = nullptr;
         const double* b = nullptr;
@@ -100,7 +100,7 @@ class NumericCode {
     Linear linear_;
 
     std::vector<NumericInstruction> code_;
-    std::vector<double> cells_;            ///< never grows after the code refers to it
+    std::vector<double> cells_;            ///< does not grow once the code refers to it
     std::vector<const Value*> variables_;  ///< must be plain numbers
 };
 

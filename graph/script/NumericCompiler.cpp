@@ -18,7 +18,7 @@ constexpr std::size_t mostNodes = 4096;
 
 enum class OperandKind : std::uint8_t { Constant, Variable, Accumulator, Temporary, Object };
 
-/// A value that waits for its operator.
+/// A value waiting for its operator.
 struct Operand {
     OperandKind kind = OperandKind::Accumulator;
     double number = 0;  ///< of a constant
@@ -82,7 +82,7 @@ constexpr FunctionOp functionOps[] = {
 
 }  // namespace
 
-/// One pass over the nodes with a stack of waiting operands, of which at most one is in the accumulator.
+/// One pass over the nodes with a stack of waiting operands, at most one of which is in the accumulator.
 class NumericCompiler {
  public:
     NumericCompiler(const Syntax& syntax, Globals& globals) : syntax_(syntax), globals_(globals) {}
@@ -132,7 +132,7 @@ bool NumericCompiler::compile() {
     return true;
 }
 
-/// A formula that is no more than a product and a sum needs no instructions.
+/// A formula that is only a product and a sum needs no instructions.
 void NumericCompiler::finish() {
     NumericCode::Linear& linear = made_.linear_;
     if (isCell(waiting_.front())) {
@@ -200,12 +200,13 @@ void NumericCompiler::emit(NumericOp op, const double* a, const double* b) {
     made.b = b;
 }
 
-/// Where the number of an operand outside the accumulator lies. A variable read so must be a number.
+/// The address of the number of an operand outside the accumulator. A variable read this way must be a
+/// number.
 const double* NumericCompiler::cellOf(const Operand& operand) {
     switch (operand.kind) {
         case OperandKind::Constant:
             return newCell(operand.number);
-        case OperandKind::Object:  // As a number it sends the formula to the machine.
+        case OperandKind::Object:  // as a number it makes the formula fall back to the machine
         case OperandKind::Variable: {
             auto& variables = made_.variables_;
             if (std::find(variables.begin(), variables.end(), operand.variable) == variables.end())
@@ -217,7 +218,7 @@ const double* NumericCompiler::cellOf(const Operand& operand) {
     }
 }
 
-/// The cell of the operand at that position, which leaves the accumulator if it was there.
+/// The cell of the operand at that position, moved out of the accumulator if it was there.
 const double* NumericCompiler::inMemory(std::size_t position) {
     Operand& operand = waiting_[position];
     if (isCell(operand)) return cellOf(operand);
@@ -258,8 +259,8 @@ bool NumericCompiler::hostFunction(const HostFunction& function, std::size_t arg
     return true;
 }
 
-/// The object waits below the arguments. Only an object of the engine's own is taken, which no statement can
-/// put another value in place of.
+/// The object is below the arguments. Only an object of the engine itself is accepted, since statements
+/// cannot replace its value.
 bool NumericCompiler::member(const HostFunction& member, std::size_t arguments) {
     const Operand object = waiting_[waiting_.size() - arguments - 1];
     if (object.kind != OperandKind::Object || !hostFunction(member, arguments)) return false;
@@ -293,7 +294,7 @@ bool NumericCompiler::unaryFunction(const HostFunction& function) {
         return std::isfinite(result);
     }
     NumericOp op = NumericOp::CallUnary;
-    // Members of objects share names with none of these.
+    // No member of an object has the name of one of these.
     for (const FunctionOp& entry : functionOps)
         if (entry.name == function.name) op = entry.op;
     const bool isSine = op == NumericOp::Sin;
@@ -329,7 +330,7 @@ bool NumericCompiler::binary(Operator operation) {
     return true;
 }
 
-/// A result that cannot be is left to the machine, which raises the error when the formula runs.
+/// An impossible result is left to the machine, which raises the error when the formula runs.
 bool NumericCompiler::fold(Operator operation) {
     if (operation == Operator::Concatenate) return false;
     const double right = waiting_.back().number;

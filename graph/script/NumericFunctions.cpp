@@ -12,7 +12,7 @@ namespace {
 
 using Real = double (*)(double);
 
-/// A function of one real number to a double; no number as a result is an invalid argument.
+/// A function from a real number to a double; not-a-number as result means an invalid argument.
 template <Real function>
 Value real(HostContext&, Arguments arguments) {
     const double result = function(toNumber(arguments[0]));

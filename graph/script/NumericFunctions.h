@@ -1,6 +1,6 @@
 #pragma once
 
-// The mathematical functions on plain doubles. Where a script is to get an error they return what is not
+// The mathematical functions on plain doubles. Where a script gets an error they return a value that is not
 // finite.
 
 #include <cmath>

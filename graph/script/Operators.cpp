@@ -12,7 +12,7 @@ namespace zg::script {
 
 namespace {
 
-/// The type that a value takes part in arithmetic with: a text counts as Double, a Boolean as Integer.
+/// The type with which a value takes part in arithmetic: a text counts as Double, a Boolean as Integer.
 ValueType arithmeticType(const Value& value) {
     switch (value.type()) {
         case ValueType::Empty:
@@ -25,7 +25,7 @@ ValueType arithmeticType(const Value& value) {
     }
 }
 
-/// Both are arithmetic types. A single beside a long needs a double to keep the long's digits.
+/// Both are arithmetic types. A single with a long gives a double, to keep the long's digits.
 ValueType commonType(ValueType left, ValueType right) {
     if (left == ValueType::Single || right == ValueType::Single) {
         const ValueType other = left == ValueType::Single ? right : left;
@@ -54,7 +54,7 @@ Value raisePower(double base, double exponent) {
     return checkedDouble(result);
 }
 
-/// Narrow operands give an integer where it fits; anything else gives a long.
+/// Narrow operands give an integer if it fits, otherwise a long.
 ValueType wholeType(const Value& left, const Value& right) {
     const ValueType common = std::max(arithmeticType(left), arithmeticType(right));
     return std::min(common, ValueType::Long);
@@ -91,7 +91,7 @@ Value concatenate(const Value& left, const Value& right, const std::shared_ptr<M
     return Value::text(std::move(out), budget);
 }
 
-/// Texts are joined, Empty gives way to the other side, numbers are summed.
+/// Texts are joined, Empty gives the other operand, numbers are added.
 Value add(const Value& left, const Value& right, const std::shared_ptr<MemoryBudget>& budget) {
     if (left.is(ValueType::Text) && right.is(ValueType::Text)) return concatenate(left, right, budget);
     if (left.is(ValueType::Empty) && right.is(ValueType::Text)) return right;
@@ -117,8 +117,8 @@ bool holds(Operator operation, const T& left, const T& right) {
     }
 }
 
-/// Texts compare by their bytes, Empty as the text or number on the other side asks; a number stands before
-/// any text.
+/// Texts compare by their bytes, Empty as the text or number that the other operand requires; a number is
+/// less than any text.
 Value compare(Operator operation, const Value& left, const Value& right) {
     const bool leftText = left.is(ValueType::Text);
     const bool rightText = right.is(ValueType::Text);
@@ -148,13 +148,13 @@ std::int32_t combined(Operator operation, std::int32_t a, std::int32_t b) {
     }
 }
 
-/// Booleans among themselves stay Boolean; bytes stay bytes as far as they fit.
+/// Two Booleans stay Boolean; bytes stay bytes if the result fits.
 Value logicalResult(const Value& left, const Value& right, std::int32_t bits) {
     if (left.is(ValueType::Boolean) && right.is(ValueType::Boolean)) return Value::boolean(bits != 0);
     return widened(wholeType(left, right), bits);
 }
 
-/// One side is Null: the other one may decide alone, whatever the unknown side is.
+/// One operand is Null: the other one may decide alone, whatever the unknown one is.
 Value logicWithNull(Operator operation, const Value& left, const Value& right) {
     const bool leftNull = left.is(ValueType::Null);
     const Value& known = leftNull ? right : left;

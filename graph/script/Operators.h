@@ -1,6 +1,6 @@
 #pragma once
 
-// The operators on values, with the language's rules of which width a result has.
+// The operators on values, with the language's rules for the width of the result.
 
 #include <memory>
 
@@ -8,7 +8,7 @@
 
 namespace zg::script {
 
-/// In the order of their precedence, the most binding first, as far as it differs.
+/// From the tightest binding to the loosest, where it differs.
 enum class Operator : std::uint8_t {
     Power,
     Negate,
@@ -33,14 +33,14 @@ enum class Operator : std::uint8_t {
     Imp,
 };
 
-/// The result of `left operator right`. Texts that come about are charged to the budget. Raises 13, 11 and 6
-/// as the operation asks, 7 for a text that grows too long.
+/// The result of `left operator right`. New texts are charged to the budget. Raises 13, 11 and 6 as the
+/// operation requires, 7 for a text that grows too long.
 Value apply(Operator operation, const Value& left, const Value& right,
             const std::shared_ptr<MemoryBudget>& budget);
 /// Negate and Not.
 Value apply(Operator operation, const Value& operand);
 
-/// The operators on doubles as formulas use them: not-a-number or an infinity where apply would raise.
+/// The operators on doubles for formulas: not-a-number or an infinity where `apply` would raise an error.
 double numericResult(Operator operation, double left, double right);
 /// Not on a number, not-a-number outside 32 bits.
 double numericNot(double operand);

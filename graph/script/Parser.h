@@ -10,13 +10,13 @@
 
 namespace zg::script {
 
-/// The syntax of statements. Raises a ScriptError at the first fault.
+/// Parses statements. Raises a ScriptError at the first error.
 Syntax parseCode(std::string_view text);
 
-/// The syntax of one expression; `expression` stays empty for a text without any.
+/// Parses one expression; `expression` stays empty for a text without one.
 Syntax parseExpression(std::string_view text);
 
-/// The state that the parts of the parser share: the current token and what was made so far.
+/// The state shared by the parts of the parser: the current token and the output so far.
 class ParserBase {
  protected:
     explicit ParserBase(std::string_view text);
@@ -24,7 +24,7 @@ class ParserBase {
     bool at(TokenKind kind) const { return token_.kind == kind; }
     void advance() { token_ = lexer_.next(); }
     bool accept(TokenKind kind);
-    /// Takes a word that means something in its place only and is a name elsewhere.
+    /// Takes a word that has a meaning only in certain positions and is a name elsewhere.
     bool acceptWord(std::string_view lowerCase);
     void expect(TokenKind kind, ScriptErrorNumber otherwise);
     [[noreturn]] void fail(ScriptErrorNumber number) const { failAt(number, token_.offset); }
@@ -37,7 +37,7 @@ class ParserBase {
     /// Takes an identifier.
     std::uint32_t expectName();
 
-    /// Counts one level of nesting for as long as it lives.
+    /// Counts one level of nesting during its lifetime.
     class Nesting {
      public:
         explicit Nesting(ParserBase& parser);
@@ -64,7 +64,7 @@ class ExpressionParser : protected ParserBase {
     using ParserBase::ParserBase;
 
     Expression expression();
-    /// The arguments between parentheses, the opening one being current; the closing one is taken.
+    /// The arguments in parentheses, starting at the opening one and including the closing one.
     std::uint8_t argumentsInParentheses(bool mayBeReferences);
     /// Arguments up to the end of the statement.
     std::uint8_t argumentList(bool mayBeReferences);

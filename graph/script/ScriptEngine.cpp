@@ -21,7 +21,7 @@ std::int64_t steadyMilliseconds() {
     return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
 }
 
-/// A result as a number; a failure to be one is an error at the expression's beginning.
+/// A result as a number; if it is not one, the error is at the start of the expression.
 double numberOf(const Value& value, std::string_view text) {
     try {
         return script::toNumber(value);
@@ -74,7 +74,7 @@ CompiledExpression ScriptEngine::compile(std::string_view text) {
     return made;
 }
 
-/// Without the fast form, or to find its error. The expression is brought up to date first.
+/// Evaluates without the fast form, or to find its error. The expression is first recompiled if necessary.
 double ScriptEngine::evaluateAnew(CompiledExpression& expression) {
     if (expression.namesVersion_ != namesVersion_) expression = compile(expression.text_);
     return numberOf(machine_.run(expression.general_, timeoutMs_), expression.text_);

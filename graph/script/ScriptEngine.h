@@ -1,8 +1,8 @@
 #pragma once
 
-// A script engine for a subset of VBScript. Lexer, parser, compiler and machine each know only what the one
-// before made; this class holds the state: the global names, the pseudo-random numbers, the time-out.
-// Statements and expressions may be given as text again and again; an expression that is wanted many times is
+// A script engine for a subset of VBScript. Lexer, parser, compiler and machine each know only the output of
+// the one before; this class has the state: the global names, the pseudo-random numbers, the time-out.
+// Statements and expressions can be given as text at any time; an expression that is needed many times is
 // compiled once and then evaluated for every value of its variables, formulas over numbers in a form without
 // types.
 
@@ -29,13 +29,14 @@ class CompiledExpression {
     friend class ScriptEngine;
 
     std::string text_;
-    std::uint64_t namesVersion_ = 0;  ///< the engine's when the expression was compiled
+    std::uint64_t namesVersion_ = 0;  ///< the engine's count when the expression was compiled
     bool isNumeric_ = false;
     script::NumericCode numeric_;  ///< the fast form, if there is one
     script::CodeBlock general_;
 };
 
-/// A global variable of a ScriptEngine, found once and then set without its name. The engine must outlive it.
+/// A global variable of a ScriptEngine, looked up once and then set without its name. The engine must outlive
+/// it.
 class VariableSlot {
  private:
     friend class ScriptEngine;
@@ -47,15 +48,15 @@ class VariableSlot {
 
 class ScriptEngine {
  public:
-    /// Milliseconds of a clock that only moves forward.
+    /// Milliseconds of a monotonic clock.
     using Clock = std::function<std::int64_t()>;
 
-    /// Without a clock of the caller's it reads the machine's steady one.
+    /// Without a clock from the caller it uses the machine's steady one.
     explicit ScriptEngine(Clock clock = {});
     ScriptEngine(const ScriptEngine&) = delete;
     ScriptEngine& operator=(const ScriptEngine&) = delete;
 
-    /// "VBScript", in any case when set; raises 380 for any other language.
+    /// "VBScript", in any letter case when set; raises 380 for any other language.
     const std::string& Language() const { return language_; }
     void Language(std::string_view name);
 
@@ -64,33 +65,33 @@ class ScriptEngine {
     std::int32_t Timeout() const { return timeoutMs_; }
     void Timeout(std::int32_t milliseconds);
 
-    /// What is called now and then while a script runs, an empty one for nothing. What it throws ends the
-    /// script and reaches the caller: a RunTimeError with the place in the script, anything else as it is.
-    /// The time that it takes is not counted as the script's. It must not use this engine.
+    /// A function to be called at intervals while a script runs; empty for none. An exception from it ends
+    /// the script and reaches the caller: a RunTimeError with the place in the script, any other unchanged.
+    /// Its time does not count as the script's. It must not use this engine.
     void whileRunning(std::function<void()> act) { context_.whileRunning = std::move(act); }
 
-    /// Makes the library's operations known as members of `name`.
+    /// Makes the library's operations available as members of `name`.
     void AddObject(std::string_view name, const MathLibrary& library);
 
-    /// Runs statements; procedures and variables stay for later calls. Raises a ScriptError, after which the
-    /// statements before the failing one have had their effect; a text with a syntax error has none.
+    /// Runs statements; procedures and variables remain for later calls. Raises a ScriptError; the statements
+    /// before the failing one have then taken effect. A text with a syntax error has no effect.
     void AddCode(std::string_view text);
 
     /// The value of an expression, Empty for a text without one. Raises a ScriptError.
     script::Value Eval(std::string_view text);
-    /// The same as a number: 0 for Empty, -1 for True, the number a text is. Raises 13 and 94 besides.
+    /// The same as a number: 0 for Empty, -1 for True, the number in a text. Also raises 13 and 94.
     double evalNumber(std::string_view text);
 
-    /// Raises a ScriptError for what is no expression.
+    /// Raises a ScriptError for a text that is not an expression.
     CompiledExpression compile(std::string_view text);
-    /// As evalNumber, for an expression that this engine compiled. Names mean what they mean now, also where
+    /// Like evalNumber, for an expression compiled by this engine. Names have their present meaning, also if
     /// code was added after compiling.
     double evaluateNumber(CompiledExpression& expression);
     /// Whether the expression has the fast form, which most formulas over numbers have.
     static bool isNumericForm(const CompiledExpression& expression) { return expression.isNumeric_; }
 
-    /// The variable of that name, which exists from here on. Raises 501 for the name of a constant, object or
-    /// procedure.
+    /// The variable of that name, which is created if necessary. Raises 501 for the name of a constant,
+    /// object or procedure.
     VariableSlot slot(std::string_view name);
     /// Makes the variable a Double; the value must be finite.
     void setNumber(VariableSlot slot, double value);
@@ -100,7 +101,7 @@ class ScriptEngine {
 
     std::string language_ = "VBScript";
     std::int32_t timeoutMs_ = 10'000;
-    /// Counts the texts that declared names, which may change what a compiled name stands for.
+    /// Number of texts that declared names, which may change the meaning of a compiled name.
     std::uint64_t namesVersion_ = 0;
     script::Globals globals_;
     script::HostContext context_;

@@ -64,7 +64,7 @@ std::size_t characters(std::string_view text) {
            static_cast<std::size_t>(std::count_if(text.begin(), text.end(), continuesCharacter));
 }
 
-/// The byte where the character that lies so many characters before `offset` begins; not before `first`.
+/// The offset of the character that many characters before `offset`; not before `first`.
 std::size_t stepBack(std::string_view text, std::size_t first, std::size_t offset, std::size_t count) {
     while (offset > first && count > 0) {
         --offset;

@@ -8,7 +8,7 @@
 
 namespace zg {
 
-/// The numbers that scripts add to those of ErrorNumber.
+/// The error numbers of scripts in addition to those of ErrorNumber.
 enum class ScriptErrorNumber : int {
     OutOfMemory = 7,
     OutOfStackSpace = 28,
@@ -58,27 +58,26 @@ const char* errorDescription(ScriptErrorNumber number);
 /// A script that does not compile, or a statement or operation of it that failed.
 class ScriptError : public RunTimeError {
  public:
-    /// The error at a byte of the text; the end of the text is a position too.
+    /// The error at a byte of the text; the end of the text is a valid position too.
     ScriptError(int errorNumber, std::string errorDescription, std::string_view text, std::size_t offset);
     ScriptError(ScriptErrorNumber errorNumber, std::string_view text, std::size_t offset);
 
-    /// It is the overflow of 0 divided by 0, which is a division by zero too.
+    /// Whether it is the overflow of 0 divided by 0, which is also a division by zero.
     bool isZeroByZero = false;
 
     int line;    ///< from 1; lines end with CR LF, CR or LF
     int column;  ///< from 1, in characters: the bytes of one UTF-8 sequence count once
-    /// What stands around the position in its line, at most 80 characters, and below it a line with "^" under
-    /// the position.
+    /// The line around the position, at most 80 characters, and below it a line with "^" under the position.
     std::string snippet;
 };
 
-/// What 0 divided by 0 raises: an overflow by its number.
+/// The error of 0 divided by 0: an overflow by its number.
 class ZeroByZero : public RunTimeError {
  public:
     ZeroByZero();
 };
 
-/// Throws the error of that number where the place in the text is added later, by whoever runs the code.
+/// Throws the error of that number; the code that runs the script adds the place in the text.
 [[noreturn]] void raise(ScriptErrorNumber number);
 
 }  // namespace zg

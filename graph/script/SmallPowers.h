@@ -1,9 +1,8 @@
 #pragma once
 
-// Whole powers 2 to 5 without the library's pow. A product carries the rest that its rounding lost along as a
-// second double, so that each result is rounded once in effect: it is the correctly rounded power but for
-// cases where the exact value lies within 2^-100 or so of a rounding border, and never further from it than
-// pow is.
+// Whole powers 2 to 5 without the library's pow. A product carries its rounding error along as a second
+// double, so that the result is in effect rounded once: it is the correctly rounded power unless the exact
+// value is within about 2^-100 of a rounding boundary, and never less accurate than pow.
 
 #include <cmath>
 
@@ -15,7 +14,7 @@ struct Pair {
     double low;
 };
 
-/// The exact product of two numbers whose product, squared, stays in the range of doubles.
+/// The exact product of two numbers, the square of whose product must be in the range of doubles.
 inline Pair exactProduct(double a, double b) {
     const double high = a * b;
 #ifdef FP_FAST_FMA
@@ -32,7 +31,7 @@ inline Pair exactProduct(double a, double b) {
 #endif
 }
 
-/// Whether the exact products of the powers up to 5 neither overflow nor lose digits at the small end.
+/// Whether the exact products of the powers up to 5 neither overflow nor lose digits by underflow.
 inline bool inPowerRange(double x) {
     const double size = std::fabs(x);
     return size > 1e-50 && size < 1e50;
@@ -64,7 +63,7 @@ inline double fifthPower(double x) {
     return fifth.high + (fifth.low + fourth.low * x);
 }
 
-/// x to the power y; not finite where there is no such number.
+/// x to the power y; not finite if there is no such number.
 inline double power(double x, double y) {
     if (y == 2) return x * x;
     if (y == 3) return cube(x);

@@ -34,7 +34,7 @@ void StatementParser::expectStatementEnd() {
     if (!atStatementEnd() && !atBlockEnd()) fail(ScriptErrorNumber::ExpectedEndOfStatement);
 }
 
-/// The words that end a block; which of them fits, the block's statement knows.
+/// The words that end a block; the statement of the block checks which of them fits.
 bool StatementParser::atBlockEnd() const {
     switch (token_.kind) {
         case TokenKind::End:
@@ -58,13 +58,13 @@ void StatementParser::statements(Block& block) {
         if (atBlockEnd()) return;
         lineIfEnded_ = false;
         statement(block);
-        // The If of one line may stand before the end of a block in that line.
+        // A one-line If may be the last statement of a block that ends on the same line.
         if (!atStatementEnd() && !(lineIfEnded_ && atBlockEnd()))
             fail(ScriptErrorNumber::ExpectedEndOfStatement);
     }
 }
 
-/// Statements up to the end of the line, as behind Then.
+/// Statements up to the end of the line, as after Then.
 void StatementParser::lineStatements(Block& block) {
     for (;;) {
         while (accept(TokenKind::Colon)) {
@@ -153,8 +153,8 @@ void StatementParser::assignment(Block& block, StatementKind kind) {
     made.value = expression();
 }
 
-/// A statement that begins with a name: an assignment, or a call with or without parentheses. Which of them
-/// shows only behind the parentheses, so their content may be read twice.
+/// A statement that begins with a name: an assignment, or a call with or without parentheses. Which one shows
+/// only after the parentheses, so their content may be read twice.
 void StatementParser::nameStatement(Block& block) {
     const Token nameToken = token_;
     const std::uint32_t nameOffset = offset();
@@ -185,7 +185,7 @@ void StatementParser::nameStatement(Block& block) {
         }
         if (startsExpression() && root.arguments == 0) {
             const std::uint8_t count = argumentList(false);
-            // The arguments go before the member's node.
+            // The arguments come before the member's node.
             std::rotate(syntax_.nodes.begin() + made.place.end - 1, syntax_.nodes.begin() + made.place.end,
                         syntax_.nodes.end());
             syntax_.nodes.back().arguments = count;
@@ -195,7 +195,7 @@ void StatementParser::nameStatement(Block& block) {
     }
     if (atStatementEnd() || atBlockEnd()) {
         if (root.arguments > 1) failAt(ScriptErrorNumber::ParenthesesWithSub, behindName.offset);
-        // The parentheses of the only argument keep it from being changed.
+        // Parentheses around the only argument protect it from changes.
         if (root.arguments == 1) syntax_.nodes[syntax_.nodes.size() - 2].asReference = false;
         return;
     }

@@ -8,8 +8,8 @@
 
 namespace zg::script {
 
-/// Statements, in three sources: this class's own for simple ones, BlockParser for those that hold others,
-/// DeclarationParser for what makes names known.
+/// Statements, in three sources: this class for simple ones, BlockParser for those that contain others,
+/// DeclarationParser for declarations.
 class StatementParser : private ExpressionParser {
  public:
     explicit StatementParser(std::string_view text) : ExpressionParser(text) {}

@@ -1,7 +1,7 @@
 #pragma once
 
-// What the parser makes of a text. An expression is a run of nodes in the order in which a stack machine
-// carries them out, operands before their operator, so that no walk over it needs recursion.
+// The output of the parser. An expression is a sequence of nodes in the order in which a stack machine
+// executes them, operands before their operator, so that no walk over it needs recursion.
 
 #include <cstddef>
 #include <cstdint>
@@ -26,13 +26,13 @@ struct Node {
     NodeKind kind = NodeKind::Constant;
     Operator operation = Operator::Add;
     std::uint8_t arguments = 0;
-    /// The node is a whole argument of a call and may be handed over by reference.
+    /// Whether the node is a whole argument of a call and may be passed by reference.
     bool asReference = false;
     std::uint32_t index = 0;
     std::uint32_t offset = 0;  ///< in the text
 };
 
-/// A run of nodes; empty where nothing was written.
+/// A sequence of nodes; empty if nothing was written.
 struct Expression {
     std::uint32_t first = 0;
     std::uint32_t end = 0;
@@ -80,7 +80,7 @@ struct Branch {
     Block body;
 };
 
-/// A name made known by Dim or Const.
+/// A name declared by Dim or Const.
 struct Declaration {
     std::uint32_t name = 0;
     std::uint32_t offset = 0;
@@ -107,13 +107,13 @@ struct ProcedureSyntax {
 
 struct Syntax {
     std::vector<Node> nodes;
-    std::vector<std::string> names;  ///< in lower case, each once
+    std::vector<std::string> names;  ///< in lower case, without duplicates
     std::vector<Value> constants;
     bool optionExplicit = false;
     std::vector<Declaration> declarations;
     Block body;
     std::vector<ProcedureSyntax> procedures;
-    Expression expression;  ///< where the text is one
+    Expression expression;  ///< if the text is one
 };
 
 }  // namespace zg::script

@@ -27,7 +27,7 @@ std::size_t positionOf(const Value& value) {
 
 Value whole(std::size_t number) { return {ValueType::Long, static_cast<double>(number)}; }
 
-/// Whether the argument at the place asks for a comparison without regard to case: 1 does, 0 does not.
+/// Whether the argument at that index asks for a comparison that ignores letter case: 1 does, 0 does not.
 bool ignoringCase(Arguments arguments, std::size_t place) {
     if (arguments.size() <= place) return false;
     const std::int32_t mode = toLong(arguments[place]);
@@ -81,13 +81,12 @@ Value mid(HostContext& context, Arguments arguments) {
     return context.text(midN(toText(arguments[0]), start, count));
 }
 
-/// The work of a search at its worst, every start followed far.
+/// The work of a search in the worst case, if every start nearly matches.
 void spendSearch(HostContext& context, std::size_t text, std::size_t wanted) {
     context.spend(text + text * (wanted / 64));
 }
 
-/// InStr([start,] text, wanted [, mode]): the first argument is a start where it is one of three that is a
-/// number, or one of four.
+/// InStr([start,] text, wanted [, mode]): the first of three or four arguments is the start.
 Value inStr(HostContext& context, Arguments arguments) {
     const bool hasStart = arguments.size() > 2;
     const std::size_t first = hasStart ? 1 : 0;
@@ -103,7 +102,8 @@ Value inStr(HostContext& context, Arguments arguments) {
     return whole(found == std::string::npos ? 0 : found + 1);
 }
 
-/// InStrRev(text, wanted [, start [, mode]]): the wanted text ends at `start` or before; -1 is the last one.
+/// InStrRev(text, wanted [, start [, mode]]): the match must end at or before `start`; -1 is the end of the
+/// text.
 Value inStrRev(HostContext& context, Arguments arguments) {
     const bool ignoreCase = ignoringCase(arguments, 3);
     const std::int32_t start = arguments.size() > 2 ? toLong(arguments[2]) : -1;
@@ -135,7 +135,7 @@ std::string replaced(const std::string& text, std::size_t from, const Value& wan
     return out.append(text, kept);
 }
 
-/// Replace(text, wanted, replacement [, start [, count [, mode]]]): what stands before `start` is dropped.
+/// Replace(text, wanted, replacement [, start [, count [, mode]]]): the text before `start` is dropped.
 Value replace(HostContext& context, Arguments arguments) {
     const std::size_t start = arguments.size() > 3 ? positionOf(arguments[3]) : 1;
     const std::int32_t most = arguments.size() > 4 ? toLong(arguments[4]) : -1;
@@ -154,7 +154,7 @@ Value space(HostContext& context, Arguments arguments) {
     return context.text(std::string(count, ' '));
 }
 
-/// String(count, character): the first character of a text, or the one of that code, modulo 256.
+/// String(count, character): the first character of a text, or the one with that code, modulo 256.
 Value repeated(HostContext& context, Arguments arguments) {
     const std::size_t count = countOf(arguments[0]);
     if (arguments[1].is(ValueType::Null)) return arguments[1];

@@ -72,7 +72,7 @@ enum class TokenKind : std::uint8_t {
     Wend,
     While,
     Xor,
-    Reserved,  ///< a word of the wider language that has no meaning here
+    Reserved,  ///< a word of the wider language that is not supported here
 };
 
 struct Token {
@@ -80,7 +80,7 @@ struct Token {
     std::size_t offset = 0;  ///< of its first byte in the text
     std::size_t end = 0;     ///< of the byte after it
     Value number;            ///< of a Number, in the narrowest type that holds it
-    std::string text;        ///< an Identifier or word in lower case; what a Text stands for
+    std::string text;        ///< an Identifier or word in lower case; the contents of a Text
 };
 
 }  // namespace zg::script

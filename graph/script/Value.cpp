@@ -127,7 +127,7 @@ bool toCondition(const Value& value) {
 }
 
 Value widened(ValueType narrowest, double whole) {
-    whole += 0.0;  // A whole number knows no negative zero.
+    whole += 0.0;  // a whole number has no negative zero
     if (narrowest == ValueType::Byte && whole >= 0 && whole <= 255) return {ValueType::Byte, whole};
     if (narrowest <= ValueType::Integer && whole >= -32768 && whole <= 32767)
         return {ValueType::Integer, whole};

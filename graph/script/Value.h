@@ -9,8 +9,8 @@
 
 namespace zg::script {
 
-/// The order matters: up to Double the value counts as the double it keeps, whatever the formula does with
-/// it.
+/// The order matters: up to Double a value can be used as the double that it holds, whatever the formula does
+/// with it.
 enum class ValueType : std::uint8_t {
     Empty,
     Boolean,
@@ -50,19 +50,19 @@ class Value {
  public:
     Value() noexcept {}
     explicit Value(double number) : type_(ValueType::Double), number_(number) {}
-    /// A number that fits its type.
+    /// A number; it must be in the range of its type.
     Value(ValueType type, double number) : type_(type), number_(number) {}
     Value(ValueType type, std::shared_ptr<Payload> payload) : type_(type), payload_(std::move(payload)) {}
 
     static Value boolean(bool value) { return {ValueType::Boolean, value ? -1.0 : 0.0}; }
     static Value null() { return {ValueType::Null, 0.0}; }
-    /// A text of a length that was checked before; its characters are charged to the budget while it lives.
+    /// A text whose length has been checked; its characters are charged to the budget during its lifetime.
     static Value text(std::string content, const std::shared_ptr<MemoryBudget>& budget = nullptr);
     static Value reference(Value* target);
 
     ValueType type() const { return type_; }
     bool is(ValueType type) const { return type_ == type; }
-    /// Empty, Boolean or of a width whose arithmetic a double carries out exactly.
+    /// Empty, Boolean or of a width for which double arithmetic is exact.
     bool isPlainNumber() const { return type_ <= ValueType::Double; }
     /// Plain or a single.
     bool isNumber() const { return type_ <= ValueType::Single; }
@@ -84,7 +84,7 @@ class Value {
         type_ = ValueType::Empty;
         number_ = 0;
     }
-    /// Where the number lies; the address is good for as long as the value itself.
+    /// The address of the number, valid as long as the value.
     const double* numberAddress() const { return &number_; }
 
  private:
@@ -101,21 +101,22 @@ const char* typeName(ValueType type);
 /// The number that VarType gives.
 int typeCode(ValueType type);
 
-/// A number of any type but text stays as it is; a text is read whole, as a double. Raises 13 for what is no
-/// number, 94 for Null.
+/// A number of any type is returned unchanged; a text is converted to a double as a whole. Raises 13 for
+/// anything that is not a number, 94 for Null.
 double toNumber(const Value& value);
-/// Rounded half to even; raises 6 outside 32 bits, else as toNumber.
+/// Rounded half to even; raises 6 outside 32 bits, and the errors of toNumber.
 std::int32_t toLong(const Value& value);
 /// "True" or "False", a number's shortest text, "" for Empty. Raises 13 for an object, 94 for Null.
 std::string toText(const Value& value);
-/// Whether a condition holds; Null does not.
+/// Whether a condition is true; Null is not.
 bool toCondition(const Value& value);
 
-/// An integer in the narrowest type from the given one on that holds it: Byte, Integer, Long, else Double.
+/// An integer of the narrowest type that holds it, starting from the given one: Byte, Integer, Long, else
+/// Double.
 Value widened(ValueType narrowest, double whole);
-/// A single where the result fits one, else a double; raises 6 for what is not finite.
+/// A single if the result fits one, else a double; raises 6 if it is not finite.
 Value singleOrDouble(double result);
-/// A double; raises 6 for what is not finite.
+/// A double; raises 6 if it is not finite.
 Value checkedDouble(double result);
 
 }  // namespace zg::script

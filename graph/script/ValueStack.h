@@ -8,8 +8,8 @@
 
 namespace zg::script {
 
-/// Room for the machine's values, whose addresses never change. Only as many are made as were ever asked for,
-/// so that an engine for one small formula costs little.
+/// Storage for the machine's values, whose addresses never change. Values are created on demand, so that an
+/// engine for one small formula costs little.
 class ValueStack {
  public:
     ValueStack() = default;
@@ -20,7 +20,7 @@ class ValueStack {
     ValueStack(const ValueStack&) = delete;
     ValueStack& operator=(const ValueStack&) = delete;
 
-    /// Sees to so many values, at most maxStackValues; new ones are Empty.
+    /// Ensures that this many values exist, at most maxStackValues; new ones are Empty.
     void reserve(std::size_t count) {
         if (count <= made_) return;
         if (!values_) values_ = std::allocator<Value>().allocate(maxStackValues);
