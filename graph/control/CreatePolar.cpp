@@ -7,7 +7,7 @@ namespace zg {
 
 Polar createPolar(ModPolarGraph& tables) {
     fillFactoryStyle(tables);
-    // One rose, and as in every table of roses nothing at index 0.
+    // One rose; as in every table of roses, index 0 is unused.
     tables.FrqCalmPercent.redim(1);
     tables.CurrentRose = 1;
     tables.FrqRoseCount = 1;

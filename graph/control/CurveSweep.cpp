@@ -10,8 +10,7 @@ namespace zg {
 
 namespace {
 
-/// Points that lie closer than this to the end of the line change no pixel; a million of them would only cost
-/// time.
+/// Points closer than this to the end of the line change no pixel; a million of them would only cost time.
 constexpr double smallestMove = 0.1;
 
 }  // namespace
@@ -24,7 +23,7 @@ std::string coefficientCode(const std::string& coefficient) {
 
 namespace {
 
-/// The engine after the coefficient's statements have run in it.
+/// The engine, after running the coefficient's statements in it.
 ScriptEngine& prepared(ScriptEngine& engine, const std::string& coefficient) {
     if (const std::string code = coefficientCode(coefficient); !code.empty()) engine.AddCode(code);
     return engine;
@@ -39,7 +38,7 @@ CurveSampler::CurveSampler(ScriptEngine& engine, const GrapInfo& graph)
 
 CurvePoint CurveSampler::at(float angle, const PolarGeometry& geometry) {
     const double radians = MathLibrary::Radians(static_cast<double>(angle));
-    // t has the digits of its text, as scripts have always got it.
+    // t has the digits of its text form, as scripts have always received it.
     engine_.setNumber(t_, toDouble(doubleText(radians)));
     CurvePoint point;
     point.angle = angle;

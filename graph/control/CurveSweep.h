@@ -12,8 +12,8 @@
 
 namespace zg {
 
-/// A sampled point: angle in degrees counterclockwise from east, radius in polar units, place in polar units
-/// with y downwards, and place on the canvas.
+/// A sampled point: angle in degrees counterclockwise from east, radius in polar units, position in polar
+/// units with y downwards, and position on the canvas.
 struct CurvePoint {
     float angle = 0;
     float radius = 0;
@@ -22,7 +22,7 @@ struct CurvePoint {
     Point onCanvas;
 };
 
-/// The angles of a sweep, in single precision as they add up. A step of 0 never ends.
+/// The angles of a sweep, accumulated in single precision. With a step of 0 it never ends.
 class SweepAngles {
  public:
     explicit SweepAngles(const GrapInfo& graph)
@@ -31,7 +31,7 @@ class SweepAngles {
     bool done() const { return step_ >= 0 ? angle_ > end_ : angle_ < end_; }
     float angle() const { return angle_; }
 
-    /// Goes on by one step; a step too small to move the angle ends the sweep at once.
+    /// Advances by one step; a step too small to change the angle ends the sweep at once.
     void advance() {
         const float next = angle_ + step_;
         if (next == angle_ && step_ != 0)
@@ -47,13 +47,13 @@ class SweepAngles {
     float step_;
 };
 
-/// Samples a curve by the script engine. The formula is compiled once.
+/// Samples a curve with the script engine. The formula is compiled once.
 class CurveSampler {
  public:
     /// Runs the coefficient's statements and compiles the equation; raises the engine's errors.
     CurveSampler(ScriptEngine& engine, const GrapInfo& graph);
 
-    /// The point at an angle; raises what the equation raises, and 6 for a radius beyond a single.
+    /// The point at an angle; raises the errors of the equation, and 6 for a radius beyond a single.
     CurvePoint at(float angle, const PolarGeometry& geometry);
 
  private:
@@ -62,8 +62,8 @@ class CurveSampler {
     CompiledExpression equation_;
 };
 
-/// Paints the points of a sweep one after the other. The canvas is asked for anew at each, since the window
-/// may show it meanwhile.
+/// Paints the points of a sweep one after the other. The canvas is requested for each point, since the window
+/// may display it in between.
 class CurvePainter {
  public:
     CurvePainter(const Series& series, MarkerPictures pictures, const PolarGeometry& geometry)
@@ -73,7 +73,7 @@ class CurvePainter {
 
     void paint(Canvas& canvas, const CurvePoint& point);
 
-    /// Paints what paint has kept back of the last points.
+    /// Paints the last points, which paint may have held back.
     void finish(Canvas& canvas);
 
  private:
@@ -82,14 +82,14 @@ class CurvePainter {
     const Series& series_;
     MarkerPictures pictures_;
     Point centre_;
-    double length_ = 0;  ///< of what is painted
+    double length_ = 0;  ///< of what has been painted
     bool begun_ = false;
     bool waiting_ = false;
-    Point pen_;   ///< end of what is painted
-    Point last_;  ///< the point before, which may lie too close to the pen to be seen
+    Point pen_;   ///< end of what has been painted
+    Point last_;  ///< the previous point, which may be too close to the pen to be visible
 };
 
-/// Statements as the engine takes them: trimmed, and closed by ":" unless empty.
+/// Statements in the form for the engine: trimmed, and with ":" at the end unless empty.
 std::string coefficientCode(const std::string& coefficient);
 
 }  // namespace zg

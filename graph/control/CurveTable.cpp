@@ -34,7 +34,7 @@ std::vector<CurveRow> tabulateCurve(const GrapInfo& graph, ScriptEngine::Clock c
         for (SweepAngles angles(graph); !angles.done(); angles.advance()) {
             if (rows.size() == mostRows) throw RunTimeError(7, "Out of memory");
             const double radians = MathLibrary::Radians(static_cast<double>(angles.angle()));
-            // t has the digits of its text, as scripts have always got it.
+            // t has the digits of its text form, as scripts have always received it.
             engine.setNumber(t, toDouble(doubleText(radians)));
             const double x = engine.evaluateNumber(equation) * std::cos(radians);
             const double y = engine.evaluateNumber(equation) * std::sin(radians);

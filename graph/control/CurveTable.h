@@ -8,8 +8,8 @@
 
 namespace zg {
 
-/// One sampled point of a curve: angle in degrees, place and radius in polar units rounded to 4 decimals, y
-/// upwards.
+/// One sampled point of a curve: angle in degrees, position and radius in polar units rounded to 4 decimals,
+/// y upwards.
 struct CurveRow {
     float angle = 0;
     double x = 0;
@@ -17,11 +17,11 @@ struct CurveRow {
     double radius = 0;
 };
 
-/// The points of a curve from its first angle to its last. The equation is evaluated twice a point, once for
-/// x and once for y. Tells of each row. Raises what the scripts raise, 11 for a step of 0, 7, "Out of
-/// memory", for more rows than can be kept, and without a service of events 32811 beyond the limit of
-/// SweepWatch. With one there is no limit, and SweepStopped is thrown where it says so. No single call of a
-/// script has a limit of its own.
+/// Samples a curve from its first angle to its last. The equation is evaluated twice per point, once for x
+/// and once for y. Reports each row. Raises the errors of scripts, 11 for a step of 0, 7, "Out of memory",
+/// for more rows than can be kept, and, if no function serves events, 32811 beyond the limit of SweepWatch.
+/// With such a function there is no limit, and SweepStopped is thrown when it returns false. Single calls of
+/// a script have no limit of their own.
 std::vector<CurveRow> tabulateCurve(const GrapInfo& graph, ScriptEngine::Clock clock,
                                     const std::function<void()>& onRow = {}, SweepWatch::Serve serve = {});
 

@@ -7,7 +7,7 @@
 
 namespace zg {
 
-/// What is wrong with a curve's texts before anything is drawn.
+/// An error in a curve's texts, found before anything is drawn.
 struct EquationFault {
     enum class Where { Coefficient, Equation };
     Where where;
@@ -15,14 +15,13 @@ struct EquationFault {
     int column;  ///< from 1, in characters of the trimmed text
 };
 
-/// Runs the coefficient and evaluates the equation once in an engine of its own, where t is nothing yet.
-/// A division by zero, 0/0 included, is no fault of the equation: that value of t may be the only one that
-/// hits it.
+/// Runs the coefficient and evaluates the equation once, in a separate engine in which t is Empty. A division
+/// by zero, including 0/0, is not an error of the equation: it may occur only at that value of t.
 std::optional<EquationFault> checkEquation(const std::string& coefficient, const std::string& equation,
                                            ScriptEngine::Clock clock);
 
-/// The description of what is wrong with an expression that stands for itself, any division by zero
-/// included; "" for a good one. It may run as long as it likes.
+/// The description of the error in a self-contained expression, including any division by zero; "" if there
+/// is none. It may run for any length of time.
 std::string expressionFault(const std::string& expression, ScriptEngine::Clock clock);
 
 }  // namespace zg

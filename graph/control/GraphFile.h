@@ -10,8 +10,8 @@ namespace zg {
 /// comment of the control. Nothing is escaped.
 std::string graphRecord(const GrapInfo& graph, const std::string& comment);
 
-/// Writes the curves as quoted records behind the one that names the file's kind. Raises the error of the
-/// file, which then holds what was written until then.
+/// Writes a record that names the file's kind, then the curves as quoted records. Raises the error of the
+/// file, which then keeps what has been written.
 void writeGraphFile(const std::string& path, const Plot& plot, const std::string& comment);
 
 }  // namespace zg

@@ -32,7 +32,7 @@ void arrangeRulers(const PageLayout& layout, ChildSurfaces& surfaces) {
     surfaces.picRulerV = {0, 0, ruler, down, shown};
 }
 
-/// From the page's edge to the end of its shadow is within reach, and the unscrolled place always is.
+/// One can scroll from the page's edge to the end of its shadow, and always to the unscrolled position.
 void rangeOver(ScrollRange& range, int offset, int page, int visible) {
     range.minimum = std::min(0, offset);
     range.maximum = std::max(0, offset + page + shadowOffset - visible);

@@ -1,15 +1,15 @@
 #pragma once
 
-// Where the child surfaces of the control lie. The work area is the whole control; rulers and scroll bars lie
-// over it along the edges, and the page lies on it at its offset.
+// The positions of the control's child surfaces. The work area is the whole control; rulers and scroll bars
+// cover it along the edges, and the page is on it at its offset.
 
 #include <cstdint>
 
 namespace zg {
 
-/// Place and visibility of a child surface, in pixels. The rulers lie within their holders; shpSelect,
-/// shpCircle, shpRubber and the crosshair lie within the page, the tracking lines within their rulers; all
-/// others within the control.
+/// Position and visibility of a child surface, in pixels. The rulers are relative to their holders;
+/// shpSelect, shpCircle, shpRubber and the crosshair to the page, the tracking lines to their rulers; all
+/// others to the control.
 struct ChildSurface {
     int left = 0;
     int top = 0;
@@ -34,14 +34,14 @@ struct ChildSurfaces {
     ChildSurface lblTrackAngle;
     ChildSurface shpSelect;
     ChildSurface shpCircle;
-    ChildSurface shpRubber;  ///< the rectangle while it is being dragged
+    ChildSurface shpRubber;  ///< the rectangle during a drag
     ChildSurface linCrossH;  ///< along x through the pointer
     ChildSurface linCrossV;
     ChildSurface linRulerH;  ///< tracking line across picRulerH, at the pointer's x
     ChildSurface linRulerV;  ///< across picRulerV, at its y
 };
 
-/// A scroll bar's range and position, in pixels of the work area. The range always holds 0.
+/// A scroll bar's range and position, in pixels of the work area. The range always includes 0.
 struct ScrollRange {
     int minimum = 0;
     int maximum = 0;
@@ -59,7 +59,7 @@ constexpr int cornerGap = 5;
 /// Width and height of the square page at that zoom in percent, at least 1.
 int pageSize(std::int16_t zoom);
 
-/// What the arrangement depends on.
+/// The input of the layout.
 struct PageLayout {
     int width = 0;  ///< of the control
     int height = 0;
@@ -71,7 +71,7 @@ struct PageLayout {
 };
 
 /// Arranges scroll bars, rulers, page and shadow. The scroll ranges follow the page, their values are kept
-/// within them, and the page is shifted by the values. Other surfaces stay as they are.
+/// within them, and the page is shifted by the values. Other surfaces are unchanged.
 void arrange(const PageLayout& layout, ChildSurfaces& surfaces, ScrollRange& horizontal,
              ScrollRange& vertical);
 

@@ -150,7 +150,7 @@ void PolarGraph::RedrawGraph(std::int16_t mode) {
         RecordedCanvas canvas = page();
         redrawFrame(settings_, polar_, modPolarGraph, canvas, geometry_);
     } catch (...) {
-        keepPicture();  // what an error left is what the page shows
+        keepPicture();  // after an error, the page shows what was painted until then
         throw;
     }
     keepPicture();

@@ -1,7 +1,7 @@
 #pragma once
 
-// The polar graph control without its toolkit: properties, events, and what repaints when. The widget around
-// it is a ControlWindow that lends the surface and obeys the layout.
+// The polar graph control without its toolkit: properties, events, and when to repaint. The widget around it
+// is a ControlWindow that provides the surface and applies the layout.
 
 #include <cstdint>
 #include <functional>
@@ -23,54 +23,55 @@
 
 namespace zg {
 
-/// What the control needs of the window that shows it.
+/// What the control needs from the window that shows it.
 class ControlWindow {
  public:
     virtual ~ControlWindow() = default;
 
-    /// The page's surface, good until the next pageResized or pagePainted. Its size follows pageResized.
+    /// The page's surface, valid until the next pageResized or pagePainted. Its size follows pageResized.
     virtual Canvas& pageCanvas() = 0;
 
     /// The page has a new size in pixels, at least 1 by 1; its content is repainted after the call.
     virtual void pageResized(int width, int height) = 0;
 
-    /// Places, sizes or visibility of child surfaces changed.
+    /// Positions, sizes or visibility of child surfaces have changed.
     virtual void layoutChanged() = 0;
 
-    /// Shapes of the tools, or the tracking lines of the rulers, changed.
+    /// Shapes of the tools, or the tracking lines of the rulers, have changed.
     virtual void shapesChanged() = 0;
 
-    /// The rulers are to be painted again.
+    /// The rulers have to be repainted.
     virtual void rulersChanged() = 0;
 
-    /// What is on the page now is its persistent picture, until the page gets another size or another one.
+    /// The present content of the page becomes its persistent picture, until the page gets another size or
+    /// another picture.
     virtual void keepPicture() = 0;
 
-    /// The page shows its persistent picture again; false where it has none.
+    /// Shows the persistent picture again; false if there is none.
     virtual bool restorePicture() = 0;
 
-    /// What was painted on the page is to be shown.
+    /// Displays what has been painted on the page.
     virtual void pagePainted() = 0;
 
-    /// The property store has a new value.
+    /// A property of the property store has a new value.
     virtual void propertyChanged() = 0;
 
-    /// MousePointer or MouseIcon changed.
+    /// MousePointer or MouseIcon has changed.
     virtual void pointerChanged() = 0;
 
-    /// A copy of that part of what was painted on the page, one pixel a scale unit, without the tools'
-    /// shapes; null for an empty part.
+    /// A copy of that part of the painted page, one pixel per scale unit, without the tools' shapes; null for
+    /// an empty part.
     virtual PicturePointer copyPage(const Rect& part) = 0;
 
-    /// The clipboard holds nothing but the picture.
+    /// Replaces the contents of the clipboard by the picture.
     virtual void pictureToClipboard(const Picture& picture) = 0;
 
-    /// Replaces the file by the picture as an uncompressed bitmap; raises the error of the file, which then
-    /// is what it was.
+    /// Replaces the file by the picture as an uncompressed bitmap; raises the error of the file, which is
+    /// then unchanged.
     virtual void saveBitmap(const Picture& picture, const std::string& path) = 0;
 
-    /// Asks for a printer and, unless that is cancelled, has one page painted on it: a square of that many
-    /// scale units, as large as the paper takes and centred. Raises 482, "Printer error".
+    /// Asks for a printer and, unless cancelled, has one page painted on it: a square of that many scale
+    /// units, centred and as large as the paper allows. Raises 482, "Printer error".
     virtual void print(double side, const std::function<void(Canvas&)>& paint) = 0;
 
     virtual void showAbout(const std::string& title) = 0;
@@ -78,11 +79,11 @@ class ControlWindow {
     /// lblTrackAngle has a new text; an empty one hides it.
     virtual void trackAngleChanged(const std::string& text) = 0;
 
-    /// The picture of a file; null where there is none or it is no picture.
+    /// The picture in a file; null if the file does not exist or is not a picture.
     virtual PicturePointer loadPicture(const std::string& path) = 0;
 };
 
-/// Events towards the host. An empty function is no listener.
+/// Events to the host. An empty function means no listener.
 struct PolarGraphEvents {
     std::function<void(bool& value)> DrawBegin;
     std::function<void()> Click;
@@ -100,7 +101,7 @@ struct PolarGraphEvents {
     std::function<void(float angle, float radius, float x, float y, float portion)> DrawProgress;
 };
 
-/// Properties that neither drawing nor placing reads, under their names and with a new control's values.
+/// Properties that affect neither drawing nor layout, under their names and with a new control's values.
 struct ControlProperties {
     bool AutoUpdate = true;
     std::string Comment;
@@ -111,19 +112,19 @@ struct ControlProperties {
     bool StopAni = true;
 };
 
-/// Mouse buttons as the events number them.
+/// Mouse buttons as numbered in the events.
 constexpr std::int16_t leftButton = 1;
 constexpr std::int16_t rightButton = 2;
 
 /// The control draws modPolarGraph's tables. Each property is a pair of functions of one name; each setter
-/// tells the window of its property store, and those of what is on the page repaint it.
+/// notifies the window's property store, and setters of visible properties repaint.
 class PolarGraph {
  public:
     static constexpr const char* cornerToolTip =
         "Left click to reset the drawing area: Right click to change the ruler mode.";
 
-    /// Arranges the children and paints the page with the designed properties. The window is called while
-    /// this runs. Raises what a designed value of the wrong kind raises.
+    /// Arranges the children and paints the page with the designed properties. The window's functions are
+    /// called during this. Raises an error for a designed value of the wrong kind.
     PolarGraph(ControlWindow& window, Host& host, const PropertyBag& designed = {});
     PolarGraph(const PolarGraph&) = delete;
     PolarGraph& operator=(const PolarGraph&) = delete;
@@ -131,11 +132,12 @@ class PolarGraph {
     PolarGraphEvents events;
 
     float AspectRatio() const { return settings_.AspectRatio; }
-    /// Above 0 and up to 5; another value is refused with a message and the old one stays. Four decimals.
+    /// Above 0 and up to 5, rounded to four decimals; any other value is refused with a message and the old
+    /// one kept.
     void AspectRatio(float value);
 
     bool AutoUpdate() const { return own_.AutoUpdate; }
-    /// Chosen at design time; raises 387.
+    /// Set at design time only; raises 387.
     void AutoUpdate(bool value);
 
     Colour BackColor() const { return settings_.BackColor; }
@@ -170,8 +172,8 @@ class PolarGraph {
     void ScrollBars(std::int32_t value);
 
     std::int32_t SetActiveTool() const { return own_.SetActiveTool; }
-    /// What the mouse does on the page: 0 nothing, 1 a circle about the centre, 2 a crosshair, 3 pans, 4
-    /// selects. A new value ends the old tool: its shapes and the selection are hidden.
+    /// The effect of the mouse on the page: 0 nothing, 1 a circle about the centre, 2 a crosshair, 3 pans, 4
+    /// selects. Setting it ends the old tool: its shapes and the selection are hidden.
     void SetActiveTool(std::int32_t value);
 
     std::int32_t SetRulerMode() const { return own_.SetRulerMode; }
@@ -194,41 +196,40 @@ class PolarGraph {
     std::int16_t Zoom() const { return settings_.Zoom; }
     void Zoom(std::int16_t value);
 
-    /// A selection is shown and does not measure 1 by 1.
+    /// Whether a selection is shown that is larger than 1 by 1.
     bool ActiveSelection() const;
 
-    /// Clears the page down to its persistent picture, the rose without curves; tables and objects stay.
+    /// Resets the page to its persistent picture, the rose without curves; tables and objects are unchanged.
     void ClearGraph();
 
-    /// Paints the curve of that number over what is on the page, or all of them over the persistent picture,
-    /// where they are visible. Instantly false paints each
-    /// at once whatever its delay; true lets those with a delay sweep step by step, with events served
-    /// meanwhile, until StopAni becomes true. One that takes long serves events too: it ends when StopAni
-    /// becomes true, the curves after it with it, and raises 32811 beyond the limit of SweepWatch. Raises the
-    /// script engine's errors; what was painted until then stays. False where StopAni ended one that takes
-    /// long.
+    /// Paints the curve of that number over the page, or all visible ones over the persistent picture. If
+    /// instantly is false each is painted at once, whatever its delay; if true those with a delay sweep step
+    /// by step, and events are served meanwhile, until StopAni becomes true. A curve that takes long also
+    /// serves events: it ends when StopAni becomes true, together with the curves after it, and raises 32811
+    /// beyond the limit of SweepWatch. Raises the script engine's errors; what has been painted remains.
+    /// Returns false if StopAni ended a curve that takes long.
     bool DrawGraph(std::optional<std::int16_t> index = std::nullopt, bool instantly = false);
 
-    /// The selection, or the whole page without one, goes to the clipboard.
+    /// Copies the selection, or the whole page if there is none, to the clipboard.
     void EditCopy();
 
-    /// The whole page becomes a bitmap file: one that is asked for (cancelling ends it silently), or that
-    /// one. Raises the error of the file, which then is what it was.
+    /// Saves the whole page as a bitmap, in a file that the user is asked for (cancelling does nothing) or in
+    /// the given one. Raises the error of the file, which is then unchanged.
     void EditCopyTo();
     void EditCopyTo(const std::string& path);
 
-    /// Asks for a printer and prints what is on the page, at the printer's resolution.
+    /// Asks for a printer and prints the content of the page at the printer's resolution.
     void SentToPrinter();
 
-    /// Writes the curves as a text file; an error is told in a box, and the file stays as far as it was
+    /// Writes the curves to a text file; an error is shown in a box, and the file keeps what has been
     /// written.
     void SaveGraph(const std::string& path);
 
-    /// Loads the file into the tables and, if it was accepted, refreshes. The result is always 0; see
-    /// lastOpenOutcome. Errors of a broken file reach the caller with the tables partly filled.
+    /// Loads the file into the tables and refreshes if it was accepted. The result is always 0; see
+    /// lastOpenOutcome. Errors in the file reach the caller, with the tables partly filled.
     std::int16_t OpenFreqFile(const std::string& path);
 
-    /// What became of the last OpenFreqFile; Refused where it ended in an error.
+    /// The outcome of the last OpenFreqFile; Refused if it ended in an error.
     FreqFileOutcome lastOpenOutcome() const { return lastOpenOutcome_; }
 
     void Refresh();
@@ -238,44 +239,44 @@ class PolarGraph {
 
     void ShowAbout();
 
-    /// All properties that can be kept, under their own names. Polar and Plot are no part of it.
+    /// All properties that can be stored, under their own names, without Polar and Plot.
     void ReadProperties(const PropertyBag& bag);
     void WriteProperties(PropertyBag& bag) const;
 
-    /// While suspended nothing repaints, neither the page nor its curves, so that several properties can
-    /// change under one Refresh.
+    /// While suspended, neither the page nor its curves are repainted, so that several properties can change
+    /// before one Refresh.
     void suspendUpdates(bool suspended) { suspended_ = suspended; }
 
-    /// The control's inner size in pixels is new.
+    /// The control has a new inner size in pixels.
     void layout(int width, int height);
 
-    /// The scroll bars' values are new; kept within their ranges.
+    /// New values of the scroll bars, which are kept within their ranges.
     void scrollTo(int horizontal, int vertical);
 
     /// picRulerJ was pressed: left resets the drawing area, right changes the ruler mode.
     void cornerPressed(std::int16_t button);
 
-    /// A ruler is dragged: the pointer's place in it, in pixels. Either ruler moves the page along both axes.
+    /// A ruler is dragged; the pointer's position is relative to it, in pixels. Either ruler moves the page
+    /// along both axes.
     void rulerPressed(float x, float y);
     void rulerDragged(float x, float y);
 
-    /// Ends a drag and puts back what it moved; without one, drops the selection. False where there was
-    /// neither.
+    /// Cancels a drag and undoes its movement; without one, clears the selection. False if there was neither.
     bool cancelTool();
 
-    /// The pointer has left the page: the rulers' tracking lines go.
+    /// The pointer has left the page: hides the rulers' tracking lines.
     void pointerLeft();
 
-    /// The selection takes the whole page, unless there is one already.
+    /// Selects the whole page, unless there is a selection.
     void EditSelectAll();
 
-    /// The pointer on the page, in its pixels. Each is passed on to the host first, then the tool acts; every
-    /// move then tells the tracked position.
+    /// The pointer on the page, in pixels. Each event is first passed on to the host, then the tool acts;
+    /// every move then reports the tracked position.
     void mouseDown(std::int16_t button, std::int16_t shift, float x, float y);
     void mouseMove(std::int16_t button, std::int16_t shift, float x, float y);
     void mouseUp(std::int16_t button, std::int16_t shift, float x, float y);
 
-    /// What the ruler along that edge shows now.
+    /// The current content of the ruler along that edge.
     RulerView rulerView(RulerSide side) const;
 
     const ChildSurfaces& surfaces() const { return surfaces_; }
@@ -332,7 +333,7 @@ class PolarGraph {
     ScrollRange horizontalScroll_;
     ScrollRange verticalScroll_;
     PolarGeometry geometry_;
-    CanvasRecord record_;  ///< of what is on the page
+    CanvasRecord record_;  ///< of the page's content
 
     struct Place {
         std::int16_t x = 0;
@@ -345,15 +346,15 @@ class PolarGraph {
     float RubberEndX_ = 0;
     float RubberEndY_ = 0;
     float circleWidth_ = 0;
-    bool dragging_ = false;  ///< the button went down with the tool pan or select
-    Place dragFrom_;         ///< of the page, when a drag began
+    bool dragging_ = false;  ///< the button was pressed with the pan or select tool
+    Place dragFrom_;         ///< of the page, at the start of a drag
     float rulerX_ = 0;
     float rulerY_ = 0;
 
     bool suspended_ = false;
-    bool serving_ = false;       ///< events, in the middle of a sweep
+    bool serving_ = false;       ///< events, during a sweep
     bool curvesWanted_ = false;  ///< while it served them
-    bool stopped_ = false;       ///< by StopAni: the curves that follow are not drawn either
+    bool stopped_ = false;       ///< by StopAni, so the following curves are not drawn either
     FreqFileOutcome lastOpenOutcome_ = FreqFileOutcome::Refused;
 };
 

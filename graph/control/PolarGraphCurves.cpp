@@ -19,7 +19,7 @@ std::string trackText(float angle) {
     return "Angle : " + doubleText(roundHalfEven(static_cast<double>(angle))) + "\xC2\xB0";
 }
 
-/// Puts a value back at the end, however the end comes about.
+/// Restores a value at the end of the scope, however it is left.
 template <typename Act>
 class AtEnd {
  public:
@@ -40,13 +40,13 @@ bool PolarGraph::DrawGraph(std::optional<std::int16_t> index, bool instantly) {
         drawItem(*index, instantly);
         if (!curvesWanted_ || stopped_) return !stopped_;
     }
-    // A curve that was hidden, changed or removed since would stay on the page otherwise.
+    // Otherwise a curve that has been hidden, changed or removed since would stay on the page.
     ClearGraph();
     drawAll(instantly && !index);
     return !stopped_;
 }
 
-/// Curves that are wanted while a long sweep serves events share its engine and its page: they wait until it
+/// Curves requested while a long sweep serves events would share its engine and its page: they wait until it
 /// has ended, and then all are drawn.
 bool PolarGraph::isPutOff() {
     curvesWanted_ = serving_;
@@ -103,8 +103,8 @@ void PolarGraph::DrawCurve(const GrapInfo& graph) {
 }
 
 void PolarGraph::sweep(const GrapInfo& graph) {
-    // The host may change or drop the curve while events are served: the sweep goes on with what it began
-    // with.
+    // The host may change or remove the curve while events are served: the sweep continues with its initial
+    // values.
     const GrapInfo curve = graph;
     if (curve.Delay > 0 || curve.Step == 0)
         return paintPoints(curve, [&](float angle) { return waitForNextStep(curve.Delay, angle); });
@@ -138,14 +138,14 @@ void PolarGraph::paintPoints(const GrapInfo& curve, const std::function<bool(flo
             if (!goesOn(point.angle)) break;
         }
     } catch (const SweepStopped&) {
-        // What ended it otherwise draws the page anew.
+        // Otherwise whatever ended it redraws the page.
         if (own_.StopAni) finish();
         throw;
     }
     finish();
 }
 
-/// Shows how far a long sweep has come and serves events; false when it is to end. StopAni is False
+/// Displays the progress of a long sweep and serves events; false if the sweep is to end. StopAni is False
 /// meanwhile, as during an animation.
 bool PolarGraph::serveSweep() {
     window_.pagePainted();
@@ -156,7 +156,7 @@ bool PolarGraph::serveSweep() {
     return !own_.StopAni && !curvesWanted_;
 }
 
-/// Serves events until the delay has passed; false when the sweep is to end.
+/// Serves events until the delay has passed; false if the sweep is to end.
 bool PolarGraph::waitForNextStep(std::int16_t delay, float angle) {
     if (delay > 0) {
         window_.pagePainted();

@@ -1,4 +1,4 @@
-// Page and children of the control: the properties that place them, scrolling, and the corner.
+// Page and children of the control: the properties that position them, scrolling, and the corner.
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-// How the picture and the curves leave the control.
+// Output of the picture and of the curves.
 
 #include "base/RunTimeError.h"
 #include "base/Text.h"
@@ -13,7 +13,7 @@ constexpr const char* bitmapFilter = "Bitmap Files (*.bmp) | *.bmp;";
 
 }  // namespace
 
-/// The part of the page that a shape covers, as far as it lies on the page.
+/// The part of a shape that is on the page.
 Rect PolarGraph::onPage(const ChildSurface& shape) const {
     const int right = std::min(shape.left + shape.width, page_.page);
     const int bottom = std::min(shape.top + shape.height, page_.page);
@@ -51,7 +51,8 @@ void PolarGraph::SentToPrinter() {
     window_.print(side, [this](Canvas& canvas) { print(canvas); });
 }
 
-/// What is on the page, stroke by stroke; of more strokes than anyone could tell apart, the pixels.
+/// The content of the page stroke by stroke, or as pixels if there are more strokes than anyone could
+/// distinguish.
 void PolarGraph::print(Canvas& canvas) const {
     if (record_.isComplete()) return record_.replay(canvas);
     const auto side = static_cast<double>(page_.page);

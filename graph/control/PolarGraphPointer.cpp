@@ -1,4 +1,4 @@
-// The tools: what the pointer does on the page and on the rulers.
+// The tools: the effect of the pointer on the page and on the rulers.
 
 #include <algorithm>
 #include <cmath>
@@ -17,7 +17,7 @@ constexpr std::int32_t crossTool = 2;
 constexpr std::int32_t panTool = 3;
 constexpr std::int32_t selectTool = 4;
 
-/// A new tool's pointer; the host may set another.
+/// The pointer of a new tool; the host may set another.
 std::int16_t pointerOf(std::int32_t tool) {
     constexpr std::int16_t arrow = 1;
     constexpr std::int16_t cross = 2;
@@ -28,7 +28,7 @@ std::int16_t pointerOf(std::int32_t tool) {
 
 int whole(float place) { return static_cast<int>(std::floor(place)); }
 
-/// The rectangle with those two corners in any order, both included.
+/// The rectangle with these two corners in any order, both included.
 ChildSurface rectangleOf(float x1, float y1, float x2, float y2) {
     const int left = whole(std::min(x1, x2));
     const int top = whole(std::min(y1, y2));
@@ -124,7 +124,7 @@ void PolarGraph::pointerLeft() {
     window_.shapesChanged();
 }
 
-/// The page moves with the pointer, so that its place on the page stays where the drag began.
+/// The page moves with the pointer, so that the point at which the drag began stays under it.
 void PolarGraph::followPan(float x, float y) {
     moveTo(page_.OffsetDrawingAreaX + whole(x) - PanStartX_,
            page_.OffsetDrawingAreaY + whole(y) - PanStartY_);

@@ -7,7 +7,7 @@ namespace zg {
 
 namespace {
 
-/// Whole numbers and colours keep their 32 bits as signed numbers.
+/// Whole numbers and colours are stored as signed 32-bit numbers.
 std::string wholeText(std::int32_t value) { return doubleText(value); }
 
 class Reader {
@@ -49,7 +49,7 @@ class Writer {
     PropertyBag& bag_;
 };
 
-/// Names every property once, in the order of the control's interface, for reading as for writing.
+/// Names every property once, in the order of the control's interface, for both reading and writing.
 template <typename Visit>
 void eachProperty(Visit&& visit, auto& settings, auto& page, auto& own) {
     visit("AspectRatio", settings.AspectRatio);

@@ -13,10 +13,10 @@ class PropertyBag {
     void WriteProperty(const std::string& name, const std::string& value);
     void WritePicture(const std::string& name, PicturePointer picture);
 
-    /// The stored text, or the default where none is stored.
+    /// The stored text, or the default if none is stored.
     std::string ReadProperty(const std::string& name, const std::string& defaultValue) const;
 
-    /// The stored picture, null where none is stored.
+    /// The stored picture, null if none is stored.
     PicturePointer ReadPicture(const std::string& name) const;
 
  private:

@@ -17,14 +17,14 @@ constexpr double stripInset = 5;    // of the page's white strip, across the rul
 constexpr double outlineInset = 4;  // of the grey line around it
 constexpr double numberedMark = 4;
 constexpr double shortMark = 2;
-constexpr double readableGap = 34;  // pixels that a number needs
+constexpr double readableGap = 34;  // pixels per number
 constexpr double smallestGap = 4;
 constexpr double textPlacing = 0.8;
 constexpr double pixelStep = 10;
 constexpr int pixelsNumberedEvery = 5;
 const TextStyle numberStyle{"Arial", 6, false, false, black};
 
-/// The smallest of 1, 2, 5, 10, 20, ... steps that leaves so many pixels.
+/// The smallest of 1, 2, 5, 10, 20, ... steps that gives at least this many pixels.
 int stepsPer(double pixelsAStep, double gap) {
     constexpr std::array<int, 3> mantissas = {1, 2, 5};
     for (int decade = 1; decade <= 1000000; decade *= 10)
@@ -66,7 +66,7 @@ std::vector<RulerMark> pixelMarks(const RulerView& view) {
     return marks;
 }
 
-/// A rectangle given along and across the ruler.
+/// A rectangle in coordinates along and across the ruler.
 Rect onRuler(const RulerView& view, double from, double to, double nearEdge, double farEdge) {
     if (view.horizontal) return {from, nearEdge, to, farEdge};
     return {nearEdge, from, farEdge, to};

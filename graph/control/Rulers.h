@@ -1,6 +1,6 @@
 #pragma once
 
-// The rulers along the page: which marks they bear and how they are painted. Layout first, painting second.
+// The rulers along the page: their marks, and how to paint them. Layout comes first, painting second.
 
 #include <cstdint>
 #include <string>
@@ -28,16 +28,16 @@ struct RulerView {
 
 struct RulerMark {
     double position = 0;
-    std::string text;  ///< "" is a short mark
+    std::string text;  ///< "" for a short mark
     bool operator==(const RulerMark&) const = default;
 };
 
-/// The marks within the page. Numbers stand only as close as they can be read.
+/// The marks within the page. Numbers are far enough apart to be readable.
 std::vector<RulerMark> rulerMarks(const RulerView& view);
 
 void paintRuler(Canvas& canvas, const RulerView& view);
 
-/// The corner in which the rulers join.
+/// The corner between the rulers.
 void paintRulerCorner(Canvas& canvas);
 
 }  // namespace zg

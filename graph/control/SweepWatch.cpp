@@ -11,7 +11,7 @@ namespace {
 constexpr int outOfTime = static_cast<int>(ScriptErrorNumber::OutOfTime);
 constexpr std::size_t longestShown = 200;
 
-/// The formula as an error names it.
+/// The formula in the form for an error message.
 std::string quoted(const std::string& formula) {
     if (formula.size() <= longestShown) return "'" + formula + "'";
     std::size_t end = longestShown;
@@ -19,7 +19,7 @@ std::string quoted(const std::string& formula) {
     return "'" + formula.substr(0, end) + "...'";
 }
 
-/// While one is there the engine's scripts are looked after.
+/// During its lifetime the engine's scripts are watched.
 class WhileRunning {
  public:
     WhileRunning(ScriptEngine& engine, SweepWatch& watch) : engine_(engine) {

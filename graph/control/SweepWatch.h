@@ -1,7 +1,7 @@
 #pragma once
 
-// What keeps a long sweep of a curve from holding the program: events are served meanwhile, and no sweep goes
-// on for ever where nobody can stop it.
+// Keeps a long sweep of a curve from blocking the program: events are served meanwhile, and a sweep that
+// nobody can stop has a time limit.
 
 #include <cstdint>
 #include <functional>
@@ -12,26 +12,27 @@
 
 namespace zg {
 
-/// Thrown where a service of events ended a sweep: no error.
+/// Thrown if the function that serves events ended a sweep; not an error.
 struct SweepStopped {};
 
 class SweepWatch {
  public:
-    /// Milliseconds of work after which a sweep is given up.
+    /// Milliseconds of work after which a sweep is ended.
     static constexpr std::int64_t usualLimit = 30'000;
-    /// Milliseconds of work from one service of events to the next: a sweep that is shorter serves none.
+    /// Milliseconds of work between calls that serve events: a shorter sweep serves none.
     static constexpr std::int64_t patience = 100;
 
-    /// Serves events; false ends the sweep.
+    /// Serves events; returns false to end the sweep.
     using Serve = std::function<bool()>;
 
-    /// Counts from here on. Without a service only the limit is watched; without a limit a service alone ends
-    /// the sweep.
+    /// Starts counting. Without a function that serves events only the limit applies; without a limit only
+    /// that function can end the sweep.
     explicit SweepWatch(ScriptEngine::Clock clock, Serve serve = {},
                         std::optional<std::int64_t> limit = usualLimit);
 
-    /// Looks at the clock, and serves or ends the sweep when it is time to: while a script runs. Throws
-    /// SweepStopped, and raises 32811 beyond the limit, to which services do not count.
+    /// To be called while a script runs: reads the clock, and serves events or ends the sweep when it is
+    /// time. Throws SweepStopped, and raises 32811 beyond the limit, which does not include the time for
+    /// events.
     void lookNow() {
         const std::int64_t now = clock_();
         skipped_ = now == seen_ ? fastPoints : 0;
@@ -39,7 +40,7 @@ class SweepWatch {
         if (now >= next_) act();
     }
 
-    /// The same for each point; of points that follow each other fast only some look.
+    /// The same for each point; if points follow each other quickly, only some calls read the clock.
     void look() {
         if (skipped_ > 0)
             --skipped_;
@@ -60,8 +61,8 @@ class SweepWatch {
     int skipped_ = 0;
 };
 
-/// Carries a sweep out, with a look at the watch now and then while the engine runs a script of it. What it
-/// throws reaches the caller; an error of time then names the formula.
+/// Runs a sweep, calling the watch at intervals while the engine runs a script of it. Exceptions reach the
+/// caller; a time-out error then names the formula.
 void sweepUnderWatch(ScriptEngine& engine, SweepWatch& watch, const std::string& formula,
                      const std::function<void()>& sweep);
 

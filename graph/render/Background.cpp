@@ -11,7 +11,7 @@ Rect placeAt(double left, double top, double width, double height) {
     return {left, top, left + width, top + height};
 }
 
-/// One copy more than fit in, as a whole number.
+/// One copy more than fits, as a whole number.
 int copies(double surface, double picture) {
     if (picture == 0) raise(ErrorNumber::DivisionByZero);
     return toInt16(surface / picture + 1);

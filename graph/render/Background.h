@@ -6,8 +6,8 @@
 
 namespace zg {
 
-/// Where the copies of a background picture of that size lie on the surface. Style 0 is top left, 1 centred,
-/// 2 stretched, any other tiled; tiling raises 11 for a picture without width or height.
+/// The positions of the copies of a background picture of that size on the surface. Style 0 is top left, 1
+/// centred, 2 stretched, any other tiled; tiling raises 11 for a picture without width or height.
 std::vector<Rect> backgroundPlaces(double width, double height, double pictureWidth, double pictureHeight,
                                    std::int32_t pictureStyle);
 

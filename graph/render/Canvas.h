@@ -1,7 +1,7 @@
 #pragma once
 
-// The one surface that everything is painted on: screen, bitmap, vector file and printer are adapters of it,
-// and tests record it.
+// The interface for all painting: screen, bitmap, vector file and printer are adapters of it, and tests
+// record it.
 
 #include <cstdint>
 #include <memory>
@@ -12,7 +12,7 @@
 
 namespace zg {
 
-/// A decoded picture; adapters know how to read and paint theirs. Sizes in pixels.
+/// A decoded picture; adapters can read and paint their own kind. Sizes in pixels.
 class Picture {
  public:
     virtual ~Picture() = default;
@@ -41,7 +41,7 @@ struct TextSize {
     double height = 0;
 };
 
-/// Font and colour of a text. Sizes are points at 96 dots an inch, whatever the screen.
+/// Font and colour of a text. Sizes are points at 96 dots per inch, whatever the screen.
 struct TextStyle {
     std::string face;
     double size = 8;
@@ -56,12 +56,12 @@ struct LineStyle {
     Colour colour = black;
     std::int32_t width = 1;
     std::int32_t style = 0;
-    double phase = 0;  ///< length of the line that this one goes on from, so that dashes run through
+    double phase = 0;  ///< length of the preceding line, so that dashes continue across the join
     bool operator==(const LineStyle&) const = default;
 };
 
-/// Measures are scale units of the surface, one unit a pixel of the page at its size. The text position
-/// starts at (0, 0) and, after each text, lies at x = 0 one line of that text's style further down.
+/// Measures are scale units of the surface; one unit is a pixel of the page at its size. The text position
+/// starts at (0, 0) and, after each text, is at x = 0 one line of that text's style further down.
 class Canvas {
  public:
     virtual ~Canvas() = default;
@@ -69,17 +69,17 @@ class Canvas {
     virtual double width() const = 0;
     virtual double height() const = 0;
 
-    /// Fills the surface and drops its persistent picture.
+    /// Fills the surface and discards its persistent picture.
     virtual void clear(Colour colour) = 0;
 
-    /// What is on the surface becomes its persistent picture, which transient drawing is erased to.
+    /// The content of the surface becomes its persistent picture, to which transient drawing is reset.
     virtual void keepPicture() = 0;
 
-    /// A plain copy of the whole picture into the target, stretched to it. Pictures are shared, so that a
-    /// canvas may keep them.
+    /// Copies the whole picture into the target, stretched to it. Pictures are shared, so that a canvas may
+    /// keep them.
     virtual void blit(const PicturePointer& picture, const Rect& target) = 0;
 
-    /// The picture copied only where the mask is black.
+    /// Copies the picture only where the mask is black.
     virtual void blitMasked(const PicturePointer& picture, const PicturePointer& mask,
                             const Rect& target) = 0;
 
@@ -94,16 +94,16 @@ class Canvas {
     virtual void line(Point from, Point to, const LineStyle& style) = 0;
 
     /// A sector counterclockwise from start to end, angles in radians counterclockwise from east with y up,
-    /// closed by both radii. A start above the end crosses east.
+    /// closed by both radii. A start greater than the end crosses east.
     virtual void pie(Point centre, double radius, double start, double end, Colour fill, Colour outline) = 0;
 
-    /// Interior only, closed by itself.
+    /// Interior only; the outline is closed automatically.
     virtual void fillPolygon(const std::vector<Point>& corners, Colour colour) = 0;
 
     virtual void setTextPosition(Point position) = 0;
     virtual Point textPosition() const = 0;
 
-    /// Writes at the text position (the text's top left corner) and moves it.
+    /// Writes at the text position (the text's top left corner) and advances it.
     virtual void text(const std::string& text, const TextStyle& style) = 0;
 
     virtual TextSize measure(const std::string& text, const TextStyle& style) const = 0;

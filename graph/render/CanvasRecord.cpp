@@ -35,7 +35,7 @@ void replay(const Command& command, Canvas& canvas) { std::visit(Replay{canvas},
 
 namespace {
 
-/// A list that one page needed and the next will not is given back.
+/// Frees a list that one page needed and the next one will not.
 constexpr std::size_t usualCommands = 4096;
 
 }  // namespace

@@ -1,7 +1,7 @@
 #pragma once
 
-// What has been painted, as a list of commands, so that the same can be painted once more on another canvas:
-// a print is sharp, and shows what the page shows whatever has been set since.
+// The painted content as a list of commands, so that it can be painted again on another canvas: a print is
+// sharp and equals the page, whatever settings have changed since.
 
 #include <string>
 #include <variant>
@@ -70,7 +70,7 @@ struct FillPolygon {
     Colour colour;
     bool operator==(const FillPolygon&) const = default;
 };
-/// A text with the position that it was written at.
+/// A text with the position at which it was written.
 struct Text {
     Point at;
     std::string text;
@@ -81,22 +81,22 @@ struct Text {
 using Command = std::variant<Clear, KeepPicture, Blit, BlitMasked, FillRectangle, Circle, Disc, Line, Pie,
                              FillPolygon, Text>;
 
-/// Carries the command out on a canvas.
+/// Executes the command on a canvas.
 void replay(const Command& command, Canvas& canvas);
 
 }  // namespace drawn
 
-/// The commands that made what a surface shows. It is bounded: where more was painted than it holds, it is
-/// incomplete, and who wants to paint it has to take the surface's pixels.
+/// The commands that painted the content of a surface. The list is bounded: if more was painted, it is
+/// incomplete, and the surface's pixels have to be used instead.
 class CanvasRecord {
  public:
     /// A rose has some hundred commands, a smooth curve some hundred more.
     static constexpr std::size_t mostCommands = 100'000;
 
-    /// What a whole clearing hides is forgotten.
+    /// Clearing the whole surface discards the earlier commands.
     void add(drawn::Command command);
 
-    /// What is there now is what restore goes back to.
+    /// Marks the present content as that to which restore returns.
     void keep();
     void restore();
 
@@ -110,12 +110,12 @@ class CanvasRecord {
 
  private:
     std::vector<drawn::Command> commands_;
-    std::size_t kept_ = 0;  ///< number of the commands that restore leaves
+    std::size_t kept_ = 0;  ///< number of commands that remain after restore
     bool overflown_ = false;
     bool keptOverflown_ = false;
 };
 
-/// Paints on another canvas and keeps a record of it.
+/// Paints on another canvas and records the commands.
 class RecordedCanvas : public Canvas {
  public:
     RecordedCanvas(Canvas& canvas, CanvasRecord& record) : canvas_(canvas), record_(record) {}

@@ -32,7 +32,7 @@ void paintCharacter(Canvas& canvas, Point at, const Marker& marker) {
 
 void paintShading(Canvas& canvas, Point centre, Point from, Point to, const Pen& pen) {
     canvas.fillPolygon({centre, from, to}, pen.FillColor);
-    // Neighbours share this edge: without it the smooth edges of both would leave a pale seam.
+    // Adjacent areas share this edge: without it, antialiasing of both would leave a pale seam.
     canvas.line(centre, from, {pen.FillColor, 1, 0, 0});
 }
 

@@ -10,7 +10,7 @@
 
 namespace zg {
 
-/// One redraw under way: what it reads, where it paints, and what its pieces leave to the next one.
+/// The state of one redraw: its input, its canvas, and what each piece leaves for the next one.
 struct Frame {
     const PlotSettings& settings;
     Polar& polar;
@@ -19,9 +19,10 @@ struct Frame {
     PolarGeometry& geometry;
     double width = 0;  ///< of the canvas, scale units
     double height = 0;
-    /// Style in force. A piece that writes leaves its style behind, and later texts are measured in it.
+    /// The current text style. A piece that writes leaves its style behind, and later texts are measured in
+    /// it.
     TextStyle textStyle;
-    std::string lastLabel = {};  ///< the direction or percent label written last, "" before the first
+    std::string lastLabel = {};  ///< the last direction or percent label, "" before the first
 
     Point centre() const { return {geometry.CentreX, geometry.CentreY}; }
     double outerRadius() const { return static_cast<double>(polar.Radius) * geometry.UnitLength; }

@@ -20,10 +20,10 @@ struct LegendLayout {
 
 LegendLayout legendLayout(double width, double height);
 
-/// The calm line for a calm threshold as the table has it.
+/// The calm line for a calm threshold as given in the table.
 std::string calmLineText(const std::string& limit, const std::string& unit, const std::string& calmPercent);
 
-/// The line of speed class 1 to 6, from the limits of the classes; raises 9 where a limit is missing.
+/// The line of speed class 1 to 6, from the limits of the classes; raises 9 for a missing limit.
 std::string classLineText(const Table<std::string>& limits, int speedClass, const std::string& unit);
 
 /// Rebuilds LegendClassLimit and draws the legend with it.

@@ -4,8 +4,8 @@
 
 namespace zg {
 
-/// Writes "5%", "10%" and so on, one a polar unit, just off the east spoke. Each is placed by the size of the
-/// label written before it.
+/// Writes "5%", "10%" and so on, one per polar unit, just off the east spoke. Each is positioned according to
+/// the size of the previous label.
 void drawPercentLabels(Frame& frame);
 
 }  // namespace zg

@@ -7,16 +7,16 @@
 
 namespace zg {
 
-/// What a redraw needs of the control's properties, under their names and with a new control's values.
+/// The properties of the control that a redraw uses, under their names and with a new control's values.
 struct PlotSettings {
-    float AspectRatio = 1.5F;  ///< divides the drawing: a larger ratio is a smaller rose
+    float AspectRatio = 1.5F;  ///< divides the drawing: a larger ratio gives a smaller rose
     std::int16_t Zoom = 50;    ///< percent
     bool ShowCoordinateSystem = true;
     bool ShowLabel = true;
     bool ShowLegend = true;
     std::int32_t ShowGrid = 1;      ///< 0 no rings or spokes, 1 fine, 2 coarse
     std::int32_t PictureStyle = 0;  ///< 0 top left, 1 centred, 2 stretched, else tiled
-    PicturePointer Picture;         ///< background, null is none
+    PicturePointer Picture;         ///< background, null for none
     Colour BackColor = white;
 };
 

@@ -2,7 +2,7 @@
 
 namespace zg {
 
-/// Geometry of the last redraw, kept for the tools: scale units of the canvas.
+/// Geometry of the last redraw, kept for the tools, in scale units of the canvas.
 struct PolarGeometry {
     float OriginOffsetX = 0;  ///< shift of the centre from the canvas centre
     float OriginOffsetY = 0;

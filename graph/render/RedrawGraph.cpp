@@ -15,7 +15,7 @@ namespace zg {
 
 namespace {
 
-/// A file without any rose announces itself; face and slant are those of the text before it.
+/// A file without roses shows a notice; font and slant are those of the text before it.
 void drawNoRoseNotice(Frame& frame) {
     frame.textStyle.colour = black;
     frame.textStyle.size = 18;

@@ -1,7 +1,7 @@
 #pragma once
 
-// The one picture of the plot, painted from nothing at every change: background, legend, titles, polar grid,
-// wind rose and labels. Curves and rulers follow it; the control calls them.
+// Paints the whole plot anew at every change: background, legend, titles, polar grid, wind rose and labels.
+// Curves and rulers come after it; the control calls them.
 
 #include "graph/frq/ModPolarGraph.h"
 #include "graph/model/Polar.h"
@@ -22,15 +22,15 @@ constexpr AfterFrame afterFrame(std::int16_t mode) {
     return {true, true};
 }
 
-/// Puts the centre: in the middle of the surface while the origin follows it (X and Y are reset then), else
-/// shifted by X and Y as the zoom scales them.
+/// Positions the centre: in the middle of the surface while the origin is automatic (X and Y are then reset),
+/// otherwise shifted by X and Y, scaled by the zoom.
 void placeCentre(Origin& origin, std::int16_t zoom, double width, double height, PolarGeometry& geometry);
 
 /// Canvas length of one polar unit; raises 11 for a radius or ratio of 0.
 float unitLength(double width, double height, float radius, float aspectRatio);
 
-/// Paints the frame on the canvas, keeps it as its persistent picture and leaves its geometry. An error of
-/// the tables (9) or of the grid (6, 11) reaches the caller with the surface as far as it was painted.
+/// Paints the frame on the canvas, makes it the persistent picture and stores its geometry. An error of the
+/// tables (9) or of the grid (6, 11) reaches the caller; what has been painted remains.
 void redrawFrame(const PlotSettings& settings, Polar& polar, ModPolarGraph& tables, Canvas& canvas,
                  PolarGeometry& geometry);
 

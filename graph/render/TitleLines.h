@@ -5,7 +5,7 @@
 namespace zg {
 
 /// Writes GraphTitle, GraphSubTitle and GraphCaption at the upper left, an empty one as an empty line;
-/// nothing where all three are empty.
+/// nothing if all three are empty.
 void drawTitleLines(Frame& frame);
 
 }  // namespace zg

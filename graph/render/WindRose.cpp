@@ -20,7 +20,7 @@ void drawStack(Frame& frame, int sector) {
     const PolarGeometry& geometry = frame.geometry;
     const std::int64_t row = tables.CurrentRose * rowsPerRose - rowsPerRose + directionRow(sector);
     const SectorSpan span = sectorSpan(sector);
-    // The widest stack first: each lower class paints over it.
+    // The longest bar first: each lower class paints over it.
     for (int speedClass = 6; speedClass >= 1; --speedClass) {
         double share = 0;
         for (int c = 1; c <= speedClass; ++c) share += tables.FrqFraction(row, c);

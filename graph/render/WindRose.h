@@ -7,7 +7,7 @@ namespace zg {
 /// The file's direction row (1 north, clockwise to 16) of sector 0 to 15 (0 east, counterclockwise).
 int directionRow(int sector);
 
-/// A bar of a sector, degrees counterclockwise from east; start above end crosses east.
+/// A bar of a sector, degrees counterclockwise from east; a start greater than the end crosses east.
 struct SectorSpan {
     double startDegrees = 0;
     double endDegrees = 0;
@@ -21,7 +21,7 @@ SectorSpan sectorSpan(int sector);
 void DrawPiePiece(Canvas& canvas, float cx, float cy, double radius, float color, double startDegrees,
                   double endDegrees);
 
-/// The stacked bars of the rose on show and, outside the outer ring, the direction labels, sector by sector.
+/// The stacked bars of the current rose and, outside the outer ring, the direction labels, sector by sector.
 void drawWindRose(Frame& frame);
 
 }  // namespace zg
