@@ -10,7 +10,7 @@ namespace zg {
 
 namespace {
 
-/// Two names of one file, where the file system does not tell letter cases apart.
+/// Whether two names lead to one file, as on a file system that ignores letter case.
 bool isSameFile(const std::string& one, const std::string& other) {
     std::error_code error;
     return one == other || std::filesystem::equivalent(one, other, error);

@@ -1,7 +1,7 @@
 #pragma once
 
-// What a batch run did beyond what its status says: which files were refused, which pictures show another
-// file's roses, and which took the place of an earlier one.
+// What a batch run did that its status does not say: which files were refused, which pictures show another
+// file's roses, and which overwrote an earlier one.
 
 #include <map>
 #include <string>
@@ -9,10 +9,10 @@
 
 namespace zg {
 
-/// Told of a run's steps in their order. Roses are numbered from 1 within their file.
+/// Receives the steps of a run in their order. Roses are numbered from 1 within their file.
 class BatchNotes {
  public:
-    /// The roses of that file are exported now; where it was refused, those that stand in memory are.
+    /// The roses of that file are exported now; if it was refused, the roses in memory.
     void tookFile(const std::string& path, bool refused);
 
     /// That rose was saved under that path.
@@ -22,7 +22,7 @@ class BatchNotes {
     /// The run has ended with an error in that file.
     void brokeOff(const std::string& path);
 
-    /// Lines parted by LF, the last one with the counts; empty where there is nothing to tell of.
+    /// Lines separated by LF, the last one with the counts; empty if there is nothing to report.
     std::string text() const;
 
  private:
@@ -35,7 +35,7 @@ class BatchNotes {
     std::vector<std::string> lines_;
     std::multimap<std::string, Saved> saved_;  ///< the picture files by their paths in lower case
     std::string file_;
-    std::string source_;  ///< the file whose roses are in memory, "" for what stood there before the run
+    std::string source_;  ///< the file whose roses are in memory, "" for those from before the run
     int files_ = 0;
     int refused_ = 0;
     int roses_ = 0;

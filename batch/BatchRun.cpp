@@ -13,19 +13,20 @@ namespace {
 
 constexpr std::size_t extensionLength = 4;  // of ".frq"
 
-/// Version 2.0 knows no percent of valid hours; what is older than 2.1 otherwise is not exported at all.
+/// Version 2.0 does not state the percentage of valid hours; other versions before 2.1 are not exported at
+/// all.
 bool isExported(int rose, float limit) {
     if (modPolarGraph.FrqVersion == "2.0") return true;
     if (toSingle(modPolarGraph.FrqVersion) < 2.1F) return false;
     return !(modPolarGraph.FrqPercentValid(rose) < limit);
 }
 
-/// Among many files an error says little without the file's name.
+/// With many files an error means little without the file's name.
 bool open(const std::string& path, const BatchHooks& hooks) {
     try {
         return hooks.openFrqFile();
     } catch (const ScriptError&) {
-        throw;  // a curve's, not the file's
+        throw;  // error in a curve, not in the file
     } catch (RunTimeError& error) {
         error.description += ": " + path;
         if (!error.where.empty()) error.description += ", line " + error.where;
@@ -33,7 +34,7 @@ bool open(const std::string& path, const BatchHooks& hooks) {
     }
 }
 
-/// The commands of one run, and what there is to tell of it.
+/// The commands of one run, and the notes about it.
 struct Run {
     Host& host;
     const BatchHooks& hooks;
@@ -76,7 +77,7 @@ void exportDirectory(const Run& run, const BatchRequest& request) {
     fileCounts.BatchFileCount = 0;
 }
 
-/// While one is there the open and the save command ask nothing.
+/// During its lifetime the open and the save command ask nothing.
 class BatchModeOn {
  public:
     explicit BatchModeOn(const std::string& directory) {

@@ -28,7 +28,7 @@ void enable(QLineEdit& field, bool enabled) {
     setFieldMark(field, enabled ? cleanMark : buttonFaceColour);
 }
 
-/// Whole numbers with their sign, and the control keys.
+/// Accepts whole numbers with a sign, and control keys.
 std::int16_t keyOfLimit(std::int16_t key) {
     const bool swallowed = (key >= 32 && key <= 44) || key == 46 || key == 47 || (key >= 58 && key <= 127);
     return swallowed ? std::int16_t{0} : key;
@@ -115,7 +115,7 @@ void frmBatchMode::layOut() {
     resize(windowSize(*this, 72));
 }
 
-/// What a run has to tell of beyond its status.
+/// What to report about a run besides its status.
 QLayout* frmBatchMode::notesPart() {
     auto* label = new QLabel(QStringLiteral("&Notes on the run:"));
     label->setBuddy(txtNotes);
@@ -183,7 +183,7 @@ void frmBatchMode::cmdBrowseSingleFRQFile_Click() {
     showPath(*txtSingleFRQFile, path);
     clearMark(*txtSingleFRQFile, true);
     modPolarGraph.WorkDir = DirOf(path);
-    // Only the first character is looked at: nearly every directory gets its final separator this way.
+    // Only the first character is checked, so nearly every directory gets a final separator here.
     if (modPolarGraph.WorkDir.substr(0, 1) != "\\") modPolarGraph.WorkDir += pathSeparator;
 }
 
@@ -249,7 +249,7 @@ bool frmBatchMode::checkLimit() {
 }
 
 void frmBatchMode::cmdBeginBatchMode_Click() {
-    // A start by the keyboard leaves no field: the directories get their final separator all the same.
+    // A start by the keyboard leaves no field, but the directories still need their final separator.
     leftDirectory(*txtDirectory);
     leftDirectory(*txtWorkDirectory);
     txtNotes->clear();

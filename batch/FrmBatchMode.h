@@ -8,7 +8,7 @@
 
 namespace zg {
 
-/// Asks for what a batch export is to do and runs it.
+/// Asks for the settings of a batch export and runs it.
 class frmBatchMode : public RunningDialog {
     Q_OBJECT
 

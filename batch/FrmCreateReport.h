@@ -13,7 +13,7 @@ class frmCreateReport : public RunningDialog {
     Q_OBJECT
 
  public:
-    /// Without a writer of the caller's the installed office makes the reports.
+    /// If the caller gives no writer, the installed office program makes the reports.
     explicit frmCreateReport(Host& host, QWidget* parent = nullptr,
                              std::unique_ptr<ReportWriter> writer = nullptr);
 

@@ -28,7 +28,7 @@ constexpr const char* xmlHead =
  xmlns:svg="urn:oasis:names:tc:opendocument:xmlns:svg-compatible:1.0"
  xmlns:presentation="urn:oasis:names:tc:opendocument:xmlns:presentation:1.0" office:version="1.2" office:mimetype=")";
 
-// Without the empty styles element the size of the slides is not read.
+// Without the empty styles element the size of the slides is ignored.
 constexpr const char* presentationHead = R"(application/vnd.oasis.opendocument.presentation">
 <office:styles/>
 <office:automatic-styles>
@@ -55,7 +55,7 @@ constexpr const char* documentTail = "</office:text></office:body></office:docum
     throw RunTimeError(static_cast<int>(number), text);
 }
 
-/// The picture without loss, as text. Pixels that are all the same shade stay so in the office's file.
+/// The picture as text, without loss. Pixels that are all the same shade remain so in the office's file.
 QByteArray embedded(const QImage& image) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -72,7 +72,7 @@ QImage pictureOf(const std::string& path) {
     }
 }
 
-/// What the office said last, its complaints if there are any.
+/// The last output of the office program, preferably its error messages.
 std::string lastWords(QProcess& process) {
     constexpr qsizetype most = 500;
     QByteArray words = process.readAllStandardError().trimmed();
@@ -140,7 +140,7 @@ void OfficeReportWriter::saveDocument(const std::string& path) {
 void OfficeReportWriter::save(const std::string& path, const char* tail, const char* filter,
                               const char* extension) {
     write(tail);
-    const std::unique_ptr<QTemporaryDir> held = std::move(scratch_);  // gone however this ends
+    const std::unique_ptr<QTemporaryDir> held = std::move(scratch_);  // removed in any case
     const QDir scratch(held->path());
     const QString profile = QUrl::fromLocalFile(scratch.filePath(QStringLiteral("profile"))).toString();
     const std::string said = runOffice(
@@ -152,7 +152,7 @@ void OfficeReportWriter::save(const std::string& path, const char* tail, const c
     if (!QFile::exists(made))
         fail(ErrorNumber::CannotCreateObject,
              withReason("LibreOffice did not make the report " + path, said));
-    // Copied beside its place first, so that the place never holds half a file.
+    // First copied to the same directory, so that the target is never a partial file.
     const QString fresh = fileName(path) + QStringLiteral(".new");
     QFile::remove(fresh);
     std::error_code failed;
@@ -164,7 +164,7 @@ void OfficeReportWriter::save(const std::string& path, const char* tail, const c
     }
 }
 
-/// What the office said.
+/// The output of the office program.
 std::string OfficeReportWriter::runOffice(const QStringList& arguments) {
     QString office = program;
     for (const char* name : {"soffice", "libreoffice"})

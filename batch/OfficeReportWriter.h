@@ -8,8 +8,8 @@
 
 namespace zg {
 
-/// Writes the report as a flat document, which LibreOffice turns into the binary file without showing itself
-/// and without touching the user's own profile. Events are served meanwhile.
+/// Writes the report as a flat document, which LibreOffice converts to the binary file without a window and
+/// without the user's own profile. Events are served meanwhile.
 class OfficeReportWriter : public ReportWriter {
  public:
     explicit OfficeReportWriter(Host& host) : host_(host) {}
@@ -22,9 +22,9 @@ class OfficeReportWriter : public ReportWriter {
     void addPageBreak() override;
     void saveDocument(const std::string& path) override;
 
-    /// The office program; "" looks for it on the machine.
+    /// The office program; "" searches the machine for it.
     QString program;
-    /// Milliseconds that it may take.
+    /// Time limit in milliseconds.
     int patience = 600'000;
 
  private:

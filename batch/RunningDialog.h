@@ -22,22 +22,22 @@ class RunningDialog : public QDialog {
     void reject() override;
 
  protected:
-    /// Does the work unless one is under way; an error is shown, and the status line does not go on saying
-    /// that something runs.
+    /// Does the work unless other work is in progress; an error is shown, and the status line no longer says
+    /// that something is running.
     void run(const std::function<void()>& work);
 
-    /// Tells an error in the status line and marks the field.
+    /// Shows an error in the status line and marks the field.
     void refuse(QWidget& field, const char* text);
 
-    /// What follows when the focus leaves a box.
+    /// Called when the focus leaves a box.
     void whenLeft(QWidget& field, std::function<void()> action) {
         leaving_.whenLeft(field, std::move(action));
     }
 
-    /// A marked box that is filled becomes clean, and the status line empty.
+    /// A marked box that has been filled becomes clean, and the status line empty.
     void clearMark(QWidget& field, bool filled);
 
-    /// The status line is painted before what comes next.
+    /// Repaints the status line before the next step.
     void say(const char* status);
 
     Host& host_;

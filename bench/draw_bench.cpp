@@ -1,4 +1,4 @@
-// One redraw of a 600 x 600 page beside the same shapes and texts painted straight with the toolkit's
+// One redraw of a 600 x 600 page compared with the same shapes and texts painted directly with the toolkit's
 // painter.
 
 #include <benchmark/benchmark.h>
@@ -57,7 +57,7 @@ void redraw(benchmark::State& state) {
 }
 BENCHMARK(redraw)->Unit(benchmark::kMillisecond);
 
-/// The same with the record that a print is made of.
+/// The same with the record that is needed for printing.
 void redrawWithRecord(benchmark::State& state) {
     zg::Polar& polar = loadedPolar();
     QImage page = zg::makePageImage(side, side);
@@ -135,7 +135,7 @@ void paintedStraight(benchmark::State& state) {
 }
 BENCHMARK(paintedStraight)->Unit(benchmark::kMillisecond);
 
-/// A surface that takes drawing and does nothing: what is left is the work beside the raster.
+/// A surface that accepts drawing and does nothing, to measure the work apart from rasterising.
 class NoSurface : public RecordingCanvas {
  public:
     NoSurface() : RecordingCanvas(side, side) {}

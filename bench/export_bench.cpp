@@ -1,5 +1,5 @@
-// Roses a second: the batch export of the window, and the companion with one and two jobs. The counter is the
-// resident memory at the end.
+// Roses per second: the batch export of the window, and the companion with one and two jobs. The counter is
+// the resident memory at the end.
 
 #include <benchmark/benchmark.h>
 
@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 
 const fs::path scratch = fs::temp_directory_path() / "zephyrgraph-export-bench";
 
-/// A directory with so many roses, nine a file.
+/// A directory with this many roses, nine per file.
 std::string inputs(int roses) {
     const fs::path directory = scratch / ("in" + std::to_string(roses));
     fs::create_directories(directory);

@@ -13,13 +13,13 @@ namespace {
 
 constexpr int graphs = 1000;
 
-/// A window whose plot holds so many curves, listed.
+/// A window whose plot has this many curves, listed.
 void fill(zg::frmMain& window) {
     for (int i = 1; i <= graphs; ++i) {
         zg::GrapInfo& graph =
             window.pgPolarGraph().Plot().Add("a=" + std::to_string(i), "a*0.01*sin(2*t)", 0, 0);
         graph.Series.AllowMarker = true;
-        graph.Visible = false;  // the list is timed, not the curves
+        graph.Visible = false;  // the list is measured, not the curves
         window.AddGraph(static_cast<std::int16_t>(i));
     }
     QApplication::processEvents();
@@ -56,7 +56,7 @@ void selectAllAndDelete(benchmark::State& state, bool timeDelete) {
     }
 }
 
-/// A page of 3000 x 3000 pixels in a window: drawn anew and shown, or only scrolled and shown.
+/// A page of 3000 x 3000 pixels in a window: redrawn and shown, or only scrolled and shown.
 void largePage(benchmark::State& state, bool scrolled) {
     zg::QtHost host;
     zg::frmMain window(host);

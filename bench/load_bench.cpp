@@ -1,4 +1,5 @@
-// Loading the largest file that the 16-bit line count allows, against only reading and counting its lines.
+// Loading the largest file that the 16-bit line count allows, compared with only reading and counting its
+// lines.
 
 #include <benchmark/benchmark.h>
 #include <malloc.h>
@@ -18,7 +19,7 @@
 
 namespace {
 
-/// Nobody is asked anything while a good file loads.
+/// A host for loading a valid file, which asks nothing.
 class SilentHost : public zg::Host {
  public:
     zg::BoxAnswer showBox(const zg::MessageBox&) override { return zg::BoxAnswer::Ok; }
@@ -32,7 +33,7 @@ class SilentHost : public zg::Host {
     void pumpEvents(int) override {}
 };
 
-/// The largest file: 1488 roses of version 2.3, 32745 lines; one rose more would pass 32766. Removed at the
+/// The largest file: 1488 roses of version 2.3, 32745 lines; one more rose would exceed 32766. Removed at the
 /// end.
 class LargestFile {
  public:
@@ -74,7 +75,7 @@ void load(const std::string& path, zg::ModPolarGraph& tables) {
     zg::loadFreqFile(path, tables, host);
 }
 
-/// A field of the process's own status, as "VmRSS", in bytes.
+/// A field of the process's status, such as "VmRSS", in bytes.
 double statusBytes(const std::string& field) {
     std::ifstream status("/proc/self/status");
     std::string line;
@@ -103,7 +104,8 @@ void LoadLargestFile(benchmark::State& state) {
 }
 BENCHMARK(LoadLargestFile)->Unit(benchmark::kMillisecond);
 
-/// Both by turns, so that the load of the machine weighs on both; the counter is the quotient of the sums.
+/// Alternates both, so that the load of the machine affects both alike; the counter is the quotient of the
+/// sums.
 void LoadOverCount(benchmark::State& state) {
     static zg::ModPolarGraph tables;
     double loading = 0;
@@ -116,13 +118,13 @@ void LoadOverCount(benchmark::State& state) {
 }
 BENCHMARK(LoadOverCount)->Unit(benchmark::kMillisecond);
 
-/// The most that one load into fresh tables adds to the process at any moment.
+/// The peak memory that one load into fresh tables adds to the process.
 void MemoryOfLargestFile(benchmark::State& state) {
     const std::string& path = largestFile().path();
     double added = 0;
     for (auto _ : state) {
         malloc_trim(0);
-        std::ofstream("/proc/self/clear_refs") << "5";  // the peak begins anew
+        std::ofstream("/proc/self/clear_refs") << "5";  // resets the peak
         const double before = statusBytes("VmRSS");
         zg::ModPolarGraph tables;
         load(path, tables);

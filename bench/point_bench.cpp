@@ -1,5 +1,5 @@
-// Half a gigabyte of monitor and AERMET records, passed over for their last line, beside a count of its lines
-// by wc.
+// Half a gigabyte of monitor and AERMET records, skipped to reach the last line, compared with counting its
+// lines by wc.
 
 #include <benchmark/benchmark.h>
 
@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 constexpr std::int64_t fileBytes = 500'000'000;
 const fs::path scratch = fs::temp_directory_path() / "zephyrgraph-point-bench";
 
-/// A file of a head and one record again and again.
+/// A file with a header and one record repeated.
 std::string largeFile(const char* name, const std::string& head, const std::string& record) {
     fs::create_directories(scratch);
     const std::string path = (scratch / name).string();

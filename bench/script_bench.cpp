@@ -1,5 +1,5 @@
-// One evaluation of a formula in t: the script engine's compiled expression beside muparser's bytecode. Both
-// set the variable and evaluate, as a sweep does.
+// One evaluation of a formula in t: the script engine's compiled expression compared with muparser's
+// bytecode. Both set the variable and evaluate, as a sweep does.
 
 #include <benchmark/benchmark.h>
 #include <muParser.h>
@@ -44,7 +44,7 @@ constexpr std::array formulas = {
     Formula{"t/2", "t/2"},
 };
 
-/// The angles of a sweep, made before so that only the evaluation is timed.
+/// The angles of a sweep, computed beforehand so that only the evaluation is measured.
 constexpr std::size_t angleCount = 512;
 
 std::array<double, angleCount> sweep() {

@@ -25,10 +25,10 @@ std::atomic<bool> stopped = false;
 
 constexpr const char* outOfMemory = ": out of memory";
 
-/// No FRQ file has such lines; raw data have the same limit.
+/// No FRQ file has longer lines; the limit is the same for raw data.
 constexpr std::size_t longestLine = std::size_t{1} << 20;
 
-/// There is nobody to ask: what a box would say goes to the error stream.
+/// A host without a user: the text of a box goes to the error stream.
 class StreamHost : public Host {
  public:
     explicit StreamHost(std::ostream& errors) : errors_(errors) {}
@@ -50,7 +50,7 @@ class StreamHost : public Host {
     std::ostream& errors_;
 };
 
-/// A fault of the run that is told in one line, with the exit status it ends in.
+/// An error of the whole run, reported in one line, with its exit status.
 struct ExportFailure {
     std::string text;
     int status = exportFailed;
@@ -58,7 +58,7 @@ struct ExportFailure {
 
 std::string stemOf(const std::string& file) { return std::filesystem::path(file).stem().string(); }
 
-/// The files of the inputs; those of a directory in the order of their names.
+/// The files of the inputs; those of a directory in order of their names.
 std::vector<std::string> filesOf(const ExportJob& job) {
     std::vector<std::string> files;
     for (const std::string& input : job.inputs) {
@@ -99,7 +99,7 @@ std::vector<int> askedRoses(const ExportJob& job, const std::string& file, int r
     return {rose};
 }
 
-/// As the batch export of the window decides it: version 2.0 knows no percentage of valid hours.
+/// The same rule as in the window's batch export: version 2.0 does not state the percentage of valid hours.
 bool isValidEnough(const ModPolarGraph& tables, int rose, float limit) {
     if (tables.FrqVersion == "2.0") return true;
     return toSingle(tables.FrqVersion) >= 2.1F && !(tables.FrqPercentValid(rose) < limit);
@@ -118,7 +118,7 @@ void makeDirectory(const std::string& directory) {
     if (error && !IsDirectory(directory)) throw ExportFailure{directory + ": " + error.message()};
 }
 
-/// One run: loads file after file and hands their roses to the workers.
+/// One run: loads file after file and passes their roses to the workers.
 class Export {
  public:
     Export(const ExportJob& job, std::ostream& out, std::ostream& errors)
@@ -142,7 +142,7 @@ class Export {
     }
 
  private:
-    /// The only file of a run fails with it; one of several is told, and the others go on.
+    /// An error in the only file ends the run; one in several is reported, and the others continue.
     void exportFile(const std::string& file, bool only) {
         try {
             loadAndDraw(file);
@@ -194,7 +194,7 @@ class Export {
     WorkQueue::Result drawn(const ModPolarGraph& tables, const Polar& polar, const std::string& path,
                             int rose) const {
         try {
-            ModPolarGraph own = tables;  // drawing turns to a rose and rebuilds the legend's limits
+            ModPolarGraph own = tables;  // drawing changes the current rose and rebuilds the legend's limits
             const PictureFault fault = drawRosePicture(own, polar, rose, path, job_.format, job_.sizePixels);
             if (fault.text.empty()) return {path, {}};
             return {{}, fault.text, fault.noRoom};
@@ -205,7 +205,7 @@ class Export {
         }
     }
 
-    /// What ends the run is told once, whatever was under way beside it.
+    /// An error that ends the run is reported once, whatever other work is in progress.
     void tell(const WorkQueue::Result& result) {
         const bool isNews = !result.endsRun || !endIsTold_;
         if (!result.failed.empty() && isNews) fail(result.failed);
@@ -213,7 +213,7 @@ class Export {
         if (result.done.empty()) return;
         ++drawn_;
         bar_.clear();
-        out_ << result.done << '\n' << std::flush;  // whoever waits for it can take it
+        out_ << result.done << '\n' << std::flush;  // the waiting code can take it
     }
 
     void fail(const std::string& text) {
@@ -229,7 +229,7 @@ class Export {
     ProgressBar bar_;
     std::size_t drawn_ = 0;
     bool failed_ = false;
-    std::atomic<bool> ended_ = false;  ///< by what would fail for all that follow
+    std::atomic<bool> ended_ = false;  ///< by an error that would affect everything after it
     bool endIsTold_ = false;
     WorkQueue queue_;
 };

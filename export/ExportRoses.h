@@ -21,19 +21,19 @@ struct ExportJob {
     std::string format = "png";       ///< "png", "bmp", "svg" or "pdf"
     std::string directory = ".";
     float minValid = 0;     ///< lowest percent of valid hours, 0 to 100
-    int jobs = 1;           ///< roses that are drawn side by side, 1 to mostJobs
+    int jobs = 1;           ///< roses drawn in parallel, 1 to mostJobs
     bool tables = false;    ///< write the tables as JSON instead of pictures
-    bool progress = false;  ///< a bar on errors while roses are drawn
+    bool progress = false;  ///< show a progress bar on errors while roses are drawn
 };
 
-/// Draws the asked roses as DIR/STEM_NN.EXT, NN the rose's number in two digits (more where the file holds
-/// over 99 roses), and names each file on out, in the order of the inputs and of the roses whatever the
-/// number of jobs. Roses of version 2.1 and later with fewer valid hours than asked are left out, and so are
-/// those of versions before that know no percentage, 2.0 aside. A file that fails is told on errors, and the
-/// others go on. Gives the exit status; no half-written picture stays.
+/// Draws the requested roses as DIR/STEM_NN.EXT, where NN is the rose's number in two digits (more if the
+/// file has over 99 roses), and writes each name to out, in the order of the inputs and of the roses whatever
+/// the number of jobs. Roses of version 2.1 and later with fewer valid hours than requested are left out, and
+/// so are those of other versions without that percentage, except 2.0. A file that fails is reported on
+/// errors, and the others continue. Returns the exit status; never leaves a half-written picture.
 int runExport(const ExportJob& job, std::ostream& out, std::ostream& errors);
 
-/// Ends a run after the roses that are being drawn; may be called from a signal handler.
+/// Ends a run after the roses in progress; may be called from a signal handler.
 void stopExport();
 
 }  // namespace zg

@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The names of pictures in the making; where there are more than places, the others are not kept here.
+/// The names of unfinished pictures; if there are more than fit, the others are not registered here.
 constexpr std::size_t mostUnderWay = 256;
 std::array<std::atomic<const char*>, mostUnderWay> namesUnderWay;
 
@@ -25,7 +25,7 @@ void swapName(const char* from, const char* to) {
         if (const char* expected = from; name.compare_exchange_strong(expected, to)) return;
 }
 
-/// A name that no file has, short where the picture's own may be as long as a name can be.
+/// An unused name, short because the picture's own may be as long as a name can be.
 std::string spareName(const std::string& path) {
     static std::atomic<int> count = 0;
     const std::string name = ".zephyrgraph-" + std::to_string(QCoreApplication::applicationPid()) + "-" +
@@ -33,7 +33,7 @@ std::string spareName(const std::string& path) {
     return (fs::path(path).parent_path() / name).string();
 }
 
-/// The bytes are on the disk, as far as it can tell.
+/// Flushes the bytes to the disk, as far as the disk can tell.
 bool reachesDisk(std::FILE* file) {
     if (std::fflush(file) != 0) return false;
 #ifndef _WIN32

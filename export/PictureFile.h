@@ -7,21 +7,21 @@
 
 namespace zg {
 
-/// A picture's file in the making. What is written goes into a new file beside its place, which takes the
-/// name when it is whole: a file of that name is replaced, and a symbolic link is replaced too, not followed.
-/// Writing never fails for the writer, which knows little of why: the first fault is kept here.
+/// An unfinished picture. Its data go to a new file in the same directory, which gets the name when it is
+/// complete: an existing file is replaced, and so is a symbolic link, which is not followed. Writing never
+/// fails for the writer, which cannot report much: the first error is kept here.
 class PictureFile : public QIODevice {
  public:
     explicit PictureFile(std::string path);
-    /// Without a commit nothing is left.
+    /// Removes the file unless commit was called.
     ~PictureFile() override;
     PictureFile(const PictureFile&) = delete;
     PictureFile& operator=(const PictureFile&) = delete;
 
-    /// Ends the file and gives it its name, unless there was a fault.
+    /// Ends the file and gives it its name, unless an error occurred.
     void commit();
 
-    /// The system's number of the first fault, 0 for none.
+    /// The system's number of the first error, 0 if none.
     int fault() const { return fault_; }
 
     bool isSequential() const override { return true; }
@@ -39,8 +39,8 @@ class PictureFile : public QIODevice {
     int fault_ = 0;
 };
 
-/// Removes what pictures in the making have on the disk, where the program can no longer do so in order: does
-/// nothing that a signal's handler may not.
+/// Removes the files of unfinished pictures when the program can no longer do so normally; does only what a
+/// signal handler may do.
 void dropUnfinishedPictures() noexcept;
 
 }  // namespace zg

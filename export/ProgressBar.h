@@ -6,7 +6,7 @@
 
 namespace zg {
 
-/// A bar in one line of a terminal, which is wiped before anything else is written there.
+/// A progress bar in one line of a terminal, which is erased before anything else is written there.
 class ProgressBar {
  public:
     ProgressBar(std::ostream& terminal, bool shown) : terminal_(terminal), shown_(shown) {}

@@ -76,7 +76,7 @@ bool save(ModPolarGraph& tables, const Polar& polar, QIODevice& file, const std:
     return saveRaster(tables, polar, file, format == "png" ? "PNG" : "BMP", side);
 }
 
-/// What the next picture would run into too.
+/// Errors that the next picture would also meet.
 bool leavesNoRoom(int fault) {
 #ifdef EDQUOT
     if (fault == EDQUOT) return true;

@@ -24,7 +24,7 @@ Json counts(const Table<std::int32_t>& table) {
     return array;
 }
 
-/// Singles by their shortest text, so that 92.4 stays 92.4.
+/// Singles in their shortest form, so that 92.4 stays 92.4.
 Json percents(const Table<float>& table) {
     if (table.size() == 0) return nullptr;
     Json array = Json::array();

@@ -16,7 +16,7 @@ WorkQueue::WorkQueue(int workers, std::function<void(const Result&)> tell)
         workers_.reserve(static_cast<std::size_t>(workers));
         for (int i = 0; i < workers; ++i) workers_.emplace_back([this] { workOn(); });
     } catch (const std::system_error&) {
-        // those that there are will do
+        // the workers that exist are enough
     }
 }
 
@@ -43,7 +43,7 @@ void WorkQueue::workOn() {
         if (piece == nullptr) return;
         piece->begun = true;
         lock.unlock();
-        Result result = piece->work();  // a piece stays in its place until it is told
+        Result result = piece->work();  // a piece stays in the queue until it is reported
         lock.lock();
         piece->result = std::move(result);
         piece->work = nullptr;

@@ -1,6 +1,6 @@
 #pragma once
 
-// Pieces of work done side by side, their results told in the order in which they were asked for.
+// Runs pieces of work in parallel and reports their results in the order in which they were added.
 
 #include <condition_variable>
 #include <deque>
@@ -12,19 +12,19 @@
 
 namespace zg {
 
-/// Not more pieces wait than a few for each worker, so that memory stays flat however many there are. All
-/// functions are called from the thread that made the queue; what is told is told there too.
+/// Only a few pieces per worker wait, so that memory use does not grow with their number. All functions are
+/// called from the thread that created the queue; results are reported there too.
 class WorkQueue {
  public:
-    /// What a piece of work leaves to tell.
+    /// The result of a piece of work.
     struct Result {
         std::string done;
         std::string failed;
-        bool endsRun = false;  ///< what failed would fail for all that follow
+        bool endsRun = false;  ///< the error would also affect everything after it
     };
 
-    /// Where the system has no more threads to give there are fewer workers; without any the pieces are done
-    /// by who adds them.
+    /// If the system cannot create more threads there are fewer workers; without any, add does the work
+    /// itself.
     WorkQueue(int workers, std::function<void(const Result&)> tell);
     ~WorkQueue();
     WorkQueue(const WorkQueue&) = delete;
@@ -33,7 +33,7 @@ class WorkQueue {
     /// Waits while the queue is full.
     void add(std::function<Result()> work);
 
-    /// Waits until all is done and told.
+    /// Waits until all work is done and reported.
     void finish();
 
  private:
@@ -51,7 +51,7 @@ class WorkQueue {
     std::size_t capacity_;
     std::mutex mutex_;
     std::condition_variable changed_;
-    std::deque<Piece> pieces_;  ///< from the oldest that was not told
+    std::deque<Piece> pieces_;  ///< starting with the oldest that has not been reported
     bool closed_ = false;
     std::vector<std::thread> workers_;
 };

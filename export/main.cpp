@@ -17,7 +17,7 @@
 #else
 #include <sys/mman.h>
 #include <unistd.h>
-#ifndef __SANITIZE_ADDRESS__  // which tells of crashes itself
+#ifndef __SANITIZE_ADDRESS__  // which reports crashes itself
 #define ZG_TELLS_CRASHES
 #endif
 #endif
@@ -37,7 +37,7 @@ bool isTerminal() {
 #endif
 }
 
-/// In the order in which the parser takes them, the last one first. It reads "[a]" as a list of one name.
+/// In the order in which the parser consumes them, the last one first. It reads "[a]" as a list of one name.
 std::vector<std::string> wordsOf(int argc, char** argv) {
     std::vector<std::string> words(argv + 1, argv + argc);
     for (std::string& word : words)
@@ -46,15 +46,14 @@ std::vector<std::string> wordsOf(int argc, char** argv) {
     return words;
 }
 
-/// The toolkit's own remarks are nothing that a user of the companion could act on, but for the last one.
+/// A user of the companion cannot act on the toolkit's own messages; only the last one is kept.
 void ignoreRemarks(QtMsgType kind, const QMessageLogContext&, const QString& text) {
     if (kind != QtFatalMsg) return;
     std::fprintf(stderr, "zephyrgraph-export: %s\n", qPrintable(text.section(QLatin1Char('\n'), 0, 0)));
     std::_Exit(zg::exportFailed);
 }
 
-/// What no handler has taken, in the end nothing but memory that is not there, also where the toolkit asks
-/// for it.
+/// Handles what no other handler has caught: only lack of memory, also when the toolkit allocates it.
 [[noreturn]] void endInOneLine() {
     const char* fault = "zephyrgraph-export: internal error\n";
     try {
@@ -69,8 +68,8 @@ void ignoreRemarks(QtMsgType kind, const QMessageLogContext&, const QString& tex
 }
 
 #ifdef ZG_TELLS_CRASHES
-/// Libraries below the toolkit take memory for granted and crash without it. Where the system has none to
-/// give, that is told as what it is; every other crash stays one.
+/// Libraries below the toolkit do not check their allocations and crash without memory. If the system has
+/// none to give, that is reported as such; every other crash remains a crash.
 void crash(int signal) {
     constexpr std::size_t some = std::size_t{64} << 20;
     constexpr std::string_view fault = "zephyrgraph-export: out of memory\n";
@@ -124,10 +123,10 @@ int runCommand(int argc, char** argv) {
 
     job.progress = !quiet && isTerminal();
 #ifdef SIGXFSZ
-    std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a fault of writing, told with its name
+    std::signal(SIGXFSZ, SIG_IGN);  // the size limit becomes a write error with the file's name
 #endif
     for (const int signal : {SIGINT, SIGTERM}) std::signal(signal, [](int) { zg::stopExport(); });
-    // No window is opened: the toolkit only lends its fonts and its rasteriser.
+    // No window is opened: the toolkit only provides its fonts and its rasteriser.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(ignoreRemarks);
     QGuiApplication application(argc, argv);
