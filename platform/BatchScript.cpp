@@ -19,7 +19,7 @@ std::string shellQuoted(std::string_view word) {
     return out + "'";
 }
 
-/// The pieces of a text between its blanks, each quoted, with a blank before each.
+/// The words of a text, separated by blanks, each quoted, with a blank before each.
 std::string quotedWords(std::string_view text) {
     std::string words;
     while (!text.empty()) {
@@ -30,15 +30,15 @@ std::string quotedWords(std::string_view text) {
     return words;
 }
 
-/// The reader of a report never sees half of it. A window that has ended takes its reports with it.
+/// A reader never sees half of a report. A window that has ended removes its reports.
 constexpr const char* tellFunction = R"sh(tell() {
     printf '%s\n' "$1" >&2
     { [ -z "$report" ] || { printf '%s\n' "$1" >"$report.part" && mv -f "$report.part" "$report"; }; } 2>/dev/null
 }
 )sh";
 
-/// The processor's messages go on to the terminal and are kept for the reason; its status is what this
-/// writes. A program made for Windows runs by way of wine where that is installed.
+/// The processor's messages go to the terminal and are also kept for the reason; this writes its exit status.
+/// A Windows executable is run by wine, if installed.
 constexpr const char* workFunction = R"sh(work() {
     if [ "$(head -c 2 "$program" 2>/dev/null)" = MZ ] && command -v wine >/dev/null; then
         set -- wine "$program" "$@"
@@ -64,7 +64,7 @@ constexpr const char* reasonFunction = R"sh(reason() {
 }
 )sh";
 
-/// The listing's file as it is: another one, or other bytes in it, come of this run.
+/// The state of the listing file: if another file or other bytes are found later, they come from this run.
 constexpr const char* stateFunction = R"sh(state() { stat -c '%d %i %s %.Z' "./$listing" 2>/dev/null; }
 )sh";
 
@@ -80,8 +80,8 @@ constexpr const char* finishFunction = R"sh(finish() {
 }
 )sh";
 
-/// Who closes the terminal or presses Ctrl-C ends the processor, but what it left is still looked at: by the
-/// part after the pipe, which waits until everything before it is gone.
+/// Closing the terminal or pressing Ctrl-C ends the processor, but its output is still examined: by the part
+/// after the pipe, which waits until everything before it has ended.
 constexpr const char* runFunction = R"sh(run() {
     cd -- "$directory" || { tell "the directory $directory cannot be entered"; return; }
     before=$(state)
@@ -103,7 +103,7 @@ std::string asShellScript(const RunBatch& run, const std::string& reportFile) {
     set("listing", run.base + "_tempoline.lst");
     set("report", reportFile);
     set("said", reportFile.empty() ? "/dev/null" : reportFile + ".said");
-    // The blank parts "copy" into too many words as well.
+    // The blank would also split the arguments of "copy".
     set("foreseen", run.base.find(' ') == std::string::npos ? "" : foreseenTrouble(run.base, {}));
     for (const char* function :
          {tellFunction, workFunction, reasonFunction, stateFunction, finishFunction, runFunction})

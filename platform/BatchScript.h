@@ -7,17 +7,17 @@
 
 namespace zg {
 
-/// A run's batch file as a script for the POSIX shell: into the output directory, the processor with the
-/// words of its line, parted at blanks, and the listing copied to the marker. Nothing in a name means
-/// anything to the shell. A listing that the processor has not written in this run makes no marker.
+/// A run's batch file as a script for the POSIX shell: changes to the output directory, starts the processor
+/// with the words of its line, separated at blanks, and copies the listing to the marker. No character in a
+/// name has a meaning to the shell. A listing that the processor has not written in this run makes no marker.
 ///
-/// Where no marker comes, the reason is written in one line on standard error and to a file of that name,
-/// which appears whole; "" is no such file.
+/// If there is no marker, the reason is written in one line to standard error and to a file of that name,
+/// which appears in one step; "" means no such file.
 std::string asShellScript(const RunBatch& run, const std::string& reportFile);
 
-/// What the command shell of Windows is handed after its own name for a batch file: the path in quotes, and
-/// the whole in one more pair of quotes, which the shell takes off. Without that pair it would take off those
-/// of a path that has an ampersand or a bracket.
+/// The argument of the Windows command shell for a batch file: the quoted path in another pair of quotes,
+/// which the shell removes. Without that pair it would remove the quotes of a path that has an ampersand or a
+/// bracket.
 std::string shellArguments(const std::string& batchFile);
 
 /// The words that start a script. With a terminal program it runs in a window that stays open until a key is

@@ -23,11 +23,11 @@ namespace {
 constexpr std::size_t mostLines = 5;
 
 #ifdef _WIN32
-/// The shell's console is a window of its own, or none at all.
+/// The shell's console is a separate window, or none.
 void startShell(const std::string& batchFile, WindowStyle style) {
     QProcess shell;
     shell.setProgram(QStringLiteral("cmd.exe"));
-    // As they stand: the toolkit would put the quotes of the path in quotes of its own.
+    // Unchanged: the toolkit would add quotes around the quotes of the path.
     shell.setNativeArguments(fileName(shellArguments(batchFile)));
     shell.setCreateProcessArgumentsModifier([style](QProcess::CreateProcessArguments* process) {
         process->flags &= ~static_cast<unsigned long>(CREATE_NO_WINDOW);
@@ -37,7 +37,7 @@ void startShell(const std::string& batchFile, WindowStyle style) {
 }
 #endif
 
-/// The lines of a small file; one more than the program writes tells that it is another's.
+/// The lines of a small file; one line more than the program writes means that another program wrote it.
 std::vector<std::string> firstLines(const std::string& batchFile) {
     std::vector<std::string> lines;
     LineReader reader(batchFile);
@@ -45,14 +45,14 @@ std::vector<std::string> firstLines(const std::string& batchFile) {
     return lines;
 }
 
-/// Path of the desktop's terminal program; "" where there is no desktop or no such program.
+/// Path of the desktop's terminal program; "" if there is no desktop or no such program.
 std::string terminalProgram() {
     const QString platform = QGuiApplication::platformName();
     const bool onDesktop = platform == QLatin1String("xcb") || platform.startsWith(QLatin1String("wayland"));
     return onDesktop ? programInPath("x-terminal-emulator") : std::string();
 }
 
-/// The desktop's own viewer stands for the one that the line names.
+/// The desktop's own viewer takes the place of the one in the line.
 void showText(const std::string& path) {
     if (programInPath("xdg-open").empty())
         throw RunTimeError(static_cast<int>(ErrorNumber::FileNotFound),
@@ -61,7 +61,7 @@ void showText(const std::string& path) {
     if (!startDetached({"xdg-open", plain})) raise(ErrorNumber::InvalidProcedureCall);
 }
 
-/// Others may write in the directory too: only this program's processor runs, and only there.
+/// Others may be able to write in the directory too: run only this program's processor, and only there.
 bool isOwnRun(const RunBatch& run, const std::string& batchFile) {
     return run.outputDirectory + "run_tempoline.bat" == batchFile &&
            run.programDirectory == applicationDirectory;
@@ -69,7 +69,7 @@ bool isOwnRun(const RunBatch& run, const std::string& batchFile) {
 
 }  // namespace
 
-/// Without a place for it the run goes on and tells nothing.
+/// Without a place for the report the run continues and reports nothing.
 std::string BatchStarter::newReport(const std::string& batchFile) {
     if (!reports_) reports_ = std::make_unique<QTemporaryDir>();
     std::string& report = reportOfBatch_[batchFile];
@@ -82,7 +82,7 @@ void BatchStarter::start(const std::string& batchFile, WindowStyle style) {
 #ifdef _WIN32
     startShell(batchFile, style);
 #else
-    static_cast<void>(style);  // nothing opens a window of its own here but the viewer
+    static_cast<void>(style);  // here only the viewer opens a window of its own
     const std::vector<std::string> lines = firstLines(batchFile);
     if (const std::string path = lines.size() == 1 ? viewedFile(lines[0]) : std::string(); !path.empty())
         return showText(path);
@@ -103,7 +103,7 @@ std::string BatchStarter::outcome(const std::string& batchFile) {
         LineReader lines(report->second);
         return lines.atEnd() ? std::string() : std::string(lines.readLine());
     } catch (const RunTimeError&) {
-        return {};  // the processor is still at work
+        return {};  // the processor is still working
     }
 }
 

@@ -8,8 +8,8 @@
 
 namespace zg {
 
-/// Starts batch files on this platform: by the shell where it knows them, else by carrying out their lines,
-/// if they are those that the program itself writes for that place.
+/// Starts batch files on this platform: by the shell if it supports them, otherwise by executing their lines,
+/// if these are what the program itself writes for that place.
 class BatchStarter : public ProcessStarter {
  public:
     void start(const std::string& batchFile, WindowStyle style) override;
@@ -18,8 +18,8 @@ class BatchStarter : public ProcessStarter {
  private:
     std::string newReport(const std::string& batchFile);
 
-    std::unique_ptr<QTemporaryDir> reports_;            ///< made at the first run
-    std::map<std::string, std::string> reportOfBatch_;  ///< of the last start of each batch file
+    std::unique_ptr<QTemporaryDir> reports_;            ///< created at the first run
+    std::map<std::string, std::string> reportOfBatch_;  ///< for the last start of each batch file
     int runs_ = 0;
 };
 

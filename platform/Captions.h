@@ -4,13 +4,13 @@
 
 namespace zg {
 
-/// A caption without its accelerator: what a screen reader says of the control that has it for a label.
+/// A caption without its accelerator: what a screen reader says for the control whose label it is.
 QString spoken(const QString& caption);
 
-/// Pixels that a box takes for so many digits in the control's font, its frame and margins included.
+/// Width in pixels of a box for this many digits in the control's font, with its frame and margins.
 int digitsWide(const QWidget& control, int count);
 
-/// The size of a window that has room for so many digits in a line, and for all that it holds.
+/// The size of a window with room for this many digits in a line, and for all that it contains.
 QSize windowSize(const QWidget& window, int digits);
 
 }  // namespace zg

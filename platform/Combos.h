@@ -5,7 +5,7 @@
 namespace zg {
 
 /// Adds the labels of all time zones to the box, in the order of their table, which is read at first use.
-/// Raises what a missing or broken table raises.
+/// Raises the errors of a missing or invalid table.
 void FillTimeZones(QComboBox& combo);
 
 }  // namespace zg

@@ -27,7 +27,7 @@ bool startDetached(const std::vector<std::string>&) { return false; }
 
 namespace {
 
-/// Whatever signals the toolkit ignores or blocks in this program, the new one has them as usual.
+/// Signals that the toolkit ignores or blocks in this program have their defaults in the new one.
 void usePlainSignals() {
     for (const int number : {SIGHUP, SIGINT, SIGQUIT, SIGPIPE, SIGCHLD, SIGTERM})
         std::signal(number, SIG_DFL);
@@ -36,8 +36,8 @@ void usePlainSignals() {
     sigprocmask(SIG_SETMASK, &none, nullptr);
 }
 
-/// In the child, where other threads may hold any lock: system calls alone. The program itself is a child of
-/// this child, which ends at once: the system's first process collects it when it is dead.
+/// In the child process, where other threads may have held locks: only system calls are safe. The program is
+/// a child of this child, which ends at once, so that the system's first process collects it when it ends.
 [[noreturn]] void becomeProgram(char* const* arguments, int failed) {
     setsid();
     const pid_t own = fork();

@@ -5,12 +5,12 @@
 
 namespace zg {
 
-/// Starts a program in a session of its own, so that what ends this program does not end it, and does not
-/// wait for it. The words are bytes as they stand, the first is looked for in PATH. False where there is no
-/// such program, or nothing can be started. Not for Windows.
+/// Starts a program in a session of its own, so that it survives the end of this program, and does not wait
+/// for it. The words are bytes without conversion; the first is searched for in PATH. False if there is no
+/// such program, or it cannot be started. Not available on Windows.
 bool startDetached(const std::vector<std::string>& words);
 
-/// The path of a program of PATH; "" where there is none.
+/// The path of a program in PATH; "" if there is none.
 std::string programInPath(const std::string& name);
 
 }  // namespace zg

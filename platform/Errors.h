@@ -8,21 +8,22 @@
 
 namespace zg {
 
-/// Shows the one box of an error that reached the boundary: title "Zephyrgraph", number and description.
+/// Shows the one box for an error that reached the boundary: title "Zephyrgraph", number and description.
 void showError(Host& host, const std::exception_ptr& error);
 
-/// A handler may take the values of its signal, or leave them alone.
+/// A handler may take the arguments of its signal, or ignore them.
 template <typename Handler, typename... Values>
 inline constexpr bool handles = std::is_invocable_v<Handler&, Values...> || std::is_invocable_v<Handler&>;
 
-/// The boundary round an event handler: what is thrown inside is shown, and the program goes on with the
-/// state as it stands.
+/// The boundary around an event handler: an exception inside it is shown, and the program continues with the
+/// state as it is.
 template <typename Handler>
 class Guarded {
  public:
     Guarded(Host& host, Handler handler) : host_(&host), handler_(std::move(handler)) {}
 
-    /// Told in the signature, so that who tries it with other values is refused there and not in the body.
+    /// The condition is part of the signature, so that a call with other arguments fails to compile at the
+    /// call and not in the body.
     template <typename... Values>
     auto operator()(Values&&... values) -> std::enable_if_t<handles<Handler, Values...>> {
         try {

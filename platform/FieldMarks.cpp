@@ -19,7 +19,7 @@ namespace {
 
 constexpr const char* markProperty = "fieldMark";
 
-/// The text by which a field counts as filled; that of a list is its current row.
+/// The text that decides whether a field is filled; for a list, its current row.
 QString textOf(const QWidget& field) {
     if (const auto* box = qobject_cast<const QLineEdit*>(&field)) return box->text();
     if (const auto* combo = qobject_cast<const QComboBox*>(&field)) return combo->currentText();
@@ -48,7 +48,7 @@ void setFieldMark(QWidget& field, Colour mark) {
     if (frame || qobject_cast<QLabel*>(&field) != nullptr) field.setAutoFillBackground(marked);
     if (!marked) {
         QPalette palette;
-        // The theme itself paints a field so that is switched off.
+        // For a disabled field the theme does this itself.
         if (mark == buttonFaceColour && field.isEnabled())
             palette.setBrush(QPalette::Base, palette.brush(QPalette::Button));
         field.setPalette(palette);
@@ -57,7 +57,7 @@ void setFieldMark(QWidget& field, Colour mark) {
     QPalette palette = field.palette();
     palette.setColor(QPalette::Window, toQColor(mark));
     palette.setColor(QPalette::WindowText, Qt::black);
-    if (!frame) {  // the fields in a frame keep their own ground
+    if (!frame) {  // the fields in a frame keep their own background
         for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Button})
             palette.setColor(role, toQColor(mark));
         for (const QPalette::ColorRole role :

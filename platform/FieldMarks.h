@@ -8,29 +8,29 @@
 
 namespace zg {
 
-/// The background of a field as the rules of the marks see it: yellowMark, darkYellowMark, cleanMark or
+/// The background of a field for the rules of the marks: yellowMark, darkYellowMark, cleanMark or
 /// buttonFaceColour. A field that was never marked is clean.
 Colour fieldMark(const QWidget& field);
 
-/// Gives a field that background. A clean field looks as the desktop's theme wants it; marks have black text
-/// on every theme.
+/// Sets the background of a field. A clean field looks as in the desktop's theme; marks have black text in
+/// every theme.
 void setFieldMark(QWidget& field, Colour mark);
 
 void MarkInvalid(QWidget& field);
 void ClearInvalid(QWidget& field);
 
-/// The focus goes on within the program's window. It only rests while a list is open, or another program is
-/// in front.
+/// Whether the focus moves on within the program's window. It only pauses while a list is open, or another
+/// program is in front.
 bool leavesField(const QEvent& event);
 
-/// A marked field with text becomes clean; then its trimmed text is given back to it.
+/// A marked field with text becomes clean; then its text is trimmed.
 void ClearInvalidIfFilled(QWidget& field);
 
-/// Only the enabled flag.
+/// Sets only the enabled flag.
 void SetEnabled(QWidget& field);
 void SetDisabled(QWidget& field);
 
-/// The enabled flag, and the background that goes with it; a mark survives in a darker yellow.
+/// Sets the enabled flag and the matching background; a mark remains as a darker yellow.
 void DisableField(QWidget& field);
 void EnableField(QWidget& field);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// The small parts that every form is put together from.
+// The small parts from which every form is assembled.
 
 #include <QLabel>
 #include <QLineEdit>
@@ -11,7 +11,7 @@
 
 namespace zg {
 
-/// The control, known from now on by this name.
+/// Gives the control its object name.
 template <typename Control>
 Control* named(Control* control, const char* name) {
     control->setObjectName(QString::fromLatin1(name));
@@ -22,14 +22,14 @@ inline QPushButton* namedButton(const char* caption, const char* name) {
     return named(new QPushButton(QString::fromLatin1(caption)), name);
 }
 
-/// A button whose caption tells too little by itself: what it does, for screen readers.
+/// A button whose caption says too little by itself; `what` is its name for screen readers.
 inline QPushButton* browseButton(const char* caption, const char* name, const char* what) {
     QPushButton* button = namedButton(caption, name);
     button->setAccessibleName(QString::fromLatin1(what));
     return button;
 }
 
-/// The label of a control, whose accelerator leads there.
+/// The label of a control; its accelerator moves the focus there.
 inline QLabel* labelFor(const char* text, QWidget* buddy) {
     auto* label = new QLabel(QString::fromLatin1(text));
     label->setBuddy(buddy);

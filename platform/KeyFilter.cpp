@@ -29,8 +29,8 @@ class TypedKeys : public QObject {
         return !key.text().isEmpty() && !isCommand(key) && !passes(key.text());
     }
 
-    /// Keys that serve the box or the dialog whatever the box may hold. Delete comes with a character of its
-    /// own on some desktops.
+    /// Keys that operate the box or the dialog, whatever the box may contain. On some desktops Delete comes
+    /// with a character of its own.
     static bool isCommand(const QKeyEvent& key) {
         if (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab || key.key() == Qt::Key_Escape ||
             key.key() == Qt::Key_Delete)
@@ -45,7 +45,8 @@ class TypedKeys : public QObject {
         return true;
     }
 
-    /// Characters that are composed from several keys, or picked on a screen's keyboard, come as one text.
+    /// Characters that are composed from several keys, or chosen on an on-screen keyboard, arrive as one
+    /// text.
     bool replaces(const QInputMethodEvent& event) {
         QString kept;
         for (const char32_t point : event.commitString().toUcs4()) {
@@ -63,7 +64,7 @@ class TypedKeys : public QObject {
     KeyFunction function_;
 };
 
-/// The field gets a press of the Tab key in place of that of Enter, so that both go to the same control.
+/// The field receives a Tab press in place of the Enter press, so that both move to the same control.
 class EnterIsTab : public QObject {
  public:
     explicit EnterIsTab(QWidget& field) : QObject(&field), field_(field) { field.installEventFilter(this); }

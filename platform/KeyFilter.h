@@ -6,17 +6,17 @@
 
 namespace zg {
 
-/// Takes a typed character and gives it back, or 0 to drop it.
+/// Receives a typed character and returns it, or 0 to drop it.
 using KeyFunction = std::function<std::int16_t(std::int16_t keyAscii)>;
 
-/// The function, and besides no character above 127.
+/// The function, with all characters above 127 dropped as well.
 KeyFunction asciiOnly(KeyFunction function);
 
-/// Lets only those characters be typed into the box that the function lets through. Text that is pasted does
-/// not pass the keyboard and goes in as it is. The last function set counts.
+/// Accepts only those typed characters that the function accepts. Pasted text does not come from the keyboard
+/// and is not filtered. A later call replaces the function.
 void filterKeys(QLineEdit& box, KeyFunction function);
 
-/// Enter in the field does what the Tab key does, and no more.
+/// Enter in the field does what the Tab key does, and nothing else.
 void enterIsTab(QWidget& field);
 
 }  // namespace zg

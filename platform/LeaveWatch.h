@@ -10,8 +10,8 @@
 
 namespace zg {
 
-/// Does what follows when the focus leaves a field. A member of the form, so that it ends before what its
-/// actions use.
+/// Calls an action when the focus leaves a field. Make it a member of the form, so that it is destroyed
+/// before what its actions use.
 class LeaveWatch : public QObject {
  public:
     explicit LeaveWatch(Host& host) : host_(host) {}

@@ -7,7 +7,7 @@ namespace zg {
 
 namespace {
 
-/// Hands the rows to a rule and shows what came of it.
+/// Applies a rule to the rows and shows the result.
 void applyTo(QListWidget& list, void (*rule)(std::vector<ListRow>&)) {
     std::vector<ListRow> rows;
     rows.reserve(static_cast<std::size_t>(list.count()));

@@ -9,7 +9,7 @@ namespace zg {
 void ListMoveUp(QListWidget& list);
 void ListMoveDown(QListWidget& list);
 
-/// Takes the selected rows out.
+/// Removes the selected rows.
 void ListRemoveSelected(QListWidget& list);
 
 }  // namespace zg

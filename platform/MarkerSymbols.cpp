@@ -10,7 +10,7 @@ namespace zg {
 
 namespace {
 
-/// From code 0x20 on. Symbols that have no character in the basic plane have their nearest kin there.
+/// From code 0x20 on. Symbols without a character in the basic plane have their closest equivalent there.
 constexpr std::array<char16_t, 224> symbols = {
     // 0x20: pencil, scissors, bell, book, telephones, letters, files, keyboard
     u' ', 0x270F, 0x2702, 0x2701, 0x25CE, 0x266A, 0x2756, 0x2739, 0x260E, 0x2706, 0x2709, 0x2709, 0x2709,

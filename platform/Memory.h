@@ -2,12 +2,12 @@
 
 namespace zg {
 
-/// Large blocks (pages, pictures) are taken from the system one by one and so go back to it as soon as they
-/// are free. To be called before the first window. Does nothing where the C library has no such choice.
+/// Makes the C library allocate large blocks (pages, pictures) separately from the system, so that they are
+/// returned as soon as they are freed. Must be called before the first window. Does nothing if the C library
+/// has no such option.
 void useMemorySparingly();
 
-/// Drops painted icons, which are made again when they are needed, and gives back what lies free between the
-/// blocks in use.
+/// Drops cached icons, which are recreated on demand, and returns free memory between the blocks in use.
 void giveBackMemory();
 
 }  // namespace zg

@@ -129,7 +129,7 @@ void PageWidget::paintShapes(QPainter& painter) const {
     }
     for (const ChildSurface* rectangle : {&shapes_.select, &shapes_.rubber}) {
         if (!rectangle->visible) continue;
-        // Dashes on white are seen over any colour.
+        // Dashes over a white line are visible on any colour.
         painter.setPen(Qt::white);
         painter.drawRect(box(*rectangle));
         painter.setPen(QPen(Qt::black, 1, rectangle == &shapes_.rubber ? Qt::DotLine : Qt::DashLine));
@@ -177,14 +177,14 @@ void PageWidget::keyPressEvent(QKeyEvent* event) {
         std::int16_t code = keyCodeOf(*event);
         if (events.KeyDown) events.KeyDown(code, shiftState(event->modifiers()));
         constexpr std::int16_t escape = 27;
-        if (code == escape) owner_.graph_->cancelTool();  // unless the host has made use of the key
+        if (code == escape) owner_.graph_->cancelTool();  // unless the host has used the key
         const QByteArray characters = event->text().toLatin1();
         for (const char character : characters) {
             std::int16_t ascii = static_cast<unsigned char>(character);
             if (events.KeyPress) events.KeyPress(ascii);
         }
     })();
-    event->ignore();  // keys the control has no use for serve the window
+    event->ignore();  // keys that the control does not use go to the window
 }
 
 void PageWidget::keyReleaseEvent(QKeyEvent* event) {

@@ -6,15 +6,15 @@
 
 namespace zg {
 
-/// picGraph, the page: shows the drawing and passes the pointer and the keys on to the control.
+/// picGraph, the page: shows the drawing and passes pointer and keys on to the control.
 class PageWidget : public QWidget {
  public:
     explicit PageWidget(PolarGraphWidget& owner);
 
-    /// Pointer of the page by its number; 99 takes the picture.
+    /// Pointer of the page by its number; 99 means the picture.
     void showPointer(std::int16_t pointer, const PicturePointer& icon);
 
-    /// Shows the tools' shapes over the page; only what changed is painted again.
+    /// Shows the tools' shapes over the page; repaints only what has changed.
     void showShapes(const ChildSurfaces& surfaces);
 
  protected:
@@ -41,9 +41,8 @@ class PageWidget : public QWidget {
     Shapes shapes_;
 };
 
-/// A key's number as the control's events give it: letters and digits by their upper-case character, others
-/// by the usual virtual key codes, those of the
-/// keypad where they are pressed there; 0 for keys without one.
+/// The number of a key in the control's events: letters and digits by their upper-case character, others by
+/// the usual virtual key codes, with those of the keypad for its keys; 0 for keys without one.
 std::int16_t keyCodeOf(int key, bool onKeypad = false);
 
 }  // namespace zg

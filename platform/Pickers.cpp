@@ -23,7 +23,7 @@ void SelectFiles(Host& host, QListWidget& list, std::string& dir, const std::str
     const std::vector<std::string> paths = host.pickFilesToOpen(pick);
     if (paths.empty()) return;
     for (const std::string& path : paths) addRead(list, path);
-    // A row is never cut off: the list scrolls sideways as far as its longest text and a scroll bar reach.
+    // Rows are never cut off: the list scrolls sideways to the end of its longest text plus a scroll bar.
     list.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     list.setTextElideMode(Qt::ElideNone);
     dir = DirOf(paths.front());

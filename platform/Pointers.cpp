@@ -6,7 +6,8 @@
 
 #include "platform/QtPicture.h"
 
-// Outside any namespace, as the toolkit's macro wants it: a library's resources have to be asked for.
+// Outside any namespace, as the toolkit's macro requires: the resources of a library must be initialised
+// explicitly.
 static void loadResources() { Q_INIT_RESOURCE(platform); }
 
 namespace zg {

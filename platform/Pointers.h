@@ -7,14 +7,14 @@
 
 namespace zg {
 
-/// The picture of a pointer from a resource of 32 by 32 units, sharp at any scale; it points at the hot spot.
+/// The picture of a pointer from a resource of 32 by 32 units, sharp at any scale, with its hot spot.
 PicturePointer pointerPicture(const QString& resource, QPoint hotSpot);
 
 QCursor cursorOf(const Picture& pointer);
 
 enum class RulerPart { Top, Left, Corner };
 
-/// Each of the rulers' surfaces has a pointer of its own.
+/// Each of the rulers' surfaces has its own pointer.
 QCursor rulerCursor(RulerPart part);
 
 }  // namespace zg

@@ -25,7 +25,7 @@ PicturePointer PolarGraphWidget::copyPage(const Rect& part) {
     if (area.isEmpty()) return nullptr;
     QImage page = pageImage();
     if (page.devicePixelRatio() != 1) {
-        // A screen of higher resolution has more pixels a unit than the picture.
+        // A screen of higher resolution has more pixels per unit than the picture.
         page = page.scaled(page.deviceIndependentSize().toSize(), Qt::IgnoreAspectRatio,
                            Qt::SmoothTransformation);
         page.setDevicePixelRatio(1);

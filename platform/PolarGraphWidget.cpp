@@ -53,7 +53,7 @@ PolarGraphWidget::PolarGraphWidget(Host& host, const PropertyBag& designed, QWid
     picScroll_->setObjectName(QStringLiteral("picScroll"));
     picScroll_->setAutoFillBackground(true);
     lblTrackAngle_->setObjectName(QStringLiteral("lblTrackAngle"));
-    lblTrackAngle_->setAutoFillBackground(true);  // its text has the theme's colour, the page has its own
+    lblTrackAngle_->setAutoFillBackground(true);  // its text has the theme's colour, the page a fixed one
     lblTrackAngle_->move(6, 6);
     lblTrackAngle_->hide();
     picHolderRH_->setObjectName(QStringLiteral("picHolderRH"));
@@ -61,7 +61,7 @@ PolarGraphWidget::PolarGraphWidget(Host& host, const PropertyBag& designed, QWid
     picRulerJ_->setToolTip(QString::fromLatin1(PolarGraph::cornerToolTip));
     for (QScrollBar* bar : {hsScroll_, vsScroll_})
         connect(bar, &QScrollBar::valueChanged, this, guarded(host_, [this] { scrolled(); }));
-    // Only this class may show itself as the window.
+    // Only this class may use itself as the ControlWindow.
     graph_ = std::make_unique<PolarGraph>(static_cast<ControlWindow&>(*this), host_, designed);
     layoutChanged();
 }
@@ -101,7 +101,7 @@ bool PolarGraphWidget::restorePicture() {
 }
 
 void PolarGraphWidget::layoutChanged() {
-    if (!graph_) return;  // the control arranges its children before it is there to be asked
+    if (!graph_) return;  // the control arranges its children in its constructor
     const ChildSurfaces& surfaces = graph_->surfaces();
     place(*picShadow_, surfaces.picShadow);
     place(*picGraph_, surfaces.picGraph);
@@ -167,7 +167,7 @@ void PolarGraphWidget::paintEvent(QPaintEvent* event) {
 
 void PolarGraphWidget::followScreen() {
     if (qFuzzyCompare(page_.devicePixelRatio(), devicePixelRatioF())) return;
-    // The window moved to a screen of another resolution: the page is drawn anew, never scaled.
+    // The window has moved to a screen of another resolution: the page is redrawn, never scaled.
     QTimer::singleShot(0, this, guarded(host_, [this] {
                            const QSizeF units = page_.deviceIndependentSize();
                            pageResized(qRound(units.width()), qRound(units.height()));

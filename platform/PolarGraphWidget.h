@@ -18,8 +18,8 @@ namespace zg {
 class PageWidget;
 class RulerWidget;
 
-/// The window of a PolarGraph: its child surfaces are widgets under their own names, its page an image that
-/// holds the drawing and is repainted sharp on every screen.
+/// The window of a PolarGraph: its child surfaces are widgets with their own names; its page is an image that
+/// holds the drawing and is repainted sharply on every screen.
 class PolarGraphWidget : public QWidget, private ControlWindow {
     Q_OBJECT
 
@@ -29,10 +29,10 @@ class PolarGraphWidget : public QWidget, private ControlWindow {
 
     PolarGraph& graph() { return *graph_; }
 
-    /// What was painted on the page, at the screen's resolution.
+    /// What has been painted on the page, at the screen's resolution.
     const QImage& pageImage();
 
-    /// Asks for a printer; false is a cancel. Stands for the desktop's dialog where it is replaced.
+    /// Asks for a printer; false if cancelled. May be replaced to bypass the desktop's dialog.
     std::function<bool(QPrinter& printer)> askPrinter;
 
     /// Small enough for any window; the page scrolls.

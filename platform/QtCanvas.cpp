@@ -18,8 +18,7 @@ constexpr double layoutDotsPerInch = 96;
 constexpr double millimetresPerInch = 25.4;
 /// No page is wide enough to show more of a line than this.
 constexpr std::size_t longestText = 4096;
-/// Coordinates beyond any page: what lies further out than this cannot be seen, and the rasteriser must not
-/// meet it.
+/// Coordinates beyond any page: anything further out is invisible, and the rasteriser must not receive it.
 constexpr double farOut = 1e6;
 
 double bounded(double value) {
@@ -60,7 +59,7 @@ Qt::PenStyle penStyle(std::int32_t style) {
     }
 }
 
-/// The text in the characters that its face needs.
+/// The text in the characters that its font needs.
 QString shownLine(const std::string& text, const std::string& face) {
     const std::string_view visible = std::string_view(text).substr(0, longestText);
     return needsSymbols(face) ? symbolText(visible) : shown(visible);
@@ -166,7 +165,7 @@ void QtCanvas::fillPolygon(const std::vector<Point>& corners, Colour colour) {
 
 QFont QtCanvas::fontOf(const TextStyle& style) const {
     QFont font(needsSymbols(style.face) ? symbolFace() : shown(style.face));
-    // Points are of 96 dots an inch on the surface, so that a printer's own resolution does not change the
+    // Points refer to 96 dots per inch on the surface, so that a printer's own resolution does not change the
     // layout.
     const double size = std::clamp(style.size, 1.0, 1000.0);
     font.setPointSizeF(size * layoutDotsPerInch / painter_.device()->logicalDpiY());

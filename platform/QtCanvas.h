@@ -11,10 +11,10 @@ namespace zg {
 /// a filled shape has exactly its colour.
 class QtCanvas : public Canvas {
  public:
-    /// A surface of so many scale units, from the device's top left corner.
+    /// A surface of this many scale units, from the device's top left corner.
     QtCanvas(QPaintDevice& device, double width, double height);
 
-    /// The same through a painter that is already set up and outlives the canvas.
+    /// The same, using a prepared painter that outlives the canvas.
     QtCanvas(QPainter& painter, double width, double height);
 
     double width() const override { return width_; }
@@ -45,8 +45,8 @@ class QtCanvas : public Canvas {
     Point position_;
 };
 
-/// An empty page image of so many pixels; its texts are laid out at 96 dots an inch whatever the screen. Each
-/// scale unit has deviceScale pixels a side.
+/// An empty page image of this many pixels; its texts are laid out at 96 dots per inch whatever the screen.
+/// Each scale unit has deviceScale pixels per side.
 QImage makePageImage(int width, int height, double deviceScale = 1);
 
 }  // namespace zg

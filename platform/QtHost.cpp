@@ -134,7 +134,7 @@ std::optional<Colour> QtHost::pickColour(Colour current) {
     return fromQColor(colour);
 }
 
-/// The colour of the record stays; the toolkit's font dialog has none.
+/// The colour of the record is kept; the toolkit's font dialog has none.
 std::optional<FontRecord> QtHost::pickFont(const FontRecord& current) {
     QFont font(shown(current.name));
     if (current.size > 0) font.setPointSize(current.size);
@@ -154,7 +154,7 @@ void QtHost::pumpEvents(int idleMs) {
     }
     QEventLoop loop;
     QTimer::singleShot(idleMs, &loop, &QEventLoop::quit);
-    // A program that is ending serves no loop any more: waiting must not become a race of empty rounds.
+    // A program that is ending runs no event loop any more: waiting must not become a busy loop.
     if (loop.exec() != 0) QThread::msleep(1);
 }
 
@@ -167,7 +167,7 @@ QStringList nameFilters(const std::string& filter) {
             if (const QString plain = pattern.trimmed(); !plain.isEmpty())
                 patterns.append(plain == QLatin1String("*.*") ? QStringLiteral("*") : plain);
         QString name = shown(trimmed(pieces[i]));
-        // The toolkit adds the patterns itself: a description that already ends in them would show them
+        // The toolkit appends the patterns itself: a description that already ends with them would show them
         // twice.
         if (const qsizetype at = name.lastIndexOf(QLatin1Char('(')); at > 0) name = name.left(at).trimmed();
         filters.append(name + QStringLiteral(" (") + patterns.join(QLatin1Char(' ')) + QLatin1Char(')'));

@@ -8,7 +8,7 @@
 
 namespace zg {
 
-/// Boxes and pickers of the desktop, over the window that is active.
+/// Boxes and pickers of the desktop, above the active window.
 class QtHost : public Host {
  public:
     QtHost();
@@ -27,7 +27,10 @@ class QtHost : public Host {
     QElapsedTimer clock_;
 };
 
-/// The toolkit's form of a filter "Text|pattern;pattern|Text|pattern".
+/// The toolkit's form of a filter "Text
+/// pattern;pattern
+/// Text
+/// pattern".
 QStringList nameFilters(const std::string& filter);
 
 }  // namespace zg

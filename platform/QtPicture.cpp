@@ -18,22 +18,22 @@ namespace {
 
 constexpr int invalidPicture = 481;
 
-/// The first bytes of a bitmap file: what they say of its size.
+/// The sizes stated in the first bytes of a bitmap file.
 class BitmapHead {
  public:
     explicit BitmapHead(std::FILE* file) { size_ = std::fread(bytes_.data(), 1, bytes_.size(), file); }
 
-    /// Bytes that the file must have for all of its pixels; 0 for a file of another kind.
+    /// Bytes that the file must have for all of its pixels; 0 for a file of another format.
     std::int64_t bytesNeeded() const {
         if (size_ < bytes_.size() || bytes_[0] != 'B' || bytes_[1] != 'M') return 0;
-        const bool old = number(14, 4) == 12;  // two bytes for each side, and no compression
+        const bool old = number(14, 4) == 12;  // two bytes per side, and no compression
         const std::int64_t width = old ? number(18, 2) : number(18, 4);
         const std::int64_t height = std::abs(old ? number(20, 2) : number(22, 4));
         const std::int64_t depth = number(old ? 24 : 28, 2);
         const std::int64_t compression = old ? 0 : number(30, 4);
         const std::int64_t pixels = number(10, 4);
         if (compression == 1 || compression == 2) return pixels + number(34, 4);
-        constexpr std::int64_t longestSide = 1'000'000;  // far beyond what the toolkit reads
+        constexpr std::int64_t longestSide = 1'000'000;  // far more than the toolkit reads
         if (compression > 3 || width <= 0 || height == 0 || width > longestSide || height > longestSide)
             return 0;
         const std::int64_t bits = width * depth;
@@ -41,7 +41,7 @@ class BitmapHead {
     }
 
  private:
-    /// The signed number of so many bytes, the lowest first.
+    /// The signed number in that many bytes, the lowest first.
     std::int64_t number(std::size_t at, std::size_t count) const {
         std::uint32_t value = 0;
         for (std::size_t i = count; i-- > 0;) value = value << 8 | bytes_[at + i];
@@ -52,7 +52,7 @@ class BitmapHead {
     std::size_t size_ = 0;
 };
 
-/// The toolkit reads a bitmap as far as it goes and leaves the rest black.
+/// The toolkit reads as much of a bitmap as there is and leaves the rest black.
 void needWhole(const std::string& path, std::FILE* file) {
     const std::int64_t needed = BitmapHead(file).bytesNeeded();
     std::error_code error;
@@ -65,7 +65,7 @@ void needWhole(const std::string& path, std::FILE* file) {
 }  // namespace
 
 PicturePointer loadPicture(const std::string& path) {
-    // A missing or locked file has an error of its own, and the toolkit takes no name that is not text.
+    // A missing or locked file has its own error, and the toolkit accepts only names that are text.
     const FileHandle handle = openForReading(path);
     needWhole(path, handle.get());
     std::rewind(handle.get());

@@ -17,7 +17,7 @@ class QtPicture : public Picture {
     int height() const override { return image_.height(); }
     const QImage& image() const { return image_; }
 
-    /// Where a pointer of this picture points; (-1, -1) is its middle.
+    /// The hot spot of a pointer with this picture; (-1, -1) is its centre.
     QPoint hotSpot() const { return hotSpot_; }
 
  private:
@@ -25,17 +25,16 @@ class QtPicture : public Picture {
     QPoint hotSpot_;
 };
 
-/// The image of a picture that this side has decoded.
+/// The image of a picture that was decoded here.
 inline const QImage& imageOf(const Picture& picture) {
     return static_cast<const QtPicture&>(picture).image();
 }
 
-/// Loads a picture file of any kind the toolkit reads; raises 481, "Invalid picture", or the error of the
-/// file.
+/// Loads a picture file of any format that the toolkit reads; raises 481, "Invalid picture", or the error of
+/// the file.
 PicturePointer loadPicture(const std::string& path);
 
-/// The same for a marker's picture: null where there is no such file or it is no picture, and nobody is
-/// asked about it.
+/// The same for a marker's picture: null if the file does not exist or is not a picture, without an error.
 PicturePointer loadMarkerPicture(const std::string& path);
 
 }  // namespace zg

@@ -1,6 +1,6 @@
 #pragma once
 
-// Where the program's 8-bit texts meet the toolkit's.
+// Conversion between the program's 8-bit texts and the toolkit's.
 
 #include <QColor>
 #include <QFile>
@@ -11,19 +11,19 @@
 
 namespace zg {
 
-/// Text as the user sees it: UTF-8 where the bytes are valid UTF-8, else windows-1252.
+/// Text as the user sees it: UTF-8 if the bytes are valid UTF-8, otherwise windows-1252.
 inline QString shown(std::string_view bytes) { return QString::fromStdString(toUtf8(bytes)); }
 
-/// Text that the user typed, as it is stored: windows-1252 where it fits, else UTF-8.
+/// Text that the user typed, as it is stored: windows-1252 if it fits, otherwise UTF-8.
 inline std::string typed(const QString& text) { return fromUtf8(text.toStdString()); }
 
-/// Names of files keep the bytes that the file system has.
+/// File names keep the bytes of the file system.
 inline QString fileName(const std::string& path) {
     return QFile::decodeName(QByteArray(path.data(), static_cast<qsizetype>(path.size())));
 }
 inline std::string filePath(const QString& name) { return QFile::encodeName(name).toStdString(); }
 
-/// A colour as painted; colours of the desktop come out as neutral ones that hold on every theme.
+/// A colour to paint; colours of the desktop are replaced by neutral ones that suit every theme.
 QColor toQColor(Colour colour);
 Colour fromQColor(const QColor& colour);
 

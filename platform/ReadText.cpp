@@ -15,13 +15,13 @@ constexpr const char* readProperty = "bytesRead";
 
 QByteArray asArray(std::string_view bytes) { return {bytes.data(), static_cast<qsizetype>(bytes.size())}; }
 
-/// A path that is no text to the file system is shown as any other text of a file.
+/// A path that the file system cannot represent as text is shown like any other text of a file.
 QString textOfPath(const std::string& path) {
     const QString name = fileName(path);
     return filePath(name) == path ? name : shown(path);
 }
 
-/// The bytes kept with a text, where they are still what is shown.
+/// The bytes kept with a text, if they still belong to what is shown.
 std::string keptOr(const QVariant& kept, const QString& text) {
     const std::string bytes = kept.toByteArray().toStdString();
     return kept.isValid() && shown(bytes) == text ? bytes : typed(text);

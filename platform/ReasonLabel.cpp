@@ -8,7 +8,7 @@ namespace zg {
 
 namespace {
 
-/// A text that wraps gets the lines that it needs; nothing around it gives way.
+/// A text that wraps gets the lines it needs; nothing around it shrinks.
 void makeRoom(QWidget& window) {
     QLayout* layout = window.layout();
     if (layout == nullptr) return;
@@ -37,7 +37,7 @@ void ReasonLabel::setReason(const std::string& text) {
 void setPlainTip(QWidget& widget, const std::string& text) {
     constexpr qsizetype longLine = 80;
     const QString tip = shown(text);
-    // Only a text with markup wraps, and there a line end is a blank.
+    // Only a text with markup wraps, and there a line end counts as a blank.
     const bool asMarkup = tip.size() > longLine || Qt::mightBeRichText(tip);
     const QString lines = tip.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
     widget.setToolTip(asMarkup ? QStringLiteral("<p>%1</p>").arg(lines) : tip);

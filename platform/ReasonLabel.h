@@ -5,18 +5,18 @@
 
 namespace zg {
 
-/// A line under a status that is there only while it has something to say.
+/// A line below a status, visible only while it has a text.
 class ReasonLabel : public QLabel {
     Q_OBJECT
 
  public:
     explicit ReasonLabel(const char* name, QWidget* parent = nullptr);
 
-    /// The text wraps, and is the tool tip too; "" hides the label.
+    /// The text wraps and is also the tool tip; "" hides the label.
     void setReason(const std::string& text);
 };
 
-/// A tool tip of a text that may hold anything; a long one wraps.
+/// A tool tip for arbitrary text; a long one wraps.
 void setPlainTip(QWidget& widget, const std::string& text);
 
 }  // namespace zg

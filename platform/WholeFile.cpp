@@ -16,14 +16,15 @@ namespace {
 
 constexpr int mostNames = 1000;
 
-/// Where a link points to; the path itself where it is none.
+/// The target of a link; the path itself if it is not one.
 std::string withoutLink(std::string path) {
     std::error_code error;
     const fs::path target = fs::is_symlink(path, error) ? fs::canonical(path, error) : fs::path();
     return error || target.empty() ? std::move(path) : target.string();
 }
 
-/// Whether a file may take the place; errno says why not. One that is protected is not replaced.
+/// Whether a file may be created or replaced there; errno says why not. A write-protected one is not
+/// replaced.
 bool isReplaceable(const std::string& path) {
     std::error_code error;
     const fs::file_status old = fs::status(path, error);

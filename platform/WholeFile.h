@@ -1,7 +1,7 @@
 #pragma once
 
-// A file that takes its name when it is whole. The name may have any bytes: the toolkit's own files know only
-// names that are text.
+// A file that gets its name when it is complete. The name may have any bytes: the toolkit's own files know
+// only names that are text.
 
 #include <QIODevice>
 #include <string>
@@ -12,21 +12,21 @@ namespace zg {
 
 class WholeFile : public QIODevice {
  public:
-    /// Opens a file beside the place that the path names. It is not open where none could be made.
+    /// Opens a file in the directory of the path. It is not open if none could be created.
     explicit WholeFile(std::string path);
 
-    /// Without commit nothing is left of it.
+    /// Removes the file unless commit was called.
     ~WholeFile() override;
 
     bool isSequential() const override { return true; }
 
-    /// Gives the file its name in place of an older one; false where that fails or bytes were lost before.
+    /// Gives the file its name, replacing an older one; false if that fails or bytes were lost before.
     bool commit();
 
-    /// What failed first, as the C library numbers it; 0 for nothing.
+    /// The first error, as numbered by the C library; 0 if none.
     int errorNumber() const { return errorNumber_; }
 
-    /// Nothing more fits on the disk, in the user's share of it or in one file.
+    /// Whether the error means that the disk, the user's quota or the file size limit is exhausted.
     bool isFull() const;
 
  protected:

@@ -16,7 +16,7 @@ constexpr std::string_view cdStart = "cd \"";
 
 bool isControl(char character) { return static_cast<unsigned char>(character) < 32 || character == 127; }
 
-/// Characters that no one sees are spelt out: "<LF>", "<1A>".
+/// Invisible characters are spelt out: "<LF>", "<1A>".
 std::string spelledOut(std::string_view name) {
     constexpr std::string_view digits = "0123456789ABCDEF";
     std::string text;
@@ -34,7 +34,7 @@ std::string spelledOut(std::string_view name) {
     return text;
 }
 
-/// What the name has in it that the lines cannot hold; "" for a good name.
+/// The part of the name that the lines cannot contain; "" for a valid name.
 std::string faultOf(std::string_view name, bool windows) {
     for (const char character : name) {
         if (character == '\n' || character == '\r') return "a line end";

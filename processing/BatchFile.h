@@ -1,7 +1,7 @@
 #pragma once
 
-// The two batch files that the program writes, line by line, and their lines read back. Where the platform
-// has no batch shell the program carries the lines out itself, and only those that it would have written.
+// The two batch files that the program writes, line by line, and the reverse. On platforms without a batch
+// shell the program executes the lines itself, and only those that it would have written.
 
 #include <optional>
 #include <string>
@@ -12,9 +12,9 @@
 
 namespace zg {
 
-/// Raises 52, with the name, where a batch file cannot hold the name as one: a line end would begin a line of
-/// its own. The shell of Windows, told by its separator, also acts on % & ^ ! " | < > and on control
-/// characters, on some of them within quotes too.
+/// Raises 52, with the name, if a batch file cannot contain it as one word: a line end would begin another
+/// line. The shell of Windows, identified by its separator, also interprets % & ^ ! "
+/// < > and control characters, some of them within quotes too.
 void needBatchName(std::string_view name, char separator = pathSeparator);
 
 /// The names in the batch file of a run.
@@ -25,17 +25,17 @@ struct RunBatch {
     bool operator==(const RunBatch&) const = default;
 };
 
-/// The five lines of run_tempoline.bat, without their ends; raises as needBatchName does.
+/// The five lines of run_tempoline.bat, without line ends; raises the error of needBatchName.
 std::vector<std::string> batchLines(const std::string& outputDirectory, const std::string& base,
                                     const std::string& programDirectory, char separator = pathSeparator);
 
-/// The names of such lines; nothing where they are not, byte for byte, what batchLines gives for names.
+/// The names in such lines; nothing if they are not, byte for byte, what batchLines gives for these names.
 std::optional<RunBatch> readRunBatch(const std::vector<std::string>& lines, char separator = pathSeparator);
 
-/// The line of open_file.bat, without its end; raises as needBatchName does.
+/// The line of open_file.bat, without its line end; raises the error of needBatchName.
 std::string viewerLine(const std::string& path, char separator = pathSeparator);
 
-/// The path of such a line; "" for any other line.
+/// The path in such a line; "" for any other line.
 std::string viewedFile(std::string_view line, char separator = pathSeparator);
 
 }  // namespace zg

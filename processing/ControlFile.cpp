@@ -14,7 +14,7 @@ namespace {
 /// What differs between the dialogs.
 struct Variation {
     const char* mdata;
-    bool blankBeforeIdOfGroup2;  ///< its TSFID line has the two blanks that the other one always has
+    bool blankBeforeIdOfGroup2;  ///< its TSFID line has two blanks that the other one always has
     bool hasOutputs;
     bool capitalSurface;
     bool gridded;
@@ -33,7 +33,7 @@ const Variation& variationOf(InputType type) {
     return rows.at(type);
 }
 
-/// None where the input is a time series already, whatever the dialog gives.
+/// None if the input is already a time series, whatever the dialog gives.
 const std::vector<ControlOutput>& outputsOf(const ControlFile& v) {
     static const std::vector<ControlOutput> none;
     return variationOf(v.type).hasOutputs ? v.outputs : none;
@@ -76,7 +76,7 @@ std::string filled(std::string_view line, const Fields& fields) {
     }
 }
 
-/// "(KEY) ... * KEY  = default *" made active: the same columns, "!" for "*", the value for the default.
+/// Activates "(KEY) ... * KEY = default *": the same columns, "!" for "*", the value for the default.
 std::string activated(std::string_view line, std::string_view key, const std::string& value) {
     const std::size_t star = line.rfind("* " + std::string(key));
     const std::size_t equals = line.find('=', star);
@@ -84,7 +84,7 @@ std::string activated(std::string_view line, std::string_view key, const std::st
            value + " !";
 }
 
-/// The inert assignments that this run makes active, with their values.
+/// The inert assignments that this run activates, with their values.
 std::vector<std::pair<std::string, std::string>> activeKeys(const ControlFile& v) {
     std::vector<std::pair<std::string, std::string>> keys;
     if (v.type == InputType::Tsf) keys.emplace_back("ROSEPLT", v.roseName);

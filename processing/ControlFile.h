@@ -1,7 +1,7 @@
 #pragma once
 
-// The control file, the one channel to the processor: always written whole, with every line of comment.
-// Values are written exactly as they are held.
+// The control file, the only channel to the processor: always written completely, with every comment line.
+// Values are written exactly as they are.
 
 #include <array>
 #include <cstdint>
@@ -11,23 +11,23 @@
 
 namespace zg {
 
-/// The eight dialogs that write one.
+/// The eight dialogs that write a control file.
 enum class InputType { Surf, Up, MonitorW, AermSfc, AermPfl, Tsf, Ventos, M3d };
 
-/// The keyword of a type, as "SURF".
+/// The keyword of a type, such as "SURF".
 const char* mdataOf(InputType type);
 
 /// One series that the processor makes.
 struct ControlOutput {
     std::string id;        ///< "1"
-    std::string name;      ///< of the files, without directory and extension
+    std::string name;      ///< file name without directory and extension
     std::string location;  ///< "" leaves the line inert
     std::string place;     ///< "72503, 0, 0" of a station, "3.2, 15.88" of a grid's location
     std::string height;    ///< metres above ground
-    bool located = false;  ///< the line is active also for a location of ""
+    bool located = false;  ///< the line is active even for a location of ""
 };
 
-/// Map projection and datum, all texts, named as the file names them.
+/// Map projection and datum, all as texts, with the names used in the file.
 struct ProjectionRecord {
     std::string PMAP;  ///< "LL", "UTM", "LCC", "TTM", "PS", "EM", "LAZA"; "NONE" leaves all inert
     std::string FEAST;
@@ -38,14 +38,14 @@ struct ProjectionRecord {
     std::string RLON0;
     std::string XLAT1;
     std::string XLAT2;
-    std::string DATUM;  ///< active but for a PMAP of "NONE"
+    std::string DATUM;  ///< active unless PMAP is "NONE"
 };
 
 struct ControlFile {
     InputType type = InputType::Surf;
     std::string title;
     std::string base;                     ///< of the run's files
-    std::vector<std::string> inputFiles;  ///< as they stand in the dialog; gridded dialogs may give several
+    std::vector<std::string> inputFiles;  ///< as in the dialog; gridded dialogs may give several
     std::string roseName;                 ///< of TSF input
     std::vector<ControlOutput> outputs;   ///< not written for TSF input
 
@@ -61,11 +61,11 @@ struct ControlFile {
     // Of the gridded dialogs:
     std::string METSIM;
     ProjectionRecord projection;
-    std::string MPROF;  ///< of 3D.DAT input, as the next
+    std::string MPROF;  ///< of 3D.DAT input, as is the next
     std::string MCELL;
 };
 
-/// The file's bytes, each line ended by CR LF.
+/// The bytes of the file, each line ended by CR LF.
 std::string controlFileBytes(const ControlFile& values);
 
 /// Writes them to "{directory}{base}_tempoline.inp"; raises the error of the file.

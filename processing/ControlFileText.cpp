@@ -1,6 +1,6 @@
-// The text of the control file. Lines stand as they are written, blanks at their ends included; what varies
-// stands in braces, and blocks that are repeated between lines in brackets. The processor reads only what
-// stands between "!"; users read the rest.
+// The text of the control file. Lines are exactly as written, with blanks at their ends; variable parts are
+// in braces, and blocks repeated between lines in brackets. The processor reads only the text between "!";
+// users read the rest.
 
 #include "processing/ControlFileText.h"
 

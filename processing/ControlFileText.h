@@ -4,7 +4,7 @@
 
 namespace zg {
 
-/// The lines of a control file, parted by line feeds.
+/// The lines of a control file, separated by line feeds.
 extern const std::string_view controlFileText;
 
 }  // namespace zg

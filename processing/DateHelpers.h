@@ -1,7 +1,7 @@
 #pragma once
 
-// Days of the year, seconds of the hour, and dates put together from the texts of a header. MonthName3 and
-// DateFromParts come with base/Dates.h.
+// Days of the year, seconds of the hour, and dates made from the texts of a header. MonthName3 and
+// DateFromParts are in base/Dates.h.
 
 #include <array>
 #include <cstdint>
@@ -13,7 +13,7 @@
 
 namespace zg {
 
-/// A month and its day, or nothing at all. Reading either of an empty one raises 13.
+/// A month and its day, or nothing. Reading either part of an empty one raises 13.
 class MonthAndDay {
  public:
     MonthAndDay() = default;
@@ -29,14 +29,14 @@ class MonthAndDay {
     std::optional<std::array<std::int16_t, 2>> values_;
 };
 
-/// Month and day of a day of the year, counted from 1. Every fourth year is a leap year, 1900 too. A day that
-/// the year does not have shows a message and gives an empty result.
+/// Month and day of a day of the year, counted from 1. Every fourth year is a leap year, including 1900. For
+/// a day that the year does not have, shows a message and gives an empty result.
 MonthAndDay VBGRDAY(Host& host, std::int16_t year, std::int16_t julianDay);
 
 /// {minutes, seconds}; the argument keeps only the seconds.
 std::array<std::int16_t, 2> MinSecOf(std::int16_t& seconds);
 
-/// Whole hours of a count of seconds.
+/// Whole hours in a number of seconds.
 std::int16_t HoursOf(std::int16_t seconds);
 
 /// Whole minutes beyond the whole hours. The argument loses its hours, so a caller that needs it again passes
@@ -46,7 +46,7 @@ std::int16_t MinutesOf(std::int16_t& seconds);
 /// Seconds beyond the whole hours and minutes.
 std::int16_t SecondsOf(std::int16_t seconds);
 
-/// The day of the date at the time of day "h:m:s"; raises 13 for what is no time.
+/// The day of the date at the time of day "h:m:s"; raises 13 for an invalid time.
 DateTime AddTimeToDate(DateTime date, std::string_view timeText);
 
 }  // namespace zg

@@ -12,7 +12,7 @@ FileCounts fileCounts;
 
 namespace {
 
-/// A longer path opens nowhere, and walking up its levels would only cost time.
+/// No longer path can be opened, and walking up its levels would only cost time.
 constexpr std::size_t longestPath = 4096;
 
 bool endsInSeparator(std::string_view path, char separator) {
@@ -39,7 +39,8 @@ bool MakeDirectoryTree(std::string_view path, char separator) {
     if (endsInSeparator(path, separator)) path.remove_suffix(1);
     if (path.empty()) return false;
 
-    // From the path upwards to the first level that is there; no level left is the root or the current one.
+    // From the path upwards to the first existing level; nothing left means the root or the current
+    // directory.
     std::vector<std::size_t> missing;
     for (std::string level(path); !level.empty() && !IsDirectory(level); level = DirOf(level, separator))
         missing.push_back(level.size());

@@ -13,7 +13,7 @@
 
 namespace zg {
 
-/// Counts that FindFiles leaves for its two callers.
+/// Results of FindFiles for its two callers.
 struct FileCounts {
     std::int16_t BatchFileCount = 0;
     std::int16_t ReportFileCount = 0;
@@ -21,30 +21,30 @@ struct FileCounts {
 
 extern FileCounts fileCounts;
 
-/// The path with the separator at its end; a final separator or "\" that is there already stays the only one.
+/// The path with a separator at its end; an existing final separator or "\" is not doubled.
 std::string withSeparator(std::string_view directory, char separator = pathSeparator);
 
-/// Whether the text of a field for an output directory names one; blanks round it do not count. Blanks alone
-/// name none, also after the field was left and got its final separator: they must not mean the root.
+/// Whether the text of an output directory field names a directory, surrounding blanks ignored. Blanks alone
+/// do not, even after the field was left and got its final separator: they must not mean the root.
 bool isOutputDirectory(std::string_view typed);
 
-/// Creates all missing levels of the path, one final separator aside. True when the path is a directory at
-/// the end, false when it or a level above it cannot be made.
+/// Creates all missing levels of the path, disregarding one final separator. True if the path is then a
+/// directory, false if it or a level above it cannot be created.
 bool MakeDirectoryTree(std::string_view path, char separator = pathSeparator);
 
-/// What a dialog does once its working directory is there.
+/// What a dialog does once its working directory exists.
 struct WorkDirCaller {
     std::function<void()> clearWorkDirBox;  ///< paints the box of the working directory white
-    std::function<void()> restart;          ///< begins the action anew, checks included
+    std::function<void()> restart;          ///< starts the action again, including its checks
 };
 
-/// Asks whether the missing directory shall be created and goes on with the caller's action when it was. A
-/// directory that cannot be made ends the matter without a word, as No does.
+/// Asks whether to create the missing directory and, once it is created, continues the caller's action. If it
+/// cannot be created nothing happens, without a message, as after No.
 void AskCreateWorkDir(Host& host, const WorkDirCaller& caller, const std::string& directory);
 
-/// The names of the plain files that match a pattern such as "{directory}*.frq", hidden ones included, in the
-/// order of the directory; one empty text where there is none. Their number goes to BatchFileCount for the
-/// caller "BatchMode" and to ReportFileCount for "CreateReport"; raises 6 above 32767 of them.
+/// The names of the regular files that match a pattern such as "{directory}*.frq", hidden ones included, in
+/// directory order; one empty text if there are none. Their number goes to BatchFileCount for the caller
+/// "BatchMode" and to ReportFileCount for "CreateReport"; raises 6 above 32767 of them.
 std::vector<std::string> FindFiles(std::string_view caller, const std::string& pattern);
 
 }  // namespace zg

@@ -1,7 +1,7 @@
 #pragma once
 
-// The colours by which a field shows that it is in error. Invalid is yellowMark, valid is cleanMark; these
-// are the changes between them.
+// The colours that mark an invalid field. Invalid is yellowMark, valid is cleanMark; these functions are the
+// changes between them.
 
 #include <string_view>
 
@@ -9,17 +9,17 @@
 
 namespace zg {
 
-/// Background of a field that is being disabled: a mark survives in a darker yellow.
+/// Background of a field that is being disabled: a mark remains as a darker yellow.
 constexpr Colour disabledMark(Colour background) {
     return background == yellowMark ? darkYellowMark : buttonFaceColour;
 }
 
-/// Background of a field that is being enabled: a mark that survived comes back.
+/// Background of a field that is being enabled: such a mark is restored.
 constexpr Colour enabledMark(Colour background) {
     return background == darkYellowMark ? yellowMark : cleanMark;
 }
 
-/// Background of a field after an entry: the mark goes once there is text, blanks included.
+/// Background of a field after an entry: the mark disappears once there is text, even blanks.
 constexpr Colour filledMark(Colour background, std::string_view text) {
     return background == yellowMark && !text.empty() ? cleanMark : background;
 }

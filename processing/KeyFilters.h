@@ -1,7 +1,7 @@
 #pragma once
 
-// What a key press in a text box lets through: the key itself, or 0 to drop it. Codes below 32 (Backspace and
-// the like) and above 127 always pass.
+// Which keys a text box accepts: each function returns the key itself, or 0 to drop it. Codes below 32
+// (Backspace and the like) and above 127 always pass.
 
 #include <cstdint>
 

@@ -16,7 +16,7 @@ struct ListRow {
 void ListMoveUp(std::vector<ListRow>& rows);
 void ListMoveDown(std::vector<ListRow>& rows);
 
-/// Takes the selected rows out.
+/// Removes the selected rows.
 void ListRemoveSelected(std::vector<ListRow>& rows);
 
 }  // namespace zg

@@ -5,7 +5,7 @@
 
 namespace zg {
 
-/// What a processing dialog needs of the main window.
+/// What a processing dialog needs from the main window.
 struct ProcessingWindow {
     std::function<void(const std::string&)> plotFrqFile;
     std::function<bool()> ending;  ///< the program is being closed

@@ -20,7 +20,7 @@ namespace {
 constexpr const char* batchName = "run_tempoline.bat";
 constexpr const char* markerName = "finished.txt";
 constexpr std::int64_t animationMs = 300;
-constexpr std::int64_t sliceMs = 50;  // between looks at whether the program is being closed
+constexpr std::int64_t sliceMs = 50;  // between checks whether the program is being closed
 
 /// The user chose Cancel, or the program is being closed.
 struct RunEnded {};
@@ -44,7 +44,7 @@ class Run {
     }
 
  private:
-    /// A step that fails is told; Retry does it again, Cancel ends the run.
+    /// A failed step is reported; Retry repeats it, Cancel ends the run.
     void step(const std::function<void()>& action) {
         for (;;) {
             try {
@@ -85,7 +85,7 @@ class Run {
         hooks_.setStatus("Running...");
     }
 
-    /// A name that the batch file cannot hold is refused before anything is written.
+    /// A name that the batch file cannot contain is refused before anything is written.
     void readValues() {
         step([this] {
             hooks_.readValues();
@@ -96,7 +96,7 @@ class Run {
         });
     }
 
-    /// The run of another window would end with this one's marker, or this one with the other's.
+    /// Otherwise the run of another window would end with this one's marker, or this one with the other's.
     bool goesElsewhere() {
         const MessageBox box{
             "Another window waits for a run in " + directory_ +
@@ -126,7 +126,7 @@ class Run {
         tell(hooks_.setReason, "");
     }
 
-    /// The wait has no end of its own, but the person shall know what it waits for.
+    /// The wait has no time limit, but the user should know what it waits for.
     std::string whyNoMarker() {
         const std::string reason = foreseenTrouble(base_, applicationDirectory);
         return reason.empty() ? starter_.outcome(directory_ + batchName) : reason;
@@ -135,7 +135,7 @@ class Run {
     void await(const RunOutput& output) {
         awaitMarker();
         hooks_.showName(output.name);
-        // Blanks around a value of the control file are no part of it.
+        // Blanks around a value in the control file are not part of it.
         const std::string result = existingFile(directory_ + trim(output.name) + ".frq");
         made_ = !result.empty();
         anyMade_ = anyMade_ || made_;
@@ -162,9 +162,9 @@ class Run {
     }
 
     void finish() {
-        if (form_ == RunForm::Locations) awaitMarker();  // a run of no location has not waited yet
+        if (form_ == RunForm::Locations) awaitMarker();  // a run without locations has not waited yet
         if (form_ == RunForm::Stations || (form_ == RunForm::Single && made_)) hooks_.setStatus("Finished");
-        // The label tells of the last output alone, or of none.
+        // The label reports only the last output, or none.
         if (form_ != RunForm::Single && !missing_.empty())
             tell(hooks_.setTip, "No FRQ file for " + missing_ + ": " + listingsEnd());
         if (anyMade_) tell(hooks_.setReason, warningsOfListing(listing()));

@@ -32,7 +32,7 @@ std::map<std::string, std::weak_ptr<RunLock>>& ownLocks() {
 
 enum class Taken { Yes, ByAnother, NoLocks };
 
-/// One name for a directory however it is written.
+/// The same name for a directory however it is written.
 std::string lockPathIn(const std::string& directory) {
     std::error_code error;
     const std::filesystem::path whole = std::filesystem::canonical(directory, error);
@@ -62,7 +62,7 @@ struct RunLock::Handle {
 #else
 
 struct RunLock::Handle {
-    /// Some file systems of a network number an open file otherwise than its name, now and ever.
+    /// Some network file systems occasionally number an open file differently from its name.
     static constexpr int mostTries = 100;
 
     int file = -1;
@@ -71,14 +71,14 @@ struct RunLock::Handle {
     void open() {
         constexpr int flags = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
         file = ::open(path.c_str(), O_RDWR | O_CREAT | flags, 0666);
-        // That of another user can be locked all the same.
+        // A lock file of another user can still be locked.
         if (file < 0) file = ::open(path.c_str(), O_RDONLY | flags);
     }
     void close() {
         if (file >= 0) ::close(file);
         file = -1;
     }
-    /// Another process may have removed the file between its opening and its locking.
+    /// Another process may have removed the file between opening and locking it.
     bool hasItsName() const {
         struct stat opened = {};
         struct stat named = {};

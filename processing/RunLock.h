@@ -1,19 +1,19 @@
 #pragma once
 
-// A run waits for a marker of a fixed name, and its batch file has a fixed name too: two programs with runs
-// in one directory would end each other's wait. The first one holds a file beside the batch file.
+// A run waits for a marker with a fixed name, and its batch file has a fixed name too: two programs with runs
+// in one directory would end each other's wait. The first one holds a lock file beside the batch file.
 
 #include <memory>
 #include <string>
 
 namespace zg {
 
-/// Held from its making to its end, or to that of its process, however that comes. A second run of the same
-/// process shares it.
+/// Held during the lifetime of the object, and released when the process ends in any way. A second run of the
+/// same process shares it.
 class RunLock {
  public:
-    /// Nothing where another process holds the lock of that directory (given with its final separator). Where
-    /// the file system has no locks, or the directory takes no files, the run goes on without one.
+    /// Nothing if another process holds the lock of that directory (given with its final separator). If the
+    /// file system has no locks, or no file can be created in the directory, the run continues without one.
     static std::shared_ptr<RunLock> take(const std::string& directory);
 
     ~RunLock();

@@ -6,7 +6,7 @@
 
 namespace zg {
 
-/// The period in a name: years as they are, months and days in two digits, as "20050307-20051231".
+/// The period in a name: years unchanged, months and days in two digits, as in "20050307-20051231".
 std::string periodInName(const std::string& beginYear, const std::string& beginMonth,
                          const std::string& beginDay, const std::string& endYear, const std::string& endMonth,
                          const std::string& endDay);

@@ -1,20 +1,20 @@
 #pragma once
 
-// Why a run's marker does not come, or its result is missing, in a line for the person.
+// Why a run's marker does not come, or its result is missing, in one line for the user.
 
 #include <string>
 
 namespace zg {
 
-/// What keeps the processor from its work whatever the data are: a blank in the run's name, at which its
-/// command line is parted; or no processor in its directory. "" for neither.
+/// What prevents the processor from working, whatever the data: a blank in the run's name, which splits its
+/// command line, or no processor in its directory. "" if neither.
 std::string foreseenTrouble(const std::string& base, const std::string& programDirectory);
 
-/// The last line of a listing that is not empty; "" where there is none. Letter case of the name as in
+/// The last line of a listing that is not empty; "" if there is none. Letter case of the name as in
 /// existingFile.
 std::string lastLineOfListing(const std::string& path);
 
-/// The warnings of a listing, a line each, of many the first three; "" where it has none.
+/// The warnings of a listing, one per line, at most the first three; "" if there are none.
 std::string warningsOfListing(const std::string& path);
 
 }  // namespace zg

@@ -19,7 +19,7 @@ std::array<std::vector<std::string>*, columnCount> columnsOf(StationTable& table
             &table.gsStationCol8, &table.gsStationCol9};
 }
 
-/// The headings and the rows, which is one more than the rows.
+/// Number of lines after the first one: the heading and the rows.
 std::size_t linesAfterFirst(const std::string& path) {
     LineReader lines(path);
     std::size_t count = 0;

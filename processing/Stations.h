@@ -1,6 +1,6 @@
 #pragma once
 
-// The table of stations, by which the dialogs turn a station's code into its name and place.
+// The table of stations, from which the dialogs get the name and place for a station's code.
 
 #include <array>
 #include <cstddef>
@@ -22,14 +22,14 @@ struct StationTable {
     std::vector<std::string> gsStationCol8;
     std::vector<std::string> gsStationCol9;
 
-    /// Rows read whole; those behind them are empty or, after a faulty row, half filled.
+    /// Number of complete rows; those after them are empty or, after an invalid row, half filled.
     std::size_t rows = 0;
 };
 
 extern StationTable stations;
 
-/// Reads Station_Data.csv from the program's directory. Any failure is silent and leaves the table as it
-/// stands at that moment: a missing file leaves it untouched, a wrong heading leaves empty slots.
+/// Reads Station_Data.csv from the program's directory. Any failure is silent and leaves the table as it is
+/// at that moment: a missing file leaves it untouched, a wrong heading leaves empty slots.
 void LoadStationData();
 
 }  // namespace zg

@@ -13,7 +13,7 @@ namespace zg {
 
 namespace {
 
-/// Time for the disk before the start, and for the shell to have read the batch file after it.
+/// Time for the disk before the start, and for the shell to read the batch file after it.
 constexpr std::int32_t pauseMs = 500;
 
 void writeBatchFile(const std::string& batchFile, const std::string& line) {
@@ -27,7 +27,7 @@ void writeBatchFile(const std::string& batchFile, const std::string& line) {
 void ViewTextFile(Host& host, ProcessStarter& starter, const std::string& path, const std::string& directory,
                   char separator) {
     const std::string batchFile = withSeparator(directory, separator) + "open_file.bat";
-    needBatchName(batchFile, separator);  // the shell is given it to start
+    needBatchName(batchFile, separator);  // the shell has this time to start
     writeBatchFile(batchFile, viewerLine(path, separator));
     std::error_code error;
     try {

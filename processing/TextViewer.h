@@ -8,9 +8,9 @@
 
 namespace zg {
 
-/// Shows a text file in the platform's viewer by way of the batch file open_file.bat, which lies in the
+/// Shows a text file in the platform's viewer through the batch file open_file.bat, which exists in the
 /// directory for the second that this takes. Raises the error of a file that cannot be written or deleted,
-/// and 52 for a path that no batch file can hold.
+/// and 52 for a path that a batch file cannot contain.
 void ViewTextFile(Host& host, ProcessStarter& starter, const std::string& path, const std::string& directory,
                   char separator = pathSeparator);
 

@@ -7,11 +7,11 @@
 
 namespace zg {
 
-/// Stays for at least so many milliseconds of the host's clock and serves the window's events meanwhile, so
-/// that handlers run within it. A wait of 0 or less returns at once.
+/// Waits for at least this many milliseconds of the host's clock and serves the window's events meanwhile, so
+/// that handlers run during the call. Returns at once for 0 or less.
 void WaitMs(Host& host, std::int32_t ms);
 
-/// The same, over at once when it is no longer wanted.
+/// The same, but returns as soon as it is no longer wanted.
 void WaitMs(Host& host, std::int32_t ms, const std::function<bool()>& over);
 
 }  // namespace zg
