@@ -1,5 +1,5 @@
-// The calling convention of the two libraries: every argument by reference, texts as buffers filled up with
-// blanks, their lengths as 32-bit values behind all other arguments, in the same order.
+// The calling convention of the two libraries: every argument by reference, texts as buffers padded with
+// blanks, their lengths as 32-bit values after all other arguments, in the same order.
 
 #include "dialogs/gridded/ClosedLibraries.h"
 
@@ -34,14 +34,14 @@ using InfoViewFunction = void (*)(const char*, Int*, Int*, Int*, Int*, Int*, Int
 using InitFunction = void (*)(Int*, Int*, Int*, char*, char*, char*, char*, char*, char*, char*, Int, Int,
                               Int, Int, Int, Int, Int);
 
-/// A text argument that the library fills.
+/// A text argument that the library fills in.
 template <std::size_t Width>
 class OutText {
  public:
     OutText() { buffer_.fill(' '); }
     char* data() { return buffer_.data(); }
     static constexpr Int length() { return static_cast<Int>(Width); }
-    /// Up to a NUL byte, where a library puts one.
+    /// Up to a NUL byte, if a library writes one.
     std::string text() const {
         const std::string all(buffer_.data(), buffer_.size());
         return trim(all.substr(0, all.find('\0')));
@@ -51,7 +51,7 @@ class OutText {
     std::array<char, Width> buffer_;
 };
 
-/// The function of a library; compilers of its language write its name in several ways.
+/// The function of a library; compilers of its language decorate its name in several ways.
 template <typename Function>
 Function resolve(const std::string& path, const char* name) {
     auto library = std::make_unique<QLibrary>(fileName(path));

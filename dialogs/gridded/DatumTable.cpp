@@ -13,7 +13,8 @@ ModDatums modDatums{readDatumRecord, {}};
 
 namespace {
 
-// Changed together with the first line of data/datums.csv: a table of another date is not this program's.
+// Changed together with the first line of data/datums.csv: a table of another date does not belong to this
+// program.
 constexpr const char* compiledStamp = "2026-11-20";
 constexpr const char* tableName = "datums.csv";
 constexpr std::size_t continentWidth = 20;
@@ -33,7 +34,7 @@ struct DatumFile {
     throw error;
 }
 
-/// Fields between commas; double quotes keep a comma inside one.
+/// The fields between commas; double quotes protect a comma.
 std::vector<std::string> fieldsOf(std::string_view line) {
     std::vector<std::string> fields(1);
     bool quoted = false;
@@ -66,7 +67,7 @@ DatumFile readDatumFile() {
     if (heading.size() != 3 || heading[0] != "DATUMS.CSV" || heading[1] != "V1.0")
         failLine(1, "DATUMS.CSV,V1.0 and a date are wanted");
     file.stamp = heading[2];
-    lines.readLine();  // the columns' names
+    lines.readLine();  // the column names
     while (!lines.atEnd()) {
         const std::string line(lines.readLine());
         if (!trim(line).empty()) file.rows.push_back(rowOf(fieldsOf(line), lines.lineNumber()));
@@ -74,7 +75,7 @@ DatumFile readDatumFile() {
     return file;
 }
 
-/// Pieces that give the text again when they are trimmed and joined: no cut beside a blank.
+/// Pieces that give the text again when they are trimmed and joined: never cut next to a blank.
 std::array<std::string, 3> piecesOf(std::string_view region) {
     std::array<std::string, 3> pieces;
     for (std::string& piece : pieces) {

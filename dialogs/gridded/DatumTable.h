@@ -1,6 +1,6 @@
 #pragma once
 
-// The datum-regions that a projection may refer to: continent, geoid and ellipsoid, region, code.
+// The datum-regions of a projection: continent, geoid and ellipsoid, region, code.
 
 #include <array>
 #include <cstdint>
@@ -10,10 +10,10 @@
 
 namespace zg {
 
-/// One record as the operation hands it out.
+/// One record as the operation returns it.
 struct InitResult {
     std::int32_t DatumCount = 0;
-    std::int32_t status = 0;  ///< other than 0: the file's date stamp is not the one that was compiled in
+    std::int32_t status = 0;  ///< not 0 if the file's date stamp is not the one compiled in
     std::string continent;
     std::string ellipsoid;
     std::string code;
@@ -21,7 +21,7 @@ struct InitResult {
     std::string dateStamp;
 };
 
-/// Hands out record number 1 and up. Raises a RunTimeError where the data file is missing or broken.
+/// Returns record number 1 and up. Raises a RunTimeError if the data file is missing or invalid.
 using InitOperation = std::function<void(std::int32_t record, InitResult& result)>;
 
 struct DatumRegion {
@@ -31,7 +31,7 @@ struct DatumRegion {
     std::string code;  ///< such as "NAS-C"
 };
 
-/// The table, in the order of the file: all regions of a continent stand together.
+/// The table, in file order: all regions of a continent are consecutive.
 struct ModDatums {
     InitOperation init;
     std::vector<DatumRegion> datums;
@@ -39,25 +39,25 @@ struct ModDatums {
 
 extern ModDatums modDatums;
 
-/// Reads the whole table; false where the date stamps differ, with nothing read. Raises what the operation
-/// raises.
+/// Reads the whole table; false if the date stamps differ, with nothing read. Raises the errors of the
+/// operation.
 bool ReadDatumTable();
 
-/// The program's own operation: datums.csv in the program's directory, read anew for record 1. Raises 53
-/// without the file, 13 for a broken line, 9 for a record it does not have.
+/// The program's own operation: datums.csv in the program's directory, read again for record 1. Raises 53
+/// without the file, 13 for an invalid line, 9 for a record that does not exist.
 void readDatumRecord(std::int32_t record, InitResult& result);
 
-/// Usual spellings of four codes, exactly as listed, become the table's: "NAD27" is "NAS-C".
+/// Common spellings of four codes, exactly as listed, are converted to the table's: "NAD27" is "NAS-C".
 std::string DatumAlias(const std::string& typed);
 
-/// The region of that code, nullptr where no code is exactly so.
+/// The region with exactly that code, nullptr if there is none.
 const DatumRegion* DatumLookUp(const std::string& code);
 
-// The cascade from continent to code, each level in the order of the table:
+// The selection from continent to code, each level in the order of the table:
 std::vector<std::string> continents();
 std::vector<std::string> ellipsoidsOf(const std::string& continent);
 std::vector<std::string> regionsOf(const std::string& ellipsoid);
-/// The code of a region; where two have one name, that of the continent. "" where there is none.
+/// The code of a region; if two have the same name, that of the continent. "" if there is none.
 std::string codeOf(const std::string& continent, const std::string& ellipsoid, const std::string& region);
 
 }  // namespace zg

@@ -41,7 +41,7 @@ void fill(QComboBox& combo, const std::vector<std::string>& entries) {
 frmProjectionInfo::frmProjectionInfo(Host& host, QWidget* parent) : QDialog(parent), host_(host) {
     setObjectName(QStringLiteral("frmProjectionInfo"));
     setWindowTitle(QStringLiteral("Map Projection Information for Extraction Site Coordinates"));
-    // A caption that is no entry of the list may stand in the box; nothing can be typed there.
+    // The box may show a caption that is not in the list; nothing can be typed there.
     cboProj = named(new QComboBox, "cboProj");
     cboProj->setEditable(true);
     cboProj->setInsertPolicy(QComboBox::NoInsert);
@@ -82,7 +82,7 @@ QWidget* frmProjectionInfo::makeFrames() {
         made->hide();
     }
     column->addStretch();
-    holder->setMinimumHeight(tallest);  // the window keeps its size whatever is chosen
+    holder->setMinimumHeight(tallest);  // the window has the same size for every choice
     return holder;
 }
 
@@ -94,7 +94,7 @@ QGroupBox* frmProjectionInfo::makeFrame(const ProjectionChoice& choice) {
         auto* box = named(new QLineEdit, angle.box);
         auto* combo = named(new QComboBox, angle.combo);
         auto* label = labelFor(labelOf(choice, angle.value), box);
-        // A screen reader says the label of such a box, and only that.
+        // A screen reader reads only the label of such a box.
         auto* side = labelFor(angle.isLatitude ? "N/S:" : "E/W:", combo);
         side->setAccessibleName(spoken(label->text()) + QLatin1Char(' ') + side->text());
         grid->addWidget(label, row, 0);
@@ -150,7 +150,7 @@ QGroupBox* frmProjectionInfo::makeDatum() {
     connect(cboCont1, &QComboBox::activated, this, [this] { cboCont1_Click(); });
     connect(cboDatum1, &QComboBox::activated, this, [this] { cboDatum1_Click(); });
     connect(lstReg1, &QListWidget::itemSelectionChanged, this, [this] { lstReg1_Click(); });
-    // The chosen row says its code again after another one was typed.
+    // The selected row sets its code again after another one was typed.
     connect(lstReg1, &QListWidget::itemClicked, this, [this] { lstReg1_Click(); });
     connect(cboCode, &QComboBox::editTextChanged, this, [this] { codeChanged(); });
     return made;
@@ -276,7 +276,7 @@ void frmProjectionInfo::lstReg1_Click() {
     if (const DatumRegion* row = DatumLookUp(code)) showContinent(row->continent, row->ellipsoid);
 }
 
-/// The lists above the regions, which stay as they are.
+/// The lists above the regions, which do not change.
 void frmProjectionInfo::showContinent(const std::string& continent, const std::string& ellipsoid) {
     if (typed(cboCont1->currentText()) == continent) return;
     cboCont1->setCurrentIndex(cboCont1->findText(shown(continent)));
@@ -291,7 +291,7 @@ void frmProjectionInfo::showCode(const std::string& code) {
     ClearInvalid(*cboCode);
 }
 
-/// The cascade always shows what a typed code means.
+/// The lists always show the meaning of a typed code.
 void frmProjectionInfo::codeChanged() {
     if (filling_) return;
     const std::string before = typed(cboCode->currentText());
@@ -307,10 +307,10 @@ void frmProjectionInfo::showRegion(const std::string& continent, const std::stri
     cboCont1_Click();
     cboDatum1->setCurrentIndex(cboDatum1->findText(shown(ellipsoid)));
     cboDatum1_Click();
-    // Of several regions of one name the one whose code was typed cannot be told apart: the first is shown.
+    // Regions with the same name cannot be told apart here: show the first.
     const auto items = lstReg1->findItems(shown(region), Qt::MatchExactly);
     if (!items.isEmpty()) lstReg1->setCurrentItem(items.front());
-    lstReg1->horizontalScrollBar()->setValue(0);  // a long region is read from its start
+    lstReg1->horizontalScrollBar()->setValue(0);  // show the start of a long region
     filling_ = false;
     ClearInvalid(*cboCode);
 }
@@ -332,8 +332,8 @@ bool frmProjectionInfo::refuse(const std::string& message) {
     return false;
 }
 
-/// A caption of the list that is not the record's own is refused: the last three are only taken as the data
-/// give them.
+/// A caption of the list that is not the record's own is refused: the last three are only accepted as the
+/// data give them.
 bool frmProjectionInfo::CheckProjection(const ProjectionChoice*& choice) {
     choice = choiceOfCaption(typed(cboProj->currentText()));
     if (choice == nullptr) return refuse("Please choose a projection from the drop-down box.");

@@ -14,8 +14,8 @@
 
 namespace zg {
 
-/// Asks for the map projection and datum of the extraction sites. OK fills the projection record and goes on
-/// with CallingForm.
+/// Asks for the map projection and datum of the extraction sites. OK fills the projection record and
+/// continues with CallingForm.
 class frmProjectionInfo : public QDialog {
     Q_OBJECT
 
@@ -59,7 +59,7 @@ class frmProjectionInfo : public QDialog {
     QLabel* lblCoor1b = nullptr;
     QLabel* lblCoor1c = nullptr;
     std::map<std::string, QGroupBox*> frames_;  ///< by PMAP
-    bool filling_ = false;                      ///< the program itself changes the datum's fields
+    bool filling_ = false;                      ///< the program is changing the datum's fields
 };
 
 }  // namespace zg

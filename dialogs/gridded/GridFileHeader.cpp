@@ -14,17 +14,17 @@ namespace zg {
 namespace {
 
 constexpr const char* version = "2.1";
-constexpr std::int32_t largestGrid = 100'000;  // cells on a side: more is a broken number
+constexpr std::int32_t largestGrid = 100'000;  // cells per side; a larger number is invalid
 constexpr std::int32_t secondsOfHour = 3600;
-// The models behind 3D.DAT reckon on a sphere of 6370 km.
+// The models behind 3D.DAT use a sphere of 6370 km.
 constexpr const char* sphereOfModels = "NWS-84";
 
-/// What is wrong with the file, as the user reads it.
+/// The error in the file, in the words for the user.
 struct Fault {
     std::string text;
 };
 
-/// One line's fields, parted by blanks.
+/// One line's fields, separated by blanks.
 class Fields {
  public:
     Fields(std::string_view line, std::size_t number, std::string what)
@@ -47,13 +47,13 @@ class Fields {
     float real(const char* name) {
         return number<float>(name, static_cast<float (*)(std::string_view)>(toSingle));
     }
-    /// "NONE" stands where a value is not used.
+    /// "NONE" means that a value is not used.
     bool skipUnused() {
         if (next_ >= fields_.size() || ucase(fields_[next_]) != "NONE") return false;
         ++next_;
         return true;
     }
-    /// Degrees, signed or with the letter of their hemisphere.
+    /// Degrees, signed or with the letter of the hemisphere.
     float angle(const char* name) {
         if (next_ >= fields_.size()) fail(name, "is missing");
         std::string& field = fields_[next_];
@@ -121,7 +121,7 @@ class Header {
         return {text, lines_.lineNumber(), what};
     }
 
-    /// Looks at the first bytes only: a file of another kind may hold no line end at all.
+    /// Examines only the first bytes: another kind of file may have no line end at all.
     void readKind(const std::string& kind) {
         if (!lines_.ahead().starts_with(kind))
             throw Fault{"line 1 (file type): the file does not begin with " + kind};
@@ -165,7 +165,7 @@ class Header {
         const std::int32_t ny = extract.wholeFrom(1, largestGrid, "ny");
         const std::int32_t nz = extract.wholeFrom(1, largestGrid, "nz");
         const DateTime begin = moment(extract, r_.first);
-        // Each record stands for the hour that begins at its time.
+        // Each record covers the hour that begins at its time.
         setTime(r_.last, addSeconds(begin, std::int64_t{hours} * secondsOfHour));
         fields("range of the extract").skip(10, "range");
         for (std::int32_t i = 0; i < nz; ++i) fields("sigma level").real("sigma");

@@ -1,4 +1,4 @@
-// What the wizard asks of its window; how the window is put together stands in GridFormLayout.cpp.
+// The operations that the wizard needs from its window; GridFormLayout.cpp builds the window.
 
 #include "dialogs/gridded/GridForm.h"
 
@@ -276,14 +276,14 @@ void GridForm::setStates(Names plainOff, Names fieldsOff, Names plainOn, Names f
         if (control(button).isEnabled()) as<QPushButton>(button).setDefault(true);
 }
 
-/// A label looks as its field does.
+/// A label looks like its field.
 void GridForm::labelsFollow() {
     for (QLabel* label : findChildren<QLabel*>())
         if (const QWidget* field = label->buddy()) label->setEnabled(field->isEnabled());
 }
 
 void GridForm::setBusy(bool busy) {
-    // The pointer of the whole screen, which is set and not stacked: runs may overlap.
+    // The pointer of the whole screen, set rather than stacked, since runs may overlap.
     while (QGuiApplication::overrideCursor() != nullptr) QGuiApplication::restoreOverrideCursor();
     if (busy) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
 }

@@ -19,8 +19,8 @@ class QGridLayout;
 
 namespace zg {
 
-/// The window of the wizard: fields and calls. It may be closed while a run waits; it is then only hidden,
-/// and the run goes on.
+/// The window of the wizard: fields and calls. If it is closed while a run waits, it is only hidden, and the
+/// run continues.
 class GridForm : public QDialog, public GridView {
     Q_OBJECT
 

@@ -1,4 +1,4 @@
-// How the window of the wizard is put together.
+// Builds the window of the wizard.
 
 #include <QVBoxLayout>
 
@@ -26,7 +26,7 @@ QComboBox* combo(const char* name, const QStringList& entries, const char* spoke
     return made;
 }
 
-/// A list of two letters behind a short label.
+/// A list of two letters after a short label.
 QWidget* hemisphere(const char* name, const QStringList& letters, const char* label) {
     auto* holder = new QWidget;
     auto* list = combo(name, letters, label);
@@ -41,7 +41,7 @@ QGroupBox* frame(const char* caption, const char* name) {
     return named(new QGroupBox(QString::fromLatin1(caption)), name);
 }
 
-/// A row of buttons that ends a step.
+/// The row of buttons at the end of a step.
 QLayout* moves(QPushButton* back, QPushButton* on) {
     auto* row = new QHBoxLayout;
     row->addStretch();

@@ -1,4 +1,4 @@
-// Step 3 of the wizard: which controls are active, and the memory of the locations.
+// Step 3 of the wizard: which controls are active, and the values of the locations.
 
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
@@ -13,8 +13,8 @@ constexpr const char* stationsCaption = "SELECT STATION(S) AND EXTRACTION HEIGHT
 
 using NameList = std::vector<const char*>;
 
-/// Buttons and labels of a step: only their enabled flag changes. Those that lead from location to location
-/// and on to step 4 are missing: they follow the location on show.
+/// Buttons and labels of a step, of which only the enabled flag changes. Not included are those that lead
+/// from location to location and on to step 4: they depend on the current location.
 NameList plainControls(int step) {
     switch (step) {
         case 1:
@@ -98,7 +98,7 @@ std::string GridWizard::locationCaption() const {
            std::to_string(NumberOfLocations);
 }
 
-/// The caption is what remembers the location on show and the number of them.
+/// The caption stores the current location and the number of locations.
 void GridWizard::parseCaption(std::int32_t& total) {
     const std::string caption = view_.text("Frame_Step3");
     const Pieces halves = split(caption, "of");
@@ -149,7 +149,7 @@ void GridWizard::Continue() {
     view_.focus(UseCellCoordinates ? "txtGridPointI" : usesLatitudes() ? "txtLat" : "txtXCoord");
 }
 
-/// Only that something is there: what it is worth is the processor's to say.
+/// Only checks that there is a value; the processor judges it.
 bool GridWizard::ValidateLocation() {
     bool passed;
     if (UseCellCoordinates)
@@ -180,7 +180,7 @@ void GridWizard::SaveLocation(std::int32_t location) {
 }
 
 void GridWizard::ShowLocation(std::int32_t location) {
-    slot(LocationX, location);  // fails before anything is shown
+    slot(LocationX, location);  // raises before anything is shown
     view_.setText("Frame_Step3", locationCaption());
     view_.setText("txtXCoord", slot(LocationX, location));
     view_.setText("txtYCoord", slot(LocationY, location));

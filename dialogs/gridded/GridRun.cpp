@@ -17,7 +17,7 @@ namespace {
 
 std::string number(int value) { return std::to_string(value); }
 
-/// The coordinate as a plain number, negative for its letter; raises 13 for what is no number.
+/// The coordinate as a plain number, negative for its letter; raises 13 for text that is not a number.
 std::string signedNumber(const std::string& text, const std::string& letter, const char* negative) {
     const float value = toSingle(text);
     return singleText(letter == negative && value != 0 ? -value : value);
@@ -45,7 +45,7 @@ RunHooks GridWizard::hooks() {
     hooks.readValues = [this] { readValues(); };
     hooks.base = [this] { return RunRoot; };
     hooks.outputDirectory = [this] { return RunDirectory; };
-    // A second start meanwhile has values of its own: each run goes on with those it began with.
+    // A second start meanwhile has its own values: each run continues with those it began with.
     hooks.outputs = [this] { return outputs_; };
     hooks.firstName = [] { return std::string(); };
     hooks.writeControlFile = [this] { WriteControlFile(RunDirectory, values_); };
@@ -92,7 +92,7 @@ void GridWizard::readValues() {
     v.seasonNames.assign(settings.SeasonNames.begin(), settings.SeasonNames.begin() + settings.SeasonCount);
     v.MSN = settings.MonthSeasonString;
     if (variation_.asksProfiling) v.MPROF = profilingNumber(view_.text("cboVertProfilingMethod"));
-    // Stations do not ask for cells again: the last answer holds for them too.
+    // For stations the question about cells is not repeated: the last answer applies to them too.
     if (variation_.offersCells) v.MCELL = UseCellCoordinates ? "1" : "0";
     RunRoot = variation_.rootPrefix + fileBaseOf(v.inputFiles.at(0)) +
               periodInName(v.IBYR, v.IBMO, v.IBDY, v.IEYR, v.IEMO, v.IEDY);
@@ -115,7 +115,7 @@ void GridWizard::readValues() {
     }
 }
 
-/// The selected rows become the locations. All are reckoned in the datum of the table's first row.
+/// The selected rows become the locations; all use the datum of the table's first row.
 void GridWizard::takeStations() {
     const std::vector<bool> selected = view_.selectedRows("lstStations");
     const std::string period =
@@ -135,7 +135,7 @@ void GridWizard::takeStations() {
     values_.projection.DATUM = stations.gsStationCol9.at(0);
 }
 
-/// Every location takes the place on show; heights and names stay its own.
+/// Every location uses the coordinates on display; heights and names remain separate.
 void GridWizard::takeCoordinatesOnShow() {
     const std::string x = signedNumber(view_.text("txtLon"), view_.text("cboWE"), "W");
     const std::string y = signedNumber(view_.text("txtLat"), view_.text("cboNS"), "S");

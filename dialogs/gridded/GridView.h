@@ -8,7 +8,7 @@
 
 namespace zg {
 
-/// The form as the wizard sees it. Controls go by their objectNames.
+/// The form as the wizard sees it. Controls are identified by their objectNames.
 class GridView {
  public:
     virtual ~GridView() = default;
@@ -19,7 +19,7 @@ class GridView {
     virtual void setText(const char* control, const std::string& text) = 0;
     virtual bool checked(const char* option) const = 0;
 
-    /// Rows of a list; the marks tell which are selected.
+    /// Rows of a list; the marks say which are selected.
     virtual std::vector<std::string> rows(const char* list) const = 0;
     virtual std::vector<bool> selectedRows(const char* list) const = 0;
 
@@ -27,7 +27,7 @@ class GridView {
     virtual int row(const char* combo) const = 0;
     virtual void setRow(const char* combo, int row) = 0;
 
-    /// What the pickers of the period's begin and end show, and the step as a time of day.
+    /// The begin and end of the period in the pickers, and the step as a time of day.
     virtual DateTime begin() const = 0;
     virtual DateTime end() const = 0;
     virtual void setBegin(DateTime moment) = 0;
@@ -35,7 +35,7 @@ class GridView {
     virtual TimeOfDay timeStep() const = 0;
 
     virtual void mark(const char* control, bool invalid) = 0;
-    virtual void setEnabled(const char* control, bool enabled) = 0;       ///< the flag alone
+    virtual void setEnabled(const char* control, bool enabled) = 0;       ///< only the flag
     virtual void setFieldEnabled(const char* control, bool enabled) = 0;  ///< and the background
     virtual void setVisible(const char* control, bool visible) = 0;
     virtual void focus(const char* control) = 0;
@@ -45,11 +45,11 @@ class GridView {
 
     virtual void setBusy(bool busy) = 0;
 
-    /// The line under the status, and the tool tip of the status itself; "" takes them away.
+    /// The line below the status, and the tool tip of the status itself; "" removes them.
     virtual void setReason(const std::string& text) = 0;
     virtual void setTipOfStatus(const std::string& text) = 0;
 
-    /// Asks for another output directory; false where none was chosen.
+    /// Asks for another output directory; false if none was chosen.
     virtual bool chooseOtherDirectory() = 0;
     /// Shows the projection dialog until it is closed.
     virtual void askProjection() = 0;

@@ -130,8 +130,8 @@ void GridWizard::cmdNext1_Click() {
     view_.focus("cboTimeZone");
 }
 
-/// The pickers hold the data's own times now. They go on to the zone of the data, or stay in the one on show
-/// where the table does not know that of the data.
+/// The pickers have the data's own times now. Convert them to the zone of the data, or keep the selected one
+/// if the table does not contain the data's.
 void GridWizard::showPeriodOfData() {
     TimeZoneShiftHours = 0;
     const std::string wanted = ucase(modInfoViewDLL.HeaderTimeZone);
@@ -154,7 +154,7 @@ float GridWizard::zoneHours() const {
     return HoursFromTimeZone(timeZones.gsTimeZoneKeys.at(static_cast<std::size_t>(row)));
 }
 
-/// The period on show stays the same instants.
+/// The displayed period means the same instants as before.
 void GridWizard::cboTimeZone_Click() {
     if (!variation_.isUtc || DataStartTime == DateTime() || DataEndTime == DateTime()) return;
     const float hours = zoneHours();
@@ -174,8 +174,8 @@ bool GridWizard::checkOrder() {
     return passed;
 }
 
-/// Asks whether the data's own limit shall be taken. The user goes on by a further click, so that the later
-/// checks see what is then on show.
+/// Asks whether to take the data's own limit. The user continues with another click, so that the later checks
+/// apply to what is then displayed.
 bool GridWizard::useLimit(bool begin, DateTime limit) {
     const char* const date = begin ? "lblBeginDate" : "lblEndDate";
     const char* const time = begin ? "lblBeginTime" : "lblEndTime";
@@ -208,7 +208,7 @@ bool GridWizard::checkWithinData() {
     return true;
 }
 
-/// In 16 bits, as the run has it: a step of more than 9 hours, 6 minutes and 7 seconds raises 6.
+/// In 16 bits, as in the run: a step of more than 9 hours, 6 minutes and 7 seconds raises 6.
 std::int16_t GridWizard::stepSeconds() const {
     const TimeOfDay step = view_.timeStep();
     return toInt16(static_cast<double>(3600 * step.hour + 60 * step.minute + step.second));

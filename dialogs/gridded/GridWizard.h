@@ -1,8 +1,8 @@
 #pragma once
 
 // The wizard for gridded files without its window: four steps, each a frame of controls of which one is
-// active at a time, the checks on the way from one to the next, and the run at the end. Two forms share it;
-// what tells them apart stands in GridVariation.
+// active at a time, the checks between the steps, and the run at the end. Two forms share it; their
+// differences are in GridVariation.
 
 #include <array>
 #include <cstdint>
@@ -23,7 +23,7 @@ namespace zg {
 struct GridVariation {
     GridKind kind;
     InputType type;
-    const char* form;  ///< objectName, as the next
+    const char* form;  ///< objectName, as is the next
     const char* fileList;
     const char* title;
     const char* filesCaption;
@@ -34,11 +34,11 @@ struct GridVariation {
     const char* latitudeMissing;
     const char* longitudeMissing;
     std::size_t mostLocations;
-    bool siteWording;        ///< captions of locations always speak of extraction sites
-    bool isUtc;              ///< times of the data are UTC, and the period on show moves with the zone picked
+    bool siteWording;        ///< captions of locations always mention extraction sites
+    bool isUtc;              ///< data in UTC; the displayed period follows the selected zone
     bool asksProfiling;      ///< there is a vertical profiling method
     bool offersCells;        ///< locations may be given as grid cells
-    bool oneCoordinatePair;  ///< of a latitude/longitude run all locations take the place last on show
+    bool oneCoordinatePair;  ///< in a latitude/longitude run all locations use the coordinates displayed last
 };
 
 extern const GridVariation ventosVariation;
@@ -49,7 +49,7 @@ class GridWizard : public ProjectionCaller {
     GridWizard(const GridVariation& variation, GridView& view, Host& host, ProcessStarter& starter,
                ProcessingWindow window);
 
-    /// Start values of the fields, the first step enabled.
+    /// Initial values of the fields, the first step enabled.
     void Form_Load();
 
     void cmdNext1_Click();
@@ -65,12 +65,12 @@ class GridWizard : public ProjectionCaller {
     void optByLocation_Click();
     void cboTimeZone_Click();
 
-    /// On to step 3 by location, once the projection is known.
+    /// Continues to step 3 by location, once the projection is known.
     void Continue() override;
 
     const GridVariation& variation() const { return variation_; }
 
-    // State of the form; the arrays are indexed from 1 as the locations are.
+    // State of the form; the arrays are indexed from 1 like the locations.
     DateTime DataStartTime;
     DateTime DataEndTime;
     std::int32_t CurrentLocation = 1;
@@ -101,7 +101,7 @@ class GridWizard : public ProjectionCaller {
 
     // Step 3.
     void setStep(int from, int to);
-    /// Raises 9 for a location that the arrays do not have.
+    /// Raises 9 for a location outside the arrays.
     static std::string& slot(std::vector<std::string>& texts, std::int32_t location);
     bool byStation() const;
     bool usesLatitudes() const;

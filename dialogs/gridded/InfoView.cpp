@@ -32,7 +32,7 @@ std::string signedText(float degrees, const char* positive, const char* negative
     return singleText(std::fabs(degrees)) + (degrees < 0 ? negative : positive);
 }
 
-/// False where there is no answer.
+/// False if there is no answer.
 bool ask(const std::string& path, GridKind kind, InfoViewResult& result) {
     try {
         modInfoViewDLL.infoview(path, kind, result);
@@ -50,7 +50,7 @@ void ReadGridHeader(const std::string& path, GridKind kind) {
     m.result = InfoViewResult();
     m.HeaderStartTime = m.HeaderEndTime = DateTime();
     const bool answered = ask(trim(path), kind, m.result);
-    // A library leaves notes of its own there, which nobody reads.
+    // A library leaves its own notes there, which nobody reads.
     const std::string notes = existingFile(withSeparator(DirOf(path)) + "infoview.txt");
     if (!notes.empty()) std::remove(notes.c_str());
     if (answered && m.result.errorFlag == 0) {

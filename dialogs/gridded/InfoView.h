@@ -1,7 +1,7 @@
 #pragma once
 
-// What the wizards learn of a gridded file before it is processed: its period, time zone and projection. One
-// operation answers; the program has its own, and a library beside the program may take its place.
+// What the wizards need to know about a gridded file before processing: its period, time zone and projection.
+// One operation provides it; the program has its own, and a library in its directory may replace that.
 
 #include <cstdint>
 #include <functional>
@@ -12,7 +12,7 @@
 
 namespace zg {
 
-/// Codes of the kinds of files, as the operation takes them.
+/// Codes of the kinds of files, as the operation expects them.
 enum class GridKind : std::int32_t { Ventos = 1, Fumarol = 2, M3d = 3 };
 
 /// The answer for one file. Times are in the zone of the data; seconds are those within the hour.
@@ -26,10 +26,10 @@ struct InfoViewResult {
     };
     Time first;
     Time last;
-    std::int32_t errorFlag = 0;  ///< other than 0 for a file that is not of the expected form
+    std::int32_t errorFlag = 0;  ///< not 0 for a file that is not of the expected format
     std::string errorText;
     std::int32_t IUTMZN = 0;
-    float RLAT0 = 0;  ///< signed degrees, north and east positive, as the next three
+    float RLAT0 = 0;  ///< signed degrees, north and east positive, as are the next three
     float RLON0 = 0;
     float XLAT1 = 0;
     float XLAT2 = 0;
@@ -41,26 +41,25 @@ struct InfoViewResult {
     std::string DATUM;
 };
 
-/// Fills the answer, which it gets empty. Raises a RunTimeError where there is no answer at all.
+/// Fills in the answer, which is initially empty. Raises a RunTimeError if there is no answer at all.
 using InfoViewOperation = std::function<void(const std::string& path, GridKind kind, InfoViewResult& result)>;
 
-/// The operation, what it last answered, and that answer as the wizards use it.
+/// The operation, its last answer, and that answer in the form for the wizards.
 struct ModInfoViewDLL {
     InfoViewOperation infoview;
     InfoViewResult result;
-    DateTime HeaderStartTime;  ///< 0 when it is not known, as the next
+    DateTime HeaderStartTime;  ///< 0 if unknown, as is the next
     DateTime HeaderEndTime;
     std::string HeaderTimeZone;
 };
 
 extern ModInfoViewDLL modInfoViewDLL;
 
-/// Asks for a file's header and takes it into modInfoViewDLL and into the projection record. An operation
-/// that fails as such leaves everything empty and is not told. Raises 13 for an answer with an impossible
-/// time.
+/// Reads a file's header into modInfoViewDLL and the projection record. If the operation itself fails,
+/// everything is left empty without a message. Raises 13 for an answer with an impossible time.
 void ReadGridHeader(const std::string& path, GridKind kind);
 
-/// The projection that the last answer tells, as the projection record holds it.
+/// The projection in the last answer, in the form of the projection record.
 ProjectionRecord nativeProjection();
 
 }  // namespace zg

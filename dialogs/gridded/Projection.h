@@ -1,7 +1,7 @@
 #pragma once
 
-// The map projection in which extraction sites are typed: the record that the control file is filled from,
-// and the rules by which its fields are checked.
+// The map projection in which extraction sites are typed: the record from which the control file is filled,
+// and the rules for checking its fields.
 
 #include <array>
 #include <functional>
@@ -13,18 +13,18 @@
 
 namespace zg {
 
-/// What the projection dialog goes on with after OK.
+/// What the projection dialog continues with after OK.
 class ProjectionCaller {
  public:
     virtual ~ProjectionCaller() = default;
     virtual void Continue() = 0;
 };
 
-/// One record for the whole program, and the wizard that the dialog was opened by.
+/// One record for the whole program, and the wizard that opened the dialog.
 extern ProjectionRecord projection;
 extern ProjectionCaller* CallingForm;
 
-/// A latitude or longitude: its text box, the combo box of its hemisphere, and its place in the record.
+/// A latitude or longitude: its text box, the combo box of its hemisphere, and its member of the record.
 struct AngleField {
     const char* box;
     const char* combo;
@@ -32,19 +32,19 @@ struct AngleField {
     std::string ProjectionRecord::*value;
 };
 
-/// A field that is kept as its trimmed text.
+/// A field that is stored as its trimmed text.
 struct PlainField {
     const char* box;
     std::string ProjectionRecord::*value;
 };
 
-/// One projection as the dialog offers it. The entry of the list and the caption by which the record is read
-/// and written are not the same for the last three.
+/// One projection as the dialog offers it. For the last three, the entry of the list differs from the caption
+/// by which the record is read and written.
 struct ProjectionChoice {
     const char* pmap;
     const char* entry;
     const char* caption;
-    const char* frame;  ///< objectName; "" where there is nothing to ask
+    const char* frame;  ///< objectName; "" if it has no fields
     std::vector<AngleField> angles;
     std::vector<PlainField> plains;
     const char* emptyMessage;
@@ -54,25 +54,27 @@ struct ProjectionChoice {
 /// In the order of the list: LL, UTM, LCC, TTM, PS, EM, LAZA.
 const std::vector<ProjectionChoice>& projectionChoices();
 
-/// Text of the box or combo box of that objectName.
+/// Text of the box or combo box with that objectName.
 using FieldText = std::function<std::string(const char* name)>;
 
-/// The choice whose caption that is, nullptr for none: what the list offers for the last three is none.
+/// The choice with that caption, nullptr if there is none: the list's entries for the last three are not
+/// captions.
 const ProjectionChoice* choiceOfCaption(const std::string& caption);
 const ProjectionChoice* choiceOfPmap(const std::string& pmap);
 
-/// What is wrong with the fields of a choice, "" for nothing: first what is empty, then the ranges in order,
-/// -90 to 90 and -360 to 360 with their ends, whatever the hemisphere. Raises 13 for what is no number.
+/// The error in the fields of a choice, "" if there is none: first empty fields, then the ranges in order,
+/// -90 to 90 and -360 to 360 inclusive, whatever the hemisphere. Raises 13 for text that is not a number.
 std::string projectionFault(const ProjectionChoice& choice, const FieldText& text);
 
 /// All boxes of latitudes, whatever the projection, in their order.
 std::span<const char* const> latitudeBoxes();
 
-/// A number above 180 loses 360 and one below -180 gains 360; others, and an empty text, stay as typed.
-/// Raises 13 for what is no number.
+/// A number above 180 is reduced by 360 and one below -180 increased by 360; others, and an empty text,
+/// remain as typed. Raises 13 for text that is not a number.
 std::string wrapped(const std::string& text);
 
-/// Takes the fields of a choice into the record; those of other projections stay. The datum is always taken.
+/// Stores the fields of a choice in the record; those of other projections are unchanged. The datum is always
+/// stored.
 void SaveProjection(const ProjectionChoice& choice, const FieldText& text);
 
 }  // namespace zg

@@ -5,7 +5,7 @@
 
 namespace zg {
 
-/// Makes a rose of an AERMET surface or profile file: frmOpenAERMETSFCFile and frmOpenAERMETPFLFile.
+/// Makes a rose from an AERMET surface or profile file: frmOpenAERMETSFCFile and frmOpenAERMETPFLFile.
 class frmOpenAERMETFile : public StationDialog {
     Q_OBJECT
 

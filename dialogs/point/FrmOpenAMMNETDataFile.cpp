@@ -41,7 +41,7 @@ void frmOpenAMMNETDataFile::ReadMonitorHeader(const std::string& path) {
         readLargeFile(
             [&](const std::function<void()>& progress) { header = readMonitorHeader(path, progress, add); });
     } catch (...) {
-        // What the box of the file now names must not run with the station and the period of another.
+        // The file now named in the box must not run with the station and the period of another.
         if (isFirst) cboStationID->clear();
         showToday();
         throw;
@@ -57,8 +57,8 @@ void frmOpenAMMNETDataFile::ReadMonitorHeader(const std::string& path) {
     cboStationID_Click();
 }
 
-/// The place of the station by the table of stations, letter case counting; one that it does not have leaves
-/// the place as it is.
+/// Sets the station's place from the table of stations, with matching letter case; without an entry the place
+/// is unchanged.
 void frmOpenAMMNETDataFile::cboStationID_Click() {
     const std::string station = trim(stationText());
     if (station.empty()) return;

@@ -99,7 +99,7 @@ void frmOpenSURFDATFile::cmdBrowseFile_Click() {
     selectAll(true);
 }
 
-/// Also of a header with a fault further on: the stations of the file before must not stay.
+/// Also after an error further on in the header: the stations of the previous file must not remain.
 void frmOpenSURFDATFile::showStations(const SurfHeader& header) {
     if (header.outcome != SurfOutcome::NotSurf) ClearInvalid(*txtSURFDATFile);
     if (!header.stationsReached) return;
@@ -171,7 +171,7 @@ void frmOpenSURFDATFile::cmdView_Click() {
     RunHooks hooks = sharedHooks();
     hooks.readValues = [this] { readValues(); };
     hooks.base = [this] { return values_.base; };
-    // A second start meanwhile has values of its own: each run goes on with those it began with.
+    // A second start meanwhile has its own values: each run continues with those it began with.
     hooks.outputs = [this] { return outputs_; };
     hooks.firstName = [this] { return OutputNames_.empty() ? std::string() : OutputNames_.front(); };
     hooks.writeControlFile = [this] { WriteControlFile(outputDirectory(), values_); };

@@ -7,7 +7,7 @@
 
 namespace zg {
 
-/// Turns a SURF.DAT file into one rose file a station.
+/// Makes one rose file per station from a SURF.DAT file.
 class frmOpenSURFDATFile : public PointDialog {
     Q_OBJECT
 
@@ -15,7 +15,7 @@ class frmOpenSURFDATFile : public PointDialog {
     frmOpenSURFDATFile(Host& host, ProcessStarter& starter, ProcessingWindow window,
                        QWidget* parent = nullptr);
 
-    /// Shows what the header of the file says. Raises what the reader raises.
+    /// Shows the contents of the file's header. Raises the errors of the reader.
     void ReadSURFDATHeader(const std::string& path);
 
  private:
@@ -37,8 +37,8 @@ class frmOpenSURFDATFile : public PointDialog {
 
     // Of a run:
     ControlFile values_;
-    std::vector<std::string> rows_;         ///< texts of the list
-    std::vector<std::string> OutputNames_;  ///< by row; "" for one that is not selected
+    std::vector<std::string> rows_;         ///< texts in the list
+    std::vector<std::string> OutputNames_;  ///< by row; "" if it is not selected
     std::vector<RunOutput> outputs_;
 };
 

@@ -45,7 +45,7 @@ void frmOpenTSFDataFile::ReadTSFHeader(const std::string& path) {
     stationInFile_ = header.station;
     showRead(*txtStationID, header.station);
     showPeriod(header.begin, header.end);
-    // A picker holds a time of day: whole days of the step are gone.
+    // A picker holds a time of day: whole days of the step are dropped.
     DTPicker_TimeStep->setTime(QTime(0, 0).addSecs(header.stepSeconds % secondsADay));
     int row = 0;
     for (std::size_t i = 0; i < timeZones.gsTimeZoneKeys.size(); ++i)

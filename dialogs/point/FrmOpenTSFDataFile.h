@@ -4,7 +4,7 @@
 
 namespace zg {
 
-/// Makes a rose of a time-series file that the processor wrote earlier.
+/// Makes a rose from a time-series file that the processor wrote earlier.
 class frmOpenTSFDataFile : public StationDialog {
     Q_OBJECT
 

@@ -91,7 +91,7 @@ float frmOpenUPDATFile::comboHours() const {
     return HoursFromTimeZone(timeZones.gsTimeZoneKeys.at(static_cast<std::size_t>(row)));
 }
 
-/// Of a shifted moment only the date and the hour are shown.
+/// Only the date and the hour of a shifted moment are shown.
 void frmOpenUPDATFile::showShifted(DateTime moment, QDateEdit& date, QTimeEdit& time, int minute,
                                    int second) {
     const CalendarDate day = dateOf(moment);
@@ -129,7 +129,7 @@ void frmOpenUPDATFile::ReadUPDATHeader(const std::string& path) {
     showRead(*txtStationID, header.station);
 }
 
-/// Another zone moves the period on show, which never begins before the file does.
+/// Another zone shifts the displayed period, which never begins before the file does.
 void frmOpenUPDATFile::cboTimeZone_Click() {
     if (!mdBeginInFile || !mdEndInFile) return;
     const auto back = [this](const QDateEdit& date, const QTimeEdit& time) {
@@ -170,7 +170,8 @@ void frmOpenUPDATFile::readValues() {
     outputs_.clear();
     const std::string text = typed(txtExtractionHeights->text());
     const Pieces heights = split(text, ",");
-    // Each empty item makes one output fewer, but stays where it is: the last heights are lost.
+    // Each empty item reduces the number of outputs by one but keeps its position, so the last heights are
+    // lost.
     std::size_t count = heights.size();
     for (std::size_t i = 0; i < heights.size(); ++i)
         if (heights[i].empty()) --count;

@@ -5,7 +5,7 @@
 
 namespace zg {
 
-/// Makes a rose a height of an upper-air sounding file. Its period is shown in the zone that is picked.
+/// Makes one rose per height from an upper-air sounding file. Its period is shown in the selected zone.
 class frmOpenUPDATFile : public PointDialog {
     Q_OBJECT
 

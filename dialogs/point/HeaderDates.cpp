@@ -7,7 +7,7 @@
 namespace zg {
 
 std::string timeTextOf(const std::string& hour, std::int16_t seconds) {
-    std::int16_t forMinutes = seconds;  // the routine changes what it is given
+    std::int16_t forMinutes = seconds;  // the routine changes its argument
     return hour + ":" + std::to_string(MinutesOf(forMinutes)) + ":" + std::to_string(SecondsOf(seconds));
 }
 

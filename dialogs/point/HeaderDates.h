@@ -1,6 +1,6 @@
 #pragma once
 
-// What the readers of point data's headers share.
+// What the header readers for point data share.
 
 #include <cstdint>
 #include <string>
@@ -12,7 +12,7 @@
 
 namespace zg {
 
-/// A moment by year and day of the year, as a header gives it.
+/// A moment by year and day of the year, as in a header.
 struct JulianStamp {
     std::int16_t year = 0;
     std::int16_t julianDay = 0;
@@ -20,20 +20,20 @@ struct JulianStamp {
     std::int16_t seconds = 0;  ///< within the hour
 };
 
-/// The stamp's day; hour 24 becomes hour 0 of the next one. A day out of its year shows its message; raises
-/// 13 for what is no date.
+/// The stamp's day; hour 24 becomes hour 0 of the next one. A day that the year does not have shows its
+/// message; raises 13 for an invalid date.
 DateTime dayOf(Host& host, JulianStamp& stamp);
 
-/// Day and time of the stamp, in the same way; raises 13 for what is no date or time.
+/// Day and time of the stamp, in the same way; raises 13 for an invalid date or time.
 DateTime momentOf(Host& host, JulianStamp stamp);
 
-/// "h:m:s" of an hour's text and the seconds within the hour.
+/// "h:m:s" from an hour's text and the seconds within the hour.
 std::string timeTextOf(const std::string& hour, std::int16_t seconds);
 
-/// Passes over the number of comments, the comments, and the one line that always follows them.
+/// Skips the number of comments, the comments, and the one line that always follows them.
 void skipComments(LineReader& lines);
 
-/// Reads by the function; an error gets the number of the line that it happened at.
+/// Reads by calling the function; adds the line number to an error.
 template <typename Read>
 auto withLineNumbers(LineReader& lines, Read read) {
     try {

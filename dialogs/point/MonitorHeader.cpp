@@ -22,7 +22,7 @@ struct Stamp {
     std::string time;
 };
 
-/// "3/15/2005 13:00": what stands behind the time, as "PM", is not looked at.
+/// "3/15/2005 13:00"; what follows the time, such as "PM", is ignored.
 Stamp stampOf(std::string_view text) {
     const Pieces pieces = split(text, " ");
     const Pieces date = split(pieces[0], "/");
@@ -31,7 +31,7 @@ Stamp stampOf(std::string_view text) {
     return stamp;
 }
 
-/// The field of that index without quotes; raises 9 where the line has fewer.
+/// The field of that index without quotes; raises 9 if the line has fewer.
 std::string_view rawField(std::string_view line, std::int64_t index) {
     for (std::int64_t i = 0; i < index; ++i) {
         const std::size_t comma = line.find(',');

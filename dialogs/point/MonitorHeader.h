@@ -1,6 +1,7 @@
 #pragma once
 
-// What a comma-separated monitor file holds: its stations and its period, which only its last line tells.
+// The contents of a comma-separated monitor file: its stations and its period, which only its last line
+// gives.
 
 #include <functional>
 #include <string>
@@ -11,16 +12,16 @@
 namespace zg {
 
 struct MonitorHeader {
-    bool isMonitor = false;  ///< the columns of date and station are there
+    bool isMonitor = false;  ///< the columns of date and station exist
     std::int16_t averagingMinutes = 0;
-    std::vector<std::string> stations;  ///< as they take turns in the file
-    DateTime begin;                     ///< of the first record's averaging time
+    std::vector<std::string> stations;  ///< in the order in which they alternate in the file
+    DateTime begin;                     ///< averaging time of the first record
     DateTime end;
 };
 
-/// Reads the whole file; onProgress is called now and then, onStation with each station as it takes its turn,
-/// also where a fault further on ends the reading. Raises 13 for what is no number, date or time, 9 for a
-/// field that is missing, 62 without a record, each with the number of its line.
+/// Reads the whole file; onProgress is called at intervals, onStation with each station when it begins, even
+/// if an error further on ends the reading. Raises 13 for an invalid number, date or time, 9 for a missing
+/// field, 62 without a record, each with the line number.
 MonitorHeader readMonitorHeader(const std::string& path, const std::function<void()>& onProgress = {},
                                 const std::function<void(const std::string&)>& onStation = {});
 

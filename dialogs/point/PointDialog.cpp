@@ -228,7 +228,7 @@ bool PointDialog::chooseOtherDirectory() {
     return outputDirectory() != before && IsDirectory(outputDirectory());
 }
 
-/// Of several rows with one key the last is shown; a key that no row has changes nothing.
+/// Of several rows with one key the last is shown; an unknown key changes nothing.
 void PointDialog::chooseTimeZone(const std::string& key) {
     const std::string wanted = ucase(trim(key));
     for (std::size_t i = 0; i < timeZones.gsTimeZoneKeys.size(); ++i)
@@ -274,7 +274,7 @@ bool PointDialog::browseInput(QLineEdit& box, const char* filter) {
     if (path.empty()) return false;
     showPath(box, path);
     remembered_ = DirOf(path);
-    // Only the first character is looked at: a path to another machine alone gets no separator.
+    // Only the first character is checked: only a path to another machine gets no separator.
     if (remembered_.substr(0, 1) != "\\") remembered_ += pathSeparator;
     showPath(*txtOutputDirectory, remembered_);
     return true;
@@ -312,7 +312,7 @@ RunHooks PointDialog::sharedHooks() {
     hooks.showName = [this](const std::string& name) { txtFRQOutputFilename->setText(shown(name)); };
     hooks.setStatus = [this](const std::string& text) { lblStatus->setText(shown(text)); };
     hooks.setBusy = [](bool busy) {
-        // The pointer of the whole screen, which is set and not stacked: runs may overlap.
+        // The pointer of the whole screen, set rather than stacked, since runs may overlap.
         while (QGuiApplication::overrideCursor() != nullptr) QGuiApplication::restoreOverrideCursor();
         if (busy) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     };

@@ -20,8 +20,8 @@
 
 namespace zg {
 
-/// What the dialogs for point data share: period, time zone, step, title, output, and the way to a run. The
-/// dialog may be closed while a run waits; it is then only hidden, and the run goes on.
+/// What the dialogs for point data share: period, time zone, step, title, output, and starting a run. If the
+/// dialog is closed while a run waits, it is only hidden, and the run continues.
 class PointDialog : public QDialog {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ class PointDialog : public QDialog {
                 const char* title, QWidget* parent);
 
  protected:
-    /// Rows of the shared frames, to be laid out by the dialog.
+    /// Rows of the shared frames, which the dialog lays out.
     QGroupBox* makePeriod(bool withHeadings = false);
     QGroupBox* makeOutput();
     QLayout* makeButtons();
@@ -40,12 +40,12 @@ class PointDialog : public QDialog {
     /// Today, the settings, the base time zone, one hour.
     void Form_Load();
 
-    /// The period before a file was read: today, from its start to its start.
+    /// The period before a file is read: today, from its start to its start.
     void showToday();
 
-    /// Shows an "Error" box and marks the field; false for the check that failed.
+    /// Shows an "Error" box and marks the field; returns false, for the failed check.
     bool refuse(QWidget& field, const char* text);
-    /// Clears the field's mark where the check passed.
+    /// Clears the field's mark after a passed check.
     bool check(bool passed, QWidget& field, const char* text);
     bool checkPeriod();
     bool checkTimeZone();
@@ -71,11 +71,11 @@ class PointDialog : public QDialog {
     /// The hooks that all dialogs have in common.
     RunHooks sharedHooks();
 
-    /// Asks for the input file; takes it, and its directory for the output. False when cancelled.
+    /// Asks for the input file; takes it, and its directory for the output. False if cancelled.
     bool browseInput(QLineEdit& box, const char* filter);
 
-    /// While a large file is read the window stays alive, the fields are out of reach, and after a second the
-    /// status line says so.
+    /// While a large file is read the window stays responsive, the fields are disabled, and after a second
+    /// the status line says so.
     void readLargeFile(const std::function<void(const std::function<void()>&)>& read);
 
     Host& host_;

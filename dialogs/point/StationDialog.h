@@ -13,7 +13,7 @@ class StationDialog : public PointDialog {
     using PointDialog::PointDialog;
 
  protected:
-    /// What the messages call the input, and its name in file names, as "_AERMETSFC_".
+    /// What the messages call the input, and its name in file names, such as "_AERMETSFC_".
     struct Words {
         const char* fileBox;  ///< objectName
         const char* caption;
@@ -32,7 +32,7 @@ class StationDialog : public PointDialog {
     /// The text by which the station's name is looked up; "" for no look-up.
     virtual std::string stationToLookUp() { return stationText(); }
     virtual bool checksTimeStep() const { return false; }
-    /// The check of the station's place; both empty become "0".
+    /// Checks the station's place; if both fields are empty they become "0".
     virtual bool checkPlace();
     virtual bool hasHeightInName() const { return true; }
 

@@ -6,7 +6,7 @@
 
 namespace zg {
 
-/// The name of the station of that code by the table of stations, "" for one that it does not have.
+/// The name of the station of that code in the table of stations, "" if it is not there.
 std::string stationNameOf(const std::string& code);
 
 /// Name of a station's output.

@@ -12,7 +12,7 @@ namespace {
 
 std::string squeezed(LineReader& lines) { return squeezeBlanks(lines.readLine()); }
 
-/// "...: STATION ID = 14735" gives the station; another line, and a blank one, none.
+/// "...: STATION ID = 14735" gives the station; any other line, or a blank one, gives none.
 std::string stationOf(const std::string& line) {
     if (line.empty()) return {};
     const std::string behind(split(line, ":")[1]);
@@ -33,7 +33,7 @@ DateTime momentAt(const Pieces& fields, std::size_t from) {
     return AddTimeToDate(date, timeTextOf(std::string(fields[from + 3]), toInt16(fields[from + 4])));
 }
 
-/// A wind direction and a wind speed are among the variables.
+/// Whether a wind direction and a wind speed are among the variables.
 bool hasWind(LineReader& lines) {
     const std::string countLine(lines.readLine());
     const std::int16_t count = toInt16(trim(split(countLine, "-")[0]));
@@ -59,7 +59,7 @@ TsfHeader readLines(LineReader& lines) {
     const std::int16_t comments = toInt16(trim(split(countLine, "-")[0]));
     for (int i = 0; i < comments; ++i) lines.readLine();
     lines.readLine();  // one line follows the comments, however many there are
-    lines.readLine();  // the kind of data, which nothing here asks for
+    lines.readLine();  // the kind of data, not used here
     header.station = stationOf(squeezed(lines));
     header.timeZone = zoneOf(lines);
     if (ucase(trim(lines.readLine())) != "GREGORIAN_YMD") return header;

@@ -12,7 +12,7 @@ namespace zg {
 enum class TsfOutcome {
     Read,
     NotTsf,
-    Refused,           ///< another version, or dates of another kind: nothing is said
+    Refused,           ///< another version, or another kind of dates: no message
     NotMeteorological  ///< without wind direction or speed
 };
 
@@ -25,8 +25,8 @@ struct TsfHeader {
     std::int32_t stepSeconds = 0;
 };
 
-/// Raises 62 for a file that ends too early, as one without a line of its zone does, 9 for a line with fields
-/// missing, 13 for what is no number, date or time, 6 for a count beyond its width, each with its line.
+/// Raises 62 for a file that ends too early, for example without a line for its zone, 9 for a line with
+/// missing fields, 13 for an invalid number, date or time, 6 for a count out of range, each with its line.
 TsfHeader readTsfHeader(const std::string& path);
 
 }  // namespace zg

@@ -15,7 +15,7 @@ TimeOfDay fieldsOf(JulianStamp stamp) {
     return {0, parts[0], parts[1]};
 }
 
-/// Seconds of a whole hour and more are minute 60 and later, which no time has.
+/// 3600 seconds and more would be minute 60 or later, which no time has.
 DateTime momentOf(Host& host, JulianStamp stamp, const TimeOfDay& fields) {
     const DateTime date = dayOf(host, stamp);
     return AddTimeToDate(date, std::to_string(stamp.hour) + ":" + std::to_string(fields.minute) + ":" +
