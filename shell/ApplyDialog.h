@@ -7,7 +7,7 @@
 
 namespace zg {
 
-/// A dialog on a working copy. Apply takes it over; OK does the same, writes the configuration file and
+/// A dialog on a working copy. Apply puts it into effect; OK does the same, writes the configuration file and
 /// closes; Cancel closes and keeps what an earlier Apply did.
 class ApplyDialog : public QDialog {
     Q_OBJECT
@@ -16,10 +16,10 @@ class ApplyDialog : public QDialog {
     ApplyDialog(Host& host, const char* name, const char* title, QWidget* parent);
 
  protected:
-    /// The working copy becomes what is in force.
+    /// Puts the working copy into effect.
     virtual void apply() = 0;
 
-    /// cmdOk, cmdCancel and cmdApply in a row at the right, with what stands at its left.
+    /// cmdOk, cmdCancel and cmdApply in a row at the right, with the given control at its left.
     void addButtons(QBoxLayout& layout, QWidget* atLeft = nullptr);
 
     Host& host_;

@@ -63,7 +63,7 @@ void CurveSample::paintEvent(QPaintEvent*) {
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
     QtCanvas canvas(painter, width(), height());
     const Point middle{width() / 2.0,
-                       std::floor(height() / 2.0) + 0.5};  // a thin line lies on one row of pixels
+                       std::floor(height() / 2.0) + 0.5};  // a thin line must be on one row of pixels
     if (series_.AllowPen)
         canvas.line({margin, middle.y}, {width() - static_cast<double>(margin), middle.y},
                     {series_.Pen.FillColor, series_.Pen.Weight, series_.Pen.Style, 0});

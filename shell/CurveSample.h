@@ -8,7 +8,7 @@
 
 namespace zg {
 
-/// The sample of a curve's look: its line across and its marker in the middle.
+/// The sample of a curve's look: its line from side to side and its marker in the middle.
 class CurveSample : public QWidget {
  public:
     CurveSample();
@@ -23,15 +23,15 @@ class CurveSample : public QWidget {
     MarkerPictures pictures_;
 };
 
-/// A list of line styles, the number of a row being its index, and of line weights, from 1 on.
+/// A list of line styles, where the index of a row is the style's number, and of line weights, from 1 on.
 QComboBox* lineStyleList();
 QComboBox* lineWeightList();
 
-/// Fills a list with the characters of a marker's face, as that face shows them; each row has its character
-/// as data. The row of the character that was chosen stays.
+/// Fills a list with the characters of a marker's font, in that font; each row has its character as data. The
+/// row of the previously selected character remains selected.
 void fillCharacters(QComboBox& list, const MarkerFont& font);
 
-/// The row of that character becomes current; one that the list does not have is added.
+/// Selects the row of that character; a missing one is added.
 void chooseCharacter(QComboBox& list, const std::string& character);
 std::string chosenCharacter(const QComboBox& list);
 

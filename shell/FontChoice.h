@@ -14,7 +14,7 @@ namespace zg {
 /// cmdSelectFont, cmdSelectColor and cmdResetToDefaults with a suffix.
 class FontChoice : public QWidget {
  public:
-    /// Captions of the three buttons, each with the accelerator that the dialog has left for it.
+    /// Captions of the three buttons, each with an accelerator that is free in the dialog.
     struct Captions {
         const char* font;
         const char* colour;

@@ -6,11 +6,11 @@
 
 namespace zg {
 
-/// What the splash and the About box say of the program.
+/// What the splash and the About box say about the program.
 constexpr const char* programVersion = "Version 4.9";
 constexpr const char* programLevel = "April 6, 2011";
 
-/// Name, version and credits. Its box mirrors a flag of the run that changes nothing.
+/// Name, version and credits. Its check box mirrors a flag of the run that has no effect.
 class frmAboutZephyrgraph : public QDialog {
     Q_OBJECT
 

@@ -59,7 +59,7 @@ frmChangeDir::frmChangeDir(Host& host, std::string& directory, const std::string
 
     auto* layout = new QVBoxLayout(this);
     auto* directoryLabel = new QLabel(QStringLiteral("&Current Working Directory:"));
-    directoryLabel->setBuddy(Dir1);  // what it names is chosen there
+    directoryLabel->setBuddy(Dir1);  // the named directory is selected there
     auto* driveLabel = new QLabel(QStringLiteral("&Drive:"));
     driveLabel->setBuddy(Drive1);
     auto* driveRow = new QHBoxLayout;
@@ -78,7 +78,7 @@ frmChangeDir::frmChangeDir(Host& host, std::string& directory, const std::string
 
     showDriveOf(fileName(start_));
     goTo(fileName(start_));
-    // The tree reads directories in the background and moves the row away meanwhile.
+    // The tree reads directories in the background, which moves the row away meanwhile.
     connect(model_, &QFileSystemModel::directoryLoaded, this, [this](const QString& loaded) {
         if (model_->filePath(Dir1->currentIndex()).startsWith(loaded)) showCurrent();
     });
@@ -97,12 +97,12 @@ void frmChangeDir::goTo(const QString& path) {
     lblCurDir->setText(QDir::toNativeSeparators(path));
 }
 
-/// In the middle, so that the directories below it are seen too.
+/// In the middle, so that the directories below it are visible too.
 void frmChangeDir::showCurrent() {
     Dir1->scrollTo(Dir1->currentIndex(), QAbstractItemView::PositionAtCenter);
 }
 
-/// The drive box begins at the drive that holds the directory, also where the desktop does not list it.
+/// The drive box starts at the drive of the directory, even if the desktop does not list it.
 void frmChangeDir::showDriveOf(const QString& path) {
     const QString drive = QStorageInfo(path).rootPath();
     if (drive.isEmpty()) return;
@@ -111,12 +111,12 @@ void frmChangeDir::showDriveOf(const QString& path) {
 }
 
 void frmChangeDir::Drive1_Change() {
-    // A drive that is not ready leaves the tree where it was.
+    // A drive that is not ready leaves the tree unchanged.
     if (const QString drive = Drive1->currentText(); QDir(drive).isReadable()) goTo(drive);
 }
 
 void frmChangeDir::Dir1_Change() {
-    if (!Dir1->currentIndex().isValid()) return;  // a directory that went away leaves the choice as it was
+    if (!Dir1->currentIndex().isValid()) return;  // if the directory has disappeared, the choice is unchanged
     lblCurDir->setText(QDir::toNativeSeparators(model_->filePath(Dir1->currentIndex())));
 }
 

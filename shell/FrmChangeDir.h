@@ -13,13 +13,13 @@
 namespace zg {
 
 /// Chooses a directory by drive and tree. Accepted or not, `directory` ends in a separator: the choice, or
-/// where the dialog started.
+/// the directory at the start.
 class frmChangeDir : public QDialog {
     Q_OBJECT
 
  public:
-    /// Starts at the caller's directory if that is one, else at the working directory if that is one, else at
-    /// the root.
+    /// Starts at the caller's directory if that is one, otherwise at the working directory if that is one,
+    /// otherwise at the root.
     frmChangeDir(Host& host, std::string& directory, const std::string& workDir, QWidget* parent = nullptr);
 
     void reject() override;

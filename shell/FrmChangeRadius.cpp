@@ -44,7 +44,7 @@ frmChangeRadius::frmChangeRadius(Host& host, PolarGraph& graph, QWidget* parent)
 }
 
 void frmChangeRadius::cboRadiusPercent_Click() {
-    // A radius that no row has comes back by its value.
+    // A radius without a row is restored by its value.
     const bool ofARow = cboRadiusPercent->currentIndex() >= 0;
     graph_.Polar().Radius =
         ofARow ? toSingle(val(typed(cboRadiusPercent->currentText())) / percentPerUnit) : oldRadius_;

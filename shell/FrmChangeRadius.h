@@ -8,7 +8,7 @@
 
 namespace zg {
 
-/// Sets the percentage of the outer ring. A row takes effect at once; Cancel puts the old one back.
+/// Sets the percentage of the outer ring. A row takes effect at once; Cancel restores the old one.
 class frmChangeRadius : public QDialog {
     Q_OBJECT
 

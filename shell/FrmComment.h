@@ -8,7 +8,7 @@
 
 namespace zg {
 
-/// Shows the comment of the plot and takes a changed one.
+/// Shows the comment of the plot and accepts a changed one.
 class frmComment : public QDialog {
     Q_OBJECT
 

@@ -6,7 +6,7 @@
 
 namespace zg {
 
-/// A message with a way to switch further checking off, but not in the middle of a run.
+/// A message with an option to switch off further checks, but not in the middle of a run.
 class frmError : public QDialog {
     Q_OBJECT
 

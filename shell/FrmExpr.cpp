@@ -174,7 +174,7 @@ void frmExpr::cmdCancelExpr_Click() {
     lstExpr->setFocus();
 }
 
-/// Escape leaves what is being typed first, and the dialog only then.
+/// Escape first cancels typing, and closes the dialog only if nothing is being typed.
 void frmExpr::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Cancel) && fraTray->isVisibleTo(this))
         guarded(host_, [this] { cmdCancelExpr_Click(); })();

@@ -12,7 +12,8 @@
 
 namespace zg {
 
-/// The user's own list of expressions, to choose one from. What is not saved is gone with the dialog.
+/// The user's own list of expressions, to choose one from. Changes that are not saved are lost with the
+/// dialog.
 class frmExpr : public QDialog {
     Q_OBJECT
 
@@ -21,7 +22,7 @@ class frmExpr : public QDialog {
 
     /// The chosen expression; "" for none.
     std::string SelectedExpression;
-    /// The list differs from the file.
+    /// Whether the list differs from the file.
     bool ExprDirty = false;
 
  protected:

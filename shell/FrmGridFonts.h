@@ -20,7 +20,7 @@ class frmGridFonts : public ApplyDialog {
     void setGridColour(float colour);
 
     PolarGraph& graph_;
-    FontRecord labelFont_;  ///< passes through unchanged
+    FontRecord labelFont_;  ///< not edited here
     FontChoice* directions_;
     FontChoice* percents_;
     FontChoice* legend_;

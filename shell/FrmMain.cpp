@@ -29,7 +29,7 @@ constexpr std::int16_t customPointer = 99;
 constexpr QSize swatchPixels(46, 18);
 constexpr QSize startSize(740, 880);
 
-/// The whole page in sight where the screen is large enough.
+/// Makes the whole page visible if the screen is large enough.
 QSize sizeOnScreen() {
     const QScreen* screen = QGuiApplication::primaryScreen();
     return screen == nullptr ? startSize : startSize.boundedTo(screen->availableSize() - QSize(40, 60));
@@ -70,7 +70,7 @@ void frmMain::Form_Load() {
     if (const auto radius = startRadius()) pgPolarGraph().Polar().Radius = toSingle(*radius);
     clearLabelLines();
     resetWindClassMin();
-    pgPolarGraph().Refresh();  // the radius and the labels are set without a repaint of their own
+    pgPolarGraph().Refresh();  // set the radius and the labels without separate repaints
 }
 
 void frmMain::SizeLegendSwatch() { picTemp_ = swatchPixels; }
@@ -89,13 +89,13 @@ void frmMain::LoadToolCursor(ToolCursor id) {
 
 void frmMain::closeEvent(QCloseEvent* event) {
     if (!pgPolarGraph().StopAni()) pgPolarGraph().StopAni(true);
-    ending_ = true;  // a run that waits for its processor is abandoned
-    // What still waits to be drawn would be drawn for nobody.
+    ending_ = true;  // abandon a run that waits for its processor
+    // Nobody would see what still waits to be drawn.
     pgPolarGraph().suspendUpdates(true);
     event->accept();
 }
 
-/// Escape ends what is being drawn, wherever in the window the keyboard is.
+/// Escape stops drawing, wherever in the window the focus is.
 void frmMain::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && !pgPolarGraph().StopAni())
         pgPolarGraph().StopAni(true);
@@ -112,7 +112,7 @@ void frmMain::PlotFrqFile(const std::string& path) {
     pgPolarGraph().DrawGraph();
     if (!pgPolarGraph().Comment().empty()) frmComment(host_, pgPolarGraph(), this).exec();
     selectOnly(0);
-    // Once the file's dialog and what it asked of the system are gone.
+    // After the file dialog has been closed and its memory is no longer in use.
     QTimer::singleShot(0, this, [] { giveBackMemory(); });
 }
 
@@ -123,7 +123,7 @@ void frmMain::openFrqFile() {
     const std::string path = settings.BatchMode ? settings.BatchFRQFilename : host_.pickFileToOpen(pick);
     if (path.empty()) return;
     modPolarGraph.WorkDir = DirOf(path);
-    // Only the first character is looked at: nearly every directory gets its final separator this way.
+    // Only the first character is checked, so nearly every directory gets a final separator here.
     if (modPolarGraph.WorkDir.substr(0, 1) != "\\") modPolarGraph.WorkDir += pathSeparator;
     PlotFrqFile(path);
 }

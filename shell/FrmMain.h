@@ -29,8 +29,8 @@ enum class ToolCursor {
     Zoom = 108
 };
 
-/// The main window: the plot, the list of graphs, and the menus that act on them. Each command is wired in
-/// one place, by the name of its entry; an entry without a command is disabled.
+/// The main window: the plot, the list of graphs, and the menus that act on them. Each command is connected
+/// in one place, by the name of its entry; an entry without a command is disabled.
 class frmMain : public QMainWindow {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ class frmMain : public QMainWindow {
     explicit frmMain(Host& host);
 
     /// What the window does once before it is first shown: reads the configuration, finds the background
-    /// picture, and puts zoom, radius and labels at their start. An error ends it where it happens.
+    /// picture, and initialises zoom, radius and labels. An error ends it at that point.
     void Form_Load();
 
     /// Runs the File entry of that index, as a click would: 1 opens an FRQ file, 12 saves the page as a
@@ -48,38 +48,37 @@ class frmMain : public QMainWindow {
     void mnuViewAspectOption_Click(int Index);
     void mnuViewZoomSize_Click(int Index);
 
-    /// Loads an FRQ file into the plot. The title names the file first, so that one that fails to load still
-    /// does.
+    /// Loads an FRQ file into the plot. The title names the file first, even if it then fails to load.
     void PlotFrqFile(const std::string& path);
 
-    /// Appends the row of that curve of the plot, from 1, to the list.
+    /// Appends the row of the plot's curve of that number, from 1, to the list.
     void AddGraph(std::int16_t Index);
 
-    /// Runs the entry of the list's pop-up of that index on the selected rows.
+    /// Executes the context menu entry of that index on the selected rows of the list.
     void mnuGraphOption_Click(int Index);
 
-    /// The plot gets the pointer of that number.
+    /// Sets the plot's pointer by its number.
     void LoadToolCursor(ToolCursor id);
 
-    /// Puts the picture of that name from the program's Bitmap directory on the plot; false where there is
-    /// none. Raises 481 for a file that is no picture.
+    /// Puts the picture of that name from the program's Bitmap directory on the plot; false if there is none.
+    /// Raises 481 for a file that is not a picture.
     bool LoadBackgroundPicture(const std::string& name);
 
-    /// Pixels of the picture that a graph's swatch is drawn in.
+    /// Size in pixels of the picture in which a graph's swatch is drawn.
     void SizeLegendSwatch();
     QSize legendSwatchSize() const { return picTemp_; }
 
-    /// Presses a tool as a click would.
+    /// Selects a tool as a click would.
     void pressTool(Tool tool);
     Tool activeTool() const { return activeToolButton_; }
 
-    /// The window was closed, or Exit was chosen: the program is about to end.
+    /// Whether the window was closed or Exit was chosen: the program is about to end.
     bool ending() const { return ending_; }
 
     PolarGraph& pgPolarGraph() { return ui_.pgPolarGraph->graph(); }
     const FrmMainControls& controls() const { return ui_; }
 
-    /// The action of a menu entry by its name, as "mnuFileOption_1"; null where there is none.
+    /// The action of a menu entry by its name, such as "mnuFileOption_1"; null if there is none.
     QAction* menuAction(const std::string& name) const;
 
  protected:
@@ -152,7 +151,7 @@ class frmMain : public QMainWindow {
     Tool activeToolButton_ = Tool::Arrow;
     bool panDragging_ = false;
     bool ending_ = false;    ///< closed, or Exit was chosen
-    bool plotting_ = false;  ///< the button Plot is at work
+    bool plotting_ = false;  ///< the Plot button's command is running
     BatchStarter starter_;
     QSize picTemp_;
 };

@@ -24,7 +24,7 @@ constexpr int legendColumnWidth = 800 / twipsPerPixel;
 constexpr int titleMargins = 8;
 constexpr int tableSlack = 60 / twipsPerPixel;
 
-/// Properties of the plot that the window is designed with.
+/// Properties of the plot that are set in the window's design.
 PropertyBag designedProperties() {
     PropertyBag bag;
     bag.WriteProperty("ShowRuler", "True");
@@ -284,7 +284,7 @@ void GraphTable::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::RightButton && onPopup) onPopup(event->globalPosition().toPoint());
 }
 
-/// The mouse's own request comes at its press and is left to the release.
+/// The request of a mouse press is ignored: the menu opens at the release.
 void GraphTable::contextMenuEvent(QContextMenuEvent* event) {
     if (event->reason() == QContextMenuEvent::Mouse || !onPopup) return;
     const QRect row = visualItemRect(currentItem());
@@ -301,7 +301,7 @@ void GraphTable::keyPressEvent(QKeyEvent* event) {
 void GraphTable::resizeEvent(QResizeEvent* event) {
     QTreeWidget::resizeEvent(event);
     const int coefficient = width() * 35 / 100;
-    // A large font needs more for the title.
+    // A large font needs more room for the title.
     const int legend =
         std::max(legendColumnWidth, fontMetrics().horizontalAdvance(headerItem()->text(0)) + titleMargins);
     setColumnWidth(0, legend);

@@ -23,7 +23,7 @@ namespace zg {
 /// The tools of tblToolbox by their index.
 enum class Tool { Arrow = 1, Select, Cross, Circular, Pan, Aspect, Zoom };
 
-/// A box that shows a colour and is clicked to choose another.
+/// A box that shows a colour and can be clicked to choose another.
 class ColourBox : public QPushButton {
  public:
     explicit ColourBox(Colour colour, QWidget* parent = nullptr);
@@ -38,8 +38,8 @@ class ColourBox : public QPushButton {
     Colour colour_;
 };
 
-/// A list whose rows act when they are chosen: by a click, also on the row that is current already, by the
-/// arrow keys, or by code.
+/// A list whose rows act when they are chosen: by a click, even on the current row, by the arrow keys, or by
+/// code.
 class ChoiceList : public QListWidget {
  public:
     ChoiceList();
@@ -54,13 +54,13 @@ class ChoiceList : public QListWidget {
     bool pressed_ = false;
 };
 
-/// A progress bar that counts far more steps than it has pixels and repaints only for those that can be seen.
+/// A progress bar that counts far more steps than it has pixels and repaints only when the change is visible.
 class StepBar : public QProgressBar {
  public:
-    /// Starts at 0 and shows itself; so many steps, at least one, fill it.
+    /// Starts at 0 and shows itself; this many steps, at least one, fill it.
     void begin(double steps);
 
-    /// One step more; beyond the last it stays full.
+    /// Advances by one step; when full it stays full.
     void advance();
 
  private:
@@ -68,7 +68,7 @@ class StepBar : public QProgressBar {
     double done_ = 0;
 };
 
-/// The list of graphs. Its columns share its width anew at each resize.
+/// The list of graphs. Its columns share its width again at each resize.
 class GraphTable : public QTreeWidget {
  public:
     std::function<void(const QPoint& at)>
@@ -82,7 +82,7 @@ class GraphTable : public QTreeWidget {
     void resizeEvent(QResizeEvent* event) override;
 };
 
-/// The controls of the main window under their names. They belong to the window.
+/// The controls of the main window under their names. The window owns them.
 struct FrmMainControls {
     QWidget* tblToolbar = nullptr;
     std::map<std::string, QToolButton*> toolbarButtons;  ///< new, open, save, print, copy
@@ -107,8 +107,8 @@ struct FrmMainControls {
     StepBar* pgbProgressBar = nullptr;
 };
 
-/// Makes the controls and lays them out: toolbar along the top, toolbox down the left, plot in the middle,
-/// equation row and list under it, status bar along the bottom.
+/// Creates the controls and lays them out: toolbar along the top, toolbox on the left, plot in the middle,
+/// equation row and list below it, status bar along the bottom.
 FrmMainControls makeFrmMainControls(QMainWindow& window, Host& host);
 
 }  // namespace zg

@@ -1,4 +1,4 @@
-// What the main window does at the events of its plot.
+// How the main window reacts to the events of its plot.
 
 #include <QCursor>
 #include <QMenu>
@@ -62,8 +62,8 @@ void frmMain::followPlot() {
             guarded(host_, [this](const QString& title) { showAbout(title); }));
 }
 
-/// False at the start of a curve and true at its end: what could disturb it is out of reach meanwhile. An
-/// entry that neither runs a command nor opens a menu stays disabled.
+/// Called with false at the start of a curve and true at its end: meanwhile everything that could disturb it
+/// is disabled. An entry that neither runs a command nor opens a menu stays disabled.
 void frmMain::lockWhileDrawing(bool value) {
     const std::map<std::string, std::string> entryOf = toolbarEntries();
     for (const auto& [key, button] : ui_.toolbarButtons) {
@@ -78,7 +78,8 @@ void frmMain::lockWhileDrawing(bool value) {
     if (value) ui_.pgbProgressBar->hide();
 }
 
-/// With its tool a click on the plot steps through the list's rows; each step acts as a click on the row.
+/// With its tool selected, a click on the plot moves to the next row of the list; each step acts like a click
+/// on the row.
 void frmMain::pgPolarGraph_Click() {
     const auto step = [](ChoiceList& list, int lastToStepFrom) {
         const int row = list.currentRow();
@@ -97,7 +98,7 @@ void frmMain::trackPosition(float bearing, float radial) {
                            QLatin1Char('%'));
 }
 
-/// The bar counts the steps of the graph that is about to be drawn.
+/// The bar counts the steps of the next graph to be drawn.
 void frmMain::beginProgress(const GrapInfo& graph) {
     if (graph.Step == 0) zg::raise(ErrorNumber::DivisionByZero);
     const double steps =
@@ -105,7 +106,7 @@ void frmMain::beginProgress(const GrapInfo& graph) {
     ui_.pgbProgressBar->begin(steps + 1);
 }
 
-/// The edit entries keep step with the button, so that their keys do too.
+/// The edit entries are enabled together with the button, and so are their keys.
 void frmMain::followSelection() {
     const bool selected = pgPolarGraph().ActiveSelection();
     ui_.toolbarButtons.at("copy")->setEnabled(hasCommand("mnuEditOption_0") && selected);

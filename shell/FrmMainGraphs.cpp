@@ -1,4 +1,4 @@
-// The list of graphs, the row that edits one of them, and the list's pop-up.
+// The list of graphs, the row of boxes that edits one of them, and the list's context menu.
 
 #include <QHeaderView>
 #include <QMenu>
@@ -50,7 +50,7 @@ void selectFrom(QLineEdit& box, const std::string& text, int column) {
 
 void frmMain::connectGraphList() {
     QComboBox& functions = *ui_.cmbFunction;
-    // Leaving the box with a text that the list has too is no click in the list.
+    // Leaving the box with a text that is also in the list is not a click in the list.
     disconnect(functions.lineEdit(), &QLineEdit::editingFinished, &functions, nullptr);
     connect(&functions, &QComboBox::editTextChanged, this, guarded(host_, [this] { cmbFunction_Change(); }));
     connect(&functions, &QComboBox::activated, this, guarded(host_, [this](int i) { cmbFunction_Click(i); }));
@@ -71,7 +71,7 @@ void frmMain::connectGraphList() {
     connect(ui_.cmdExpr, &QPushButton::clicked, this, guarded(host_, [this] { cmdExpr_Click(); }));
     connect(ui_.lvwTable, &QTreeWidget::itemSelectionChanged, this,
             guarded(host_, [this] { lvwTable_ItemClick(); }));
-    // A click on the one row that is selected already shows it too.
+    // A click on the only selected row also shows it.
     connect(ui_.lvwTable, &QTreeWidget::itemClicked, this, guarded(host_, [this] { lvwTable_ItemClick(); }));
     ui_.lvwTable->onPopup = guarded(host_, [this](const QPoint& at) { popUpGraphMenu(at); });
     ui_.lvwTable->onDelete = guarded(host_, [this] { mnuGraphOption_Click(2); });
@@ -104,7 +104,7 @@ void frmMain::AddGraph(std::int16_t Index) {
     if (ui_.lvwTable->topLevelItemCount() == 1) selectOnly(0);
 }
 
-/// Rows, pictures and the box's list are made anew; what is typed in the row of boxes stays.
+/// Rebuilds rows, pictures and the box's list; what is typed in the row of boxes stays.
 void frmMain::rebuildGraphList() {
     const QSignalBlocker quietTable(ui_.lvwTable);
     const QSignalBlocker quietBox(ui_.cmbFunction);
@@ -121,7 +121,7 @@ void frmMain::rebuildGraphList() {
     ui_.cmbFunction->setEditText(typedText);
 }
 
-/// As code selects: nothing of the row goes to the boxes.
+/// Selection by code: nothing of the row is copied to the boxes.
 void frmMain::selectOnly(int row) {
     const QSignalBlocker quiet(ui_.lvwTable);
     QTreeWidgetItem* item = ui_.lvwTable->topLevelItem(row);
@@ -146,7 +146,7 @@ void frmMain::listPlot() {
     ui_.cmdReplace->setEnabled(hasRow);
 }
 
-/// The texts of the two boxes; nothing where one of them is at fault, which is then told and selected.
+/// The texts of the two boxes; nothing if one of them is wrong, which is then reported and selected.
 std::optional<frmMain::CurveTexts> frmMain::checkedTexts() {
     const std::string coefficient = typed(ui_.txtCoefficient->text());
     const std::string equation = typed(ui_.cmbFunction->currentText());
@@ -157,12 +157,12 @@ std::optional<frmMain::CurveTexts> frmMain::checkedTexts() {
     QLineEdit& box = inCoefficient ? *ui_.txtCoefficient : *ui_.cmbFunction->lineEdit();
     selectFrom(box, text, fault->column);
     host_.showBox({fault->description + " : '" + text + "'", "Equation", BoxIcon::Warning, BoxButtons::Ok});
-    selectFrom(box, text, fault->column);  // the box took the focus, and the selection may go with it
+    selectFrom(box, text, fault->column);  // the box took the focus, which may clear the selection
     return std::nullopt;
 }
 
 void frmMain::cmdPlot_Click() {
-    if (plotting_) return;  // the curve before is still being drawn, and has no row yet
+    if (plotting_) return;  // the previous curve is still being drawn, and has no row yet
     plotting_ = true;
     const auto plotted = [](bool* plotting) { *plotting = false; };
     const std::unique_ptr<bool, decltype(plotted)> atEnd(&plotting_, plotted);
@@ -176,7 +176,7 @@ void frmMain::cmdPlot_Click() {
     try {
         pgPolarGraph().DrawGraph(index);
     } catch (...) {
-        failed = std::current_exception();  // the list shows what the plot holds all the same
+        failed = std::current_exception();  // the list then still shows the plot's curves
     }
     AddGraph(index);
     const QSignalBlocker quiet(ui_.cmbFunction);
@@ -201,7 +201,7 @@ void frmMain::cmdReplace_Click() {
     rebuildGraphList();
     selectOnly(row);
     ui_.txtCoefficient->setText(shown(texts->coefficient));
-    pgPolarGraph().DrawGraph();  // last: an equation that fails at some angle must not keep the list from it
+    pgPolarGraph().DrawGraph();  // last: an equation that fails at some angle must still get its row
 }
 
 void frmMain::cmdExpr_Click() {
@@ -331,13 +331,13 @@ void frmMain::playSelected() {
 void frmMain::showTable() {
     const std::vector<int> rows = selectedRows();
     if (rows.empty()) return;
-    const GrapInfo graph = graphOfRow(rows.front());  // events may change the list while it is sampled
+    const GrapInfo graph = graphOfRow(rows.front());  // events may change the list during sampling
     const QPixmap swatch = ui_.lvwTable->topLevelItem(rows.front())->data(0, swatchRole).value<QPixmap>();
     if (const auto dialog = sampledTable(graph, swatch)) dialog->exec();
 }
 
-/// The table with its rows, null where sampling them was stopped. A long one is locked and stopped as one
-/// that is painted.
+/// The table with its rows, null if sampling was stopped. A long one is locked and stopped like a curve being
+/// painted.
 std::unique_ptr<frmTable> frmMain::sampledTable(const GrapInfo& graph, const QPixmap& swatch) {
     const auto serve = [this] {
         host_.pumpEvents(0);

@@ -47,7 +47,7 @@ constexpr int customAspectRow = 4;
 constexpr int customZoomRow = 14;
 constexpr std::int32_t selectTool = 4;
 
-/// Runs an action when Enter is pressed in a list, on the row that it is told of.
+/// Runs an action when Enter is pressed in a list, with the current row.
 class EnterFilter : public QObject {
  public:
     EnterFilter(QObject* parent, std::function<void()> action)
@@ -151,7 +151,7 @@ void frmMain::mnuEdit_Open() {
         actions_.at(entry)->setEnabled(hasCommand(entry) && pgPolarGraph().ActiveSelection());
 }
 
-/// The entry that each button of tblToolbar runs.
+/// The entry for each button of tblToolbar.
 std::map<std::string, std::string> frmMain::toolbarEntries() {
     return {{"new", "mnuFileOption_0"},
             {"open", "mnuFileOption_1"},
@@ -189,7 +189,7 @@ void frmMain::customEntryOnEnter(QListWidget& list, std::function<void()> show) 
 void frmMain::pressTool(Tool tool) {
     struct Row {
         std::int32_t setActiveTool;
-        std::int16_t pointer;  ///< 0 takes the cursor
+        std::int16_t pointer;  ///< 0 for the cursor
         ToolCursor cursor;
     };
     static const std::map<Tool, Row> rows = {{Tool::Arrow, {0, 1, {}}},

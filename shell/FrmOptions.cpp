@@ -37,7 +37,7 @@ void addRow(QGridLayout& grid, const char* caption, QWidget* field) {
     grid.addWidget(field, row, 1);
 }
 
-/// A control that is made anew would put the tables of the rose on show back to their start.
+/// Creating the control anew would reset the tables of the displayed rose.
 PolarGraphWidget* makePreview(Host& host) {
     const ModPolarGraph kept = modPolarGraph;
     PropertyBag bag;
@@ -48,13 +48,13 @@ PolarGraphWidget* makePreview(Host& host) {
     return preview;
 }
 
-/// A positive number of the box; nothing for any other text.
+/// The positive number in a box; nothing for any other text.
 std::optional<float> positive(const QLineEdit& field) {
     try {
         const float value = toSingle(typed(field.text()));
         if (value > 0 && std::isfinite(value)) return value;
     } catch (const RunTimeError&) {
-        return std::nullopt;  // the value in force stays
+        return std::nullopt;  // the value in force is kept
     }
     return std::nullopt;
 }
@@ -232,7 +232,7 @@ void frmOptions::readOrigin() {
     try {
         origin.SetPos(toSingle(typed(txtCenterX->text())), toSingle(typed(txtCenterY->text())));
     } catch (const RunTimeError&) {
-        // the values in force stay, and the boxes show them again
+        // the values in force are kept, and the boxes show them again
     }
     preview().Refresh();
     showFields();
@@ -273,7 +273,7 @@ void frmOptions::apply() {
     keepBackgroundPicture();
 }
 
-/// The next start finds the picture, and its style by its name.
+/// The next start finds the picture by its name, which gives its style.
 void frmOptions::keepBackgroundPicture() {
     removeBackgroundPictures();
     const auto picture = std::dynamic_pointer_cast<const QtPicture>(graph_.Picture());

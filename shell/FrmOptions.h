@@ -11,15 +11,15 @@
 
 namespace zg {
 
-/// Edits grid, origin, colours and background on a preview, and takes them over to the plot. No menu entry
-/// leads to it.
+/// Edits grid, origin, colours and background on a preview, and applies them to the plot. No menu entry opens
+/// it.
 class frmOptions : public ApplyDialog {
     Q_OBJECT
 
  public:
     frmOptions(Host& host, PolarGraph& graph, QWidget* parent = nullptr);
 
-    /// Hidden first: a field that loses the focus on the way is still read.
+    /// Hidden first: the text of a field that loses the focus meanwhile is still read.
     ~frmOptions() override { hide(); }
 
  private:

@@ -91,7 +91,7 @@ void frmOptionsLegend::setColour(std::size_t i, float colour) {
     picClassColor[i]->setColour(paintedColour(colour));
 }
 
-/// The ranges in the unit that is chosen; empty before a file has given them.
+/// The ranges in the chosen unit; empty before a file has been loaded.
 void frmOptionsLegend::showRanges() {
     const bool knots = optKnots->isChecked();
     if (knots && modPolarGraph.FrqLoaded && !modPolarGraph.KnotTableReady) buildKnotTable(modPolarGraph);

@@ -11,7 +11,7 @@
 
 namespace zg {
 
-/// Edits the colours of the speed classes and the unit that the legend speaks in.
+/// Edits the colours of the speed classes and the unit of the legend.
 class frmOptionsLegend : public ApplyDialog {
     Q_OBJECT
 

@@ -26,18 +26,18 @@ std::optional<double> numberIn(const QLineEdit& box) {
     try {
         return toDouble(typed(box.text()));
     } catch (const RunTimeError&) {
-        return std::nullopt;  // also a pasted text that is no number
+        return std::nullopt;  // pasted text need not be a number
     }
 }
 
-/// A size of a picture: nothing for a text that is no number, or a number that rounds to none.
+/// The size of a picture: nothing for a text that is not a number, or a number that rounds to 0.
 std::optional<double> roundedSize(const QLineEdit& box) {
     const std::optional<double> number = numberIn(box);
     if (!number || !(roundHalfEven(*number) > 0)) return std::nullopt;
     return roundHalfEven(*number);
 }
 
-/// The same as far as a size has room for it.
+/// The same, limited to the range of a size.
 std::optional<std::int32_t> sizeIn(const QLineEdit& box) {
     const std::optional<double> size = roundedSize(box);
     if (!size || *size > std::numeric_limits<std::int32_t>::max()) return std::nullopt;
@@ -148,7 +148,7 @@ void frmProperties::enableFields() {
     for (QLineEdit* size : txtMsize) size->setEnabled(!chkMautosize->isChecked());
 }
 
-/// What the fields say, sizes that are no numbers being those of the graph.
+/// The values of the fields; for sizes that are not numbers, those of the graph.
 Series frmProperties::shownSeries() const {
     Series series = graph_.Series;
     series.AllowPen = optLcustom->isChecked();
@@ -179,7 +179,7 @@ void frmProperties::drawSample() {
     Series series = shownSeries();
     MarkerPictures pictures;
     if (series.Marker.UsePicture) {
-        series.Marker.Transparent = true;  // the sample shows a picture through its mask, or not at all
+        series.Marker.Transparent = true;  // the sample shows a picture only with its mask
         pictures = {loadMarkerPicture(filePath(txtMpicloc[0]->text())),
                     loadMarkerPicture(filePath(txtMpicloc[1]->text()))};
         if (chkMautosize->isChecked() && pictures.picture)
@@ -217,8 +217,8 @@ void frmProperties::checkSize(std::size_t index) {
     showStoredSize(index);
 }
 
-/// What the box shows is what is applied: a size beyond any is told, as a delay that is too long, and a
-/// locked box takes back the stored one.
+/// What the box shows is what is applied: a size that is too large is reported, like a delay that is too
+/// long, and a locked box gets the stored one back.
 void frmProperties::takeSize(std::size_t index) {
     if (sizeIn(*txtMsize[index])) return;
     if (!chkMautosize->isChecked()) zg::raise(ErrorNumber::Overflow);
@@ -230,7 +230,7 @@ void frmProperties::showStoredSize(std::size_t index) {
     txtMsize[index]->setText(QString::number(index == 0 ? marker.PictureWidth : marker.PictureHeight));
 }
 
-/// An accelerator reaches the buttons without leaving the box that is being typed in.
+/// An accelerator presses the button without leaving the box in which the user is typing.
 void frmProperties::checkAll() {
     for (std::size_t i = 0; i < 2; ++i) {
         checkAngle(i);
@@ -253,7 +253,7 @@ void frmProperties::cmdMfont_Click() {
     const auto font = host_.pickFont(current);
     if (!font) return;
     font_ = {font->name, static_cast<float>(font->size), font->bold, font->italic};
-    loading_ = true;  // one change, not one a row
+    loading_ = true;  // one change, not one per row
     fillCharacters(*cmbMstyle, font_);
     loading_ = false;
     changed();

@@ -23,10 +23,10 @@ class frmProperties : public QDialog {
     Q_OBJECT
 
  public:
-    /// The graph must outlive the dialog. Tells when the graph has taken new values.
+    /// The graph must outlive the dialog. The function is called when the graph has new values.
     frmProperties(Host& host, GrapInfo& graph, std::function<void()> applied, QWidget* parent = nullptr);
 
-    /// Hidden first: a field that loses the focus on the way is still read.
+    /// Hidden first: the text of a field that loses the focus meanwhile is still read.
     ~frmProperties() override { hide(); }
 
  private:
@@ -63,7 +63,7 @@ class frmProperties : public QDialog {
     Host& host_;
     GrapInfo& graph_;
     std::function<void()> applied_;
-    MarkerFont font_;  ///< what the font dialog last gave
+    MarkerFont font_;  ///< last result of the font dialog
     bool loading_ = true;
 
     QTabWidget* tbsProp;

@@ -1,4 +1,4 @@
-// The two pages of the properties dialog, laid out.
+// The layout of the two pages of the properties dialog.
 
 #include <QButtonGroup>
 #include <QVBoxLayout>

@@ -9,12 +9,12 @@
 
 namespace zg {
 
-/// Chooses the rose of the file that is on show.
+/// Chooses the displayed rose of the file.
 class frmSelectWindRose : public QDialog {
     Q_OBJECT
 
  public:
-    /// Raises 9 for a file that holds no rose.
+    /// Raises 9 for a file without roses.
     frmSelectWindRose(Host& host, PolarGraph& graph, QWidget* parent = nullptr);
 
  private:

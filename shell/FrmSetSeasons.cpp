@@ -34,7 +34,7 @@ frmSetSeasons::frmSetSeasons(Host& host, QWidget* parent) : QDialog(parent), hos
     for (std::size_t month = 0; month < cboSeason.size(); ++month) {
         const auto click = guarded(host_, [this, month] { cboSeason_Click(month); });
         connect(cboSeason[month], &QComboBox::currentIndexChanged, this, click);
-        // The row that is picked again is a click too.
+        // Selecting the current row again is a click too.
         connect(cboSeason[month], &QComboBox::activated, this, click);
     }
     connect(cmdOk, &QPushButton::clicked, this, guarded(host_, [this] { cmdOK_Click(); }));
@@ -82,7 +82,7 @@ void frmSetSeasons::layOut() {
     buttons->addWidget(cmdCancel);
     grid->addLayout(buttons, static_cast<int>(cboSeason.size()), 0, 1, 3);
     grid->setColumnStretch(2, 1);
-    // The title is long: it should be readable over the dialog.
+    // The title is long and should fit above the dialog.
     setMinimumWidth(fontMetrics().horizontalAdvance(windowTitle()) + 120);
 }
 

@@ -11,7 +11,7 @@
 
 namespace zg {
 
-/// Assigns each month to a season. The start of the program loads and accepts it without showing it.
+/// Assigns each month to a season. The program loads and accepts it at the start without showing it.
 class frmSetSeasons : public QDialog {
     Q_OBJECT
 
@@ -21,7 +21,8 @@ class frmSetSeasons : public QDialog {
     /// Fills the rows from the configuration file.
     void Form_Load();
 
-    /// Checks the rows, takes them over and closes; a faulty row is marked and told, and the dialog stays.
+    /// Checks the rows, stores them and closes; an invalid row is marked and reported, and the dialog stays
+    /// open.
     void cmdOK_Click();
 
  private:

@@ -79,7 +79,7 @@ bool frmSetWindSpeedClasses::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress && qobject_cast<QLineEdit*>(watched) != nullptr) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            focusNextPrevChild(true);  // Enter goes on to the next field and does not accept the dialog
+            focusNextPrevChild(true);  // Enter moves to the next field and does not accept the dialog
             return true;
         }
     }
@@ -112,7 +112,7 @@ ClassTexts frmSetWindSpeedClasses::texts() const {
     return all;
 }
 
-/// Rows before the faulty one have passed; it is marked and told.
+/// Rows before the invalid one have passed; it is marked and reported.
 bool frmSetWindSpeedClasses::refuse(const std::optional<ClassFault>& fault) {
     for (std::size_t row = 0; row < (fault ? fault->row : txtWindSpeedClassMin.size()); ++row)
         clearWhenFilled(row);

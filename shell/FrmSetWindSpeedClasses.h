@@ -21,7 +21,8 @@ class frmSetWindSpeedClasses : public QDialog {
     /// Fills the boxes from the configuration file.
     void Form_Load();
 
-    /// Checks the boxes, takes them over and closes; a faulty one is marked and told, and the dialog stays.
+    /// Checks the boxes, stores them and closes; an invalid one is marked and reported, and the dialog stays
+    /// open.
     void cmdOK_Click();
 
  protected:
@@ -36,8 +37,7 @@ class frmSetWindSpeedClasses : public QDialog {
 
     Host& host_;
     std::array<QLineEdit*, 6> txtWindSpeedClassMin{};
-    std::array<QLabel*, 6>
-        lblWindSpeedClassMax{};  ///< by the row whose minimum they echo; 0 has no place to stand
+    std::array<QLabel*, 6> lblWindSpeedClassMax{};  ///< by the row whose minimum they repeat
     QPushButton* cmdOK;
     QPushButton* cmdCancel;
     QPushButton* cmdDefault;

@@ -73,7 +73,7 @@ void frmSplashScreen::paintEvent(QPaintEvent*) {
     title.setPixelSize(36);
     title.setBold(true);
     painter.setPen(Qt::white);
-    // A desktop font that runs wide must not be cut off.
+    // Prevents a wide desktop font from being cut off.
     while (QFontMetrics(title).horizontalAdvance(QStringLiteral("Zephyrgraph")) > 258 &&
            title.pixelSize() > 12)
         title.setPixelSize(title.pixelSize() - 1);

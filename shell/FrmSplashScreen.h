@@ -8,15 +8,15 @@
 
 namespace zg {
 
-/// What is seen first: the program's name for a moment. Then, or on a click at once, the main window comes,
-/// once. Closing the splash is no click: the main window comes when its time is over.
+/// Shows the program's name for a moment. Then, or on a click at once, the main window appears, once. Closing
+/// the splash is not a click: the main window appears when the time is over.
 class frmSplashScreen : public QWidget {
     Q_OBJECT
 
  public:
     frmSplashScreen(Host& host, std::function<void()> showMain);
 
-    /// Shows itself and waits, events served, until its time is over or it was clicked.
+    /// Shows itself and waits, serving events, until its time is over or it was clicked.
     void run();
 
     bool splashClicked() const { return SplashClicked; }

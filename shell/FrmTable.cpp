@@ -16,7 +16,7 @@
 
 namespace zg {
 
-/// The rows as the list shows them; texts are made only for what is on view.
+/// The rows as the list shows them; texts are created only for visible rows.
 class CurveTableModel : public QAbstractTableModel {
  public:
     CurveTableModel(std::vector<CurveRow> rows, QObject* parent)

@@ -19,8 +19,8 @@ class frmTable : public QDialog {
     Q_OBJECT
 
  public:
-    /// Samples the curve at once and tells of each row; a long one serves events as `serve` does. Raises what
-    /// tabulateCurve does.
+    /// Samples the curve at once and reports each row; a long one serves events through `serve`. Raises the
+    /// errors of tabulateCurve.
     frmTable(Host& host, const GrapInfo& graph, const QPixmap& legend, const std::function<void()>& onRow,
              const SweepWatch::Serve& serve = {}, QWidget* parent = nullptr);
 

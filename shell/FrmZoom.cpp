@@ -43,7 +43,7 @@ frmZoom::frmZoom(Host& host, PolarGraph& graph, QWidget* parent)
     cmbZoom->setAccessibleName(spoken(frame->title()));
     cmbZoom->setEditable(true);
     cmbZoom->setInsertPolicy(QComboBox::NoInsert);
-    cmbZoom->setCompleter(nullptr);  // it would make 125 of a typed 12
+    cmbZoom->setCompleter(nullptr);  // it would change a typed 12 to 125
     cmbZoom->addItems(zoomRows());
     cmbZoom->setCurrentText(QString::number(graph.Zoom()));
     filterKeys(*cmbZoom->lineEdit(), asciiOnly(KeyNumericInteger));

@@ -14,7 +14,7 @@ constexpr std::int32_t centred = 18;
 constexpr std::int32_t smallPicture = 15;
 constexpr double ghostOpacity = 0.35;
 
-/// A size that says nothing is the swatch's own.
+/// Without a size of its own it has that of the swatch.
 void fitPicture(Marker& marker) {
     if (marker.PictureWidth <= 0 || marker.PictureHeight <= 0)
         marker.SetPictureSize(smallPicture, smallPicture);
@@ -25,7 +25,7 @@ void fitPicture(Marker& marker) {
 QPixmap legendSwatch(const Series& series, QSize size, double deviceScale) {
     QImage image(size * deviceScale, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(deviceScale);
-    image.setDotsPerMeterX(3780);  // 96 dots an inch, as on the page
+    image.setDotsPerMeterX(3780);  // 96 dots per inch, as on the page
     image.setDotsPerMeterY(3780);
     image.fill(Qt::transparent);
     if (series.AllowMarker) {
@@ -35,7 +35,7 @@ QPixmap legendSwatch(const Series& series, QSize size, double deviceScale) {
         MarkerPictures pictures;
         if (marker.UsePicture)
             pictures = {loadMarkerPicture(marker.PicturePath), loadMarkerPicture(marker.MaskPicturePath)};
-        if (!pictures.mask) pictures.picture = nullptr;  // it takes both
+        if (!pictures.mask) pictures.picture = nullptr;  // both are required
         marker.Transparent = true;
         QtCanvas canvas(image, size.width(), size.height());
         paintMarker(canvas, {size.width() / 2.0, size.height() / 2.0}, marker, pictures);

@@ -6,7 +6,7 @@
 
 namespace zg {
 
-/// The picture that stands for a graph in the list: its marker in the middle, nothing where it has none.
+/// The picture of a graph in the list: its marker in the middle, empty if it has none.
 QPixmap legendSwatch(const Series& series, QSize size, double deviceScale = 1);
 
 /// A faded copy, for the row of a hidden graph.

@@ -106,7 +106,7 @@ const std::vector<MenuEntry>& menuTree() {
 
 namespace {
 
-/// The menus that are open for further entries while the tree is walked, from the bar's level down.
+/// The menus that are open for further entries while the tree is built, from the bar's level down.
 class MenuBuilder {
  public:
     explicit MenuBuilder(QMenuBar& bar) : bar_(bar) {}
@@ -128,7 +128,7 @@ class MenuBuilder {
         const QString caption = QString::fromLatin1(entry.caption);
         QMenu* menu = nullptr;
         if (open_.empty() && entry.hidden)
-            menu = new QMenu(caption, &bar_);  // a pop-up: it stands on no bar
+            menu = new QMenu(caption, &bar_);  // a context menu: it is not on the bar
         else
             menu = open_.empty() ? bar_.addMenu(caption) : open_.back()->addMenu(caption);
         menu->setObjectName(QString::fromLatin1(entry.name) + QStringLiteral("_menu"));

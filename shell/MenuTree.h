@@ -8,22 +8,22 @@
 
 namespace zg {
 
-/// How an entry of the menu tree shows itself.
+/// The kinds of menu entries.
 enum class EntryKind {
     Menu,     ///< opens a menu of the entries one level deeper
-    Command,  ///< runs
-    Check,    ///< runs and shows a mark of its own
-    Radio,    ///< one of the marked entries around it on the same level
+    Command,  ///< runs a command
+    Check,    ///< runs a command and has a check mark of its own
+    Radio,    ///< one of the checked entries around it on the same level
     Separator,
 };
 
-/// Whether an entry is out of reach while a curve is being painted.
+/// Whether an entry is disabled while a curve is being painted.
 enum class Lock { Never, WhileDrawing };
 
-/// One row of the menu tree. The name is the entry's objectName; an entry of an array has its index behind
+/// One row of the menu tree. The name is the entry's objectName; an entry of an array has its index after
 /// "_".
 struct MenuEntry {
-    int level;  ///< 0 stands on the menu bar
+    int level;  ///< 0 is the menu bar
     EntryKind kind;
     Lock lock;
     const char* name;
@@ -36,8 +36,8 @@ struct MenuEntry {
 /// The whole tree from top to bottom.
 const std::vector<MenuEntry>& menuTree();
 
-/// Makes the menus of the tree on a menu bar. Menus that are hidden there (pop-ups) are made as children of
-/// the bar all the same. Gives the actions by name; a menu's action stands under the menu's name.
+/// Builds the menus of the tree on a menu bar. Hidden menus (context menus) are also created as children of
+/// the bar. Returns the actions by name; a menu's action has the menu's name.
 std::map<std::string, QAction*> buildMenus(QMenuBar& bar);
 
 }  // namespace zg

@@ -19,7 +19,7 @@ int runProgram(Host& host) {
         window = std::make_unique<frmMain>(host);
         guarded(host, [&window] { window->Form_Load(); })();
         window->show();
-        // After the splash has gone.
+        // After the splash has closed.
         QTimer::singleShot(0, window.get(), guarded(host, [&host] {
                                const auto notes = QStandardPaths::AppConfigLocation;
                                tellReadOnlyPlace(host, filePath(QStandardPaths::writableLocation(notes)));
@@ -27,7 +27,7 @@ int runProgram(Host& host) {
     };
     frmSplashScreen splash(host, showMain);
     splash.run();
-    // What ended before the loop began would not end the loop.
+    // An end before the event loop has started would not stop the loop.
     const bool goesOn = window && window->isVisible() && !window->ending();
     return goesOn ? QApplication::exec() : 0;
 }

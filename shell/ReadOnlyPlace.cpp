@@ -17,7 +17,7 @@ bool wasTold(const std::string& notes) {
         for (LineReader lines(notes); !lines.atEnd();)
             if (lines.readLine() == applicationDirectory) return true;
     } catch (const RunTimeError&) {
-        return false;  // there are no notes yet
+        return false;  // no notes yet
     }
     return false;
 }
@@ -30,7 +30,7 @@ void noteAsTold(const std::string& notes) {
         file.writeLine(applicationDirectory);
         file.close();
     } catch (const RunTimeError&) {
-        return;  // it is told again at the next start
+        return;  // the user is told again at the next start
     }
 }
 

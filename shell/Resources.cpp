@@ -4,14 +4,15 @@
 
 #include "platform/Pointers.h"
 
-// Outside any namespace, as the toolkit's macro wants it: a library's resources have to be asked for.
+// Outside any namespace, as the toolkit's macro requires: the resources of a library must be initialised
+// explicitly.
 static void loadResources() { Q_INIT_RESOURCE(shell); }
 
 namespace zg {
 
 namespace {
 
-/// Where each pointer points, in its 32 by 32 units.
+/// The hot spot of each pointer, in its 32 by 32 units.
 const std::map<int, QPoint>& hotSpots() {
     static const std::map<int, QPoint> spots = {{101, {6, 26}},  {103, {16, 16}}, {104, {16, 16}},
                                                 {105, {17, 18}}, {106, {18, 19}}, {107, {16, 16}},

@@ -7,7 +7,7 @@
 
 namespace zg {
 
-/// One of the program's own icons by its file name without ending; sharp at any scale.
+/// One of the program's own icons by its file name without extension; sharp at any scale.
 QIcon programIcon(const char* name);
 
 /// The picture of a pointer by its resource number (101, 103 to 108), with its hot spot; null for other

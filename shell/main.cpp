@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Needs no display, and is asked for by those who have none.
+/// Needs no display, and is used where there is none.
 bool isAnswered(int argc, char** argv) {
     const std::string word = argc == 2 ? argv[1] : "";
     if (word == "--version") std::printf("zephyrgraph %s\n", zg::versionNumber);

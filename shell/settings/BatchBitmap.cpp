@@ -10,7 +10,7 @@ std::string asFileName(std::string_view text) {
     constexpr std::string_view refused = "/\\:*?\"<>|";
     constexpr char lowest = ' ';
 #else
-    constexpr std::string_view refused = "/\\";  // "\" parts directories in this program everywhere
+    constexpr std::string_view refused = "/\\";  // "\" separates directories everywhere in this program
     constexpr char lowest = '\x01';
 #endif
     std::string name(text);

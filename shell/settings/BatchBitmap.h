@@ -5,10 +5,10 @@
 
 namespace zg {
 
-/// The text as a file's name: separators, and characters that file systems cannot hold, become "_".
+/// The text as a file name: separators, and characters that file systems do not allow, become "_".
 std::string asFileName(std::string_view text);
 
-/// Where a batch run saves the rose on show: its directory, then the root and the rose's title as a file's
+/// Where a batch run saves the displayed rose: its directory, then the root and the rose's title as a file
 /// name, then ".bmp".
 std::string batchBitmapPath();
 

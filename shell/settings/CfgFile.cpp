@@ -80,7 +80,7 @@ std::string factoryText() {
     return text;
 }
 
-/// False where the bytes did not reach the file.
+/// False if the bytes did not reach the file.
 bool writeFile(const std::string& path, const std::string& text) {
     try {
         LineWriter file(path);
@@ -92,7 +92,7 @@ bool writeFile(const std::string& path, const std::string& text) {
     }
 }
 
-/// The text is in the file, or stands for it in memory.
+/// Writes the text to the file or, if that fails, keeps it in memory; returns whether it was written.
 bool keep(const std::string& text) {
     const bool written = writeFile(settings.CfgFilePath, text);
     settings.CfgInMemory = written ? std::string() : text;
@@ -115,7 +115,7 @@ void visitLines(Visitor& visit) {
     visit(modPolarGraph.ClassesFromFile);
     visit(modPolarGraph.ClassesInKnots);
     for (float& colour : modPolarGraph.WindClassColor) visit(colour);
-    // The format holds this font twice, and the second copy counts.
+    // The format contains this font twice, and the second copy counts.
     visitFont(visit, modPolarGraph.LabelFont);
     visitFont(visit, modPolarGraph.DirectionFont);
     visitFont(visit, modPolarGraph.PercentFont);

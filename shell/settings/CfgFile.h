@@ -1,20 +1,20 @@
 #pragma once
 
-// Zephyrgraph.cfg: 68 lines, one value each, whose only key is their position. What fails, on reading as on
-// writing, ends with the factory file at CfgFilePath and without a message; the next read finds that file.
-// Where no file can be written there, memory holds what it would hold, until the program ends.
+// Zephyrgraph.cfg: 68 lines, one value each, identified only by position. Any failure, on reading or writing,
+// ends with the factory file at CfgFilePath and without a message; the next read finds that file. If no file
+// can be written there, its text is kept in memory until the program ends.
 
 #include <string>
 
 namespace zg {
 
-/// Fills the settings and the plot's style. Values before a faulty line keep what was read.
+/// Fills in the settings and the plot's style. After an invalid line the values before it remain as read.
 void ReadCfgFile(const std::string& path);
 
-/// Replaces the file by the values as they stand.
+/// Replaces the file by the current values.
 void WriteCfgFile(const std::string& path);
 
-/// Writes the factory lines to CfgFilePath; where that fails they stay in memory.
+/// Writes the factory lines to CfgFilePath; if that fails they stay in memory.
 void WriteDefaultCfgFile();
 
 }  // namespace zg

@@ -36,7 +36,7 @@ std::vector<std::string> readExpressions(const std::string& path) {
         if (records.next() != fileKind) return {};
         while (!records.atEnd()) expressions.push_back(records.next());
     } catch (const RunTimeError&) {
-        // What was read until then is the list.
+        // The list is what was read until then.
     }
     return expressions;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-// The user's own list of expressions: quoted records behind a first one that names the file's kind.
+// The user's own list of expressions: quoted records after a first one that names the file's kind.
 
 #include <string>
 #include <vector>
@@ -10,10 +10,10 @@ namespace zg {
 /// The expressions of the file in their order; none for a file that cannot be read or is of another kind.
 std::vector<std::string> readExpressions(const std::string& path);
 
-/// Replaces the file. False where it could not be written; the old file then stays as it was.
+/// Replaces the file. False if it could not be written; the old file is then unchanged.
 bool writeExpressions(const std::string& path, const std::vector<std::string>& expressions);
 
-/// The texts are the same expression: letter case and blanks do not count.
+/// Whether the texts are the same expression: letter case and blanks do not matter.
 bool sameExpression(const std::string& a, const std::string& b);
 
 }  // namespace zg

@@ -14,7 +14,7 @@ std::string seasonName(const SeasonFields& fields, std::size_t month) {
     return trim(custom ? fields.txtCustomSeason[month] : fields.cboSeason[month]);
 }
 
-/// Number from 1 of a name among the seasons found so far, 0 where it is new.
+/// Number from 1 of a name among the seasons found so far, 0 if it is new.
 std::int16_t seasonNumber(std::string_view name) {
     for (std::int16_t i = 0; i < settings.SeasonCount; ++i)
         if (settings.SeasonNames[static_cast<std::size_t>(i)] == name)
@@ -26,7 +26,7 @@ std::int16_t seasonNumber(std::string_view name) {
 
 SeasonFields defaultSeasonFields() {
     SeasonFields fields;
-    // December opens the winter: shifted by it, each season is three months in a row.
+    // December begins the winter: shifted by one month, each season is three consecutive months.
     for (std::size_t month = 0; month < 12; ++month)
         fields.cboSeason[month] = seasonChoices[(month + 1) % 12 / 3];
     return fields;

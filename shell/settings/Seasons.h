@@ -1,7 +1,7 @@
 #pragma once
 
-// Which season each month belongs to: the rules of the seasons dialog without its window. The start of the
-// program runs them as the dialog does.
+// Which season each month belongs to: the rules of the seasons dialog without its window. The program applies
+// them at its start as the dialog does.
 
 #include <array>
 #include <cstddef>
@@ -12,10 +12,10 @@
 
 namespace zg {
 
-/// What the list of each month offers.
+/// The entries in the list of each month.
 constexpr std::array<std::string_view, 4> seasonChoices = {"Winter", "Spring", "Summer", "Fall"};
 
-/// The entry that would stand for the text beside it. The list does not offer it.
+/// The entry that would select the text beside it. The list does not offer it.
 constexpr std::string_view customSeason = "CUSTOM";
 
 constexpr std::string_view missingCustomSeasonText = "Please enter a CUSTOM season name.";
@@ -26,20 +26,20 @@ struct SeasonFields {
     MonthTexts txtCustomSeason;
 };
 
-/// What "Defaults" puts in the rows.
+/// The texts that "Defaults" puts in the rows.
 SeasonFields defaultSeasonFields();
 
-/// The rows as the dialog opens: the configuration file is read, and a stored season that the list does not
-/// offer leaves the default of its month. A row's custom box is enabled when its text is not empty.
+/// The rows when the dialog opens: the configuration file is read, and a stored season that the list does not
+/// offer leaves the default of its month. A row's custom box is enabled if its text is not empty.
 SeasonFields loadSeasonFields();
 
-/// The first month that asks for a custom season and names none.
+/// The first month with a custom season but no name for it.
 std::optional<std::size_t> firstMissingCustomSeason(const SeasonFields& fields);
 
 /// Season names, count, numbers of the months and their joined text, from the rows.
 void deriveSeasons(const SeasonFields& fields);
 
-/// Takes rows that have passed the check: derives the seasons, stores the rows as they stand and writes the
+/// Accepts rows that have passed the check: derives the seasons, stores the rows unchanged and writes the
 /// configuration file.
 void acceptSeasons(const SeasonFields& fields);
 

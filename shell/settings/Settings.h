@@ -1,7 +1,7 @@
 #pragma once
 
 // The process-wide settings and run values that every dialog reads and writes directly. Fonts, colours, the
-// legend's unit and the working directory live with the plot's tables in modPolarGraph.
+// legend's unit and the working directory are in modPolarGraph, with the plot's tables.
 
 #include <array>
 #include <cstdint>
@@ -14,7 +14,7 @@ using ClassTexts = std::array<std::string, 6>;
 
 struct Settings {
     std::string CfgFilePath;  ///< Zephyrgraph.cfg in the program's directory
-    std::string CfgInMemory;  ///< its lines where they could not be written; "" where they could
+    std::string CfgInMemory;  ///< its lines if they could not be written; "" if they could
 
     std::string DefaultTimeZone;  ///< label of the time zone offered first
     MonthTexts SeasonOfMonth;
@@ -26,21 +26,21 @@ struct Settings {
 
     ClassTexts DefaultWindClassMin = {"0.5", "1.8", "3.3", "5.4", "8.5", "10.8"};
 
-    // Derived values as the control file takes them. They hold from one accepted dialog to the next, whatever
-    // happens to the texts above meanwhile.
-    MonthTexts SeasonNames;  ///< the first SeasonCount count
+    // Derived values in the form for the control file. They remain from one accepted dialog to the next,
+    // whatever happens to the texts above meanwhile.
+    MonthTexts SeasonNames;  ///< the first SeasonCount are used
     std::int16_t SeasonCount = 0;
     std::array<std::int16_t, 12> MonthSeasonIndex{};  ///< from 1
     std::string MonthSeasonString;                    ///< "1,1,2,2,2,3,3,3,4,4,4,1"
     std::string WindClassString;                      ///< "0.5,1.8,3.3,5.4,8.5,10.8"
 
-    std::string CurrentFrqPath;  ///< file on show, "" before the first
-    bool DebugFlag = false;      ///< the tick of the About box; nothing else reads it
+    std::string CurrentFrqPath;  ///< displayed file, "" before the first
+    bool DebugFlag = false;      ///< the check mark of the About box; nothing else reads it
 
-    bool BatchMode = false;         ///< the open command takes BatchFRQFilename and asks nothing
+    bool BatchMode = false;         ///< the open command uses BatchFRQFilename and asks nothing
     std::string BatchFRQFilename;   ///< full path
-    std::string BatchRootFilename;  ///< in front of the bitmaps' names
-    std::string BatchDirectory;     ///< where the bitmaps go, with its final separator
+    std::string BatchRootFilename;  ///< prefix of the bitmaps' names
+    std::string BatchDirectory;     ///< directory for the bitmaps, with its final separator
 };
 
 extern Settings settings;

@@ -53,7 +53,7 @@ std::optional<BackgroundPicture> findBackgroundPicture() {
 }
 
 void removeBackgroundPictures() {
-    std::error_code ignored;  // a directory that is not there holds none
+    std::error_code ignored;  // a missing directory has none
     std::vector<std::filesystem::path> pictures;
     for (const auto& entry : std::filesystem::directory_iterator(inApplicationDirectory("Bitmap"), ignored))
         if (lcase(entry.path().extension().string()) == ".pgw") pictures.push_back(entry.path());

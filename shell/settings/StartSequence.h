@@ -12,12 +12,12 @@ namespace zg {
 
 constexpr std::string_view cfgFileName = "Zephyrgraph.cfg";
 
-/// Before the splash is seen: finds and reads the configuration, derives seasons as the unseen dialog does
-/// (which reads the file again and rewrites it), and builds the class string. A first start without a file
-/// ends with the factory values in memory and on disk.
+/// Before the splash: finds and reads the configuration, derives seasons like the unseen dialog (which reads
+/// the file again and rewrites it), and builds the class string. A first start without a file ends with the
+/// factory values in memory and on disk.
 void startSettings();
 
-/// The zoom in percent that ZoomPercentText holds; 0 where it starts with no number.
+/// The zoom in percent in ZoomPercentText; 0 if that does not start with a number.
 double startZoom();
 
 /// The outer radius of RadiusText in units of five percent, "25%" is 5; nothing for an empty text.
@@ -26,11 +26,11 @@ std::optional<double> startRadius();
 /// Empties the plot's three label lines.
 void clearLabelLines();
 
-/// Puts the factory minima in memory alone: the file and WindClassString keep the user's own, and what writes
-/// the file before a dialog has read it again stores the factory ones.
+/// Sets the factory minima in memory only: the file and WindClassString keep the user's own, and if the file
+/// is written before a dialog has read it again, it gets the factory ones.
 void resetWindClassMin();
 
-/// Full path of a picture in the program's Bitmap directory, "" where there is none of that name.
+/// Full path of a picture in the program's Bitmap directory, "" if there is none of that name.
 std::string backgroundPicturePath(std::string_view name);
 
 struct BackgroundPicture {
@@ -38,14 +38,13 @@ struct BackgroundPicture {
     std::int16_t style = 0;  ///< 0 to 3 for WP1 to WP4
 };
 
-/// The first of the pictures WP1.pgw to WP4.pgw that is there.
+/// The first existing picture among WP1.pgw to WP4.pgw.
 std::optional<BackgroundPicture> findBackgroundPicture();
 
 /// Removes every .pgw file of the Bitmap directory.
 void removeBackgroundPictures();
 
-/// Where a picture of that style is kept, the directory being made if it is missing. Raises 75 or 76 where it
-/// cannot be.
+/// Path for a picture of that style; creates the directory if necessary. Raises 75 or 76 on failure.
 std::string newBackgroundPicturePath(std::int32_t style);
 
 }  // namespace zg
