@@ -22,9 +22,19 @@ if(ZG_FUZZER)
     target_compile_options(zg_flags INTERFACE -O1 -gline-tables-only -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined)
 endif()
 
-# Windows spend their time in the toolkit, and optimising them takes long.
-if(CMAKE_BUILD_TYPE STREQUAL "Release")
-    set(ZG_FORM_OPTIMISATION -O1)
+# What runs for every point, record or pixel is optimised fully. The rest waits for a person, a disk or the toolkit, and optimising it costs much
+# of the time of a build. What a test itself computes is little.
+if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT ZG_FUZZER)
+    set(ZG_HOT_OPTIMISATION -O3)
+    set(ZG_PLAIN_OPTIMISATION -O1)
+    set(ZG_FORM_OPTIMISATION -O0)
+endif()
+set(ZG_TEST_OPTIMISATION -O0)
+
+# The compiler collects its garbage when its heap has grown by this many per cent of at least this many KiB: with large precompiled headers it
+# would look through them again and again.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_compile_options(--param=ggc-min-expand=1000 --param=ggc-min-heapsize=1000000)
 endif()
 
 include(${CMAKE_CURRENT_LIST_DIR}/Precompiled.cmake)
@@ -51,10 +61,8 @@ function(zg_library name)
     endif()
     if(ARG_QT)
         set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)
-        target_compile_options(${name} PRIVATE ${ZG_FORM_OPTIMISATION})
         zg_compile_together(${name} zg_pch_qt)
-    elseif(ARG_HOT AND CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT ZG_FUZZER)
-        target_compile_options(${name} PRIVATE -O3)
+    elseif(ARG_HOT)
         zg_compile_together(${name} zg_pch_hot)
     else()
         zg_compile_together(${name} zg_pch_plain)

@@ -2,9 +2,10 @@
 # rely on these, which a build with -DZG_PRECOMPILED=OFF verifies.
 option(ZG_PRECOMPILED "Compile the headers of the standard library, the toolkit and the test framework once" ON)
 
-# zg_precompiled(NAME LINKS ... HEADERS ...): a kind. Targets that use it must be compiled with the same options.
+# zg_precompiled(NAME LINKS ... OPTIONS ... HEADERS ...): a kind. All targets of the kind are compiled with its options.
 function(zg_precompiled name)
     cmake_parse_arguments(ARG "" "" "LINKS;OPTIONS;HEADERS" ${ARGN})
+    set_property(GLOBAL PROPERTY ${name}_OPTIONS ${ARG_OPTIONS})
     if(NOT ZG_PRECOMPILED)
         return()
     endif()
@@ -15,7 +16,10 @@ function(zg_precompiled name)
     target_precompile_headers(${name} PRIVATE ${ARG_HEADERS})
 endfunction()
 
+# zg_precompile(TARGET KIND): compile the target with the options and the headers of the kind.
 function(zg_precompile target kind)
+    get_property(options GLOBAL PROPERTY ${kind}_OPTIONS)
+    target_compile_options(${target} PRIVATE ${options})
     if(ZG_PRECOMPILED)
         target_precompile_headers(${target} REUSE_FROM ${kind})
     endif()
@@ -28,13 +32,13 @@ set(ZG_TOOLKIT_HEADERS <QApplication> <QBoxLayout> <QCheckBox> <QComboBox> <QDia
                        <QScrollBar> <QSignalBlocker> <QString> <QTimer> <QToolButton> <QWidget>)
 set(ZG_TOOLKIT_LIBRARIES Qt6::Widgets Qt6::PrintSupport)
 
-zg_precompiled(zg_pch_plain HEADERS ${ZG_STANDARD_HEADERS})
-zg_precompiled(zg_pch_hot OPTIONS -O3 HEADERS ${ZG_STANDARD_HEADERS})
+zg_precompiled(zg_pch_plain OPTIONS ${ZG_PLAIN_OPTIMISATION} HEADERS ${ZG_STANDARD_HEADERS})
+zg_precompiled(zg_pch_hot OPTIONS ${ZG_HOT_OPTIMISATION} HEADERS ${ZG_STANDARD_HEADERS})
 if(ZG_TOOLKIT)
     zg_precompiled(zg_pch_qt LINKS ${ZG_TOOLKIT_LIBRARIES} OPTIONS ${ZG_FORM_OPTIMISATION} HEADERS ${ZG_STANDARD_HEADERS} ${ZG_TOOLKIT_HEADERS})
 endif()
 if(ZG_TESTS)
-    zg_precompiled(zg_pch_test LINKS GTest::gtest OPTIONS -O0 HEADERS ${ZG_STANDARD_HEADERS} <gtest/gtest.h>)
-    zg_precompiled(zg_pch_qt_test LINKS ${ZG_TOOLKIT_LIBRARIES} Qt6::Test GTest::gtest OPTIONS -O0
+    zg_precompiled(zg_pch_test LINKS GTest::gtest OPTIONS ${ZG_TEST_OPTIMISATION} HEADERS ${ZG_STANDARD_HEADERS} <gtest/gtest.h>)
+    zg_precompiled(zg_pch_qt_test LINKS ${ZG_TOOLKIT_LIBRARIES} Qt6::Test GTest::gtest OPTIONS ${ZG_TEST_OPTIMISATION}
                    HEADERS ${ZG_STANDARD_HEADERS} ${ZG_TOOLKIT_HEADERS} <QTest> <gtest/gtest.h>)
 endif()

@@ -1,17 +1,13 @@
 # Fewer than in a library: tests are changed more often than they are built from scratch.
 set(ZG_UNITY_SOURCES 5)
 
-# Tests compute little themselves, and optimising them takes long.
-set(ZG_TEST_OPTIMISATION -O0)
-
-# zg_test_library(NAME [QT] SOURCES a.cpp ... LINKS ...): code that several test programs share.
+# zg_test_library(NAME [QT] SOURCES a.cpp ... LINKS ...): what several test programs share.
 function(zg_test_library name)
     cmake_parse_arguments(ARG "QT" "" "SOURCES;LINKS" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC ${ARG_LINKS} GTest::gtest PRIVATE zg_flags)
     target_compile_definitions(${name} PRIVATE ZG_SOURCE_DIR="${PROJECT_SOURCE_DIR}" ZG_BINARY_DIR="${PROJECT_BINARY_DIR}")
-    target_compile_options(${name} PRIVATE ${ZG_TEST_OPTIMISATION})
     if(ARG_QT)
         zg_compile_together(${name} zg_pch_qt_test)
     else()
@@ -28,7 +24,6 @@ function(zg_test name)
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} zg_test_support zg_flags GTest::gtest)
     target_compile_definitions(${name} PRIVATE ZG_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
                                                ZG_BINARY_DIR="${PROJECT_BINARY_DIR}")
-    target_compile_options(${name} PRIVATE ${ZG_TEST_OPTIMISATION})
     if(ARG_QT)
         target_link_libraries(${name} PRIVATE zg_qt_test_main Qt6::Test)
         zg_compile_together(${name} zg_pch_qt_test)
