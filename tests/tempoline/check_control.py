@@ -14,14 +14,15 @@ from run_support import OLD, day_control, good_day, main, names, needs_aside, ne
 
 
 def case_cut_control(processor, directory):
-    """Truncated after every line: refused with status 2, unless only optional lines are missing."""
+    """Cut before every line with a value: refused with status 2, until nothing that is needed is missing."""
     surface(directory, good_day())
     day_control(directory)
     whole = (directory / "c.inp").read_bytes()
     lines = whole.split(b"\r\n")
     last_needed = max(i for i, line in enumerate(lines) if b"! HR =" in line)
     refused = 0
-    for count in range(len(lines)):
+    cuts = [count for count in range(len(lines)) if b"!" in lines[count]] + [len(lines) - 1]
+    for count in cuts:
         (directory / "c.inp").write_bytes(b"\r\n".join(lines[:count]))
         if count <= last_needed:
             needs_failure(processor, directory, r"^tempoline: c\.inp:", status=2, aside=any(b"! TSFOUT" in line for line in lines[:count]))
@@ -30,7 +31,7 @@ def case_cut_control(processor, directory):
             done = run(processor, directory, "c.inp")
             assert done.returncode == 0, "cut behind line %d: %s" % (count, done.stderr)
             (directory / LISTING).unlink()
-    assert refused == last_needed + 1
+    assert refused == cuts.index(last_needed) + 1
     # within a line
     (directory / "c.inp").write_bytes(whole[:whole.index(b"! WSBIN") + 12])
     needs_failure(processor, directory, r"c\.inp:\d+: WSBIN: the value has no \"!\" at its end", status=2)

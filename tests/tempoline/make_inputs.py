@@ -180,10 +180,10 @@ def m3d(paths, projection=DEGREES):
                  "%s %d 4 3 2" % (moments[0].strftime("%Y%m%d%H"), len(moments)), "3 2 6 4 1 2 -75 -73 40 41", "0.99", "0.95"]
         lines += ["%d %d %.3f %.3f 100 5" % (i, j, 40 + 0.25 * (j - 1), -75 + 0.25 * (i - 1)) for i, j in cells]
         for moment in moments:
+            stamp = moment.strftime("%Y%m%d%H")
             for i, j in cells:
                 ten = winds.next()
-                lines.append("%s %d %d 1010.0 0.0 0 0.0 0.0 280.0 4.0 %s %s 280.0" %
-                             (moment.strftime("%Y%m%d%H"), i, j, ten[1], ten[0]))
+                lines.append("%s %d %d 1010.0 0.0 0 0.0 0.0 280.0 4.0 %s %s 280.0" % (stamp, i, j, ten[1], ten[0]))
                 for height in (20.0 + i, 80.0 + j):
                     speed, direction = winds.next()
                     lines.append("  1000.0 %.1f 280.0 %s %s 0.0 80 4.0" % (height, direction, speed))

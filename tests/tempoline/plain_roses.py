@@ -2,6 +2,7 @@
 
 Everything is read whole and kept in lists; a step looks at all records that touch it. Times are Python's own.
 """
+import functools
 import math
 import re
 from datetime import datetime, timedelta
@@ -26,6 +27,12 @@ def control_of(path):
 def zone_of(text):
     sign = -1 if text[3] == "-" else 1
     return sign * timedelta(hours=int(text[4:6]), minutes=int(text[6:8]))
+
+
+@functools.lru_cache(maxsize=1)  # the records of one hour come together
+def day_and_hour(text):
+    """YYYYMMDDHH, where HH may be 24."""
+    return datetime.strptime(text[:8], "%Y%m%d") + timedelta(hours=int(text[8:]))
 
 
 class Request:
@@ -308,7 +315,7 @@ def m3d(paths, requests, zone, single):
             hour = {}
             for _ in range(cells):
                 fields = lines[at].split()
-                stamp = datetime.strptime(fields[0][:8], "%Y%m%d") + timedelta(hours=int(fields[0][8:]))
+                stamp = day_and_hour(fields[0])
                 column = [[value_of(text) for text in line.split()] for line in lines[at + 1:at + 1 + levels]]
                 hour[int(fields[1]), int(fields[2])] = ((value_of(fields[11]), value_of(fields[10])),
                                                         [(c[1], c[4], c[3]) for c in column])
