@@ -69,6 +69,16 @@ std::string DirOf(std::string_view path, char separator) {
     return std::string(at == std::string_view::npos ? std::string_view() : path.substr(0, at));
 }
 
+bool endsInSeparator(std::string_view path, char separator) {
+    return path.ends_with(separator) || path.ends_with('\\');
+}
+
+std::string withSeparator(std::string_view directory, char separator) {
+    std::string out(directory);
+    if (!endsInSeparator(directory, separator)) out += separator;
+    return out;
+}
+
 std::string DriveOf(std::string_view path) {
     path = trimmed(path);
     return std::string(path.substr(0, path.find(':'))) + ":";

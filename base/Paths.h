@@ -28,6 +28,12 @@ std::string FileNameOf(std::string_view path, char separator = pathSeparator);
 /// The text before the last separator, without it; "" if there is none.
 std::string DirOf(std::string_view path, char separator = pathSeparator);
 
+/// Whether the path ends with the separator or with "\".
+bool endsInSeparator(std::string_view path, char separator = pathSeparator);
+
+/// The path with the separator at its end; a final separator or "\" that is already there is not doubled.
+std::string withSeparator(std::string_view directory, char separator = pathSeparator);
+
 /// The trimmed path up to and including the first ":"; a path without one gives the whole path followed by
 /// ":".
 std::string DriveOf(std::string_view path);

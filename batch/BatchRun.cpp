@@ -1,11 +1,11 @@
 #include "batch/BatchRun.h"
 
 #include "base/Numbers.h"
+#include "batch/BatchBitmap.h"
 #include "graph/frq/ModPolarGraph.h"
 #include "graph/script/ScriptError.h"
 #include "processing/Directories.h"
-#include "shell/settings/BatchBitmap.h"
-#include "shell/settings/Settings.h"
+#include "settings/Settings.h"
 
 namespace zg {
 

@@ -12,8 +12,8 @@
 #include "batch/BatchRun.h"
 #include "export/ExportRoses.h"
 #include "platform/QtHost.h"
+#include "settings/Settings.h"
 #include "shell/FrmMain.h"
-#include "shell/settings/Settings.h"
 
 namespace {
 

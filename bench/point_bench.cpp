@@ -7,8 +7,8 @@
 #include <filesystem>
 #include <fstream>
 
-#include "dialogs/point/AermetPeriod.h"
-#include "dialogs/point/MonitorHeader.h"
+#include "headers/AermetPeriod.h"
+#include "headers/MonitorHeader.h"
 
 namespace {
 

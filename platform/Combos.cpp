@@ -1,7 +1,7 @@
 #include "platform/Combos.h"
 
+#include "headers/Zones.h"
 #include "platform/QtText.h"
-#include "processing/Zones.h"
 
 namespace zg {
 

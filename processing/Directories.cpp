@@ -15,17 +15,7 @@ namespace {
 /// No longer path can be opened, and walking up its levels would only cost time.
 constexpr std::size_t longestPath = 4096;
 
-bool endsInSeparator(std::string_view path, char separator) {
-    return path.ends_with(separator) || path.ends_with('\\');
-}
-
 }  // namespace
-
-std::string withSeparator(std::string_view directory, char separator) {
-    std::string out(directory);
-    if (!endsInSeparator(directory, separator)) out += separator;
-    return out;
-}
 
 bool isOutputDirectory(std::string_view typed) {
     const std::string directory = trim(typed);

@@ -21,9 +21,6 @@ struct FileCounts {
 
 extern FileCounts fileCounts;
 
-/// The path with a separator at its end; an existing final separator or "\" is not doubled.
-std::string withSeparator(std::string_view directory, char separator = pathSeparator);
-
 /// Whether the text of an output directory field names a directory, surrounding blanks ignored. Blanks alone
 /// do not, even after the field was left and got its final separator: they must not mean the root.
 bool isOutputDirectory(std::string_view typed);

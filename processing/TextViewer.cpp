@@ -6,7 +6,6 @@
 #include "base/Lines.h"
 #include "base/RunTimeError.h"
 #include "processing/BatchFile.h"
-#include "processing/Directories.h"
 #include "processing/Wait.h"
 
 namespace zg {

@@ -3,8 +3,8 @@
 #include <QPushButton>
 
 #include "platform/Errors.h"
-#include "shell/settings/CfgFile.h"
-#include "shell/settings/Settings.h"
+#include "settings/CfgFile.h"
+#include "settings/Settings.h"
 
 namespace zg {
 

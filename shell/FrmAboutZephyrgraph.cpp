@@ -4,8 +4,8 @@
 #include <QVBoxLayout>
 
 #include "platform/Captions.h"
+#include "settings/Settings.h"
 #include "shell/Resources.h"
-#include "shell/settings/Settings.h"
 
 namespace zg {
 

@@ -8,7 +8,6 @@
 #include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/QtText.h"
-#include "processing/Directories.h"
 
 namespace zg {
 

@@ -6,9 +6,9 @@
 #include "base/Numbers.h"
 #include "platform/Errors.h"
 #include "platform/QtText.h"
+#include "settings/CfgFile.h"
+#include "settings/Settings.h"
 #include "shell/DialogButtons.h"
-#include "shell/settings/CfgFile.h"
-#include "shell/settings/Settings.h"
 
 namespace zg {
 

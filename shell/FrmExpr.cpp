@@ -10,7 +10,7 @@
 #include "platform/Errors.h"
 #include "platform/FormParts.h"
 #include "platform/QtText.h"
-#include "shell/settings/ExprFile.h"
+#include "settings/ExprFile.h"
 
 namespace zg {
 

@@ -14,12 +14,12 @@
 #include "platform/Memory.h"
 #include "platform/QtPicture.h"
 #include "platform/QtText.h"
+#include "settings/CfgFile.h"
+#include "settings/Settings.h"
 #include "shell/FrmComment.h"
 #include "shell/MenuTree.h"
 #include "shell/Resources.h"
-#include "shell/settings/CfgFile.h"
-#include "shell/settings/Settings.h"
-#include "shell/settings/StartSequence.h"
+#include "shell/StartSequence.h"
 
 namespace zg {
 

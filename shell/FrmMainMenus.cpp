@@ -9,6 +9,7 @@
 
 #include "base/Numbers.h"
 #include "base/Paths.h"
+#include "batch/BatchBitmap.h"
 #include "batch/FrmBatchMode.h"
 #include "batch/FrmCreateReport.h"
 #include "dialogs/gridded/ClosedLibraries.h"
@@ -21,6 +22,8 @@
 #include "platform/Errors.h"
 #include "platform/QtText.h"
 #include "processing/TextViewer.h"
+#include "settings/CfgFile.h"
+#include "settings/Settings.h"
 #include "shell/FrmAboutZephyrgraph.h"
 #include "shell/FrmAddLabel.h"
 #include "shell/FrmAspect.h"
@@ -34,9 +37,6 @@
 #include "shell/FrmSetWindSpeedClasses.h"
 #include "shell/FrmZoom.h"
 #include "shell/MenuTree.h"
-#include "shell/settings/BatchBitmap.h"
-#include "shell/settings/CfgFile.h"
-#include "shell/settings/Settings.h"
 
 namespace zg {
 

@@ -13,7 +13,7 @@
 #include "platform/Pickers.h"
 #include "platform/QtPicture.h"
 #include "platform/QtText.h"
-#include "shell/settings/StartSequence.h"
+#include "shell/StartSequence.h"
 
 namespace zg {
 

@@ -7,7 +7,7 @@
 #include <array>
 
 #include "base/Host.h"
-#include "shell/settings/Seasons.h"
+#include "settings/Seasons.h"
 
 namespace zg {
 

@@ -7,7 +7,7 @@
 #include <array>
 
 #include "base/Host.h"
-#include "shell/settings/WindClasses.h"
+#include "settings/WindClasses.h"
 
 namespace zg {
 

@@ -10,9 +10,9 @@
 #include "platform/KeyFilter.h"
 #include "platform/QtText.h"
 #include "processing/KeyFilters.h"
+#include "settings/CfgFile.h"
+#include "settings/Settings.h"
 #include "shell/DialogButtons.h"
-#include "shell/settings/CfgFile.h"
-#include "shell/settings/Settings.h"
 
 namespace zg {
 

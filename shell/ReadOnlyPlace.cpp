@@ -6,7 +6,6 @@
 #include "base/Lines.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
-#include "processing/Directories.h"
 
 namespace zg {
 

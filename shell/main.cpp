@@ -4,12 +4,12 @@
 
 #include "base/Paths.h"
 #include "base/Version.h"
+#include "headers/Stations.h"
 #include "platform/Memory.h"
 #include "platform/QtHost.h"
 #include "platform/QtText.h"
-#include "processing/Stations.h"
 #include "shell/ProgramStart.h"
-#include "shell/settings/StartSequence.h"
+#include "shell/StartSequence.h"
 
 namespace {
 

@@ -4,7 +4,7 @@ the changes that no test noticed.
 
     tools/mutate.py graph/frq                    40 changes
     tools/mutate.py processing --count 100 --seed 7
-    tools/mutate.py dialogs/point --files '*Header*.cpp'
+    tools/mutate.py headers --files '*Header*.cpp'
     tools/mutate.py tempoline --ctest TempolineRoses
     tools/mutate.py graph/frq --survivors        the survivors of its last run once more, after tests were written
     tools/mutate.py graph/frq --list             tells the changes and builds nothing

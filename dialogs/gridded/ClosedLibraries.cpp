@@ -8,13 +8,13 @@
 #include <array>
 #include <memory>
 
+#include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "dialogs/gridded/DatumTable.h"
-#include "dialogs/gridded/GridFileHeader.h"
-#include "dialogs/gridded/InfoView.h"
+#include "headers/GridFileHeader.h"
+#include "headers/InfoView.h"
 #include "platform/QtText.h"
-#include "processing/Directories.h"
 
 namespace zg {
 

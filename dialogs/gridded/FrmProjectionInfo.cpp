@@ -8,7 +8,7 @@
 
 #include "base/Text.h"
 #include "dialogs/gridded/DatumTable.h"
-#include "dialogs/gridded/InfoView.h"
+#include "headers/InfoView.h"
 #include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"

@@ -9,6 +9,7 @@
 #include "base/Paths.h"
 #include "base/Text.h"
 #include "dialogs/gridded/FrmProjectionInfo.h"
+#include "headers/Stations.h"
 #include "platform/Combos.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
@@ -17,8 +18,6 @@
 #include "platform/QtText.h"
 #include "platform/ReadText.h"
 #include "platform/ReasonLabel.h"
-#include "processing/Directories.h"
-#include "processing/Stations.h"
 
 namespace zg {
 

@@ -4,12 +4,12 @@
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "dialogs/gridded/GridWizard.h"
+#include "headers/Stations.h"
+#include "headers/Zones.h"
 #include "processing/Directories.h"
 #include "processing/RunNames.h"
-#include "processing/Stations.h"
-#include "processing/Zones.h"
-#include "shell/settings/CfgFile.h"
-#include "shell/settings/Settings.h"
+#include "settings/CfgFile.h"
+#include "settings/Settings.h"
 
 namespace zg {
 

@@ -4,10 +4,9 @@
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
-#include "processing/Directories.h"
-#include "processing/Zones.h"
-#include "shell/settings/CfgFile.h"
-#include "shell/settings/Settings.h"
+#include "headers/Zones.h"
+#include "settings/CfgFile.h"
+#include "settings/Settings.h"
 
 namespace zg {
 
@@ -103,6 +102,7 @@ bool GridWizard::checkFilled(const char* box, const char* text) {
 
 bool GridWizard::readHeader(const std::string& path) {
     ReadGridHeader(path, variation_.kind);
+    projection = nativeProjection();
     const InfoViewResult& header = modInfoViewDLL.result;
     if (header.errorFlag == 0) return true;
     host_.showBox(

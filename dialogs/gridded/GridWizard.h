@@ -11,8 +11,8 @@
 
 #include "base/Host.h"
 #include "dialogs/gridded/GridView.h"
-#include "dialogs/gridded/InfoView.h"
 #include "dialogs/gridded/Projection.h"
+#include "headers/InfoView.h"
 #include "processing/ControlFile.h"
 #include "processing/ProcessingWindow.h"
 #include "processing/ProcessorRun.h"

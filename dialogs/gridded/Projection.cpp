@@ -1,7 +1,10 @@
 #include "dialogs/gridded/Projection.h"
 
+#include <cmath>
+
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "headers/InfoView.h"
 
 namespace zg {
 
@@ -88,6 +91,10 @@ const ProjectionChoice* find(Test test) {
     return nullptr;
 }
 
+std::string signedText(float degrees, const char* positive, const char* negative) {
+    return singleText(std::fabs(degrees)) + (degrees < 0 ? negative : positive);
+}
+
 }  // namespace
 
 const std::vector<ProjectionChoice>& projectionChoices() {
@@ -144,6 +151,22 @@ void SaveProjection(const ProjectionChoice& choice, const FieldText& text) {
     if (projection.UTMHEM == "Northern") projection.UTMHEM = "N";
     if (projection.UTMHEM == "Southern") projection.UTMHEM = "S";
     projection.DATUM = trim(text("cboCode"));
+}
+
+ProjectionRecord nativeProjection() {
+    const InfoViewResult& r = modInfoViewDLL.result;
+    ProjectionRecord p;
+    p.PMAP = ucase(trim(r.PMAP));
+    p.DATUM = ucase(trim(r.DATUM));
+    p.UTMHEM = ucase(trim(r.UTMHEM));
+    p.FEAST = singleText(r.FEAST);
+    p.FNORTH = singleText(r.FNORTH);
+    p.IUTMZN = std::to_string(r.IUTMZN);
+    p.RLAT0 = signedText(r.RLAT0, "N", "S");
+    p.RLON0 = signedText(r.RLON0, "E", "W");
+    p.XLAT1 = signedText(r.XLAT1, "N", "S");
+    p.XLAT2 = signedText(r.XLAT2, "N", "S");
+    return p;
 }
 
 }  // namespace zg

@@ -24,6 +24,9 @@ class ProjectionCaller {
 extern ProjectionRecord projection;
 extern ProjectionCaller* CallingForm;
 
+/// The projection in the last answer of modInfoViewDLL, in the form of the record.
+ProjectionRecord nativeProjection();
+
 /// A latitude or longitude: its text box, the combo box of its hemisphere, and its member of the record.
 struct AngleField {
     const char* box;

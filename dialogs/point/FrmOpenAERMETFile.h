@@ -1,7 +1,7 @@
 #pragma once
 
-#include "dialogs/point/AermetPeriod.h"
 #include "dialogs/point/StationDialog.h"
+#include "headers/AermetPeriod.h"
 
 namespace zg {
 

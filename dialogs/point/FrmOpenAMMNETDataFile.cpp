@@ -3,12 +3,12 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "dialogs/point/MonitorHeader.h"
+#include "headers/MonitorHeader.h"
+#include "headers/Stations.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
 #include "platform/QtText.h"
 #include "platform/ReadText.h"
-#include "processing/Stations.h"
 
 namespace zg {
 

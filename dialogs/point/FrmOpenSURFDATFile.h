@@ -3,7 +3,7 @@
 #include <QListWidget>
 
 #include "dialogs/point/PointDialog.h"
-#include "dialogs/point/SurfHeader.h"
+#include "headers/SurfHeader.h"
 
 namespace zg {
 

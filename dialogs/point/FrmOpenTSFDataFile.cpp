@@ -1,9 +1,9 @@
 #include "dialogs/point/FrmOpenTSFDataFile.h"
 
-#include "dialogs/point/TsfHeader.h"
+#include "headers/TsfHeader.h"
+#include "headers/Zones.h"
 #include "platform/FieldMarks.h"
 #include "platform/ReadText.h"
-#include "processing/Zones.h"
 
 namespace zg {
 

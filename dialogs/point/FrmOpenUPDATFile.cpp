@@ -6,7 +6,8 @@
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
-#include "dialogs/point/SurfNames.h"
+#include "headers/SurfNames.h"
+#include "headers/Zones.h"
 #include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
@@ -16,7 +17,6 @@
 #include "processing/Directories.h"
 #include "processing/KeyFilters.h"
 #include "processing/RunNames.h"
-#include "processing/Zones.h"
 
 namespace zg {
 

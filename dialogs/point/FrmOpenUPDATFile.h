@@ -1,7 +1,7 @@
 #pragma once
 
 #include "dialogs/point/PointDialog.h"
-#include "dialogs/point/UpHeader.h"
+#include "headers/UpHeader.h"
 
 namespace zg {
 

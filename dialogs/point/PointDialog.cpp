@@ -6,6 +6,7 @@
 
 #include "base/Paths.h"
 #include "base/Text.h"
+#include "headers/Zones.h"
 #include "platform/Captions.h"
 #include "platform/Combos.h"
 #include "platform/Errors.h"
@@ -17,9 +18,8 @@
 #include "platform/ReadText.h"
 #include "processing/Directories.h"
 #include "processing/RunNames.h"
-#include "processing/Zones.h"
-#include "shell/settings/CfgFile.h"
-#include "shell/settings/Settings.h"
+#include "settings/CfgFile.h"
+#include "settings/Settings.h"
 
 namespace zg {
 

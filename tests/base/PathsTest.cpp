@@ -178,4 +178,14 @@ TEST(InApplicationDirectory, JoinsWithTheSeparator) {
 }
 
 }  // namespace
+TEST(WithSeparatorTest, AddsOneWhereNoneIs) {
+    EXPECT_EQ(withSeparator("C:\\work", '\\'), "C:\\work\\");
+    EXPECT_EQ(withSeparator("C:\\work\\", '\\'), "C:\\work\\");
+    EXPECT_EQ(withSeparator("/data", '/'), "/data/");
+    EXPECT_EQ(withSeparator("/data/", '/'), "/data/");
+    EXPECT_EQ(withSeparator("/data\\", '/'), "/data\\") << "a path typed elsewhere keeps its own";
+    EXPECT_EQ(withSeparator("/data/", '\\'), "/data/\\");
+    EXPECT_EQ(withSeparator("", '\\'), "\\");
+}
+
 }  // namespace zg

@@ -5,9 +5,9 @@
 #include <filesystem>
 
 #include "base/RunTimeError.h"
+#include "batch/BatchBitmap.h"
 #include "graph/frq/ModPolarGraph.h"
-#include "shell/settings/BatchBitmap.h"
-#include "shell/settings/Settings.h"
+#include "settings/Settings.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 

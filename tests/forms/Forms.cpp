@@ -22,9 +22,11 @@
 #include "dialogs/point/FrmOpenSURFDATFile.h"
 #include "dialogs/point/FrmOpenTSFDataFile.h"
 #include "dialogs/point/FrmOpenUPDATFile.h"
+#include "headers/Stations.h"
+#include "headers/Zones.h"
 #include "platform/ReasonLabel.h"
-#include "processing/Stations.h"
-#include "processing/Zones.h"
+#include "settings/CfgFile.h"
+#include "settings/Settings.h"
 #include "shell/FrmAboutZephyrgraph.h"
 #include "shell/FrmAddLabel.h"
 #include "shell/FrmAspect.h"
@@ -44,10 +46,8 @@
 #include "shell/FrmSplashScreen.h"
 #include "shell/FrmTable.h"
 #include "shell/FrmZoom.h"
-#include "shell/settings/CfgFile.h"
-#include "shell/settings/Settings.h"
-#include "shell/settings/StartSequence.h"
-#include "tests/dialogs/gridded/GridFiles.h"
+#include "shell/StartSequence.h"
+#include "tests/headers/GridFiles.h"
 
 namespace zg {
 

@@ -1,6 +1,6 @@
 // Any bytes as a gridded file of either format: gives a header, or a message that says what is wrong.
 
-#include "dialogs/gridded/GridFileHeader.h"
+#include "headers/GridFileHeader.h"
 #include "tests/fuzz/Fuzz.h"
 #include "tests/fuzz/PointFuzz.h"
 

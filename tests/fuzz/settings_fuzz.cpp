@@ -3,9 +3,9 @@
 
 #include "base/Lines.h"
 #include "base/Paths.h"
-#include "shell/settings/CfgFile.h"
-#include "shell/settings/ExprFile.h"
-#include "shell/settings/Settings.h"
+#include "settings/CfgFile.h"
+#include "settings/ExprFile.h"
+#include "settings/Settings.h"
 #include "tests/fuzz/Fuzz.h"
 #include "tests/fuzz/PointFuzz.h"
 

@@ -1,6 +1,6 @@
 // Any bytes as a file of this format: gives its contents or a RunTimeError, and nothing else.
 
-#include "dialogs/point/SurfHeader.h"
+#include "headers/SurfHeader.h"
 #include "tests/fuzz/Fuzz.h"
 #include "tests/fuzz/PointFuzz.h"
 

@@ -2,8 +2,8 @@
 // rows, or none.
 
 #include "graph/control/SuiteConfiguration.h"
-#include "processing/Stations.h"
-#include "processing/Zones.h"
+#include "headers/Stations.h"
+#include "headers/Zones.h"
 #include "tests/fuzz/Fuzz.h"
 #include "tests/fuzz/PointFuzz.h"
 

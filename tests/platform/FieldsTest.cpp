@@ -14,6 +14,7 @@
 #include <QTest>
 
 #include "base/Paths.h"
+#include "headers/Zones.h"
 #include "platform/Captions.h"
 #include "platform/Combos.h"
 #include "platform/FieldMarks.h"
@@ -23,7 +24,6 @@
 #include "platform/QtText.h"
 #include "platform/ReadText.h"
 #include "processing/KeyFilters.h"
-#include "processing/Zones.h"
 #include "tests/support/Raises.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"

@@ -11,16 +11,6 @@ namespace {
 
 using namespace zg;
 
-TEST(WithSeparatorTest, AddsOneWhereNoneIs) {
-    EXPECT_EQ(withSeparator("C:\\work", '\\'), "C:\\work\\");
-    EXPECT_EQ(withSeparator("C:\\work\\", '\\'), "C:\\work\\");
-    EXPECT_EQ(withSeparator("/data", '/'), "/data/");
-    EXPECT_EQ(withSeparator("/data/", '/'), "/data/");
-    EXPECT_EQ(withSeparator("/data\\", '/'), "/data\\") << "a path typed elsewhere keeps its own";
-    EXPECT_EQ(withSeparator("/data/", '\\'), "/data/\\");
-    EXPECT_EQ(withSeparator("", '\\'), "\\");
-}
-
 TEST(IsOutputDirectoryTest, BlanksRoundItDoNotCountAndBlanksAloneAreNone) {
     const TempDirectory temp;
     EXPECT_TRUE(isOutputDirectory(temp.path()));

@@ -5,7 +5,7 @@
 #include <QLabel>
 #include <QTest>
 
-#include "shell/settings/Settings.h"
+#include "settings/Settings.h"
 
 namespace zg {
 namespace {

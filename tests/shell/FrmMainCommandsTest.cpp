@@ -11,10 +11,10 @@
 #include <filesystem>
 
 #include "base/Paths.h"
+#include "settings/CfgFile.h"
+#include "settings/Settings.h"
 #include "shell/FrmMain.h"
-#include "shell/settings/CfgFile.h"
-#include "shell/settings/Settings.h"
-#include "shell/settings/StartSequence.h"
+#include "shell/StartSequence.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 

@@ -14,9 +14,9 @@
 #include "base/Lines.h"
 #include "base/Paths.h"
 #include "platform/QtText.h"
+#include "settings/Settings.h"
 #include "shell/FrmMain.h"
-#include "shell/settings/Settings.h"
-#include "shell/settings/StartSequence.h"
+#include "shell/StartSequence.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 

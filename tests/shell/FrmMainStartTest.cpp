@@ -10,10 +10,10 @@
 
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
+#include "settings/CfgFile.h"
+#include "settings/Settings.h"
 #include "shell/FrmMain.h"
-#include "shell/settings/CfgFile.h"
-#include "shell/settings/Settings.h"
-#include "shell/settings/StartSequence.h"
+#include "shell/StartSequence.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 

@@ -5,8 +5,8 @@
 #include <QTest>
 
 #include "base/Paths.h"
-#include "shell/settings/Settings.h"
-#include "shell/settings/StartSequence.h"
+#include "settings/Settings.h"
+#include "shell/StartSequence.h"
 #include "tests/support/Pixels.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"

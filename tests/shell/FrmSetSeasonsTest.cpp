@@ -10,9 +10,9 @@
 #include "graph/frq/ModPolarGraph.h"
 #include "platform/Captions.h"
 #include "platform/FieldMarks.h"
-#include "shell/settings/CfgFile.h"
-#include "shell/settings/Settings.h"
-#include "shell/settings/StartSequence.h"
+#include "settings/CfgFile.h"
+#include "settings/Settings.h"
+#include "shell/StartSequence.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 

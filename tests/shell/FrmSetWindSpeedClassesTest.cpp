@@ -10,8 +10,8 @@
 #include "base/Paths.h"
 #include "graph/frq/ModPolarGraph.h"
 #include "platform/FieldMarks.h"
-#include "shell/settings/Settings.h"
-#include "shell/settings/StartSequence.h"
+#include "settings/Settings.h"
+#include "shell/StartSequence.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 

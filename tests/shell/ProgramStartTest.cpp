@@ -9,9 +9,9 @@
 #include <QTimer>
 
 #include "base/Paths.h"
+#include "settings/Settings.h"
 #include "shell/FrmMain.h"
-#include "shell/settings/Settings.h"
-#include "shell/settings/StartSequence.h"
+#include "shell/StartSequence.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 

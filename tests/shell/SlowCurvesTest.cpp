@@ -10,9 +10,9 @@
 #include <QTreeWidget>
 
 #include "base/Paths.h"
+#include "settings/Settings.h"
 #include "shell/FrmMain.h"
-#include "shell/settings/Settings.h"
-#include "shell/settings/StartSequence.h"
+#include "shell/StartSequence.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 

@@ -8,6 +8,8 @@
 #include <QTimer>
 
 #include "base/Paths.h"
+#include "settings/CfgFile.h"
+#include "settings/Settings.h"
 #include "shell/FrmAboutZephyrgraph.h"
 #include "shell/FrmAspect.h"
 #include "shell/FrmChangeDir.h"
@@ -15,9 +17,7 @@
 #include "shell/FrmMain.h"
 #include "shell/FrmSplashScreen.h"
 #include "shell/FrmZoom.h"
-#include "shell/settings/CfgFile.h"
-#include "shell/settings/Settings.h"
-#include "shell/settings/StartSequence.h"
+#include "shell/StartSequence.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "dialogs/point/TsfHeader.h"
 #include "graph/frq/OpenFreqFile.h"
+#include "headers/TsfHeader.h"
 #include "tempoline/Interrupt.h"
 #include "tempoline/Merge.h"
 #include "tests/support/TestHost.h"

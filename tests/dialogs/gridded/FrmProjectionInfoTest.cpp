@@ -8,7 +8,7 @@
 
 #include "base/Paths.h"
 #include "dialogs/gridded/DatumTable.h"
-#include "dialogs/gridded/InfoView.h"
+#include "headers/InfoView.h"
 #include "platform/FieldMarks.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"

@@ -1,7 +1,7 @@
 // The wizards through their controls: keys, Cancel, going back, the wait for the processor, names that are
 // not ASCII.
 
-#include "shell/settings/CfgFile.h"
+#include "settings/CfgFile.h"
 #include "tests/dialogs/gridded/GridForms.h"
 
 namespace zg {

@@ -1,4 +1,4 @@
-#include "dialogs/gridded/InfoView.h"
+#include "headers/InfoView.h"
 
 #include <gtest/gtest.h>
 
@@ -8,9 +8,9 @@
 #include "base/RunTimeError.h"
 #include "dialogs/gridded/ClosedLibraries.h"
 #include "dialogs/gridded/DatumTable.h"
-#include "dialogs/gridded/GridFileHeader.h"
 #include "dialogs/gridded/Projection.h"
-#include "tests/dialogs/gridded/GridFiles.h"
+#include "headers/GridFileHeader.h"
+#include "tests/headers/GridFiles.h"
 #include "tests/support/Raises.h"
 #include "tests/support/TempDirectory.h"
 
@@ -36,12 +36,18 @@ class InfoView : public ::testing::Test {
         modInfoViewDLL.infoview = [result](const std::string&, GridKind, InfoViewResult& r) { r = result; };
     }
 
+    /// As the wizard does.
+    static void readHeader(const std::string& path, GridKind kind) {
+        ReadGridHeader(path, kind);
+        projection = nativeProjection();
+    }
+
     TempDirectory directory_;
 };
 
 TEST_F(InfoView, TimesAreTheHourAndTheSecondsWithinIt) {
     answer(someResult());
-    ReadGridHeader("x", GridKind::Ventos);
+    readHeader("x", GridKind::Ventos);
     EXPECT_EQ(modInfoViewDLL.HeaderStartTime, addSeconds(makeDate(2001, 2, 28), 23 * 3600 + 3599));
     EXPECT_EQ(modInfoViewDLL.HeaderEndTime, addSeconds(makeDate(2002, 1, 1), 61));
 }
@@ -60,7 +66,7 @@ TEST_F(InfoView, TheRecordHoldsTheNativeProjection) {
     r.XLAT1 = 0;
     r.XLAT2 = 33.3F;
     answer(r);
-    ReadGridHeader("x", GridKind::Ventos);
+    readHeader("x", GridKind::Ventos);
     EXPECT_EQ(modInfoViewDLL.HeaderTimeZone, "utc-0500");
     EXPECT_EQ(projection.PMAP, "LCC");
     EXPECT_EQ(projection.DATUM, "NAS-C");
@@ -74,7 +80,7 @@ TEST_F(InfoView, TheRecordHoldsTheNativeProjection) {
     EXPECT_EQ(projection.XLAT2, "33.3N");
     r.RLON0 = -97.25F;
     answer(r);
-    ReadGridHeader("x", GridKind::Ventos);
+    readHeader("x", GridKind::Ventos);
     EXPECT_EQ(projection.RLON0, "97.25W");
 }
 
@@ -82,10 +88,10 @@ TEST_F(InfoView, AnImpossibleTimeRaisesAndAFlaggedFileHasNone) {
     InfoViewResult r = someResult();
     r.last.month = 13;
     answer(r);
-    EXPECT_RAISES(13, "Type mismatch", ReadGridHeader("x", GridKind::Ventos));
+    EXPECT_RAISES(13, "Type mismatch", readHeader("x", GridKind::Ventos));
     r.errorFlag = 3;
     answer(r);
-    ReadGridHeader("x", GridKind::Ventos);
+    readHeader("x", GridKind::Ventos);
     EXPECT_EQ(modInfoViewDLL.HeaderStartTime, DateTime());
     EXPECT_EQ(modInfoViewDLL.result.errorFlag, 3);
 }
@@ -96,7 +102,7 @@ TEST_F(InfoView, ACallThatFailsLeavesTheHeaderEmptyAndIsNotTold) {
         r.PMAP = "LCC";
         throw RunTimeError(53, "File not found");
     };
-    ReadGridHeader("x", GridKind::Ventos);
+    readHeader("x", GridKind::Ventos);
     EXPECT_EQ(modInfoViewDLL.HeaderStartTime, DateTime());
     EXPECT_EQ(modInfoViewDLL.HeaderTimeZone, "");
     EXPECT_EQ(modInfoViewDLL.result.errorFlag, 0);
@@ -106,7 +112,7 @@ TEST_F(InfoView, ACallThatFailsLeavesTheHeaderEmptyAndIsNotTold) {
 
 TEST_F(InfoView, TheNotesOfALibraryAreRemoved) {
     directory_.write("infoview.txt", "notes");
-    ReadGridHeader(directory_.write("wind.dat", ventosText()), GridKind::Ventos);
+    readHeader(directory_.write("wind.dat", ventosText()), GridKind::Ventos);
     EXPECT_FALSE(fileExists(directory_.file("infoview.txt")));
     EXPECT_TRUE(fileExists(directory_.file("wind.dat")));
 }
@@ -119,7 +125,7 @@ class ClosedLibraries : public InfoView {
 TEST_F(ClosedLibraries, AHeaderLibraryBesideTheProgramAnswers) {
     lay("infoview_dll.so");
     useLibrariesBeside(directory_.path());
-    ReadGridHeader(" " + directory_.file("any.dat") + "  ", GridKind::M3d);
+    readHeader(" " + directory_.file("any.dat") + "  ", GridKind::M3d);
     const InfoViewResult& r = modInfoViewDLL.result;
     EXPECT_EQ(r.IUTMZN, 32) << "the kind's code and two ones";
     EXPECT_EQ(modInfoViewDLL.HeaderStartTime, addSeconds(makeDate(2001, 2, 28), 23 * 3600 + 3599));
@@ -134,7 +140,7 @@ TEST_F(ClosedLibraries, AHeaderLibraryBesideTheProgramAnswers) {
     EXPECT_EQ(projection.XLAT2, "0.5S");
     EXPECT_EQ(projection.FEAST, "100.5");
     EXPECT_EQ(projection.FNORTH, "-20");
-    ReadGridHeader(directory_.file("bad.dat"), GridKind::Ventos);
+    readHeader(directory_.file("bad.dat"), GridKind::Ventos);
     EXPECT_EQ(r.errorFlag, 7);
     EXPECT_EQ(r.errorText, "not mine: 1");
 }
@@ -153,12 +159,12 @@ TEST_F(ClosedLibraries, ATableLibraryBesideTheProgramAnswers) {
 TEST_F(ClosedLibraries, WhatIsNoLibraryCannotAnswer) {
     directory_.write("infoview_dll.so", "no library");
     useLibrariesBeside(directory_.path());
-    ReadGridHeader(directory_.write("wind.dat", ventosText()), GridKind::Ventos);
+    readHeader(directory_.write("wind.dat", ventosText()), GridKind::Ventos);
     EXPECT_EQ(modInfoViewDLL.HeaderStartTime, DateTime());
     EXPECT_EQ(modInfoViewDLL.result.errorFlag, 0);
     std::filesystem::remove(directory_.file("infoview_dll.so"));
     useLibrariesBeside(directory_.path());
-    ReadGridHeader(directory_.file("wind.dat"), GridKind::Ventos);
+    readHeader(directory_.file("wind.dat"), GridKind::Ventos);
     EXPECT_NE(modInfoViewDLL.HeaderStartTime, DateTime()) << "the program's own reader again";
 }
 

@@ -1,0 +1,29 @@
+#include "batch/BatchBitmap.h"
+
+#include "graph/frq/ModPolarGraph.h"
+#include "settings/Settings.h"
+
+namespace zg {
+
+std::string asFileName(std::string_view text) {
+#ifdef _WIN32
+    constexpr std::string_view refused = "/\\:*?\"<>|";
+    constexpr char lowest = ' ';
+#else
+    constexpr std::string_view refused = "/\\";  // "\" separates directories everywhere in this program
+    constexpr char lowest = '\x01';
+#endif
+    std::string name(text);
+    for (char& character : name) {
+        const bool control = static_cast<unsigned char>(character) < static_cast<unsigned char>(lowest);
+        if (control || refused.find(character) != std::string_view::npos) character = '_';
+    }
+    return name;
+}
+
+std::string batchBitmapPath() {
+    const std::string& title = modPolarGraph.FrqRoseTitle(modPolarGraph.CurrentRose);
+    return settings.BatchDirectory + asFileName(settings.BatchRootFilename + title) + ".bmp";
+}
+
+}  // namespace zg

@@ -1,0 +1,7 @@
+#include "settings/Settings.h"
+
+namespace zg {
+
+Settings settings;
+
+}  // namespace zg

@@ -1,0 +1,71 @@
+#include "shell/StartSequence.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <vector>
+#include "base/Numbers.h"
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
+#include "base/Text.h"
+#include "graph/frq/ModPolarGraph.h"
+#include "settings/CfgFile.h"
+#include "settings/Seasons.h"
+#include "settings/Settings.h"
+#include "settings/WindClasses.h"
+
+namespace zg {
+
+void startSettings() {
+    settings.CfgFilePath = inApplicationDirectory(cfgFileName);
+    ReadCfgFile(settings.CfgFilePath);
+    acceptSeasons(loadSeasonFields());
+    buildWindClassString();
+}
+
+double startZoom() { return val(settings.ZoomPercentText); }
+
+std::optional<double> startRadius() {
+    if (settings.RadiusText.empty()) return std::nullopt;
+    return intFloor(val(trimmed(settings.RadiusText))) / 5;
+}
+
+void clearLabelLines() {
+    modPolarGraph.GraphTitle.clear();
+    modPolarGraph.GraphSubTitle.clear();
+    modPolarGraph.GraphCaption.clear();
+}
+
+void resetWindClassMin() {
+    settings.DefaultWindClassMin = Settings().DefaultWindClassMin;
+    settings.WindClassMin = settings.DefaultWindClassMin;
+}
+
+std::string backgroundPicturePath(std::string_view name) {
+    return existingFile(inApplicationDirectory("Bitmap") + pathSeparator + std::string(name));
+}
+
+std::optional<BackgroundPicture> findBackgroundPicture() {
+    for (std::int16_t style = 0; style < 4; ++style) {
+        const std::string path = backgroundPicturePath("WP" + std::to_string(style + 1) + ".pgw");
+        if (!path.empty()) return BackgroundPicture{path, style};
+    }
+    return std::nullopt;
+}
+
+void removeBackgroundPictures() {
+    std::error_code ignored;  // a missing directory has none
+    std::vector<std::filesystem::path> pictures;
+    for (const auto& entry : std::filesystem::directory_iterator(inApplicationDirectory("Bitmap"), ignored))
+        if (lcase(entry.path().extension().string()) == ".pgw") pictures.push_back(entry.path());
+    for (const auto& picture : pictures) std::filesystem::remove(picture, ignored);
+}
+
+std::string newBackgroundPicturePath(std::int32_t style) {
+    const std::string directory = inApplicationDirectory("Bitmap");
+    std::error_code failed;
+    std::filesystem::create_directories(directory, failed);
+    if (failed) raise(ErrorNumber::PathFileAccessError);
+    return directory + pathSeparator + "WP" + std::to_string(std::clamp(style, 0, 3) + 1) + ".pgw";
+}
+
+}  // namespace zg

@@ -1,7 +1,0 @@
-#include "shell/settings/Settings.h"
-
-namespace zg {
-
-Settings settings;
-
-}  // namespace zg
