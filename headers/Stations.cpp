@@ -58,4 +58,11 @@ void LoadStationData() {
     }
 }
 
+std::string stationNameOf(const std::string& code) {
+    const std::string wanted = ucase(trim(code));
+    for (std::size_t i = 0; i < stations.gsStationCol1.size(); ++i)
+        if (ucase(trim(stations.gsStationCol1[i])) == wanted) return stations.gsStationCol0[i];
+    return {};
+}
+
 }  // namespace zg

@@ -25,4 +25,11 @@ std::string fileBaseOf(const std::string& path) {
     return name.substr(0, name.size() - extensionLength);
 }
 
+std::string surfOutputName(const std::string& fileBase, const std::string& row,
+                           const std::string& stationName, const std::string& period,
+                           const std::string& height) {
+    const std::string start = stationName.empty() ? fileBase + "-" + row : stationName;
+    return start + "_SURF_" + period + "_" + height + "m";
+}
+
 }  // namespace zg

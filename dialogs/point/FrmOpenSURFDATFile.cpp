@@ -4,7 +4,7 @@
 
 #include "base/Paths.h"
 #include "base/Text.h"
-#include "headers/SurfNames.h"
+#include "headers/Stations.h"
 #include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"

@@ -6,7 +6,7 @@
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
-#include "headers/SurfNames.h"
+#include "headers/Stations.h"
 #include "headers/Zones.h"
 #include "platform/Captions.h"
 #include "platform/Errors.h"

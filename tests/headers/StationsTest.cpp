@@ -120,4 +120,11 @@ TEST_F(StationTableTest, EmptyLineEndsTheLoad) {
     EXPECT_EQ(stations.rows, 1U);
 }
 
+TEST_F(StationTableTest, ANameIsFoundByItsCodeInAnyLetterCase) {
+    load(twoRows);
+    EXPECT_EQ(stationNameOf("A1"), "Alpha");
+    EXPECT_EQ(stationNameOf(" B2 "), "Beta Hill");
+    EXPECT_EQ(stationNameOf("a"), "");
+}
+
 }  // namespace
