@@ -78,18 +78,19 @@ std::string MonthName3(std::string_view monthText) {
     return monthNames[static_cast<std::size_t>(number) - 1];
 }
 
+int fullYear(int year) {
+    if (year < 0 || year > 99) return year;
+    return year < 30 ? 2000 + year : 1900 + year;
+}
+
 DateTime parseDate(std::string_view text) {
     const std::string plain = squeezeBlanks(text);
     const Pieces halves = split(plain, ",");
     if (halves.size() != 2) raise(ErrorNumber::TypeMismatch);
     const Pieces monthAndDay = split(trimmed(halves[0]), " ");
     if (monthAndDay.size() != 2) raise(ErrorNumber::TypeMismatch);
-    int year = digitsOnly(trimmed(halves[1]), 4);
-    if (year < 30)
-        year += 2000;
-    else if (year < 100)
-        year += 1900;
-    return makeDate(year, monthOfName(monthAndDay[0]), digitsOnly(monthAndDay[1], 2));
+    return makeDate(fullYear(digitsOnly(trimmed(halves[1]), 4)), monthOfName(monthAndDay[0]),
+                    digitsOnly(monthAndDay[1], 2));
 }
 
 DateTime DateFromParts(std::string_view year, std::string_view month, std::string_view day) {

@@ -35,8 +35,11 @@ TimeOfDay timeOf(DateTime moment);
 /// "Jan" to "Dec" for the number in the text, "" for anything outside 1 to 12.
 std::string MonthName3(std::string_view monthText);
 
-/// "Mar 5 ,1990": month name, day, year. One- and two-digit years 0 to 29 are 20xx, 30 to 99 are 19xx. Raises
-/// 13 for text that is not a date.
+/// A year of one or two digits in full: 0 to 29 are 20xx, 30 to 99 are 19xx; others are unchanged.
+int fullYear(int year);
+
+/// "Mar 5 ,1990": month name, day, and year as fullYear takes it. Raises 13 for text that is not a
+/// date.
 DateTime parseDate(std::string_view text);
 
 /// The date given by year, month and day as texts; raises 13 if they do not form one.

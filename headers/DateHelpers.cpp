@@ -2,6 +2,7 @@
 
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
+#include "formats/Times.h"
 
 namespace zg {
 
@@ -12,7 +13,7 @@ using CumulativeDays = std::array<std::int16_t, 12>;
 /// Days of the year up to the end of each month.
 CumulativeDays cumulativeDays(std::int16_t year) {
     CumulativeDays days = {31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334, 365};
-    if (imod(year, 4) == 0)
+    if (isLeapYearOfDialogs(year))
         for (std::size_t month = 1; month < days.size(); ++month) ++days[month];
     return days;
 }

@@ -8,14 +8,14 @@
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "formats/Kinds.h"
+#include "formats/Times.h"
 
 namespace zg {
 
 namespace {
 
-constexpr const char* version = "2.1";
 constexpr std::int32_t largestGrid = 100'000;  // cells per side; a larger number is invalid
-constexpr std::int32_t secondsOfHour = 3600;
 // The models behind 3D.DAT use a sphere of 6370 km.
 constexpr const char* sphereOfModels = "NWS-84";
 
@@ -100,7 +100,7 @@ class Header {
     Header(const std::string& path, InfoViewResult& result) : lines_(path), r_(result) {}
 
     void read(GridKind kind) {
-        readKind(kind == GridKind::M3d ? "3D.DAT" : "VENTOS.DAT");
+        readKind(formatOf(kind == GridKind::M3d ? InputKind::M3d : InputKind::Ventos));
         const std::int32_t comments = fields("number of comment lines").wholeFrom(0, largestGrid, "number");
         for (std::int32_t i = 0; i < comments; ++i) line("comment");
         if (kind == GridKind::M3d)
@@ -122,13 +122,14 @@ class Header {
     }
 
     /// Examines only the first bytes: another kind of file may have no line end at all.
-    void readKind(const std::string& kind) {
+    void readKind(const Format& format) {
+        const std::string kind(format.firstWord);
         if (!lines_.ahead().starts_with(kind))
             throw Fault{"line 1 (file type): the file does not begin with " + kind};
         Fields first = fields("file type");
         if (const std::string name = first.text("name"); name != kind)
             throw Fault{"line 1 (file type): the file does not begin with " + kind};
-        if (const std::string found = first.text("version"); found != version)
+        if (const std::string found = first.text("version"); !format.hasVersion(found))
             throw Fault{"line 1 (file type): version " + leftN(found, 20) + " is not known"};
     }
 

@@ -3,6 +3,7 @@
 #include "base/Lines.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "formats/Kinds.h"
 #include "headers/HeaderDates.h"
 #include "headers/Zones.h"
 
@@ -10,7 +11,6 @@ namespace zg {
 
 namespace {
 
-constexpr std::string_view fileKind = "SURF.DAT";
 constexpr std::size_t versionEnd = 19;
 constexpr std::size_t versionLength = 3;
 
@@ -25,10 +25,11 @@ class SurfReader {
  private:
     void readLines(SurfHeader& header) {
         const std::string first(lines_.readLine());
-        if (leftN(trim(first), fileKind.size()) != fileKind) return;
+        const Format& format = formatOf(InputKind::Surf);
+        if (!trim(first).starts_with(format.firstWord)) return;
         const std::string version = rightN(leftN(first, versionEnd), versionLength);
         header.outcome = SurfOutcome::UnknownVersion;
-        if (version != "2.0" && version != "2.1") return;
+        if (!format.hasVersion(version)) return;
         skipComments(lines_);
         if (version == "2.1") header.timeZone = trim(lines_.readLine());
         const int stationCount = version == "2.1" ? readPeriod21(header) : readPeriod20(header);

@@ -3,6 +3,7 @@
 #include "base/Lines.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "formats/Kinds.h"
 #include "headers/DateHelpers.h"
 #include "headers/HeaderDates.h"
 
@@ -52,9 +53,9 @@ TsfHeader readLines(LineReader& lines) {
     TsfHeader header;
     const std::string first = ucase(squeezed(lines));
     const Pieces kind = split(first, " ");
-    if (kind.size() == 0 || kind[0] != "TIMESERIES.TSF") return header;
+    if (kind.size() == 0 || kind[0] != formatOf(InputKind::Tsf).firstWord) return header;
     header.outcome = TsfOutcome::Refused;
-    if (kind[1] != "1.3") return header;
+    if (!formatOf(InputKind::Tsf).hasVersion(kind[1])) return header;
     const std::string countLine(lines.readLine());
     const std::int16_t comments = toInt16(trim(split(countLine, "-")[0]));
     for (int i = 0; i < comments; ++i) lines.readLine();

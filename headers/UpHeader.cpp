@@ -3,6 +3,7 @@
 #include "base/Lines.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "formats/Kinds.h"
 #include "headers/DateHelpers.h"
 #include "headers/HeaderDates.h"
 
@@ -26,9 +27,9 @@ UpHeader readLines(Host& host, LineReader& lines) {
     UpHeader header;
     const std::string first = squeezeBlanks(lines.readLine());
     const Pieces kind = split(first, " ");
-    if (kind.size() == 0 || ucase(kind[0]) != "UP.DAT") return header;
+    if (kind.size() == 0 || ucase(kind[0]) != formatOf(InputKind::Up).firstWord) return header;
     header.isUp = true;
-    if (kind[1] != "2.0" && kind[1] != "2.1") return header;
+    if (!formatOf(InputKind::Up).hasVersion(kind[1])) return header;
     const bool withSeconds = kind[1] == "2.1";
     skipComments(lines);
     header.timeZone = withSeconds ? trim(lines.readLine()) : "UTC+0000";

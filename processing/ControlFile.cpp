@@ -13,23 +13,18 @@ namespace {
 
 /// What differs between the dialogs.
 struct Variation {
-    const char* mdata;
     bool blankBeforeIdOfGroup2;  ///< its TSFID line has two blanks that the other one always has
     bool hasOutputs;
     bool capitalSurface;
     bool gridded;
 };
 
-const Variation& variationOf(InputType type) {
-    static const std::map<InputType, Variation> rows = {
-        {InputType::Surf, {"SURF", true, true, false, false}},
-        {InputType::Up, {"UP", false, true, false, false}},
-        {InputType::MonitorW, {"MONITORW", false, true, false, false}},
-        {InputType::AermSfc, {"AERMSFC", false, true, false, false}},
-        {InputType::AermPfl, {"AERMPFL", false, true, true, false}},
-        {InputType::Tsf, {"TSF", false, false, false, false}},
-        {InputType::Ventos, {"VENTOS", false, true, false, true}},
-        {InputType::M3d, {"M3D", false, true, false, true}}};
+const Variation& variationOf(InputKind type) {
+    static const std::map<InputKind, Variation> rows = {
+        {InputKind::Surf, {true, true, false, false}},      {InputKind::Up, {false, true, false, false}},
+        {InputKind::MonitorW, {false, true, false, false}}, {InputKind::AermSfc, {false, true, false, false}},
+        {InputKind::AermPfl, {false, true, true, false}},   {InputKind::Tsf, {false, false, false, false}},
+        {InputKind::Ventos, {false, true, false, true}},    {InputKind::M3d, {false, true, false, true}}};
     return rows.at(type);
 }
 
@@ -87,7 +82,7 @@ std::string activated(std::string_view line, std::string_view key, const std::st
 /// The inert assignments that this run activates, with their values.
 std::vector<std::pair<std::string, std::string>> activeKeys(const ControlFile& v) {
     std::vector<std::pair<std::string, std::string>> keys;
-    if (v.type == InputType::Tsf) keys.emplace_back("ROSEPLT", v.roseName);
+    if (v.type == InputKind::Tsf) keys.emplace_back("ROSEPLT", v.roseName);
     if (!variationOf(v.type).gridded) return keys;
     keys.emplace_back("METSIM", v.METSIM);
     const ProjectionRecord& p = v.projection;
@@ -108,7 +103,7 @@ std::vector<std::pair<std::string, std::string>> activeKeys(const ControlFile& v
     add("XLAT1", p.XLAT1, isOne({"PS", "LCC"}));
     add("XLAT2", p.XLAT2, isOne({"LCC"}));
     add("DATUM", p.DATUM, p.PMAP != "NONE");
-    if (v.type != InputType::M3d) return keys;
+    if (v.type != InputKind::M3d) return keys;
     add("MPROF", v.MPROF, true);
     add("MCELL", v.MCELL, true);
     add("NLU3D", "25", true);
@@ -231,8 +226,6 @@ class Builder {
 };
 
 }  // namespace
-
-const char* mdataOf(InputType type) { return variationOf(type).mdata; }
 
 std::string controlFileBytes(const ControlFile& values) { return Builder(values).bytes(); }
 

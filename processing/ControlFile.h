@@ -9,13 +9,9 @@
 #include <string>
 #include <vector>
 
+#include "formats/Kinds.h"
+
 namespace zg {
-
-/// The eight dialogs that write a control file.
-enum class InputType { Surf, Up, MonitorW, AermSfc, AermPfl, Tsf, Ventos, M3d };
-
-/// The keyword of a type, such as "SURF".
-const char* mdataOf(InputType type);
 
 /// One series that the processor makes.
 struct ControlOutput {
@@ -42,7 +38,7 @@ struct ProjectionRecord {
 };
 
 struct ControlFile {
-    InputType type = InputType::Surf;
+    InputKind type = InputKind::Surf;
     std::string title;
     std::string base;                     ///< of the run's files
     std::vector<std::string> inputFiles;  ///< as in the dialog; gridded dialogs may give several

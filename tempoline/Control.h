@@ -6,17 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "formats/Kinds.h"
 #include "tempoline/Times.h"
 
 namespace zg::tempoline {
-
-enum class InputKind { Surf, Up, MonitorW, AermSfc, AermPfl, Tsf, M3d, Ventos };
-
-/// The MDATA keyword of the kind.
-const char* keywordOf(InputKind kind);
-
-/// Whether outputs are places in a grid rather than stations.
-inline bool isGridded(InputKind kind) { return kind == InputKind::M3d || kind == InputKind::Ventos; }
 
 struct OutputRequest {
     int id = 0;

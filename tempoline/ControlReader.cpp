@@ -18,15 +18,6 @@ constexpr int mostSeasons = 400;  // few enough that an FRQ file of all its rose
 constexpr Seconds longestStep = secondsADay;
 constexpr Seconds mostSteps = 100'000'000;
 
-struct KindWord {
-    InputKind kind;
-    const char* word;
-};
-constexpr KindWord kindWords[] = {{InputKind::Surf, "SURF"},         {InputKind::Up, "UP"},
-                                  {InputKind::MonitorW, "MONITORW"}, {InputKind::AermSfc, "AERMSFC"},
-                                  {InputKind::AermPfl, "AERMPFL"},   {InputKind::Tsf, "TSF"},
-                                  {InputKind::M3d, "M3D"},           {InputKind::Ventos, "VENTOS"}};
-
 class Reader {
  public:
     explicit Reader(const ControlText& text) : keys_(text) {
@@ -51,14 +42,12 @@ class Reader {
  private:
     void readKind() {
         const std::string word = ucase(keys_.text("MDATA"));
-        const auto* found = std::find_if(std::begin(kindWords), std::end(kindWords),
-                                         [&](const KindWord& kind) { return word == kind.word; });
-        const bool known = found != std::end(kindWords);
+        const std::optional<InputKind> known = kindOfMdata(word);
         if (word == "MONITORC" || word == "POSTIME" || word == "FUMAROL")
             throw keys_.failure("MDATA", word + " is air quality input, which is not supported");
         if (word == "M2D") throw keys_.failure("MDATA", "M2D input is not supported");
         if (!known) throw keys_.failure("MDATA", "\"" + word + "\" is no known type of input");
-        control_.kind = found->kind;
+        control_.kind = *known;
         if (keys_.whole("NAQINP", 0, mostInputs) > 0)
             throw keys_.failure("NAQINP", "air quality input is not supported");
         const int roses = keys_.wholeOr("MROSE", 0, 0, 2);
@@ -69,7 +58,7 @@ class Reader {
             throw keys_.failure("MROSE", "a run with MDATA = TSF makes nothing but roses: 1 is needed");
         const int inputs = keys_.whole("NMETINP", 1, mostInputs);
         if (inputs > 1 && !isGridded(control_.kind))
-            throw keys_.failure("NMETINP", std::string(found->word) + " takes one file");
+            throw keys_.failure("NMETINP", std::string(mdataOf(control_.kind)) + " takes one file");
         control_.inputs = keys_.texts("METINP", static_cast<std::size_t>(inputs), "NMETINP");
         for (const std::string& input : control_.inputs) {
             if (input.empty()) throw keys_.failure("METINP", "a file name is missing");
@@ -236,13 +225,6 @@ class Reader {
 };
 
 }  // namespace
-
-const char* keywordOf(InputKind kind) {
-    for (const KindWord& entry : kindWords) {
-        if (entry.kind == kind) return entry.word;
-    }
-    return "";
-}
 
 Control readControl(std::string_view text, const std::string& file) {
     const ControlText assignments = readAssignments(text, file);

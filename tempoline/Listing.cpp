@@ -69,7 +69,7 @@ void Listing::describeControlFile(const Control& control) {
 }
 
 void Listing::describeInput(const Control& control) {
-    line(entryLine("Input type", keywordOf(control.kind)));
+    line(entryLine("Input type", mdataOf(control.kind)));
     for (const std::string& input : control.inputs) line(entryLine("Input file", input + sizeText(input)));
     line(entryLine("Roses", control.wantsRoses ? "FRQ and TAB" : "none"));
     line(entryLine("Series", control.wantsSeries ? "TSF" : "none"));

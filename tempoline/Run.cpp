@@ -48,7 +48,7 @@ std::string readControlText(const std::string& path) {
 }
 
 std::string sourceText(const Control& control) {
-    std::string text = keywordOf(control.kind);
+    std::string text = mdataOf(control.kind);
     for (std::size_t i = 0; i < control.inputs.size() && i < 3; ++i)
         text += " " + FileNameOf(control.inputs[i]);
     if (control.inputs.size() > 3) text += " and " + std::to_string(control.inputs.size() - 3) + " more";
@@ -57,7 +57,7 @@ std::string sourceText(const Control& control) {
 
 /// Files of one name in different directories are different series.
 std::string pathsText(const Control& control) {
-    std::string text = keywordOf(control.kind) + (" " + control.inputs.front());
+    std::string text = mdataOf(control.kind) + (" " + control.inputs.front());
     if (control.inputs.size() > 1)
         text += " to " + control.inputs.back() + ", " + std::to_string(control.inputs.size()) + " files";
     return text;

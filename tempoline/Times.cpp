@@ -2,9 +2,6 @@
 
 #include <array>
 #include <cstdio>
-#include <cstdlib>
-
-#include "base/Text.h"
 
 namespace zg::tempoline {
 
@@ -12,9 +9,6 @@ namespace {
 
 constexpr std::int64_t daysAnEra = 146097;  // 400 years
 constexpr std::int64_t epochDay = 719468;   // from March 1 of year 0 to January 1, 1970
-constexpr Seconds largestOffset = 14 * secondsAnHour;
-
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 }  // namespace
 
@@ -26,13 +20,6 @@ std::int64_t daysFromDate(int year, int month, int day) {
     const std::int64_t dayOfYear = (153 * (month + (month > 2 ? -3 : 9)) + 2) / 5 + day - 1;
     const std::int64_t dayOfEra = yearOfEra * 365 + yearOfEra / 4 - yearOfEra / 100 + dayOfYear;
     return era * daysAnEra + dayOfEra - epochDay;
-}
-
-bool isLeapYear(int year) { return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0; }
-
-int daysOfMonth(int year, int month) {
-    static constexpr std::array<int, 12> lengths = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    return month == 2 && isLeapYear(year) ? 29 : lengths[static_cast<std::size_t>(month - 1)];
 }
 
 Calendar calendarOf(Seconds moment) {
@@ -58,54 +45,12 @@ Calendar calendarOf(Seconds moment) {
     return calendar;
 }
 
-std::string faultOfDate(int year, int month, int day) {
-    if (year < 1 || year > 9999) return "year " + std::to_string(year) + " is not between 1 and 9999";
-    if (month < 1 || month > 12) return "month " + std::to_string(month) + " is not between 1 and 12";
-    if (day < 1 || day > daysOfMonth(year, month))
-        return "day " + std::to_string(day) + " is not in month " + std::to_string(month) + " of " +
-               std::to_string(year);
-    return {};
-}
-
-std::string faultOfHour(int hour, int second) {
-    if (hour < 0 || hour > 24) return "hour " + std::to_string(hour) + " is not between 0 and 24";
-    if (second < 0 || second > secondsAnHour)
-        return "second " + std::to_string(second) + " is not between 0 and 3600 within its hour";
-    return {};
-}
-
 Seconds momentOf(int year, int month, int day, int hour, int second) {
     return daysFromDate(year, month, day) * secondsADay + hour * secondsAnHour + second;
 }
 
 Seconds momentOfJulianDay(int year, int julianDay, int hour, int second) {
     return momentOf(year, 1, 1, hour, second) + (julianDay - 1) * secondsADay;
-}
-
-int fullYear(int year) {
-    if (year < 0 || year > 99) return year;
-    return year >= 50 ? 1900 + year : 2000 + year;
-}
-
-std::optional<Seconds> zoneOffset(std::string_view key) {
-    const std::string text = ucase(trimmed(key));
-    if (text.size() != 8 || text.compare(0, 3, "UTC") != 0 || (text[3] != '+' && text[3] != '-')) return {};
-    for (std::size_t i = 4; i < 8; ++i) {
-        if (!isDigit(text[i])) return {};
-    }
-    const int hours = (text[4] - '0') * 10 + (text[5] - '0');
-    const int minutes = (text[6] - '0') * 10 + (text[7] - '0');
-    const Seconds offset = hours * secondsAnHour + Seconds{minutes} * 60;
-    if (minutes > 59 || offset > largestOffset) return {};
-    return text[3] == '-' ? -offset : offset;
-}
-
-std::string zoneText(Seconds offset) {
-    const Seconds minutes = std::abs(offset) / 60;
-    std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "UTC%c%02d%02d", offset < 0 ? '-' : '+',
-                  static_cast<int>(minutes / 60), static_cast<int>(minutes % 60));
-    return text.data();
 }
 
 std::string periodText(Seconds moment) {

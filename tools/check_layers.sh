@@ -6,27 +6,28 @@ cd "$(dirname "$0")/.."
 fail=0
 
 graph="graph/frq graph/model graph/script graph/render graph/control"
-plain="base $graph headers processing settings"
+plain="base formats $graph headers processing settings"
 
 # folder: the other folders whose headers it may include
 declare -A allowed=(
     [base]=""
+    [formats]="base"
     [graph/frq]="base"
     [graph/model]="base"
     [graph/script]="base"
     [graph/render]="base graph/frq graph/model graph/script"
     [graph/control]="base graph/frq graph/model graph/script graph/render"
-    [headers]="base"
-    [processing]="base"
+    [headers]="base formats"
+    [processing]="base formats"
     [settings]="base $graph"
     [platform]="$plain"
     [dialogs/point]="$plain platform"
     [dialogs/gridded]="$plain platform"
     [batch]="$plain platform"
     [shell]="$plain platform dialogs/point dialogs/gridded batch"
-    [export]="base $graph headers processing platform"
-    [tempoline]="base tempoline/readers"
-    [tempoline/readers]="base tempoline"
+    [export]="base formats $graph headers processing platform"
+    [tempoline]="base formats tempoline/readers"
+    [tempoline/readers]="base formats tempoline"
 )
 without_toolkit="$plain tempoline tempoline/readers"
 

@@ -11,7 +11,7 @@
 namespace zg {
 
 const GridVariation ventosVariation = {.kind = GridKind::Ventos,
-                                       .type = InputType::Ventos,
+                                       .type = InputKind::Ventos,
                                        .form = "frmProcessVENTOSDATFiles",
                                        .fileList = "lstVENTOSDATFiles",
                                        .title = "Generate Wind Rose Plots from VENTOS Data",
@@ -31,7 +31,7 @@ const GridVariation ventosVariation = {.kind = GridKind::Ventos,
 
 const GridVariation m3dVariation = {
     .kind = GridKind::M3d,
-    .type = InputType::M3d,
+    .type = InputKind::M3d,
     .form = "frmProcess3DDATFiles",
     .fileList = "lst3DDATFiles",
     .title = "Generate Wind Rose Plots from MM5 or WRF 3D.DAT Data",

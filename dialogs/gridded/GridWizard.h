@@ -22,7 +22,7 @@ namespace zg {
 /// What differs between the wizards for VENTOS.DAT and 3D.DAT.
 struct GridVariation {
     GridKind kind;
-    InputType type;
+    InputKind type;
     const char* form;  ///< objectName, as is the next
     const char* fileList;
     const char* title;

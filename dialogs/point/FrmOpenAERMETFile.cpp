@@ -32,8 +32,8 @@ frmOpenAERMETFile::frmOpenAERMETFile(Host& host, ProcessStarter& starter, Proces
           *txtStationID);
 }
 
-InputType frmOpenAERMETFile::inputType() const {
-    return isSurface(kind_) ? InputType::AermSfc : InputType::AermPfl;
+InputKind frmOpenAERMETFile::inputType() const {
+    return isSurface(kind_) ? InputKind::AermSfc : InputKind::AermPfl;
 }
 
 std::string frmOpenAERMETFile::stationText() const { return readOrTyped(*txtStationID); }

@@ -17,7 +17,7 @@ class frmOpenAERMETFile : public StationDialog {
 
  private:
     void readFile(const std::string& path) override { ReadAERMETFile(path); }
-    InputType inputType() const override;
+    InputKind inputType() const override;
     std::string stationText() const override;
     std::string stationToLookUp() override;
     bool checkPlace() override;

@@ -16,7 +16,7 @@ class frmOpenAMMNETDataFile : public StationDialog {
 
  private:
     void readFile(const std::string& path) override { ReadMonitorHeader(path); }
-    InputType inputType() const override { return InputType::MonitorW; }
+    InputKind inputType() const override { return InputKind::MonitorW; }
     std::string stationText() const override;
     bool checksTimeStep() const override { return true; }
     void cboStationID_Click();

@@ -146,7 +146,7 @@ void frmOpenSURFDATFile::readValues() {
     const std::string height = typed(txtAnemometerHeight->text());
     const std::string title = trim(typed(txtTitleLine->text()));
     const std::string base = fileBaseOf(path);
-    values_ = sharedValues(InputType::Surf);
+    values_ = sharedValues(InputKind::Surf);
     values_.inputFiles = {path};
     values_.base = base + "_SURF_" + periodText();
     rows_.clear();

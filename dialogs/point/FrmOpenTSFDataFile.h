@@ -16,7 +16,7 @@ class frmOpenTSFDataFile : public StationDialog {
 
  private:
     void readFile(const std::string& path) override { ReadTSFHeader(path); }
-    InputType inputType() const override { return InputType::Tsf; }
+    InputKind inputType() const override { return InputKind::Tsf; }
     std::string stationText() const override;
     std::string stationToLookUp() override { return stationInFile_; }
     bool hasHeightInName() const override { return false; }

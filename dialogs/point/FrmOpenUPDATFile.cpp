@@ -164,7 +164,7 @@ void frmOpenUPDATFile::readValues() {
     const std::string station = readOrTyped(*txtStationID);
     const std::string name = trim(station).empty() ? std::string() : stationNameOf(station);
     runName_ = (name.empty() ? fileBaseOf(path) : name) + "_UP_" + periodText();
-    values_ = sharedValues(InputType::Up);
+    values_ = sharedValues(InputKind::Up);
     values_.inputFiles = {path};
     values_.base = runName_;
     outputs_.clear();

@@ -237,7 +237,7 @@ void PointDialog::chooseTimeZone(const std::string& key) {
 
 std::string PointDialog::outputDirectory() const { return trim(pathIn(*txtOutputDirectory)); }
 
-ControlFile PointDialog::sharedValues(InputType type) const {
+ControlFile PointDialog::sharedValues(InputKind type) const {
     ControlFile v;
     v.type = type;
     v.title = typed(txtTitleLine->text());
@@ -265,7 +265,7 @@ ControlFile PointDialog::sharedValues(InputType type) const {
 }
 
 std::string PointDialog::periodText() const {
-    const ControlFile v = sharedValues(InputType::Surf);
+    const ControlFile v = sharedValues(InputKind::Surf);
     return periodInName(v.IBYR, v.IBMO, v.IBDY, v.IEYR, v.IEMO, v.IEDY);
 }
 

@@ -64,7 +64,7 @@ class PointDialog : public QDialog {
     bool chooseOtherDirectory();
 
     /// The values of the shared fields, as texts.
-    ControlFile sharedValues(InputType type) const;
+    ControlFile sharedValues(InputKind type) const;
     std::string periodText() const;
     std::string outputDirectory() const;
 

@@ -117,7 +117,7 @@ void StationDialog::readValues() {
     values_.inputFiles = {path};
     values_.base = outName_;
     values_.roseName = outName_;
-    if (inputType() != InputType::Tsf)
+    if (inputType() != InputKind::Tsf)
         values_.outputs = {{"1", outName_, trim(values_.title), stationText() + ", 0, 0", height}};
 }
 

@@ -27,7 +27,7 @@ class StationDialog : public PointDialog {
     void build(const Words& words, QWidget& station);
 
     virtual void readFile(const std::string& path) = 0;
-    virtual InputType inputType() const = 0;
+    virtual InputKind inputType() const = 0;
     virtual std::string stationText() const = 0;
     /// The text by which the station's name is looked up; "" for no look-up.
     virtual std::string stationToLookUp() { return stationText(); }

@@ -1,6 +1,7 @@
 #include "tempoline/readers/HeaderLines.h"
 
 #include <array>
+#include <span>
 
 #include "base/Text.h"
 #include "tempoline/Fields.h"
@@ -12,14 +13,26 @@ namespace {
 constexpr int mostComments = 1'000'000;
 constexpr int daysALeapYear = 366;
 
+/// "not 2.1" or "neither 2.0 nor 2.1".
+std::string noneOf(std::span<const std::string_view> versions) {
+    std::string text = versions.size() > 1 ? "neither " : "not ";
+    for (std::size_t i = 0; i < versions.size(); ++i)
+        text += (i > 0 ? " nor " : "") + std::string(versions[i]);
+    return text;
+}
+
 }  // namespace
 
-std::string versionOf(LineSource& lines, std::string_view kind) {
+std::string versionOf(LineSource& lines, InputKind kind) {
+    const Format& format = formatOf(kind);
     std::array<std::string_view, 2> fields;
     const std::size_t count = splitBlanks(lines.need("the kind of the file"), fields);
-    if (count == 0 || ucase(fields[0]) != kind)
-        throw lines.failure("", "this is no file of the kind " + std::string(kind));
-    return count > 1 ? std::string(fields[1]) : std::string();
+    if (count == 0 || ucase(fields[0]) != format.firstWord)
+        throw lines.failure("", "this is no file of the kind " + std::string(format.firstWord));
+    const std::string version(count > 1 ? fields[1] : "");
+    if (!format.hasVersion(version))
+        throw lines.failure("version", "\"" + version + "\" is " + noneOf(format.versions));
+    return version;
 }
 
 int countOf(LineSource& lines, std::string_view what) {

@@ -12,8 +12,9 @@
 
 namespace zg::tempoline {
 
-/// The first line, split at blanks: the name of the format in any letter case, then its version.
-std::string versionOf(LineSource& lines, std::string_view kind);
+/// The version in the first line, which has the first word of the kind in any letter case and then the
+/// version. Throws for a file of another kind and for an unknown version.
+std::string versionOf(LineSource& lines, InputKind kind);
 
 /// A line with a count (text may follow after a hyphen), and that many comment lines after it.
 void skipComments(LineSource& lines);

@@ -81,8 +81,7 @@ class M3d : public InputReader {
     }
 
     void readHeader(LineSource& lines) {
-        const std::string version = versionOf(lines, "3D.DAT");
-        if (version != "2.1") throw lines.failure("version", "\"" + version + "\" is not 2.1");
+        versionOf(lines, InputKind::M3d);
         skipComments(lines);
         lines.need("the flags");
         readProjection(lines, lines.need("the projection"));

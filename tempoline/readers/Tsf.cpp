@@ -45,8 +45,7 @@ class Tsf : public InputReader {
 
  private:
     void readHeader(LineSource& lines) {
-        const std::string version = versionOf(lines, "TIMESERIES.TSF");
-        if (version != "1.3") throw lines.failure("version", "\"" + version + "\" is not 1.3");
+        versionOf(lines, InputKind::Tsf);
         skipComments(lines);
         lines.need("the line behind the comments");
         lines.need("the kind of the data");

@@ -67,10 +67,7 @@ class Up : public InputReader {
 
  private:
     void readHeader(LineSource& lines) {
-        const std::string version = versionOf(lines, "UP.DAT");
-        if (version != "2.0" && version != "2.1")
-            throw lines.failure("version", "\"" + version + "\" is neither 2.0 nor 2.1");
-        hasSeconds_ = version == "2.1";
+        hasSeconds_ = versionOf(lines, InputKind::Up) == "2.1";
         skipComments(lines);
         lines.need("the line behind the comments");
         if (hasSeconds_) fileOffset_ = zoneField(lines, lines.need("the time zone"));

@@ -56,8 +56,7 @@ class Ventos : public InputReader {
 
  private:
     void readHeader(LineSource& lines) {
-        const std::string version = versionOf(lines, "VENTOS.DAT");
-        if (version != "2.1") throw lines.failure("version", "\"" + version + "\" is not 2.1");
+        versionOf(lines, InputKind::Ventos);
         skipComments(lines);
         std::array<std::string_view, 12> fields;
         if (splitBlanks(lines.need("the period"), fields) < fields.size())

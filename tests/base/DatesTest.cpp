@@ -199,5 +199,13 @@ TEST(AddHours, TakesHalves) {
     EXPECT_EQ(addHours({}, 0.4 / 3600).seconds, 0);
 }
 
+TEST(FullYear, TwoDigitsPartAtThirty) {
+    EXPECT_EQ(fullYear(0), 2000);
+    EXPECT_EQ(fullYear(29), 2029);
+    EXPECT_EQ(fullYear(30), 1930);
+    EXPECT_EQ(fullYear(99), 1999);
+    for (const int year : {-1, 100, 1988}) EXPECT_EQ(fullYear(year), year);
+}
+
 }  // namespace
 }  // namespace zg

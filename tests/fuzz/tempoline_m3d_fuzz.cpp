@@ -2,6 +2,6 @@
 #include "tests/fuzz/TempolineFuzz.h"
 
 FUZZ_TARGET(tempoline_m3d) {
-    zg::tempoline::readAnyBytes(zg::tempoline::InputKind::M3d, data, size);
+    zg::tempoline::readAnyBytes(zg::InputKind::M3d, data, size);
     return 0;
 }

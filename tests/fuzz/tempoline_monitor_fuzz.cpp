@@ -2,6 +2,6 @@
 #include "tests/fuzz/TempolineFuzz.h"
 
 FUZZ_TARGET(tempoline_monitor) {
-    zg::tempoline::readAnyBytes(zg::tempoline::InputKind::MonitorW, data, size);
+    zg::tempoline::readAnyBytes(zg::InputKind::MonitorW, data, size);
     return 0;
 }

@@ -2,6 +2,6 @@
 #include "tests/fuzz/TempolineFuzz.h"
 
 FUZZ_TARGET(tempoline_pfl) {
-    zg::tempoline::readAnyBytes(zg::tempoline::InputKind::AermPfl, data, size);
+    zg::tempoline::readAnyBytes(zg::InputKind::AermPfl, data, size);
     return 0;
 }

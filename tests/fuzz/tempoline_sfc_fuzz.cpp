@@ -2,6 +2,6 @@
 #include "tests/fuzz/TempolineFuzz.h"
 
 FUZZ_TARGET(tempoline_sfc) {
-    zg::tempoline::readAnyBytes(zg::tempoline::InputKind::AermSfc, data, size);
+    zg::tempoline::readAnyBytes(zg::InputKind::AermSfc, data, size);
     return 0;
 }

@@ -2,6 +2,6 @@
 #include "tests/fuzz/TempolineFuzz.h"
 
 FUZZ_TARGET(tempoline_surf) {
-    zg::tempoline::readAnyBytes(zg::tempoline::InputKind::Surf, data, size);
+    zg::tempoline::readAnyBytes(zg::InputKind::Surf, data, size);
     return 0;
 }

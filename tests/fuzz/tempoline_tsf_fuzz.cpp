@@ -2,6 +2,6 @@
 #include "tests/fuzz/TempolineFuzz.h"
 
 FUZZ_TARGET(tempoline_tsf) {
-    zg::tempoline::readAnyBytes(zg::tempoline::InputKind::Tsf, data, size);
+    zg::tempoline::readAnyBytes(zg::InputKind::Tsf, data, size);
     return 0;
 }

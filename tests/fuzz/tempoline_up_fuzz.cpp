@@ -2,6 +2,6 @@
 #include "tests/fuzz/TempolineFuzz.h"
 
 FUZZ_TARGET(tempoline_up) {
-    zg::tempoline::readAnyBytes(zg::tempoline::InputKind::Up, data, size);
+    zg::tempoline::readAnyBytes(zg::InputKind::Up, data, size);
     return 0;
 }

@@ -2,6 +2,6 @@
 #include "tests/fuzz/TempolineFuzz.h"
 
 FUZZ_TARGET(tempoline_ventos) {
-    zg::tempoline::readAnyBytes(zg::tempoline::InputKind::Ventos, data, size);
+    zg::tempoline::readAnyBytes(zg::InputKind::Ventos, data, size);
     return 0;
 }

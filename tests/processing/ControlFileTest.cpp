@@ -14,7 +14,7 @@
 namespace zg {
 namespace {
 
-ControlFile common(InputType type, std::vector<std::string> files) {
+ControlFile common(InputKind type, std::vector<std::string> files) {
     ControlFile v;
     v.type = type;
     v.title = "  A title ";
@@ -54,14 +54,14 @@ void expectFile(const ControlFile& values, const char* name) {
 }
 
 TEST(ControlFile, OfSurfHasTheNumbersOfTheSelectedRows) {
-    ControlFile v = common(InputType::Surf, {"/data/my surf.dat "});
+    ControlFile v = common(InputKind::Surf, {"/data/my surf.dat "});
     v.outputs = {{"2", "Two_SURF", "A titleTwo", "1002, 0, 0", "10"},
                  {"5", "base-1005_SURF", "A title", "1005, 0, 0", "10"}};
     expectFile(v, "surf.inp");
 }
 
 TEST(ControlFile, OfSurfWithoutTitleAndOneSeason) {
-    ControlFile v = common(InputType::Surf, {"s.dat"});
+    ControlFile v = common(InputKind::Surf, {"s.dat"});
     v.title = "";
     v.seasonNames = {"All"};
     v.outputs = {{"1", "One", "One", "1001, 0, 0", "10"}, {"3", "base-3", "", "3, 0, 0", "10"}};
@@ -69,7 +69,7 @@ TEST(ControlFile, OfSurfWithoutTitleAndOneSeason) {
 }
 
 TEST(ControlFile, OfUpHasAnOutputAHeightAndTwelveSeasons) {
-    ControlFile v = common(InputType::Up, {"u.dat"});
+    ControlFile v = common(InputKind::Up, {"u.dat"});
     v.seasonNames.clear();
     for (int i = 1; i <= 12; ++i) v.seasonNames.push_back("S" + std::to_string(i));
     int id = 0;
@@ -81,8 +81,8 @@ TEST(ControlFile, OfUpHasAnOutputAHeightAndTwelveSeasons) {
 
 TEST(ControlFile, OfTheDialogsWithOneOutput) {
     for (const auto& [type, name] :
-         {std::pair{InputType::MonitorW, "monitorw.inp"}, std::pair{InputType::AermSfc, "aermsfc.inp"},
-          std::pair{InputType::AermPfl, "aermpfl.inp"}}) {
+         {std::pair{InputKind::MonitorW, "monitorw.inp"}, std::pair{InputKind::AermSfc, "aermsfc.inp"},
+          std::pair{InputKind::AermPfl, "aermpfl.inp"}}) {
         ControlFile v = common(type, {"m.csv"});
         v.title = "";
         v.seasonNames = {"Wet", "Dry"};
@@ -92,20 +92,20 @@ TEST(ControlFile, OfTheDialogsWithOneOutput) {
 }
 
 TEST(ControlFile, OfTsfHasNoOutputsButAName) {
-    ControlFile v = common(InputType::Tsf, {"t.tsf"});
+    ControlFile v = common(InputKind::Tsf, {"t.tsf"});
     v.roseName = "rose_out";
     expectFile(v, "tsf.inp");
 }
 
 TEST(ControlFile, OfTsfLeavesOutTheOutputsThatADialogGives) {
-    ControlFile v = common(InputType::Tsf, {"t.tsf"});
+    ControlFile v = common(InputKind::Tsf, {"t.tsf"});
     v.roseName = "rose_out";
     v.outputs = {{"1", "rose_out", "A title", "72503, 0, 0", "10"}};
     expectFile(v, "tsf.inp");
 }
 
 TEST(ControlFile, AFieldThatLooksLikeAPlaceholderIsWrittenAsItStands) {
-    ControlFile v = common(InputType::Surf, {"{BASE}.dat"});
+    ControlFile v = common(InputKind::Surf, {"{BASE}.dat"});
     v.title = "{MSN} [per output]";
     v.outputs = {{"1", "{ID}", "{HEIGHT}", "{STATION}, 0, 0", "{TITLE}"}};
     const std::string bytes = controlFileBytes(v);
@@ -116,7 +116,7 @@ TEST(ControlFile, AFieldThatLooksLikeAPlaceholderIsWrittenAsItStands) {
 
 /// The keys of the projection that are active, in file order.
 std::string activeProjection(const std::string& map) {
-    ControlFile v = common(InputType::Ventos, {"a.dat"});
+    ControlFile v = common(InputKind::Ventos, {"a.dat"});
     v.projection = {map, "fe", "fn", "zone", "hem", "lat0", "lon0", "lat1", "lat2", "WGS-84"};
     const std::string bytes = controlFileBytes(v);
     std::string keys;
@@ -140,27 +140,27 @@ TEST(ControlFile, OfAGridActivatesTheKeysOfItsProjection) {
 }
 
 TEST(ControlFile, OfAGridInLatitudeAndLongitude) {
-    ControlFile v = common(InputType::Ventos, {"a.dat", "b.dat"});
+    ControlFile v = common(InputKind::Ventos, {"a.dat", "b.dat"});
     v.projection = {"LL", "1", "2", "3", "N", "4N", "5W", "6N", "7N", "WGS-84"};
     v.outputs = {{"1", "St_VENTOS", "ST1", "-74.5, 41.25", "10"}};
     expectFile(v, "ventos_ll.inp");
 }
 
 TEST(ControlFile, OfAGridInUtmActivatesZoneAndHemisphereOnly) {
-    ControlFile v = common(InputType::Ventos, {"a.dat"});
+    ControlFile v = common(InputKind::Ventos, {"a.dat"});
     v.projection = {"UTM", "1", "2", "18", "S", "4N", "5W", "6N", "7N", "NAR-C"};
     expectFile(v, "ventos_utm.inp");
 }
 
 TEST(ControlFile, OfAModelGridInItsProjection) {
-    ControlFile v = common(InputType::M3d, {"3d.dat"});
+    ControlFile v = common(InputKind::M3d, {"3d.dat"});
     v.projection = {"LCC", "0.0", "12.5", "3", "N", "40N", "97W", "33N", "45N", "NWS-84"};
     v.outputs = {{"1", "x", "A title", "3.2, 15.88", "10"}, {"2", "y", "A title", "4, 5", "20"}};
     expectFile(v, "m3d_lcc.inp");
 }
 
 TEST(ControlFile, OfAModelGridByCells) {
-    ControlFile v = common(InputType::M3d, {"3d.dat"});
+    ControlFile v = common(InputKind::M3d, {"3d.dat"});
     v.title = "";
     v.MCELL = "1";
     v.projection.PMAP = "NONE";
@@ -171,7 +171,7 @@ TEST(ControlFile, OfAModelGridByCells) {
 TEST(ControlFile, IsWrittenUnderItsBaseAndReplacesAnOldOne) {
     const TempDirectory directory;
     directory.write("base_20050307-20051231_tempoline.inp", std::string(100'000, 'x'));
-    const ControlFile v = common(InputType::Tsf, {"t\xE9.tsf"});
+    const ControlFile v = common(InputKind::Tsf, {"t\xE9.tsf"});
     WriteControlFile(directory.path() + "/", v);
     EXPECT_EQ(directory.read("base_20050307-20051231_tempoline.inp"), controlFileBytes(v));
     EXPECT_NE(controlFileBytes(v).find("METINP = t\xE9.tsf !"), std::string::npos) << "one byte a character";
@@ -180,7 +180,7 @@ TEST(ControlFile, IsWrittenUnderItsBaseAndReplacesAnOldOne) {
 
 TEST(ControlFile, AFullDiskIsAnErrorOfItsOwn) {
     const TempDirectory directory;
-    const ControlFile values = common(InputType::Tsf, {"t.tsf"});
+    const ControlFile values = common(InputKind::Tsf, {"t.tsf"});
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit before{};
     getrlimit(RLIMIT_FSIZE, &before);

@@ -109,7 +109,7 @@ def between_levels(levels, height):
 # ---- data files: each gives, for every request, a list of (begin, end, speed, direction) in the zone of the run ---
 
 def full_year(year):
-    return year if year > 99 else 1900 + year if year >= 50 else 2000 + year
+    return year if year > 99 else 1900 + year if year >= 30 else 2000 + year
 
 
 def lines_of(path):
