@@ -54,8 +54,8 @@ struct ModInfoViewDLL {
 
 extern ModInfoViewDLL modInfoViewDLL;
 
-/// Reads a file's header into modInfoViewDLL. If the operation itself fails, everything is left empty without a
-/// message. Raises 13 for an answer with an impossible time.
+/// Reads a file's header into modInfoViewDLL. If the operation itself fails, everything is left empty without
+/// a message. Raises 13 for an answer with an impossible time.
 void ReadGridHeader(const std::string& path, GridKind kind);
 
 }  // namespace zg
