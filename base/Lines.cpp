@@ -77,17 +77,45 @@ LineReader LineReader::ofText(std::string_view text) {
     return reader;
 }
 
+std::size_t LineReader::readPlain(char* place, std::size_t size) {
+    const std::size_t got = std::fread(place, 1, size, file_.get());
+    if (got == 0 && std::ferror(file_.get()) != 0) raise(ErrorNumber::DeviceIoError);
+    return got;
+}
+
+std::size_t LineReader::readUnzipped(char* place, std::size_t size) {
+    for (;;) {
+        const std::size_t made = unzipper_->unzip(zippedLeft_, place, size);
+        if (made > 0) return made;
+        const std::size_t got = readPlain(zipped_.data(), zipped_.size());
+        if (got == 0 && !unzipper_->isWhole()) Unzipper::failCutOff();
+        if (got == 0) return 0;
+        zippedLeft_ = {zipped_.data(), got};
+    }
+}
+
+/// The first bytes of a file tell whether it is compressed.
+std::size_t LineReader::readSome(char* place, std::size_t size) {
+    if (unzipper_) return readUnzipped(place, size);
+    const std::size_t got = readPlain(place, size);
+    if (begun_ || !Unzipper::isZipped({place, got})) {
+        begun_ = true;
+        return got;
+    }
+    zipped_.assign(place, place + std::max(got, windowSize));
+    zippedLeft_ = {zipped_.data(), got};
+    unzipper_ = std::make_unique<Unzipper>();
+    return readUnzipped(place, size);
+}
+
 bool LineReader::fill() {
     if (endOfFile_ || !file_) return false;
     const std::size_t kept = window_.size();
     if (kept > 0 && window_.data() != buffer_.data()) std::memmove(buffer_.data(), window_.data(), kept);
     // A line longer than the window doubles the window, so that long lines cost linear time.
     if (buffer_.size() < kept + windowSize) buffer_.resize(std::max(kept + windowSize, 2 * kept));
-    const std::size_t got = std::fread(buffer_.data() + kept, 1, buffer_.size() - kept, file_.get());
-    if (got == 0) {
-        if (std::ferror(file_.get()) != 0) raise(ErrorNumber::DeviceIoError);
-        endOfFile_ = true;
-    }
+    const std::size_t got = readSome(buffer_.data() + kept, buffer_.size() - kept);
+    endOfFile_ = got == 0;
     window_ = std::string_view(buffer_.data(), kept + got);
     return got > 0;
 }

@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Unzip.h"
+
 namespace zg {
 
 struct FileCloser {
@@ -20,7 +22,8 @@ using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 /// a device.
 FileHandle openForReading(const std::string& path);
 
-/// Reads lines. Only a window of the file, of at least one line, is in memory at a time.
+/// Reads lines, those of a gzip file as they were before compression. Only a window of the file, of at least
+/// one line, is in memory at a time.
 class LineReader {
  public:
     /// Reads lines of any length, or up to a limit in bytes: readLine then raises 6, with the line number,
@@ -54,6 +57,9 @@ class LineReader {
  private:
     LineReader() = default;
     bool fill();
+    std::size_t readSome(char* place, std::size_t size);
+    std::size_t readPlain(char* place, std::size_t size);
+    std::size_t readUnzipped(char* place, std::size_t size);
     void needShort(std::size_t bytes) const;
 
     std::size_t longestLine_ = std::string::npos;
@@ -62,6 +68,10 @@ class LineReader {
     std::string_view window_;  ///< bytes not yet read
     bool endOfFile_ = false;
     std::size_t lineNumber_ = 0;
+    std::unique_ptr<Unzipper> unzipper_;  ///< of a gzip file
+    std::vector<char> zipped_;
+    std::string_view zippedLeft_;
+    bool begun_ = false;
 };
 
 /// Writes lines ended by CR LF; an existing file is replaced. Raises the fitting error on failure.

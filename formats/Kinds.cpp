@@ -13,7 +13,7 @@ constexpr std::array<std::string_view, 2> hoursOrSeconds = {"2.0", "2.1"};
 constexpr std::array<std::string_view, 1> gridVersions = {"2.1"};
 constexpr std::array<std::string_view, 1> tsfVersions = {"1.3"};
 
-constexpr std::array<Format, 8> table = {{
+constexpr std::array<Format, 9> table = {{
     {InputKind::Surf, "SURF", "SURF.DAT", hoursOrSeconds},
     {InputKind::Up, "UP", "UP.DAT", hoursOrSeconds},
     {InputKind::MonitorW, "MONITORW", "", {}},
@@ -22,6 +22,7 @@ constexpr std::array<Format, 8> table = {{
     {InputKind::Tsf, "TSF", "TIMESERIES.TSF", tsfVersions},
     {InputKind::M3d, "M3D", "3D.DAT", gridVersions},
     {InputKind::Ventos, "VENTOS", "VENTOS.DAT", gridVersions},
+    {InputKind::Csv, "CSV", "", {}},
 }};
 
 }  // namespace

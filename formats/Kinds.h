@@ -10,7 +10,7 @@
 
 namespace zg {
 
-enum class InputKind { Surf, Up, MonitorW, AermSfc, AermPfl, Tsf, M3d, Ventos };
+enum class InputKind { Surf, Up, MonitorW, AermSfc, AermPfl, Tsf, M3d, Ventos, Csv };
 
 /// What is known of a kind of file.
 struct Format {

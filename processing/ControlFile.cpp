@@ -1,5 +1,6 @@
 #include "processing/ControlFile.h"
 
+#include <algorithm>
 #include <map>
 #include <string_view>
 
@@ -24,7 +25,8 @@ const Variation& variationOf(InputKind type) {
         {InputKind::Surf, {true, true, false, false}},      {InputKind::Up, {false, true, false, false}},
         {InputKind::MonitorW, {false, true, false, false}}, {InputKind::AermSfc, {false, true, false, false}},
         {InputKind::AermPfl, {false, true, true, false}},   {InputKind::Tsf, {false, false, false, false}},
-        {InputKind::Ventos, {false, true, false, true}},    {InputKind::M3d, {false, true, false, true}}};
+        {InputKind::Ventos, {false, true, false, true}},    {InputKind::M3d, {false, true, false, true}},
+        {InputKind::Csv, {false, true, false, false}}};
     return rows.at(type);
 }
 
@@ -136,6 +138,12 @@ class Builder {
     void take(std::string_view line) {
         if (line == "[per output]" || line == "[per season]") {
             block_.emplace();
+        } else if (line == "[of a table]") {
+            isPassedOver_ = v_.type != InputKind::Csv;
+        } else if (line == "[end of a table]") {
+            isPassedOver_ = false;
+        } else if (isPassedOver_) {
+            return;
         } else if (line == "[end per output]") {
             repeatForOutputs();
         } else if (line == "[end per season]") {
@@ -148,6 +156,7 @@ class Builder {
     }
 
     void takeSingle(std::string_view line) {
+        if (line == "[table keys]") return writeTableKeys();
         if (line.find("{INPUTFILE}") != std::string_view::npos) return repeatForInputs(line);
         if (line.find("! NMETINP = 1 !") != std::string_view::npos)
             return write(replaced(line, "NMETINP = 1", "NMETINP = " + std::to_string(v_.inputFiles.size())));
@@ -171,6 +180,14 @@ class Builder {
             Fields fields = fields_;
             fields["INPUTFILE"] = file;
             write(filled(line, fields));
+        }
+    }
+
+    void writeTableKeys() {
+        for (const ControlKey& entry : v_.tableKeys) {
+            const std::string key =
+                entry.key + std::string(8 - std::min<std::size_t>(8, entry.key.size()), ' ');
+            write("     ! " + key + "= " + entry.value + " !");
         }
     }
 
@@ -222,6 +239,7 @@ class Builder {
     Fields fields_;
     std::vector<std::pair<std::string, std::string>> active_;
     std::optional<std::vector<std::string>> block_;
+    bool isPassedOver_ = false;  ///< lines of another kind of input
     std::string out_;
 };
 

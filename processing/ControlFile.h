@@ -23,6 +23,12 @@ struct ControlOutput {
     bool located = false;  ///< the line is active even for a location of ""
 };
 
+/// A key of a table's layout, and its value.
+struct ControlKey {
+    std::string key;
+    std::string value;
+};
+
 /// Map projection and datum, all as texts, with the names used in the file.
 struct ProjectionRecord {
     std::string PMAP;  ///< "LL", "UTM", "LCC", "TTM", "PS", "EM", "LAZA"; "NONE" leaves all inert
@@ -59,6 +65,8 @@ struct ControlFile {
     ProjectionRecord projection;
     std::string MPROF;  ///< of 3D.DAT input, as is the next
     std::string MCELL;
+
+    std::vector<ControlKey> tableKeys;  ///< of Csv input
 };
 
 /// The bytes of the file, each line ended by CR LF.

@@ -508,6 +508,44 @@ R"INP(     Species Name (SO2, NO, NO2, NOx, CO, O3, H2S, PM10 or PM2.5)
      (CROSE)                         Default: -1.        * CROSE = -1. *
 
 !END!
+[of a table]
+
+--------------------------------------------------------------------------------
+INPUT GROUP: 8 -- Layout of a table of winds (Used only if MDATA=CSV)
+--------------
+
+     Between the values: COMMA, SEMICOLON, TAB, BLANKS or one character
+     (CSVSEP)                        Default: COMMA
+     POINT or COMMA before decimals
+     (CSVDEC)                        Default: POINT
+     Number of lines before the first record
+     (CSVHEAD)                       Default: 1
+     Which of them has the names of the columns (0 for none)
+     (CSVNAME)                       Default: 1
+     Columns of the time, from 1: one, date and time, or year, month, day
+     [, hour [, minute]]
+     (CSVTIME)                       No Default
+     Form of the time: YMD, DMY, MDY, PARTS, EPOCH, or a pattern such as
+     %d.%m.%Y %H:%M
+     (CSVFORM)                       Default: YMD
+     A time is the BEGIN or the END of its record
+     (CSVSTMP)                       Default: BEGIN
+     Length of a record (seconds)
+     (CSVLEN)                        Default: 3600
+     Column of the wind speed, and its unit: M/S, KNOTS, KM/H, MPH, DM/S
+     (CSVSPD)                        No Default
+     (CSVUNIT)                       Default: M/S
+     Column of the wind direction (degrees, where the wind blows from)
+     (CSVDIR)                        No Default
+     A text that stands for a missing value, beside the usual ones
+     (CSVMISS)                       Default: none
+     Zone of times that name none themselves
+     (CSVZONE)                       Default: that of ABTZ
+
+[table keys]
+
+!END!
+[end of a table]
 )INP";
 // clang-format on
 

@@ -12,6 +12,7 @@
 
 #include "tempoline/Failure.h"
 #include "tempoline/Interrupt.h"
+#include "tempoline/UnzippedBlocks.h"
 
 namespace zg::tempoline {
 
@@ -30,18 +31,6 @@ int openForReading(const std::string& path) {
     } while (file < 0 && errno == EINTR);
     if (file < 0) failWithErrno(path, errno);
     return file;
-}
-
-void findLineEnds(const char* bytes, std::size_t size, std::vector<std::uint32_t>& lineEnds) {
-    lineEnds.clear();
-    const char* const end = bytes + size;
-    const char* at = bytes;
-    while (at != end) {
-        const void* const found = std::memchr(at, '\n', static_cast<std::size_t>(end - at));
-        if (found == nullptr) break;
-        at = static_cast<const char*>(found) + 1;
-        lineEnds.push_back(static_cast<std::uint32_t>(at - 1 - bytes));
-    }
 }
 
 class PlainBlocks : public BlockReader {
@@ -194,7 +183,7 @@ class BlocksAhead : public BlockReader {
 }  // namespace
 
 std::unique_ptr<BlockReader> openBlocks(const std::string& path) {
-    return std::make_unique<PlainBlocks>(path);
+    return unzippedBlocks(std::make_unique<PlainBlocks>(path), path);
 }
 
 std::unique_ptr<BlockReader> openBlocksAhead(const std::string& path) {

@@ -28,8 +28,11 @@ class BlockReader {
     virtual void stop() {}
 };
 
-/// Reads on demand. A regular file that ends before the size it had when it was opened was truncated during
-/// the run: that is a failure.
+/// Offsets of the line feeds among the bytes.
+void findLineEnds(const char* bytes, std::size_t size, std::vector<std::uint32_t>& lineEnds);
+
+/// Reads on demand; a gzip file as it was before compression. A regular file that ends before the size it had
+/// when it was opened was truncated during the run: that is a failure.
 std::unique_ptr<BlockReader> openBlocks(const std::string& path);
 
 /// The same, with a thread that reads up to three blocks ahead and also searches their line feeds.

@@ -8,6 +8,7 @@
 
 #include "formats/Kinds.h"
 #include "tempoline/Times.h"
+#include "windtable/TableLayout.h"
 
 namespace zg::tempoline {
 
@@ -84,6 +85,7 @@ struct Control {
     MapSetting map;
     int profileMethod = 3;
     bool cellCoordinates = false;
+    TableLayout table;  ///< of a table of winds
     RoseRules rules;
     std::vector<std::string> assignments;  ///< "KEY = value", as written
     std::vector<std::string> assumed;      ///< the same for keys that the file does not have

@@ -42,7 +42,8 @@ class OutputReader {
     std::size_t readCount() {
         const int count = keys_.whole("NTSFOUT", 0, mostOutputs);
         if (count == 0) throw keys_.failure("NTSFOUT", "0 outputs are asked for, and at least one is needed");
-        if (count > 1 && (kind_ == InputKind::MonitorW || kind_ == InputKind::AermSfc))
+        if (count > 1 &&
+            (kind_ == InputKind::MonitorW || kind_ == InputKind::AermSfc || kind_ == InputKind::Csv))
             throw keys_.failure("NTSFOUT", std::string(mdataOf(kind_)) + " makes one output");
         return static_cast<std::size_t>(count);
     }

@@ -8,6 +8,7 @@
 #include "tempoline/ControlLexer.h"
 #include "tempoline/ControlOutputs.h"
 #include "tempoline/Projection.h"
+#include "tempoline/TableKeys.h"
 
 namespace zg::tempoline {
 
@@ -34,6 +35,7 @@ class Reader {
         readPeriod();
         control_.outputs = readOutputs(keys_, control_.kind);
         if (isGridded(control_.kind)) readGridSettings();
+        if (control_.kind == InputKind::Csv) control_.table = readTableLayout(keys_);
         readRules();
         control_.assumed = keys_.assumed();
         return std::move(control_);

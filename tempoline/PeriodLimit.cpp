@@ -2,8 +2,12 @@
 
 #include <sys/stat.h>
 
+#include <array>
+#include <cstdio>
 #include <optional>
 
+#include "base/Lines.h"
+#include "base/Unzip.h"
 #include "tempoline/ControlLexer.h"
 
 namespace zg::tempoline {
@@ -14,12 +18,20 @@ constexpr Seconds alwaysAllowed = 1'000'000;  // steps of all outputs: a century
 constexpr Seconds leastRecord = 16;           // bytes; no supported format has shorter ones
 constexpr Seconds mostEmpty = 10;             // steps per record
 
+bool isZippedFile(const std::string& path) {
+    std::array<char, 2> start{};
+    const FileHandle file(std::fopen(path.c_str(), "rb"));
+    return file && std::fread(start.data(), 1, start.size(), file.get()) == start.size() &&
+           Unzipper::isZipped({start.data(), start.size()});
+}
+
 std::optional<Seconds> sizeOf(const Control& control) {
     Seconds size = 0;
     for (const std::string& input : control.inputs) {
         struct stat state = {};
         if (stat(input.c_str(), &state) != 0 || !S_ISREG(state.st_mode)) return {};
-        size += state.st_size;
+        size += isZippedFile(input) ? state.st_size * static_cast<Seconds>(Unzipper::mostOfOneByte)
+                                    : state.st_size;
     }
     return size;
 }

@@ -6,12 +6,13 @@ cd "$(dirname "$0")/.."
 fail=0
 
 graph="graph/frq graph/model graph/script graph/render graph/control"
-plain="base formats $graph headers processing settings"
+plain="base formats windtable $graph headers processing settings"
 
 # folder: the other folders whose headers it may include
 declare -A allowed=(
     [base]=""
     [formats]="base"
+    [windtable]="base"
     [graph/frq]="base"
     [graph/model]="base"
     [graph/script]="base"
@@ -25,9 +26,9 @@ declare -A allowed=(
     [dialogs/gridded]="$plain platform"
     [batch]="$plain platform"
     [shell]="$plain platform dialogs/point dialogs/gridded batch"
-    [export]="base formats $graph headers processing platform"
-    [tempoline]="base formats tempoline/readers"
-    [tempoline/readers]="base formats tempoline"
+    [export]="base formats windtable $graph headers processing platform"
+    [tempoline]="base formats windtable tempoline/readers"
+    [tempoline/readers]="base formats windtable tempoline"
 )
 without_toolkit="$plain tempoline tempoline/readers"
 

@@ -55,6 +55,8 @@ std::unique_ptr<InputReader> makeReader(const Control& control) {
             return makeM3d(control);
         case InputKind::Ventos:
             return makeVentos(control);
+        case InputKind::Csv:
+            return makeCsv(control);
     }
     throw Failure(ExitStatus::BadControl, "the type of input is not known");
 }

@@ -16,5 +16,6 @@ std::unique_ptr<InputReader> makeMonitor(const Control& control);
 std::unique_ptr<InputReader> makeTsf(const Control& control);
 std::unique_ptr<InputReader> makeM3d(const Control& control);
 std::unique_ptr<InputReader> makeVentos(const Control& control);
+std::unique_ptr<InputReader> makeCsv(const Control& control);
 
 }  // namespace zg::tempoline

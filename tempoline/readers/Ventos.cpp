@@ -17,7 +17,7 @@ namespace zg::tempoline {
 
 namespace {
 
-constexpr int mostCells = 100'000;  // along one side
+constexpr int mostCellsOfSide = 100'000;  // along one side
 constexpr int mostLevels = 10'000;
 
 /// A required row of values in the file, and its required columns.
@@ -104,8 +104,8 @@ class Ventos : public InputReader {
         if (splitBlanks(lines.need("the grid"), fields) < fields.size())
             throw lines.failure("grid", "6 numbers are needed");
         grid_.firstI = grid_.firstJ = 1;
-        grid_.lastI = sizeField(lines, fields[0], "nx", mostCells);
-        grid_.lastJ = sizeField(lines, fields[1], "ny", mostCells);
+        grid_.lastI = sizeField(lines, fields[0], "nx", mostCellsOfSide);
+        grid_.lastJ = sizeField(lines, fields[1], "ny", mostCellsOfSide);
         levelCount_ = static_cast<std::size_t>(sizeField(lines, fields[2], "nz", mostLevels));
         grid_.cellSize = numberField(lines, fields[5], "cell size");
         if (!(grid_.cellSize > 0)) throw lines.failure("cell size", "it must be above 0");

@@ -194,6 +194,15 @@ def case_monitor_half_hours(d):
     write_control(d / "c.inp", "monitorw.inp", ["m.csv"], ONE, [2004, 2, 1, 6, 315, 2004, 9, 1, 0, 0], step=1800)
 
 
+def case_csv(d):
+    make_inputs.csv(d / "t.csv")
+    write_control(d / "c.inp", "aermsfc.inp", ["t.csv"], ONE, YEAR, keys={"MDATA": "CSV"})
+    layout = {"CSVSEP": "SEMICOLON", "CSVDEC": "COMMA", "CSVHEAD": 3, "CSVNAME": 2, "CSVTIME": "2,3", "CSVFORM": "DMY", "CSVSPD": 4,
+              "CSVUNIT": "KM/H", "CSVDIR": 5}
+    with open(d / "c.inp", "a", newline="") as file:
+        file.write("".join("! %s = %s !\r\n" % entry for entry in layout.items()))
+
+
 def case_tsf(d):
     make_inputs.tsf(d / "t.tsf")
     write_control(d / "c.inp", "tsf.inp", ["t.tsf"], [], YEAR)

@@ -149,6 +149,26 @@ def monitor(path, minutes):
     write(path, lines)
 
 
+def csv(path):
+    """A logger's table: a byte order mark, units, decimal commas, day first, words for what is missing, reports between the hours."""
+    winds = Winds(9, -999, -999)
+    lines = ["\ufefflogger 12", "Nr;Datum;Zeit;Speed;\"Dir; true\";T", ";;;km/h;deg;C"]
+    for number, moment in enumerate(hours()):
+        for minute in [0] + ([winds.random.choice([15, 40, 53])] if winds.random.random() < 0.1 else []):
+            speed, direction = winds.next()
+            if winds.absent():
+                continue
+            texts = [winds.random.choice(["", "M", "NaN", "-999", "9999,0"]) if value == -999 else ("%.6f" % value).replace(".", ",")
+                     for value in (3.6 * speed if speed != -999 else -999, direction)]
+            if direction == 0.0 and winds.random.random() < 0.5:
+                texts[1] = "VRB"
+            lines.append("%d;%s;%s;%s;\"%s\";1,5" % (number, moment.strftime("%d/%m/%y"), "%d:%02d" % (moment.hour, minute), *texts))
+        if winds.random.random() < 0.01:
+            lines.append(winds.random.choice(["", ";;;;;", "   "]))
+    with open(path, "w", encoding="utf-8", newline="") as file:
+        file.write("\r\n".join(lines) + "\r\n")
+
+
 def tsf(path):
     winds = Winds(6, 9999.0, 9999.0)
     lines = ["TIMESERIES.TSF  1.3             Series", "1 - Comment lines", "made by hand", "a title", "MET",

@@ -242,6 +242,23 @@ def monitor(paths, requests, zone, single):
     return [records]
 
 
+def csv(paths, requests, zone, single):
+    """Of the tables of the tests: day first, date and time in two columns, kilometres an hour with decimal commas."""
+    number = lambda text: None if text in ("", "M", "NaN", "VRB", "-999", "9999,0") else float(text.replace(",", "."))
+    times, winds = [], []
+    for line in lines_of(paths[0])[int(single["CSVHEAD"]):]:
+        row = [text.strip().strip('"') for text in line.split(";")]
+        if not any(row):
+            continue
+        day, month, year = (int(text) for text in row[1].split("/"))
+        hour, minute = (int(text) for text in row[2].split(":"))
+        times.append(datetime(full_year(year), month, day, hour, minute))
+        speed = number(row[3])
+        winds.append((None if speed is None else round(speed / 3.6, 6), number(row[4])))
+    ends = [min(time + HOUR, after) for time, after in zip(times, times[1:] + [times[-1] + HOUR])]
+    return [[(begin, end, *wind) for begin, end, wind in zip(times, ends, winds)]]
+
+
 def tsf(paths, requests, zone, single):
     lines = lines_of(paths[0])
     at = header_end(lines, 1)
@@ -424,7 +441,7 @@ def ventos(paths, requests, zone, single):
 
 
 READERS = {"AERMSFC": aermet_surface, "AERMPFL": aermet_profile, "SURF": surf, "UP": up, "MONITORW": monitor,
-           "TSF": tsf, "M3D": m3d, "VENTOS": ventos}
+           "TSF": tsf, "M3D": m3d, "VENTOS": ventos, "CSV": csv}
 
 
 # ---- steps and roses --------------------------------------------------------------------------------------

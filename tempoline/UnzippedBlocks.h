@@ -1,0 +1,14 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "tempoline/BlockReader.h"
+
+namespace zg::tempoline {
+
+/// The blocks of a file as they are, or unzipped where its first bytes tell that it is a gzip file. Throws a
+/// Failure with the path for damaged data.
+std::unique_ptr<BlockReader> unzippedBlocks(std::unique_ptr<BlockReader> file, const std::string& path);
+
+}  // namespace zg::tempoline

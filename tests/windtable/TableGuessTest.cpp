@@ -1,0 +1,201 @@
+#include "windtable/TableGuess.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/TempDirectory.h"
+#include "windtable/TableTimes.h"
+
+namespace zg {
+
+namespace {
+
+struct Table {
+    explicit Table(std::string_view text) : path(directory.write("t.csv", text)) {}
+
+    std::string taken() { return takenText(guessTable(path, wishes)); }
+
+    TableLayout layout() { return guessTable(path, wishes).layout; }
+
+    /// The fault without the path.
+    std::string fault() {
+        try {
+            guessTable(path, wishes);
+        } catch (const TableProblem& problem) {
+            isWrongWish = problem.isWrongWish;
+            return std::string(problem.what()).substr(path.size());
+        }
+        return "no fault";
+    }
+
+    TempDirectory directory;
+    std::string path;
+    TableWishes wishes;
+    bool isWrongWish = false;
+};
+
+std::string takenOf(std::string_view text) { return Table(text).taken(); }
+std::string faultIn(std::string_view text) { return Table(text).fault(); }
+
+std::string keysText(const TableLayout& layout) {
+    std::string text;
+    for (const TableKey& key : keysOf(layout)) text += key.key + "=" + key.value + " ";
+    return text;
+}
+
+std::string sample(const char* name) { return std::string(ZG_SOURCE_DIR "/tests/windtable/data/") + name; }
+
+}  // namespace
+
+TEST(TableGuess, TakesALoggersTableAndAPlainOneForTheSameWinds) {
+    const TableFacts logger = guessTable(sample("mast_toa5.csv"), {});
+    EXPECT_EQ(takenText(logger),
+              "a table by COMMA, time \"Timestamp\" (day first, the begin of a record), speed \"Spd80mN\" in "
+              "M/S at "
+              "80 m, direction \"Dir78mS\", 100 records of 10 min from 2016-01-09 15:30 to 2016-01-10 09:20, "
+              "UTC+0000; not \"Spd80mS\", \"Spd60mN\", \"Spd60mS\", \"Spd40mN\", \"Spd40mS\"");
+    EXPECT_EQ(keysText(logger.layout),
+              "CSVSEP=COMMA CSVDEC=POINT CSVHEAD=4 CSVNAME=2 CSVTIME=1 CSVFORM=DMY CSVSTMP=BEGIN CSVLEN=600 "
+              "CSVSPD=5 CSVUNIT=M/S CSVDIR=23 CSVZONE=UTC+0000 ");
+    const TableFacts plain = guessTable(sample("mast.csv"), {});
+    EXPECT_EQ(keysText(plain.layout),
+              "CSVSEP=COMMA CSVDEC=POINT CSVHEAD=1 CSVNAME=1 CSVTIME=1 CSVFORM=DMY CSVSTMP=BEGIN CSVLEN=600 "
+              "CSVSPD=2 CSVUNIT=M/S CSVDIR=20 ");
+    EXPECT_EQ(plain.records, logger.records);
+    EXPECT_EQ(plain.begin, logger.begin);
+    EXPECT_EQ(plain.end, logger.end);
+    EXPECT_EQ(plain.height, 80);
+    EXPECT_FALSE(plain.zone);
+}
+
+TEST(TableGuess, FindsDelimiterDecimalsAndUnits) {
+    EXPECT_EQ(
+        keysText(Table("Datum;Zeit;WS [km/h];WD\n01.02.2016;23:00;10;20\n02.02.2016;00:00;3,6;20\n"
+                       "02.02.2016;01:00;3,6;20\n")
+                     .layout()),
+        "CSVSEP=SEMICOLON CSVDEC=COMMA CSVHEAD=1 CSVNAME=1 CSVTIME=1,2 CSVFORM=DMY CSVSTMP=BEGIN CSVLEN=3600 "
+        "CSVSPD=3 CSVUNIT=KM/H CSVDIR=4 ");
+    EXPECT_EQ(keysText(Table("year month day hour wd ws\n2016 1 1 0 350 1.5\n2016 1 1 1 350 1.5\n").layout()),
+              "CSVSEP=BLANKS CSVDEC=POINT CSVHEAD=1 CSVNAME=1 CSVTIME=1,2,3,4 CSVFORM=PARTS CSVSTMP=BEGIN "
+              "CSVLEN=3600 CSVSPD=6 CSVUNIT=M/S CSVDIR=5 ");
+    EXPECT_EQ(
+        keysText(Table("station,valid,drct,sknt\nABC,2016-01-01 00:53,350,M\nABC,2016-01-01 01:53,VRB,3\n")
+                     .layout()),
+        "CSVSEP=COMMA CSVDEC=POINT CSVHEAD=1 CSVNAME=1 CSVTIME=2 CSVFORM=YMD CSVSTMP=BEGIN CSVLEN=3600 "
+        "CSVSPD=4 CSVUNIT=KNOTS CSVDIR=3 ");
+    EXPECT_EQ(
+        keysText(
+            Table("ts\twind_speed\twind_dir\nUTC\tmph\tdeg\n1452353400\t1\t2\n1452354000\t1\t2\n").layout()),
+        "CSVSEP=TAB CSVDEC=POINT CSVHEAD=2 CSVNAME=1 CSVTIME=1 CSVFORM=EPOCH CSVSTMP=BEGIN CSVLEN=600 "
+        "CSVSPD=2 CSVUNIT=MPH CSVDIR=3 CSVZONE=UTC+0000 ");
+}
+
+TEST(TableGuess, TakesTheHighestSensorAndTheVaneNearestToIt) {
+    const std::string row = "\n2016-01-01 00:00,1,2,3,4,5,6,7\n2016-01-01 01:00,1,2,3,4,5,6,7\n";
+    const auto chosen = [&](const std::string& names) {
+        const Table table("time," + names + row);
+        const TableFacts facts = guessTable(table.path, {});
+        return facts.speedName + " " + facts.directionName;
+    };
+    EXPECT_EQ(chosen("ws40,ws80,ws80b,wd40,wd78,wd90,x"), "ws80 wd78");
+    EXPECT_EQ(chosen("ws_10m,ws_100m_max,WindGust120m,ws_50m_sd,wd_10m,wd_60m_std,x"), "ws_10m wd_10m");
+    EXPECT_EQ(chosen("WindSpeed,WindDir,temp,a,b,c,d"), "WindSpeed WindDir");
+    EXPECT_EQ(chosen("wind_speed_set_1,wind_direction_set_1,wind_gust_set_1,a,b,c,d"),
+              "wind_speed_set_1 wind_direction_set_1");
+}
+
+TEST(TableGuess, DecidesTheOrderOfDatesByTheWholeFile) {
+    const std::string head = "time,ws,wd\n";
+    EXPECT_EQ(Table(head + "01/02/2016,1,2\n02/02/2016,1,2\n13/02/2016,1,2\n").layout().timeForm,
+              TimeForm::DayFirst);
+    EXPECT_EQ(Table(head + "02/01/2016,1,2\n02/02/2016,1,2\n02/13/2016,1,2\n").layout().timeForm,
+              TimeForm::MonthFirst);
+    EXPECT_EQ(Table(head + "01/02/2016,1,2\n02/02/2016,1,2\n03/02/2016,1,2\n").layout().timeForm,
+              TimeForm::DayFirst);
+    EXPECT_EQ(Table(head + "01/02/2016,1,2\n01/03/2016,1,2\n01/04/2016,1,2\n").layout().timeForm,
+              TimeForm::MonthFirst);
+    const std::string oneDay = head + "01/02/2016 00:00,1,2\n01/02/2016 01:00,1,2\n";
+    EXPECT_EQ(
+        faultIn(oneDay),
+        ": the dates can be read in two ways: day first, from 2016-02-01 00:00 to 2016-02-01 01:00, or month "
+        "first, from 2016-01-02 00:00 to 2016-01-02 01:00; --time-format dmy or mdy tells which");
+    Table table(oneDay);
+    table.wishes.timeForm = "mdy";
+    EXPECT_EQ(table.layout().timeForm, TimeForm::MonthFirst);
+    EXPECT_EQ(faultIn(head + "13/02/2016,1,2\n02/13/2016,1,2\n"),
+              ":3: time: \"02/13/2016\" is no time, day first, as those before it");
+}
+
+TEST(TableGuess, TakesWhatItIsTold) {
+    Table table("when|a|b|c\n2016-01-01 00:00|1|2|3\n2016-01-01 00:10|1|2|3\n");
+    table.wishes.time = "WHEN";
+    table.wishes.speed = "b";
+    table.wishes.direction = "c";
+    table.wishes.delimiter = '|';
+    table.wishes.unit = SpeedUnit::Knots;
+    table.wishes.missing = "-1";
+    table.wishes.stampsEnd = true;
+    EXPECT_EQ(
+        keysText(table.layout()),
+        "CSVSEP=| CSVDEC=POINT CSVHEAD=1 CSVNAME=1 CSVTIME=1 CSVFORM=YMD CSVSTMP=END CSVLEN=600 CSVSPD=3 "
+        "CSVUNIT=KNOTS CSVDIR=4 CSVMISS=-1 ");
+    EXPECT_EQ(timeText(guessTable(table.path, table.wishes).begin), "2015-12-31 23:50");
+    EXPECT_EQ(timeText(guessTable(table.path, table.wishes).end), "2016-01-01 00:10");
+}
+
+TEST(TableGuess, TakesColumnsByNumberWhereThereAreNoNames) {
+    Table table(
+        "logger 7\n1,01.02.2016,00:00,3.5,270\n2,01.02.2016,00:10,3.5,270\n3,13.02.2016,00:20,3.5,270\n");
+    EXPECT_NE(table.fault(), "no fault");
+    table.wishes.time = "2,3";
+    table.wishes.speed = "4";
+    table.wishes.direction = "5";
+    EXPECT_EQ(
+        keysText(table.layout()),
+        "CSVSEP=COMMA CSVDEC=POINT CSVHEAD=1 CSVNAME=0 CSVTIME=2,3 CSVFORM=DMY CSVSTMP=BEGIN CSVLEN=600 "
+        "CSVSPD=4 CSVUNIT=M/S CSVDIR=5 ");
+}
+
+TEST(TableGuess, KnowsIsdLiteByItsLook) {
+    const std::string hours =
+        "2016 01 01 00    61    34 10134   320    46     0 -9999 -9999\n"
+        "2016 01 01 01    56    28 10143 -9999     0     0 -9999 -9999\n";
+    EXPECT_EQ(takenOf(hours),
+              "ISD-Lite, 2 records of 1 h from 2016-01-01 00:00 to 2016-01-01 02:00, UTC+0000");
+    EXPECT_EQ(keysText(Table(hours).layout()),
+              "CSVSEP=BLANKS CSVDEC=POINT CSVHEAD=0 CSVNAME=0 CSVTIME=1,2,3,4 CSVFORM=PARTS CSVSTMP=BEGIN "
+              "CSVLEN=3600 CSVSPD=9 CSVUNIT=DM/S CSVDIR=8 CSVZONE=UTC+0000 ");
+    EXPECT_FALSE(isIsdLiteLine("2016 13 01 00 1 2 3 4 5 6 7 8"));
+    EXPECT_FALSE(isIsdLiteLine("2016 12 01 00 1 2 3 4.0 5 6 7 8"));
+    EXPECT_FALSE(isIsdLiteLine("2016 12 01 00 1 2 3 4 5 6 7"));
+}
+
+TEST(TableGuess, SaysWhatIsWantingAndWhere) {
+    EXPECT_EQ(faultIn("time,ws,temp\n2016-01-01 00:00,1,2\n"),
+              ":1: the columns' names have no wind direction (--direction NAME): they are \"time\" \"ws\" "
+              "\"temp\"");
+    Table table("time,ws,wd\n2016-01-01 00:00,1,2\n");
+    table.wishes.speed = "Spd";
+    EXPECT_EQ(
+        table.fault(),
+        ":1: the columns' names have no wind speed \"Spd\" (--speed NAME): they are \"time\" \"ws\" \"wd\"");
+    EXPECT_TRUE(table.isWrongWish);
+    EXPECT_EQ(faultIn("a poem\nof two lines\n"),
+              ": no line of names with a time, a wind speed and a wind direction is among its first 2 lines: "
+              "this is "
+              "no kind of file that is known");
+    EXPECT_EQ(faultIn("time,ws,wd\n"), ":1: there is no record behind the columns' names");
+    EXPECT_EQ(faultIn("time,ws,wd\n2016-01-01,1,2\nyesterday,1,2\n"),
+              ":3: time: \"yesterday\" is no time, year first, as those before it");
+    EXPECT_EQ(faultIn("time,ws,wd\n2016-01-01,1,2\n2016-01-02,1\n"),
+              ":3: the line has 2 of at least 3 values");
+    EXPECT_EQ(faultIn("time,ws,wd\n2016-01-01,1,2\n2016-01-01,1,2\n"),
+              ": all records are of one time: how long they last is not known");
+    EXPECT_EQ(faultIn("time,ws,wd\n2016-01-03,1,2\n2016-01-02,1,2\n"),
+              ": the records run backwards in time: they need to be sorted");
+    EXPECT_EQ(faultIn("time,ws,wd\n2016-01-03,1,2\n2016-01-05,1,2\n"),
+              ": the records lie 172800 seconds apart, more than a day");
+    EXPECT_EQ(faultIn("time,ws,wd\nfirst,5,2\n2016-01-05,1,2\n"), ":2: time: \"first\" is no time");
+    EXPECT_EQ(faultIn("time,ws,wd\n\"2016-01-05,1,2\n"), ":2: a quote is not closed");
+}
+
+}  // namespace zg
