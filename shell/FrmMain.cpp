@@ -25,7 +25,6 @@ namespace zg {
 
 namespace {
 
-constexpr std::int16_t customPointer = 99;
 constexpr QSize swatchPixels(46, 18);
 constexpr QSize startSize(740, 880);
 
@@ -44,7 +43,10 @@ frmMain::frmMain(Host& host) : host_(host) {
     ui_ = makeFrmMainControls(*this, host);
     makeMenus();
     makeToolbars();
-    connectGraphList();
+    graphs_ = std::make_unique<GraphList>(
+        *this, host, ui_, actions_,
+        GraphListHooks{[this] { pressTool(Tool::Arrow); }, [this](bool value) { lockWhileDrawing(value); },
+                       [this](const GrapInfo& graph) { beginProgress(graph); }});
     followPlot();
     resize(sizeOnScreen());
 }
@@ -73,18 +75,13 @@ void frmMain::Form_Load() {
     pgPolarGraph().Refresh();  // set the radius and the labels without separate repaints
 }
 
-void frmMain::SizeLegendSwatch() { picTemp_ = swatchPixels; }
+void frmMain::SizeLegendSwatch() { graphs_->swatchSize = swatchPixels; }
 
 bool frmMain::LoadBackgroundPicture(const std::string& name) {
     const std::string path = backgroundPicturePath(name);
     if (path.empty()) return false;
     pgPolarGraph().Picture(loadPicture(path));
     return true;
-}
-
-void frmMain::LoadToolCursor(ToolCursor id) {
-    pgPolarGraph().MousePointer(customPointer);
-    pgPolarGraph().MouseIcon(cursorPicture(static_cast<int>(id)));
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
@@ -108,10 +105,10 @@ void frmMain::PlotFrqFile(const std::string& path) {
     settings.CurrentFrqPath = path;
     pgPolarGraph().OpenFreqFile(path);
     if (pgPolarGraph().lastOpenOutcome() != FreqFileOutcome::Loaded) return;
-    listPlot();
+    graphs_->listPlot();
     pgPolarGraph().DrawGraph();
     if (!pgPolarGraph().Comment().empty()) frmComment(host_, pgPolarGraph(), this).exec();
-    selectOnly(0);
+    graphs_->selectOnly(0);
     // After the file dialog has been closed and its memory is no longer in use.
     QTimer::singleShot(0, this, [] { giveBackMemory(); });
 }

@@ -2,7 +2,6 @@
 
 #include <QCursor>
 #include <QMenu>
-#include <QSignalBlocker>
 
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
@@ -24,7 +23,7 @@ QString twoDecimals(double value) { return shown(doubleText(roundHalfEven(value,
 void frmMain::followPlot() {
     PolarGraphEvents& events = pgPolarGraph().events;
     events.DrawBegin = [this](bool& value) { lockWhileDrawing(value); };
-    events.Click = [this] { pgPolarGraph_Click(); };
+    events.Click = [this] { toolbox_->stepList(); };
     events.BeforeGraph = [this](std::int16_t& index) {
         beginProgress(pgPolarGraph().Plot().Item(std::int64_t{index}));
     };
@@ -32,30 +31,20 @@ void frmMain::followPlot() {
         trackPosition(bearing, radial);
     };
     events.MouseDown = [this](std::int16_t button, std::int16_t, float, float) {
-        if (button != leftButton || activeToolButton_ != Tool::Pan) return;
-        panDragging_ = true;
-        LoadToolCursor(ToolCursor::PanDragging);
+        toolbox_->mouseDown(button);
     };
     events.MouseMove = [this](std::int16_t button, std::int16_t, float, float) {
-        if (button == leftButton && activeToolButton_ == Tool::Pan && !panDragging_)
-            LoadToolCursor(ToolCursor::PanDragging);
+        toolbox_->mouseMove(button);
         followSelection();
     };
     events.MouseUp = [this](std::int16_t button, std::int16_t, float, float) {
-        if (button == leftButton && activeToolButton_ == Tool::Pan) {
-            panDragging_ = false;
-            LoadToolCursor(ToolCursor::Pan);
-        }
+        toolbox_->mouseUp(button);
         if (button == rightButton) actions_.at("mnuEdit")->menu()->popup(QCursor::pos());
     };
     events.KeyDown = [this](std::int16_t& keyCode, std::int16_t) {
         if (keyCode != escapeKey) return;
         keyCode = 0;
-        if (!pgPolarGraph().StopAni())
-            pgPolarGraph().StopAni(true);
-        else if (!pgPolarGraph().cancelTool() && activeToolButton_ != Tool::Arrow)
-            pressTool(Tool::Arrow);
-        followSelection();
+        escape();
     };
     events.DrawProgress = [this](float, float, float, float, float) { ui_.pgbProgressBar->advance(); };
     connect(ui_.pgPolarGraph, &PolarGraphWidget::aboutRequested, this,
@@ -72,23 +61,18 @@ void frmMain::lockWhileDrawing(bool value) {
     }
     for (const MenuEntry& entry : menuTree())
         if (entry.lock == Lock::WhileDrawing) actions_.at(entry.name)->setEnabled(value && isOfUse(entry));
-    ui_.cmbFunction->setEnabled(value);
-    ui_.cmdReplace->setEnabled(value && ui_.cmbFunction->count() > 0);
-    for (const Tool tool : {Tool::Select, Tool::Aspect, Tool::Zoom}) toolButton(tool).setEnabled(value);
+    graphs_->setFree(value);
+    toolbox_->setFree(value);
     if (value) ui_.pgbProgressBar->hide();
 }
 
-/// With its tool selected, a click on the plot moves to the next row of the list; each step acts like a click
-/// on the row.
-void frmMain::pgPolarGraph_Click() {
-    const auto step = [](ChoiceList& list, int lastToStepFrom) {
-        const int row = list.currentRow();
-        list.setCurrentRow(row >= 0 && row <= lastToStepFrom ? row + 1 : 0);
-    };
-    constexpr int lastAspectStep = 2;
-    constexpr int lastZoomStep = 12;
-    if (activeToolButton_ == Tool::Aspect) step(*ui_.lstAspect, lastAspectStep);
-    if (activeToolButton_ == Tool::Zoom) step(*ui_.lstZoom, lastZoomStep);
+/// Ends a curve being drawn, else cancels the tool's drag or selection, else returns to the pointer tool.
+void frmMain::escape() {
+    if (!pgPolarGraph().StopAni())
+        pgPolarGraph().StopAni(true);
+    else if (!pgPolarGraph().cancelTool() && activeTool() != Tool::Arrow)
+        pressTool(Tool::Arrow);
+    followSelection();
 }
 
 void frmMain::trackPosition(float bearing, float radial) {

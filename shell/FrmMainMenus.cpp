@@ -1,13 +1,9 @@
 // The commands of the menus and of the two toolbars.
 
-#include <QButtonGroup>
 #include <QCoreApplication>
-#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
-#include <QSignalBlocker>
 
-#include "base/Numbers.h"
 #include "base/Paths.h"
 #include "batch/BatchBitmap.h"
 #include "batch/FrmBatchMode.h"
@@ -20,13 +16,10 @@
 #include "dialogs/point/FrmOpenTSFDataFile.h"
 #include "dialogs/point/FrmOpenUPDATFile.h"
 #include "platform/Errors.h"
-#include "platform/QtText.h"
 #include "processing/TextViewer.h"
-#include "settings/CfgFile.h"
 #include "settings/Settings.h"
 #include "shell/FrmAboutZephyrgraph.h"
 #include "shell/FrmAddLabel.h"
-#include "shell/FrmAspect.h"
 #include "shell/FrmChangeRadius.h"
 #include "shell/FrmGridFonts.h"
 #include "shell/FrmMain.h"
@@ -35,62 +28,91 @@
 #include "shell/FrmSelectWindRose.h"
 #include "shell/FrmSetSeasons.h"
 #include "shell/FrmSetWindSpeedClasses.h"
-#include "shell/FrmZoom.h"
 #include "shell/MenuTree.h"
 
 namespace zg {
 
 namespace {
 
-constexpr int aspectEntries = 4;
-constexpr int customAspectRow = 4;
-constexpr int customZoomRow = 14;
-constexpr std::int32_t selectTool = 4;
-
-/// Runs an action when Enter is pressed in a list, with the current row.
-class EnterFilter : public QObject {
- public:
-    EnterFilter(QObject* parent, std::function<void()> action)
-        : QObject(parent), action_(std::move(action)) {}
-
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() != QEvent::KeyPress) return false;
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
-        action_();
-        return true;
-    }
-
- private:
-    std::function<void()> action_;
-};
-
-std::string indexed(const char* name, int index) { return std::string(name) + "_" + std::to_string(index); }
+std::string entryName(const char* name, int index) { return std::string(name) + "_" + std::to_string(index); }
 
 }  // namespace
 
-std::map<std::string, std::function<void()>> frmMain::commands() {
-    std::map<std::string, std::function<void()>> table = {
-        {"mnuFileOption_1", [this] { mnuFileOption_Click(1); }},
-        {"mnuFileOption_18", [this] { mnuFileOption_Click(18); }},
-        {"mnuFileOption_12", [this] { mnuFileOption_Click(12); }},
-        {"mnuFileOption_13", [this] { mnuFileOption_Click(13); }},
-        {"mnuFileOption_15", [this] { mnuFileOption_Click(15); }},
-        {"mnuFileOption_16", [this] { mnuFileOption_Click(16); }},
-        {"mnuEditOption_0", [this] { mnuEditOption_Click(0); }},
-        {"mnuEditOption_1", [this] { mnuEditOption_Click(1); }},
-        {"mnuEditOption_3", [this] { mnuEditOption_Click(3); }},
+/// Shows the form of a processing entry.
+template <typename Form, typename... Values>
+void frmMain::process(Values... values) {
+    Form(host_, starter_, processingWindow(), values..., this).exec();
+}
+
+frmMain::Commands frmMain::fileCommands() {
+    return {
+        {"mnuFileOption_1", [this] { openFrqFile(); }},
+        {"mnuFileOption_3",
+         [this] {
+             useLibrariesBeside(applicationDirectory);
+             process<frmProcess3DDATFiles>();
+         }},
+        {"mnuFileOption_4", [this] { process<frmOpenAERMETFile>(AermetKind::Surface); }},
+        {"mnuFileOption_5", [this] { process<frmOpenAERMETFile>(AermetKind::Profile); }},
+        {"mnuFileOption_6", [this] { process<frmOpenAMMNETDataFile>(); }},
+        {"mnuFileOption_7",
+         [this] {
+             useLibrariesBeside(applicationDirectory);
+             process<frmProcessVENTOSDATFiles>();
+         }},
+        {"mnuFileOption_8", [this] { process<frmOpenSURFDATFile>(); }},
+        {"mnuFileOption_9", [this] { process<frmOpenUPDATFile>(); }},
+        {"mnuFileOption_10", [this] { process<frmOpenTSFDataFile>(); }},
+        {"mnuFileOption_12",
+         [this] {
+             selectPage();
+             copyTo();
+         }},
+        {"mnuFileOption_13", [this] { showBatchMode(); }},
+        {"mnuFileOption_15", [this] { frmCreateReport(host_, this).exec(); }},
+        {"mnuFileOption_16", [this] { pgPolarGraph().SentToPrinter(); }},
+        {"mnuFileOption_18",
+         [this] {
+             ending_ = true;
+             QCoreApplication::exit();
+         }},
+    };
+}
+
+frmMain::Commands frmMain::editCommands() {
+    return {
+        {"mnuEditOption_0", [this] { pgPolarGraph().EditCopy(); }},
+        {"mnuEditOption_1", [this] { selectPage(); }},
+        {"mnuEditOption_3", [this] { copyTo(); }},
+    };
+}
+
+frmMain::Commands frmMain::viewCommands() {
+    Commands table = {
         {"mnuViewFRQFile", [this] { viewFrqFile(); }},
         {"mnuViewToolbar", [this] { toggleShown("mnuViewToolbar", *ui_.tblToolbar); }},
         {"mnuViewToolbox", [this] { toggleShown("mnuViewToolbox", *ui_.fraToolbox); }},
         {"mnuViewRulerShow",
          [this] { pgPolarGraph().ShowRuler(actions_.at("mnuViewRulerShow")->isChecked()); }},
-        {"mnuViewAspectOption_5", [this] { mnuViewAspectOption_Click(5); }},
         {"mnuViewDA", [this] { pgPolarGraph().ResetDrawingArea(); }},
         {"mnuViewRefresh", [this] { pgPolarGraph().Refresh(); }},
+        {"mnuViewZoomSize_0", [this] { toolbox_->setZoom(125); }},
+        {"mnuViewZoomSize_1", [this] { toolbox_->setZoom(200); }},
+        {"mnuViewZoomSize_2", [this] { toolbox_->askForZoom(); }},
+        {"mnuAvePeriod", [this] { frmSelectWindRose(host_, pgPolarGraph(), this).exec(); }},
+        {"mnuHelpAbout", [this] { showAbout(); }},
+    };
+    for (const int i : {0, 1, 2, 3, 5})
+        table[entryName("mnuViewAspectOption", i)] = [this, i] { toolbox_->chooseAspect(i); };
+    for (int i = 0; i < 2; ++i)
+        table[entryName("mnuViewRulerModeOption", i)] = [this, i] { pgPolarGraph().SetRulerMode(i); };
+    return table;
+}
+
+frmMain::Commands frmMain::optionCommands() {
+    Commands table = {
         {"mnuSetSeasons", [this] { frmSetSeasons(host_, this).exec(); }},
         {"mnuSetWindSpeedClasses", [this] { frmSetWindSpeedClasses(host_, this).exec(); }},
-        {"mnuAvePeriod", [this] { frmSelectWindRose(host_, pgPolarGraph(), this).exec(); }},
         {"mnuChangeRadius", [this] { frmChangeRadius(host_, pgPolarGraph(), this).exec(); }},
         {"mnuAddLabel", [this] { frmAddLabel(host_, pgPolarGraph(), this).exec(); }},
         {"mnuEditLegend", [this] { frmOptionsLegend(host_, pgPolarGraph(), this).exec(); }},
@@ -108,21 +130,36 @@ std::map<std::string, std::function<void()>> frmMain::commands() {
          }},
         {"mnuPolarOption_4",
          [this] { pgPolarGraph().ShowCoordinateSystem(actions_.at("mnuPolarOption_4")->isChecked()); }},
-        {"mnuHelpAbout", [this] { showAbout(); }},
     };
-    for (const int i : {3, 4, 5, 6, 7, 8, 9, 10})
-        table[indexed("mnuFileOption", i)] = [this, i] { mnuFileOption_Click(i); };
-    for (int i = 0; i < aspectEntries; ++i)
-        table[indexed("mnuViewAspectOption", i)] = [this, i] { mnuViewAspectOption_Click(i); };
-    for (int i = 0; i < 3; ++i) {
-        table[indexed("mnuViewZoomSize", i)] = [this, i] { mnuViewZoomSize_Click(i); };
-        table[indexed("mnuPolarGridOption", i)] = [this, i] { pgPolarGraph().ShowGrid(i); };
-    }
-    for (const int i : {0, 1, 2, 4, 6, 7, 9, 11})
-        table[indexed("mnuGraphOption", i)] = [this, i] { mnuGraphOption_Click(i); };
-    for (int i = 0; i < 2; ++i)
-        table[indexed("mnuViewRulerModeOption", i)] = [this, i] { pgPolarGraph().SetRulerMode(i); };
+    for (int i = 0; i < 3; ++i)
+        table[entryName("mnuPolarGridOption", i)] = [this, i] { pgPolarGraph().ShowGrid(i); };
     return table;
+}
+
+frmMain::Commands frmMain::graphCommands() {
+    return {
+        {"mnuGraphOption_0", [this] { graphs_->hideSelected(true); }},
+        {"mnuGraphOption_1", [this] { graphs_->hideSelected(false); }},
+        {"mnuGraphOption_2", [this] { graphs_->deleteSelected(); }},
+        {"mnuGraphOption_4", [this] { graphs_->selectAll(); }},
+        {"mnuGraphOption_6", [this] { graphs_->playSelected(); }},
+        {"mnuGraphOption_7", [this] { pgPolarGraph().StopAni(true); }},
+        {"mnuGraphOption_9", [this] { graphs_->showTable(); }},
+        {"mnuGraphOption_11", [this] { graphs_->showProperties(); }},
+    };
+}
+
+frmMain::Commands frmMain::commands() {
+    Commands all;
+    for (Commands part : {fileCommands(), editCommands(), viewCommands(), optionCommands(), graphCommands()})
+        all.merge(part);
+    return all;
+}
+
+/// Runs the command of an entry whether it is enabled or not; an entry without a command does nothing.
+void frmMain::runEntry(const char* name, int index) {
+    const auto command = commands_.find(entryName(name, index));
+    if (command != commands_.end()) command->second();
 }
 
 void frmMain::makeMenus() {
@@ -170,106 +207,16 @@ void frmMain::makeToolbars() {
             connect(button, &QToolButton::clicked, this, guarded(host_, command->second));
     }
     followSelection();
-
-    for (std::size_t i = 0; i < ui_.toolboxButtons.size(); ++i)
-        connect(ui_.toolboxButtons[i], &QToolButton::clicked, this,
-                guarded(host_, [this, i] { pressTool(static_cast<Tool>(i + 1)); }));
-    ui_.lstAspect->onChoice = guarded(host_, [this](int row) { lstAspect_Click(row); });
-    ui_.lstZoom->onChoice = guarded(host_, [this](int row) { lstZoom_Click(row); });
-    customEntryOnEnter(*ui_.lstAspect, [this] { showAspectDialog(); });
-    customEntryOnEnter(*ui_.lstZoom, [this] { showZoomDialog(); });
+    toolbox_ = std::make_unique<Toolbox>(*this, host_, ui_, actions_, [this] { followSelection(); });
 }
 
-void frmMain::customEntryOnEnter(QListWidget& list, std::function<void()> show) {
-    list.installEventFilter(new EnterFilter(this, guarded(host_, [&list, show = std::move(show)] {
-                                                if (list.currentRow() == list.count() - 1) show();
-                                            })));
-}
-
-void frmMain::pressTool(Tool tool) {
-    struct Row {
-        std::int32_t setActiveTool;
-        std::int16_t pointer;  ///< 0 for the cursor
-        ToolCursor cursor;
-    };
-    static const std::map<Tool, Row> rows = {{Tool::Arrow, {0, 1, {}}},
-                                             {Tool::Select, {4, 0, ToolCursor::Select}},
-                                             {Tool::Cross, {2, 2, {}}},
-                                             {Tool::Circular, {1, 0, ToolCursor::Circular}},
-                                             {Tool::Pan, {3, 0, ToolCursor::Pan}},
-                                             {Tool::Aspect, {0, 0, ToolCursor::Aspect}},
-                                             {Tool::Zoom, {0, 0, ToolCursor::Zoom}}};
-    ui_.toolboxButtons[static_cast<std::size_t>(tool) - 1]->setChecked(true);
-    ui_.lstAspect->hide();
-    ui_.lstZoom->hide();
-    const Row& row = rows.at(tool);
-    pgPolarGraph().SetActiveTool(row.setActiveTool);
-    if (row.pointer == 0)
-        LoadToolCursor(row.cursor);
-    else
-        pgPolarGraph().MousePointer(row.pointer);
-    if (tool == Tool::Aspect) ui_.lstAspect->show();
-    if (tool == Tool::Zoom) ui_.lstZoom->show();
-    activeToolButton_ = tool;
+void frmMain::selectPage() {
+    pressTool(Tool::Select);
+    pgPolarGraph().EditSelectAll();
     followSelection();
 }
 
-void frmMain::mnuFileOption_Click(int Index) {
-    switch (Index) {
-        case 1:
-            return openFrqFile();
-        case 4:
-            frmOpenAERMETFile(host_, starter_, processingWindow(), AermetKind::Surface, this).exec();
-            return;
-        case 5:
-            frmOpenAERMETFile(host_, starter_, processingWindow(), AermetKind::Profile, this).exec();
-            return;
-        case 6:
-            frmOpenAMMNETDataFile(host_, starter_, processingWindow(), this).exec();
-            return;
-        case 9:
-            frmOpenUPDATFile(host_, starter_, processingWindow(), this).exec();
-            return;
-        case 10:
-            frmOpenTSFDataFile(host_, starter_, processingWindow(), this).exec();
-            return;
-        case 8:
-            frmOpenSURFDATFile(host_, starter_, processingWindow(), this).exec();
-            return;
-        case 3:
-            useLibrariesBeside(applicationDirectory);
-            frmProcess3DDATFiles(host_, starter_, processingWindow(), this).exec();
-            return;
-        case 7:
-            useLibrariesBeside(applicationDirectory);
-            frmProcessVENTOSDATFiles(host_, starter_, processingWindow(), this).exec();
-            return;
-        case 12:
-            mnuEditOption_Click(1);
-            return mnuEditOption_Click(3);
-        case 13:
-            return showBatchMode();
-        case 15:
-            frmCreateReport(host_, this).exec();
-            return;
-        case 16:
-            return pgPolarGraph().SentToPrinter();
-        case 18:
-            ending_ = true;
-            return QCoreApplication::exit();
-        default:
-            return;
-    }
-}
-
-void frmMain::mnuEditOption_Click(int Index) {
-    if (Index == 0) pgPolarGraph().EditCopy();
-    if (Index == 1) {
-        pressTool(Tool::Select);
-        pgPolarGraph().EditSelectAll();
-        followSelection();
-    }
-    if (Index != 3) return;
+void frmMain::copyTo() {
     if (settings.BatchMode)
         pgPolarGraph().EditCopyTo(batchBitmapPath());
     else
@@ -308,65 +255,5 @@ void frmMain::showAbout(const QString& title) {
     if (!title.isEmpty()) about.setWindowTitle(title);
     about.exec();
 }
-
-void frmMain::toolDropsSelection() {
-    if (pgPolarGraph().SetActiveTool() != selectTool) return;
-    pgPolarGraph().SetActiveTool(0);
-    pgPolarGraph().SetActiveTool(selectTool);
-    followSelection();
-}
-
-void frmMain::mnuViewAspectOption_Click(int Index) {
-    if (Index < 0 || Index >= aspectEntries) {
-        showAspectDialog();
-    } else {
-        QAction* entry = actions_.at(indexed("mnuViewAspectOption", Index));
-        entry->setChecked(true);
-        const float ratio = toSingle(val(typed(entry->text())));
-        if (ratio != pgPolarGraph().AspectRatio()) {
-            {
-                const QSignalBlocker quiet(ui_.lstAspect);
-                ui_.lstAspect->setCurrentRow(Index);
-            }
-            pgPolarGraph().AspectRatio(ratio);
-        }
-    }
-    toolDropsSelection();
-}
-
-void frmMain::lstAspect_Click(int row) {
-    if (row < 0) return;
-    if (row == customAspectRow) {
-        mnuViewAspectOption_Click(row);
-        return;
-    }
-    const float ratio = toSingle(val(typed(ui_.lstAspect->item(row)->text())));
-    if (ratio != pgPolarGraph().AspectRatio()) mnuViewAspectOption_Click(row);
-}
-
-void frmMain::lstZoom_Click(int row) {
-    if (row < 0) return;
-    settings.ZoomListIndex = static_cast<std::int16_t>(row);
-    if (row == customZoomRow) {
-        WriteCfgFile(settings.CfgFilePath);
-        showZoomDialog();
-        return;
-    }
-    const std::int16_t percent = toInt16(intFloor(val(typed(ui_.lstZoom->item(row)->text()))));
-    if (percent != pgPolarGraph().Zoom()) pgPolarGraph().Zoom(percent);
-    settings.ZoomPercentText = std::to_string(percent);
-    WriteCfgFile(settings.CfgFilePath);
-}
-
-void frmMain::mnuViewZoomSize_Click(int Index) {
-    if (Index == 0) pgPolarGraph().Zoom(125);
-    if (Index == 1) pgPolarGraph().Zoom(200);
-    if (Index == 2) showZoomDialog();
-    toolDropsSelection();
-}
-
-void frmMain::showAspectDialog() { frmAspect(host_, pgPolarGraph(), this).exec(); }
-
-void frmMain::showZoomDialog() { frmZoom(host_, pgPolarGraph(), this).exec(); }
 
 }  // namespace zg

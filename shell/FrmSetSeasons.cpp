@@ -16,7 +16,7 @@ constexpr std::array<const char*, 12> monthLabels = {
     "&January:", "&February:", "&March:",     "&April:",   "Ma&y:",      "J&une:",
     "Ju&ly:",    "Au&gust:",   "&September:", "&October:", "&November:", "&December:"};
 
-QString indexed(const char* name, std::size_t index) {
+QString monthName(const char* name, std::size_t index) {
     return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index);
 }
 
@@ -49,16 +49,16 @@ void frmSetSeasons::layOut() {
     grid->setVerticalSpacing(6);
     for (std::size_t month = 0; month < cboSeason.size(); ++month) {
         cboSeason[month] = new QComboBox;
-        cboSeason[month]->setObjectName(indexed("cboSeason", month));
+        cboSeason[month]->setObjectName(monthName("cboSeason", month));
         cboSeason[month]->setAccessibleName(spoken(QString::fromLatin1(monthLabels[month])));
         for (const std::string_view season : seasonChoices) cboSeason[month]->addItem(shown(season));
         txtCustomSeason[month] = new QLineEdit;
-        txtCustomSeason[month]->setObjectName(indexed("txtCustomSeason", month));
+        txtCustomSeason[month]->setObjectName(monthName("txtCustomSeason", month));
         txtCustomSeason[month]->setAccessibleName(spoken(QString::fromLatin1(monthLabels[month])) +
                                                   QStringLiteral(" name of a custom season"));
         txtCustomSeason[month]->setMinimumWidth(digitsWide(*txtCustomSeason[month], 18));
         auto* lblMonth = new QLabel(QString::fromLatin1(monthLabels[month]));
-        lblMonth->setObjectName(indexed("lblMonth", month));
+        lblMonth->setObjectName(monthName("lblMonth", month));
         lblMonth->setBuddy(cboSeason[month]);
         const int row = static_cast<int>(month);
         grid->addWidget(lblMonth, row, 0, Qt::AlignRight | Qt::AlignVCenter);

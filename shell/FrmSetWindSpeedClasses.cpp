@@ -15,7 +15,7 @@ namespace zg {
 
 namespace {
 
-QString indexed(const char* name, std::size_t index) {
+QString rowName(const char* name, std::size_t index) {
     return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index);
 }
 
@@ -42,10 +42,10 @@ frmSetWindSpeedClasses::frmSetWindSpeedClasses(Host& host, QWidget* parent) : QD
 void frmSetWindSpeedClasses::layOut() {
     for (std::size_t row = 0; row < txtWindSpeedClassMin.size(); ++row) {
         txtWindSpeedClassMin[row] = new QLineEdit;
-        txtWindSpeedClassMin[row]->setObjectName(indexed("txtWindSpeedClassMin", row));
+        txtWindSpeedClassMin[row]->setObjectName(rowName("txtWindSpeedClassMin", row));
         txtWindSpeedClassMin[row]->setFixedWidth(digitsWide(*txtWindSpeedClassMin[row], 9));
         lblWindSpeedClassMax[row] = new QLabel(this);
-        lblWindSpeedClassMax[row]->setObjectName(indexed("lblWindSpeedClassMax", row));
+        lblWindSpeedClassMax[row]->setObjectName(rowName("lblWindSpeedClassMax", row));
         lblWindSpeedClassMax[row]->setVisible(row > 0);
     }
     auto* rows = new QVBoxLayout(this);

@@ -1,4 +1,4 @@
-// The list of graphs, the row of boxes that edits one of them, and the list's context menu.
+#include "shell/GraphList.h"
 
 #include <QHeaderView>
 #include <QMenu>
@@ -11,11 +11,9 @@
 #include "platform/Errors.h"
 #include "platform/QtText.h"
 #include "shell/FrmExpr.h"
-#include "shell/FrmMain.h"
 #include "shell/FrmProperties.h"
 #include "shell/FrmTable.h"
 #include "shell/LegendSwatch.h"
-#include "shell/MenuTree.h"
 
 namespace zg {
 
@@ -48,7 +46,16 @@ void selectFrom(QLineEdit& box, const std::string& text, int column) {
 
 }  // namespace
 
-void frmMain::connectGraphList() {
+GraphList::GraphList(QWidget& window, Host& host, const FrmMainControls& ui,
+                     const std::map<std::string, QAction*>& actions, GraphListHooks hooks)
+    : window_(window), host_(host), ui_(ui), actions_(actions), hooks_(std::move(hooks)) {
+    connectBoxes();
+    connectTable();
+    ui_.cmdPlot->setEnabled(false);
+    ui_.cmdReplace->setEnabled(false);
+}
+
+void GraphList::connectBoxes() {
     QComboBox& functions = *ui_.cmbFunction;
     // Leaving the box with a text that is also in the list is not a click in the list.
     disconnect(functions.lineEdit(), &QLineEdit::editingFinished, &functions, nullptr);
@@ -69,19 +76,20 @@ void frmMain::connectGraphList() {
         ui_.cmbFunction->setFocus();
     });
     connect(ui_.cmdExpr, &QPushButton::clicked, this, guarded(host_, [this] { cmdExpr_Click(); }));
+}
+
+void GraphList::connectTable() {
     connect(ui_.lvwTable, &QTreeWidget::itemSelectionChanged, this,
             guarded(host_, [this] { lvwTable_ItemClick(); }));
     // A click on the only selected row also shows it.
     connect(ui_.lvwTable, &QTreeWidget::itemClicked, this, guarded(host_, [this] { lvwTable_ItemClick(); }));
-    ui_.lvwTable->onPopup = guarded(host_, [this](const QPoint& at) { popUpGraphMenu(at); });
-    ui_.lvwTable->onDelete = guarded(host_, [this] { mnuGraphOption_Click(2); });
+    ui_.lvwTable->onPopup = guarded(host_, [this](const QPoint& at) { popUpMenu(at); });
+    ui_.lvwTable->onDelete = guarded(host_, [this] { deleteSelected(); });
     connect(actions_.at("mnuGraph")->menu(), &QMenu::aboutToShow, this,
             guarded(host_, [this] { mnuGraph_Open(); }));
-    ui_.cmdPlot->setEnabled(false);
-    ui_.cmdReplace->setEnabled(false);
 }
 
-std::vector<int> frmMain::selectedRows() const {
+std::vector<int> GraphList::selectedRows() const {
     std::vector<int> rows;
     for (const QModelIndex& index : ui_.lvwTable->selectionModel()->selectedRows())
         rows.push_back(index.row());
@@ -89,11 +97,11 @@ std::vector<int> frmMain::selectedRows() const {
     return rows;
 }
 
-GrapInfo& frmMain::graphOfRow(int row) { return pgPolarGraph().Plot().Item(std::int64_t{row} + 1); }
+GrapInfo& GraphList::graphOfRow(int row) { return plot().Plot().Item(std::int64_t{row} + 1); }
 
-void frmMain::AddGraph(std::int16_t Index) {
-    const GrapInfo& graph = pgPolarGraph().Plot().Item(std::int64_t{Index});
-    const QPixmap swatch = legendSwatch(graph.Series, picTemp_, devicePixelRatioF());
+void GraphList::add(std::int16_t index) {
+    const GrapInfo& graph = plot().Plot().Item(std::int64_t{index});
+    const QPixmap swatch = legendSwatch(graph.Series, swatchSize, window_.devicePixelRatioF());
     auto* row = new QTreeWidgetItem;
     row->setData(0, swatchRole, swatch);
     row->setText(coefficientColumn, shown(graph.Coefficient));
@@ -105,24 +113,23 @@ void frmMain::AddGraph(std::int16_t Index) {
 }
 
 /// Rebuilds rows, pictures and the box's list; what is typed in the row of boxes stays.
-void frmMain::rebuildGraphList() {
+void GraphList::rebuild() {
     const QSignalBlocker quietTable(ui_.lvwTable);
     const QSignalBlocker quietBox(ui_.cmbFunction);
     const QString typedText = ui_.cmbFunction->currentText();
     ui_.lvwTable->clear();
     ui_.cmbFunction->clear();
-    const std::int32_t count = pgPolarGraph().Plot().Count();
+    const std::int32_t count = plot().Plot().Count();
     QStringList equations;
     for (std::int32_t i = 1; i <= count; ++i) {
-        AddGraph(static_cast<std::int16_t>(i));
+        add(static_cast<std::int16_t>(i));
         equations.append(shown(graphOfRow(i - 1).Equation));
     }
     ui_.cmbFunction->addItems(equations);
     ui_.cmbFunction->setEditText(typedText);
 }
 
-/// Selection by code: nothing of the row is copied to the boxes.
-void frmMain::selectOnly(int row) {
+void GraphList::selectOnly(int row) {
     const QSignalBlocker quiet(ui_.lvwTable);
     QTreeWidgetItem* item = ui_.lvwTable->topLevelItem(row);
     if (item == nullptr) {
@@ -133,8 +140,8 @@ void frmMain::selectOnly(int row) {
     ui_.lvwTable->viewport()->update();
 }
 
-void frmMain::listPlot() {
-    rebuildGraphList();
+void GraphList::listPlot() {
+    rebuild();
     const bool hasRow = ui_.lvwTable->topLevelItemCount() > 0;
     if (hasRow) {
         QTreeWidgetItem* first = ui_.lvwTable->topLevelItem(0);
@@ -147,7 +154,7 @@ void frmMain::listPlot() {
 }
 
 /// The texts of the two boxes; nothing if one of them is wrong, which is then reported and selected.
-std::optional<frmMain::CurveTexts> frmMain::checkedTexts() {
+std::optional<GraphList::CurveTexts> GraphList::checkedTexts() {
     const std::string coefficient = typed(ui_.txtCoefficient->text());
     const std::string equation = typed(ui_.cmbFunction->currentText());
     const auto fault = checkEquation(coefficient, equation, [this] { return host_.tickCount(); });
@@ -161,24 +168,24 @@ std::optional<frmMain::CurveTexts> frmMain::checkedTexts() {
     return std::nullopt;
 }
 
-void frmMain::cmdPlot_Click() {
+void GraphList::cmdPlot_Click() {
     if (plotting_) return;  // the previous curve is still being drawn, and has no row yet
     plotting_ = true;
     const auto plotted = [](bool* plotting) { *plotting = false; };
     const std::unique_ptr<bool, decltype(plotted)> atEnd(&plotting_, plotted);
-    pressTool(Tool::Arrow);
+    hooks_.pressArrow();
     const auto texts = checkedTexts();
     if (!texts) return;
-    Plot& plot = pgPolarGraph().Plot();
-    plot.Add(texts->coefficient, texts->equation, ui_.picColor[0]->colour(), ui_.picColor[1]->colour());
-    const std::int16_t index = toInt16(static_cast<double>(plot.Count()));
+    Plot& curves = plot().Plot();
+    curves.Add(texts->coefficient, texts->equation, ui_.picColor[0]->colour(), ui_.picColor[1]->colour());
+    const std::int16_t index = toInt16(static_cast<double>(curves.Count()));
     std::exception_ptr failed;
     try {
-        pgPolarGraph().DrawGraph(index);
+        plot().DrawGraph(index);
     } catch (...) {
         failed = std::current_exception();  // the list then still shows the plot's curves
     }
-    AddGraph(index);
+    add(index);
     const QSignalBlocker quiet(ui_.cmbFunction);
     const QString text = ui_.cmbFunction->currentText();
     ui_.cmbFunction->addItem(shown(texts->equation));
@@ -187,7 +194,7 @@ void frmMain::cmdPlot_Click() {
     if (failed) std::rethrow_exception(failed);
 }
 
-void frmMain::cmdReplace_Click() {
+void GraphList::cmdReplace_Click() {
     const std::vector<int> rows = selectedRows();
     if (rows.empty()) return;
     const auto texts = checkedTexts();
@@ -198,38 +205,38 @@ void frmMain::cmdReplace_Click() {
     graph.Equation = texts->equation;
     graph.Series.Pen.FillColor = ui_.picColor[0]->colour();
     graph.Series.Marker.FillColor = ui_.picColor[1]->colour();
-    rebuildGraphList();
+    rebuild();
     selectOnly(row);
     ui_.txtCoefficient->setText(shown(texts->coefficient));
-    pgPolarGraph().DrawGraph();  // last: an equation that fails at some angle must still get its row
+    plot().DrawGraph();  // last: an equation that fails at some angle must still get its row
 }
 
-void frmMain::cmdExpr_Click() {
-    frmExpr dialog(host_, this);
+void GraphList::cmdExpr_Click() {
+    frmExpr dialog(host_, &window_);
     dialog.exec();
     if (dialog.SelectedExpression.empty()) return;
     ui_.cmbFunction->setEditText(shown(dialog.SelectedExpression));
     ui_.cmbFunction->setFocus();
 }
 
-void frmMain::cmbFunction_Change() {
-    if (!pgPolarGraph().StopAni()) return;
+void GraphList::cmbFunction_Change() {
+    if (!plot().StopAni()) return;
     ui_.cmdPlot->setEnabled(!ui_.cmbFunction->currentText().isEmpty());
     if (ui_.lvwTable->topLevelItemCount() > 0) ui_.cmdReplace->setEnabled(ui_.cmdPlot->isEnabled());
 }
 
-void frmMain::cmbFunction_Click(int index) {
+void GraphList::cmbFunction_Click(int index) {
     selectOnly(index);
     if (const QTreeWidgetItem* row = ui_.lvwTable->topLevelItem(index))
         ui_.txtCoefficient->setText(row->text(coefficientColumn));
 }
 
-void frmMain::lvwTable_ItemClick() {
+void GraphList::lvwTable_ItemClick() {
     const std::vector<int> rows = selectedRows();
     if (rows.size() == 1) showInEditRow(rows.front());
 }
 
-void frmMain::showInEditRow(int row) {
+void GraphList::showInEditRow(int row) {
     const QTreeWidgetItem* item = ui_.lvwTable->topLevelItem(row);
     const Series& series = graphOfRow(row).Series;
     ui_.txtCoefficient->setText(item->text(coefficientColumn));
@@ -238,16 +245,16 @@ void frmMain::showInEditRow(int row) {
     ui_.picColor[1]->setColour(series.Marker.FillColor);
 }
 
-void frmMain::popUpGraphMenu(const QPoint& at) {
+void GraphList::popUpMenu(const QPoint& at) {
     if (ui_.lvwTable->topLevelItemCount() > 0) actions_.at("mnuGraph")->menu()->popup(at);
 }
 
-void frmMain::mnuGraph_Open() {
+void GraphList::mnuGraph_Open() {
     const auto enable = [this](int index, bool enabled) {
         actions_.at("mnuGraphOption_" + std::to_string(index))->setEnabled(enabled);
     };
     for (const int index : {0, 1, 2, 4, 6, 7, 9, 11}) enable(index, false);
-    const bool animates = !pgPolarGraph().StopAni();
+    const bool animates = !plot().StopAni();
     const std::vector<int> rows = selectedRows();
     if (!animates && !rows.empty()) {
         const bool hidden = isGhosted(*ui_.lvwTable->topLevelItem(rows.front()));
@@ -264,30 +271,7 @@ void frmMain::mnuGraph_Open() {
     enable(4, ui_.lvwTable->topLevelItemCount() > 0);
 }
 
-void frmMain::mnuGraphOption_Click(int Index) {
-    switch (Index) {
-        case 0:
-            return hideSelected(true);
-        case 1:
-            return hideSelected(false);
-        case 2:
-            return deleteSelected();
-        case 4:
-            return ui_.lvwTable->selectAll();
-        case 6:
-            return playSelected();
-        case 7:
-            return pgPolarGraph().StopAni(true);
-        case 9:
-            return showTable();
-        case 11:
-            return showProperties();
-        default:
-            return;
-    }
-}
-
-void frmMain::hideSelected(bool hide) {
+void GraphList::hideSelected(bool hide) {
     bool changed = false;
     for (const int row : selectedRows()) {
         QTreeWidgetItem& item = *ui_.lvwTable->topLevelItem(row);
@@ -296,17 +280,16 @@ void frmMain::hideSelected(bool hide) {
         graphOfRow(row).Visible = !hide;
         changed = true;
     }
-    if (changed) pgPolarGraph().DrawGraph();
+    if (changed) plot().DrawGraph();
 }
 
-void frmMain::deleteSelected() {
+void GraphList::deleteSelected() {
     const std::vector<int> rows = selectedRows();
     // The keyboard gets here without the menu: while an animation runs its curve must stay.
-    if (rows.empty() || !pgPolarGraph().StopAni()) return;
-    for (auto row = rows.rbegin(); row != rows.rend(); ++row)
-        pgPolarGraph().Plot().Remove(std::int64_t{*row} + 1);
+    if (rows.empty() || !plot().StopAni()) return;
+    for (auto row = rows.rbegin(); row != rows.rend(); ++row) plot().Plot().Remove(std::int64_t{*row} + 1);
     ui_.lvwTable->setSelectionMode(QAbstractItemView::SingleSelection);
-    rebuildGraphList();
+    rebuild();
     ui_.lvwTable->setSelectionMode(QAbstractItemView::ExtendedSelection);
     selectOnly(0);
     if (ui_.lvwTable->topLevelItemCount() > 0) {
@@ -316,19 +299,19 @@ void frmMain::deleteSelected() {
         ui_.cmdReplace->setEnabled(false);
         ui_.txtCoefficient->clear();
     }
-    pgPolarGraph().DrawGraph();
+    plot().DrawGraph();
 }
 
-void frmMain::playSelected() {
+void GraphList::playSelected() {
     const std::vector<int> rows = selectedRows();
     if (rows.empty()) return;
-    pressTool(Tool::Arrow);
-    pgPolarGraph().ClearGraph();
-    for (int row = 0; row < pgPolarGraph().Plot().Count(); ++row)
-        if (!pgPolarGraph().DrawGraph(toInt16(row + 1.0), row == rows.front())) break;
+    hooks_.pressArrow();
+    plot().ClearGraph();
+    for (int row = 0; row < plot().Plot().Count(); ++row)
+        if (!plot().DrawGraph(toInt16(row + 1.0), row == rows.front())) break;
 }
 
-void frmMain::showTable() {
+void GraphList::showTable() {
     const std::vector<int> rows = selectedRows();
     if (rows.empty()) return;
     const GrapInfo graph = graphOfRow(rows.front());  // events may change the list during sampling
@@ -338,37 +321,44 @@ void frmMain::showTable() {
 
 /// The table with its rows, null if sampling was stopped. A long one is locked and stopped like a curve being
 /// painted.
-std::unique_ptr<frmTable> frmMain::sampledTable(const GrapInfo& graph, const QPixmap& swatch) {
+std::unique_ptr<frmTable> GraphList::sampledTable(const GrapInfo& graph, const QPixmap& swatch) {
     const auto serve = [this] {
         host_.pumpEvents(0);
-        return !pgPolarGraph().StopAni();
+        return !plot().StopAni();
     };
-    const auto unlock = [](frmMain* window) {
-        window->pgPolarGraph().StopAni(true);
-        window->lockWhileDrawing(true);
+    const auto unlock = [](GraphList* list) {
+        list->plot().StopAni(true);
+        list->hooks_.lockWhileDrawing(true);
     };
-    beginProgress(graph);
-    pgPolarGraph().StopAni(false);
-    lockWhileDrawing(false);
-    const std::unique_ptr<frmMain, decltype(unlock)> atEnd(this, unlock);
+    hooks_.beginProgress(graph);
+    plot().StopAni(false);
+    hooks_.lockWhileDrawing(false);
+    const std::unique_ptr<GraphList, decltype(unlock)> atEnd(this, unlock);
     try {
         return std::make_unique<frmTable>(
-            host_, graph, swatch, [this] { ui_.pgbProgressBar->advance(); }, serve, this);
+            host_, graph, swatch, [this] { ui_.pgbProgressBar->advance(); }, serve, &window_);
     } catch (const SweepStopped&) {
         return nullptr;
     }
 }
 
-void frmMain::showProperties() {
+void GraphList::showProperties() {
     const std::vector<int> rows = selectedRows();
     if (rows.empty()) return;
     const int row = rows.front();
     const auto applied = [this, row] {
-        rebuildGraphList();
+        rebuild();
         selectOnly(row);
-        pgPolarGraph().DrawGraph();
+        plot().DrawGraph();
     };
-    frmProperties(host_, graphOfRow(row), applied, this).exec();
+    frmProperties(host_, graphOfRow(row), applied, &window_).exec();
+}
+
+void GraphList::selectAll() { ui_.lvwTable->selectAll(); }
+
+void GraphList::setFree(bool value) {
+    ui_.cmbFunction->setEnabled(value);
+    ui_.cmdReplace->setEnabled(value && ui_.cmbFunction->count() > 0);
 }
 
 }  // namespace zg
