@@ -71,7 +71,6 @@ class Value {
     double number() const { return number_; }
     const std::string& text() const { return static_cast<const TextPayload*>(payload_.get())->text; }
     Payload* payload() const { return payload_.get(); }
-    const std::shared_ptr<Payload>& sharedPayload() const { return payload_; }
     Value* target() const { return target_; }
 
     void setNumber(double number) {
