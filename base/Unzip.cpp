@@ -12,7 +12,7 @@ namespace zg {
 
 namespace {
 
-constexpr int gzipOnly = 16;  // added to the width of the window
+constexpr int gzipOnly = 16;  // makes the library expect gzip format
 
 uInt asCount(std::size_t size) {
     return static_cast<uInt>(std::min<std::size_t>(size, std::numeric_limits<uInt>::max()));
@@ -36,7 +36,7 @@ Unzipper::Unzipper() : stream_(new z_stream_s{}) {
 void Unzipper::failDamaged() { failToUnzip("the compressed data are damaged"); }
 void Unzipper::failCutOff() { failToUnzip("the compressed data are cut off"); }
 
-/// Zeros that fill up the last block of a tape are passed over; false where nothing else is left.
+/// Skips zeros that fill the last block of a tape; false if nothing else is left.
 bool Unzipper::beginNext(std::string_view& zipped) {
     while (!zipped.empty() && zipped[0] == '\0') zipped.remove_prefix(1);
     if (zipped.empty()) return false;
@@ -50,7 +50,7 @@ std::size_t Unzipper::unzip(std::string_view& zipped, char* place, std::size_t s
     while (done < size && !(whole_ && !beginNext(zipped))) {
         const uInt given = asCount(zipped.size());
         const uInt room = asCount(size - done);
-        // The library's own type for bytes; it does not change them.
+        // The library's own byte type is not const; it does not change the bytes.
         stream_->next_in = reinterpret_cast<Bytef*>(const_cast<char*>(zipped.data()));
         stream_->avail_in = given;
         stream_->next_out = reinterpret_cast<Bytef*>(place + done);

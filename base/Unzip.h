@@ -1,6 +1,6 @@
 #pragma once
 
-// Bytes of a gzip file, as they were before they were compressed.
+// Decompresses gzip files.
 
 #include <cstddef>
 #include <memory>
@@ -12,24 +12,24 @@ namespace zg {
 
 class Unzipper {
  public:
-    /// Whether a file that begins with these bytes is a gzip file. No text begins so.
+    /// Whether a file that begins with these bytes is a gzip file. No text file begins so.
     static bool isZipped(std::string_view start) {
         return !start.empty() && start[0] == '\x1F' && (start.size() < 2 || start[1] == '\x8B');
     }
 
-    /// The largest number of bytes that one compressed byte can stand for.
+    /// The largest number of bytes that one compressed byte can produce.
     static constexpr std::size_t mostOfOneByte = 1032;
 
     Unzipper();
 
-    /// Fills the place as far as the compressed bytes go, and takes those away that it has used. Several
-    /// files behind each other are one. Raises 57 for damaged data.
+    /// Fills the buffer as far as the compressed bytes allow, and removes those that it has used. Several
+    /// consecutive files are one. Raises 57 for damaged data.
     std::size_t unzip(std::string_view& zipped, char* place, std::size_t size);
 
-    /// All that was given so far was whole: the file may end here.
+    /// Whether everything so far was complete: the file may end here.
     bool isWhole() const { return whole_; }
 
-    /// Raises 57, with what is wrong as description.
+    /// Raises 57, with the problem as the description.
     [[noreturn]] static void failDamaged();
     [[noreturn]] static void failCutOff();
 

@@ -1,8 +1,7 @@
 #pragma once
 
-// Rules of the times in raw data. Hours go from 0 to 24, where 24 is hour 0 of the next day, and seconds from
-// 0 to 3600 within their hour. Years of two digits are those of fullYear (base/Dates.h) wherever a file has
-// them.
+// Rules for times in raw data. Hours are 0 to 24, where 24 is hour 0 of the next day, and seconds 0 to 3600
+// within their hour. Two-digit years follow fullYear (base/Dates.h) in all files.
 
 #include <cstdint>
 #include <string>
@@ -17,9 +16,9 @@ constexpr int secondsOfHour = 3600;
 /// The calendar's leap years.
 bool isLeapYear(int year);
 
-/// The leap years by which the dialogs turn a day of the year into a date: every fourth one, 1900 and 2100
-/// too. The dialogs must count so, and the processor must not: their days differ in years that end in 00,
-/// from February 29 on.
+/// The leap years by which the dialogs convert a day of the year to a date: every fourth one, including 1900
+/// and 2100. The dialogs must count so, and the processor must not: their days differ in years that end in
+/// 00, from February 29 on.
 bool isLeapYearOfDialogs(int year);
 
 /// 28 to 31; the month must be valid.

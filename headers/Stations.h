@@ -32,7 +32,7 @@ extern StationTable stations;
 /// at that moment: a missing file leaves it untouched, a wrong heading leaves empty slots.
 void LoadStationData();
 
-/// The name of the station of that code, in any letter case; "" for one that the table does not have.
+/// The name of the station with that code, in any letter case; "" if the table does not have it.
 std::string stationNameOf(const std::string& code);
 
 }  // namespace zg

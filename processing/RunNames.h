@@ -14,8 +14,8 @@ std::string periodInName(const std::string& beginYear, const std::string& beginM
 /// The file's name without its directory and its last four characters; raises 5 for a shorter name.
 std::string fileBaseOf(const std::string& path);
 
-/// Name of a station's output of a SURF.DAT run: by the station's name, or by the input's name and the text
-/// of its row in the list where it has none.
+/// Name of a station's output in a SURF.DAT run: the station's name or, if it has none, the input's name and
+/// the text of its row in the list.
 std::string surfOutputName(const std::string& fileBase, const std::string& row,
                            const std::string& stationName, const std::string& period,
                            const std::string& height);

@@ -7,8 +7,8 @@
 
 namespace zg::tempoline {
 
-/// The blocks of a file as they are, or unzipped where its first bytes tell that it is a gzip file. Throws a
-/// Failure with the path for damaged data.
+/// The blocks of a file, decompressed if its first bytes are those of a gzip file. Throws a Failure with the
+/// path for damaged data.
 std::unique_ptr<BlockReader> unzippedBlocks(std::unique_ptr<BlockReader> file, const std::string& path);
 
 }  // namespace zg::tempoline

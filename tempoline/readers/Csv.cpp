@@ -12,8 +12,9 @@ namespace {
 
 constexpr std::size_t mostNamedColumns = 4096;
 
-/// A table with a time, a speed and a direction in each line, laid out as the control file says. A record
-/// that begins before the one ahead has ended, as a report between two of the hour does, cuts that one off.
+/// A table with a time, a speed and a direction in each line, in the layout that the control file gives. A
+/// record that begins before the end of the previous one, such as a report between two hourly ones, ends the
+/// previous one early.
 class Csv : public InputReader {
  public:
     explicit Csv(const Control& control)
@@ -72,7 +73,7 @@ class Csv : public InputReader {
         }
     }
 
-    /// By the clock of the run.
+    /// In the zone of the run.
     Seconds momentOf(const TableTime& time) {
         const std::optional<Seconds> zone = time.zone ? time.zone : layout_.zone;
         if (!begun_) zone ? noteShift(control_, *zone) : noteNoShift(control_);
@@ -93,7 +94,7 @@ class Csv : public InputReader {
         waiting_ = {stamp, stamp + layout_.recordSeconds, wind, line};
     }
 
-    /// Its begin is that of its length, but not before the end of the one ahead.
+    /// Its begin follows from its length, but is not before the end of the previous record.
     void addEnding(Seconds end, const Wind& wind, std::size_t line) {
         Seconds begin = end - layout_.recordSeconds;
         if (lastEnd_ && end == *lastEnd_) begin = lastBegin_;
@@ -111,7 +112,7 @@ class Csv : public InputReader {
         waiting_.reset();
     }
 
-    /// Lines of the time of the one before are counted, and nothing more.
+    /// Lines with the same time as the previous one are only counted.
     void giveRepeated() {
         for (; repeats_ > 0; --repeats_)
             series_->add(waiting_->begin, waiting_->end, waiting_->wind, Place{path_, firstRepeat_});
@@ -123,8 +124,8 @@ class Csv : public InputReader {
     std::vector<std::string> names_;
     Series* series_ = nullptr;
     std::string path_;
-    std::optional<Waiting> waiting_;  ///< until the next one's time is known
-    std::int64_t repeats_ = 0;        ///< lines of its time
+    std::optional<Waiting> waiting_;  ///< until the time of the next one is known
+    std::int64_t repeats_ = 0;        ///< lines with its time
     std::size_t firstRepeat_ = 0;     ///< the first of these
     std::optional<Seconds> lastEnd_;
     Seconds lastBegin_ = 0;
