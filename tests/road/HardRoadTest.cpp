@@ -21,8 +21,8 @@ class HardRoad : public WholeRoad {
         std::filesystem::copy(samples + "LOVETT.SFC", data);
         open<frmOpenAERMETFile>(AermetKind::Surface);
         browse(data);
-        type("txtAnemometerHeight", "50");
-        type("txtStationID", "");
+        fill("txtAnemometerHeight", "50");
+        fill("txtStationID", "");
     }
     /// Runs until the second line shows a text, then ends the program.
     std::string reasonOfTheWait(const char* button = "cmdView") {
@@ -30,7 +30,7 @@ class HardRoad : public WholeRoad {
         host_.onPump = [this, &reason] {
             QCoreApplication::processEvents();
             QThread::msleep(1);
-            const auto& label = child<ReasonLabel>("lblReason");
+            const auto& label = *child<ReasonLabel>("lblReason");
             if (label.isVisible() && reason.empty()) {
                 reason = label.text().toStdString();
                 const QString escaped = "<p>" + label.text().toHtmlEscaped() + "</p>";
@@ -41,7 +41,7 @@ class HardRoad : public WholeRoad {
             }
         };
         click(button);
-        EXPECT_FALSE(child("lblReason").isVisible());
+        EXPECT_FALSE(child("lblReason")->isVisible());
         return reason;
     }
     void replaceProcessor(const std::string& script) {
@@ -50,7 +50,7 @@ class HardRoad : public WholeRoad {
         directory_.write("the program/tempoline.exe", script);
         std::filesystem::permissions(program, std::filesystem::perms::owner_all);
     }
-    std::string tip() { return child<QLabel>("lblStatus").toolTip().toStdString(); }
+    std::string tip() { return child<QLabel>("lblStatus")->toolTip().toStdString(); }
 };
 
 TEST_F(HardRoad, OddNamesAreNamesLikeAnyOther) {
@@ -95,19 +95,7 @@ TEST_F(HardRoad, AMissingProcessorIsToldWhileTheWaitGoesOn) {
 
 TEST_F(HardRoad, TheWizardTellsItToo) {
     std::filesystem::remove(inApplicationDirectory("tempoline.exe"));
-    open<frmProcess3DDATFiles>(nullptr);
-    host_.filesAnswers.push_back({samples + "valley_model.m3d"});
-    click("cmdBrowseDataFiles");
-    click("cmdNext1");
-    child<QComboBox>("cboSpatialInterpolationMethod").setCurrentIndex(0);
-    child<QComboBox>("cboVertProfilingMethod").setCurrentIndex(2);
-    host_.boxAnswers = {BoxAnswer::Yes};
-    click("cmdNext2");
-    type("txtGridPointI", "1.5");
-    type("txtGridPointJ", "2.25");
-    type("txtFRQOutputFilename", "cell");
-    click("cmdNext3");
-    type("txtOutputDirectory", out_);
+    openModelGrid("1.5", "2.25", "cell");
     EXPECT_EQ(reasonOfTheWait("cmdPROCESS"), "tempoline.exe is missing in " + applicationDirectory);
 }
 
@@ -128,8 +116,8 @@ TEST_F(HardRoad, AFailedRunHasTheListingsLastLineForATip) {
     EXPECT_EQ(status(), "Error has occurred.");
     const std::string last = tip();
     EXPECT_TRUE(last.find("ERROR: ") != std::string::npos && last.find("a.sfc") != std::string::npos) << last;
-    child("cmdView").setFocus();
-    child("cmdExit").setFocus();
+    child("cmdView")->setFocus();
+    child("cmdExit")->setFocus();
     EXPECT_EQ(status(), "");
     EXPECT_EQ(tip(), "");
 }
@@ -155,7 +143,7 @@ TEST_F(HardRoad, AnotherDirectoryIsOfferedWhereAnotherWindowWaits) {
     kill(other, SIGKILL);
     waitpid(other, nullptr, 0);
     EXPECT_EQ(status(), "Finished");
-    EXPECT_EQ(child<QLineEdit>("txtOutputDirectory").text().toStdString(), elsewhere + "/");
+    EXPECT_EQ(child<QLineEdit>("txtOutputDirectory")->text().toStdString(), elsewhere + "/");
     EXPECT_EQ(DirOf(settings.CurrentFrqPath), elsewhere);
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(out_), std::filesystem::directory_iterator()),
               1)
@@ -172,7 +160,7 @@ class ReadOnlyRoad : public HardRoad {
 
 TEST_F(ReadOnlyRoad, WithoutSettingsTheFactoryOnesMakeTheRose) {
     openWith("a.sfc");
-    EXPECT_EQ(child<QComboBox>("cboTimeZone").currentText(), "(UTC-05:00) Eastern Time (US & Canada)");
+    EXPECT_EQ(child<QComboBox>("cboTimeZone")->currentText(), "(UTC-05:00) Eastern Time (US & Canada)");
     click("cmdView");
     const std::string made = FileNameOf(settings.CurrentFrqPath);
     expectRose(made.substr(0, made.size() - std::min<std::size_t>(4, made.size())));
@@ -181,12 +169,12 @@ TEST_F(ReadOnlyRoad, WithoutSettingsTheFactoryOnesMakeTheRose) {
 
 TEST_F(ReadOnlyRoad, ChangesHoldUntilTheProgramEnds) {
     openWith("a.sfc");
-    child<QComboBox>("cboTimeZone").setCurrentIndex(0);
+    child<QComboBox>("cboTimeZone")->setCurrentIndex(0);
     click("cmdView");
     ASSERT_EQ(status(), "Finished") << listing();
     form_.reset();
     open<frmOpenAERMETFile>(AermetKind::Surface);
-    EXPECT_EQ(child<QComboBox>("cboTimeZone").currentIndex(), 0);
+    EXPECT_EQ(child<QComboBox>("cboTimeZone")->currentIndex(), 0);
 }
 
 }  // namespace

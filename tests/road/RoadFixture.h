@@ -29,28 +29,23 @@
 #include "settings/Settings.h"
 #include "shell/FrmMain.h"
 #include "shell/StartSequence.h"
-#include "tests/support/TempDirectory.h"
+#include "tests/support/FormDriver.h"
+#include "tests/support/FreshProgram.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
 
 inline const std::string samples = ZG_SOURCE_DIR "/data/samples/";
 
-class WholeRoad : public ::testing::Test {
+class WholeRoad : public ::testing::Test, protected FormDriver {
  protected:
     /// Lets a test change the program's directory before the program starts in it.
     virtual void prepareProgram() {}
 
     void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        timeZones = TimeZoneTable();
-        stations = StationTable();
-        projection = {};
         applicationDirectory = directory_.file("the program");
         std::filesystem::create_directories(applicationDirectory);
-        for (const char* name : {"TimeZones.txt", "datums.csv", "Station_Data.csv"})
-            std::filesystem::copy(std::string(ZG_SOURCE_DIR "/data/") + name, inApplicationDirectory(name));
+        program_.deliver({"TimeZones.txt", "datums.csv", "Station_Data.csv"});
         std::filesystem::copy(ZG_PROCESSOR, inApplicationDirectory("tempoline.exe"));
         std::filesystem::create_directory(out_);
         prepareProgram();
@@ -67,11 +62,6 @@ class WholeRoad : public ::testing::Test {
             QThread::msleep(1);
         };
     }
-    void TearDown() override {
-        form_.reset();
-        window_.reset();
-        projection = {};
-    }
     QImage page() { return window_->findChild<QWidget*>(QStringLiteral("picGraph"))->grab().toImage(); }
     ProcessingWindow hooks() {
         return {[this](const std::string& path) { window_->PlotFrqFile(path); },
@@ -80,29 +70,35 @@ class WholeRoad : public ::testing::Test {
     template <typename Form, typename... More>
     void open(More... more) {
         form_ = std::make_unique<Form>(host_, starter_, hooks(), more...);
-        form_->show();
-        form_->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(form_.get()));
+        showActive(*form_);
     }
-    template <typename Control = QWidget>
-    Control& child(const char* name) {
-        return *form_->findChild<Control*>(QString::fromLatin1(name));
-    }
-    void click(const char* name) { QTest::mouseClick(&child(name), Qt::LeftButton); }
-    void type(const char* name, const std::string& text) {
-        child<QLineEdit>(name).setText(QString::fromStdString(text));
-    }
+    QWidget& driven() override { return *form_; }
     void browse(const std::string& file) {
         host_.openAnswers.push_back(file.starts_with("/") ? file : samples + file);
         click("cmdBrowseFile");
-        type("txtOutputDirectory", out_);
+        fill("txtOutputDirectory", out_);
+    }
+    /// Fills in the wizard for 3D.DAT, for one rose at a grid cell, up to its last step.
+    void openModelGrid(const char* i, const char* j, const char* name) {
+        open<frmProcess3DDATFiles>(nullptr);
+        host_.filesAnswers.push_back({samples + "valley_model.m3d"});
+        click("cmdBrowseDataFiles");
+        click("cmdNext1");
+        child<QComboBox>("cboSpatialInterpolationMethod")->setCurrentIndex(0);
+        child<QComboBox>("cboVertProfilingMethod")->setCurrentIndex(2);
+        host_.boxAnswers = {BoxAnswer::Yes};
+        click("cmdNext2");
+        fill("txtGridPointI", i);
+        fill("txtGridPointJ", j);
+        fill("txtFRQOutputFilename", name);
+        click("cmdNext3");
+        fill("txtOutputDirectory", out_);
     }
     std::string listing() {
         for (const auto& entry : std::filesystem::directory_iterator(out_))
             if (entry.path().extension() == ".lst") return readWholeFile(entry.path().string());
         return "no listing";
     }
-    std::string status() { return child<QLabel>("lblStatus").text().toStdString(); }
     /// Whether the last run plotted that file, with all its roses, one of them on display.
     void expectRose(const std::string& name) {
         EXPECT_EQ(status(), "Finished") << listing();
@@ -118,7 +114,8 @@ class WholeRoad : public ::testing::Test {
         EXPECT_NE(listing().find("RUN COMPLETED"), std::string::npos);
     }
 
-    TempDirectory directory_;
+    FreshProgram program_;
+    const TempDirectory& directory_ = program_.directory;
     std::string out_ = directory_.file("my results/");
     TestHost host_;
     BatchStarter starter_;

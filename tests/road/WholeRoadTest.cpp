@@ -25,9 +25,9 @@ void expectSameRoses(const ModPolarGraph& a, const ModPolarGraph& b) {
 TEST_F(WholeRoad, AermetSurfaceGivesTheRosesThatAnotherProgramComputed) {
     open<frmOpenAERMETFile>(AermetKind::Surface);
     browse("LOVETT.SFC");
-    type("txtAnemometerHeight", "50");
-    if (child<QLineEdit>("txtStationID").text().isEmpty()) type("txtStationID", "14735");
-    type("txtFRQOutputFilename", "lovett");
+    fill("txtAnemometerHeight", "50");
+    if (child<QLineEdit>("txtStationID")->text().isEmpty()) fill("txtStationID", "14735");
+    fill("txtFRQOutputFilename", "lovett");
     click("cmdView");
     expectRose(FileNameOf(settings.CurrentFrqPath).substr(0, FileNameOf(settings.CurrentFrqPath).size() - 4));
     const ModPolarGraph made = modPolarGraph;
@@ -38,35 +38,35 @@ TEST_F(WholeRoad, AermetSurfaceGivesTheRosesThatAnotherProgramComputed) {
 TEST_F(WholeRoad, AermetProfile) {
     open<frmOpenAERMETFile>(AermetKind::Profile);
     browse("AERMET2.PFL");
-    type("txtStationID", "14735");
-    type("txtFRQOutputFilename", "profile");
+    fill("txtStationID", "14735");
+    fill("txtFRQOutputFilename", "profile");
     click("cmdView");
-    expectRose(child<QLineEdit>("txtFRQOutputFilename").text().toStdString());
+    expectRose(child<QLineEdit>("txtFRQOutputFilename")->text().toStdString());
     EXPECT_EQ(modPolarGraph.FrqTotalPeriods(1), 96);
 }
 
 TEST_F(WholeRoad, AProfileWithoutSuchALevelIsFinishedWithAWarning) {
     open<frmOpenAERMETFile>(AermetKind::Profile);
     browse("AERMET2.PFL");
-    type("txtStationID", "14735");
-    type("txtFRQOutputFilename", "profile");
-    type("txtAnemometerHeight", "400");
+    fill("txtStationID", "14735");
+    fill("txtFRQOutputFilename", "profile");
+    fill("txtAnemometerHeight", "400");
     click("cmdView");
     EXPECT_EQ(status(), "Finished");
-    const QLabel& reason = child<QLabel>("lblReason");
+    const QLabel& reason = *child<QLabel>("lblReason");
     EXPECT_TRUE(reason.isVisible());
     EXPECT_NE(reason.text().toStdString().find("the wind of 400.0 m is that of the nearest level, "),
               std::string::npos)
         << reason.text().toStdString() << listing();
-    child("cmdView").setFocus();
-    child("cmdExit").setFocus();
+    child("cmdView")->setFocus();
+    child("cmdExit")->setFocus();
     EXPECT_FALSE(reason.isVisible());
 }
 
 TEST_F(WholeRoad, SurfStations) {
     open<frmOpenSURFDATFile>();
     browse("valley_surf.dat");
-    type("txtFRQOutputFilename", "x");
+    fill("txtFRQOutputFilename", "x");
     click("cmdView");
     expectRose("valley_surf-10012_SURF_20231201-20240201_10m");
     EXPECT_EQ(modPolarGraph.FrqTotalPeriods(1), 24 * 62);
@@ -76,7 +76,7 @@ TEST_F(WholeRoad, SurfStations) {
 TEST_F(WholeRoad, UpperAirHeights) {
     open<frmOpenUPDATFile>();
     browse("valley_up.dat");
-    type("txtExtractionHeights", "10,150");
+    fill("txtExtractionHeights", "10,150");
     click("cmdView");
     const std::string last = FileNameOf(settings.CurrentFrqPath);
     ASSERT_TRUE(last.ends_with("_150m.frq")) << listing();
@@ -86,37 +86,25 @@ TEST_F(WholeRoad, UpperAirHeights) {
 TEST_F(WholeRoad, MonitorStation) {
     open<frmOpenAMMNETDataFile>();
     browse("valley_monitor.csv");
-    QComboBox& station = child<QComboBox>("cboStationID");
+    QComboBox& station = *child<QComboBox>("cboStationID");
     station.setCurrentIndex(station.findText(QStringLiteral("ridge")));
-    type("txtFRQOutputFilename", "ridge");
+    fill("txtFRQOutputFilename", "ridge");
     click("cmdView");
-    expectRose(child<QLineEdit>("txtFRQOutputFilename").text().toStdString());
+    expectRose(child<QLineEdit>("txtFRQOutputFilename")->text().toStdString());
     EXPECT_GT(modPolarGraph.FrqPercentValid(1), 95);
 }
 
 TEST_F(WholeRoad, TimeSeries) {
     open<frmOpenTSFDataFile>();
     browse("valley_series.tsf");
-    type("txtFRQOutputFilename", "series");
+    fill("txtFRQOutputFilename", "series");
     click("cmdView");
-    expectRose(child<QLineEdit>("txtFRQOutputFilename").text().toStdString());
+    expectRose(child<QLineEdit>("txtFRQOutputFilename")->text().toStdString());
     EXPECT_EQ(modPolarGraph.FrqValidPeriods(1), 24 * 62);
 }
 
 TEST_F(WholeRoad, ModelGridByCells) {
-    open<frmProcess3DDATFiles>(nullptr);
-    host_.filesAnswers.push_back({samples + "valley_model.m3d"});
-    click("cmdBrowseDataFiles");
-    click("cmdNext1");
-    child<QComboBox>("cboSpatialInterpolationMethod").setCurrentIndex(0);
-    child<QComboBox>("cboVertProfilingMethod").setCurrentIndex(2);
-    host_.boxAnswers = {BoxAnswer::Yes};
-    click("cmdNext2");
-    type("txtGridPointI", "1.5");
-    type("txtGridPointJ", "2.25");
-    type("txtFRQOutputFilename", "cell");
-    click("cmdNext3");
-    type("txtOutputDirectory", out_);
+    openModelGrid("1.5", "2.25", "cell");
     click("cmdPROCESS");
     expectRose("cell");
     EXPECT_EQ(modPolarGraph.FrqTotalPeriods(1), 24 * 7);
@@ -128,8 +116,8 @@ TEST_F(WholeRoad, WindFieldByCoordinates) {
     host_.filesAnswers.push_back({samples + "valley_ventos.dat"});
     click("cmdBrowseDataFiles");
     click("cmdNext1");
-    child<QComboBox>("cboSpatialInterpolationMethod").setCurrentIndex(0);
-    type("txtNumberOfLocations", "2");
+    child<QComboBox>("cboSpatialInterpolationMethod")->setCurrentIndex(0);
+    fill("txtNumberOfLocations", "2");
     QTimer::singleShot(0, [] {
         QWidget* dialog = QApplication::activeModalWidget();
         ASSERT_NE(dialog, nullptr);
@@ -137,14 +125,14 @@ TEST_F(WholeRoad, WindFieldByCoordinates) {
     });
     click("cmdNext2");
     for (const char* name : {"first", "second"}) {
-        type("txtXCoord", "584.0");
-        type("txtYCoord", "4514.5");
-        type("txtFRQOutputFilename", name);
+        fill("txtXCoord", "584.0");
+        fill("txtYCoord", "4514.5");
+        fill("txtFRQOutputFilename", name);
         if (std::string(name) == "first") click("cmdNextLocation");
     }
-    type("txtExtractionHeight", "80");
+    fill("txtExtractionHeight", "80");
     click("cmdNext3");
-    type("txtOutputDirectory", out_);
+    fill("txtOutputDirectory", out_);
     click("cmdPROCESS");
     expectRose("second");
     EXPECT_EQ(modPolarGraph.FrqValidPeriods(1), 24 * 7);
@@ -152,19 +140,7 @@ TEST_F(WholeRoad, WindFieldByCoordinates) {
 }
 
 TEST_F(WholeRoad, APlaceOutsideTheGridIsNoRose) {
-    open<frmProcess3DDATFiles>(nullptr);
-    host_.filesAnswers.push_back({samples + "valley_model.m3d"});
-    click("cmdBrowseDataFiles");
-    click("cmdNext1");
-    child<QComboBox>("cboSpatialInterpolationMethod").setCurrentIndex(0);
-    child<QComboBox>("cboVertProfilingMethod").setCurrentIndex(2);
-    host_.boxAnswers = {BoxAnswer::Yes};
-    click("cmdNext2");
-    type("txtGridPointI", "9");
-    type("txtGridPointJ", "1");
-    type("txtFRQOutputFilename", "far");
-    click("cmdNext3");
-    type("txtOutputDirectory", out_);
+    openModelGrid("9", "1", "far");
     click("cmdPROCESS");
     EXPECT_EQ(status(), "Error has occurred.");
     EXPECT_FALSE(fileExists(out_ + "far.frq"));

@@ -7,29 +7,24 @@
 
 #include "base/Paths.h"
 #include "platform/Captions.h"
+#include "tests/support/FormDriver.h"
+#include "tests/support/FreshProgram.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
 namespace {
 
-class FrmExpr : public ::testing::Test {
+class FrmExpr : public ::testing::Test, protected FormDriver {
  protected:
     void open(const std::string& file = "") {
-        applicationDirectory = directory_.path();
         if (!file.empty()) directory_.write("expr.dat", file);
         form_ = std::make_unique<frmExpr>(host_);
-        form_->show();
-        form_->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
+        showActive(*form_);
     }
-    template <typename Control = QWidget>
-    Control* child(const char* name) {
-        return form_->findChild<Control*>(QString::fromLatin1(name));
-    }
+    QWidget& driven() override { return *form_; }
     QListWidget& list() { return *child<QListWidget>("lstExpr"); }
     QLineEdit& box() { return *child<QLineEdit>("txtExpr"); }
-    void click(const char* name) { QTest::mouseClick(child(name), Qt::LeftButton); }
     void accept(const char* text) {
         box().selectAll();
         QTest::keyClicks(&box(), QString::fromLatin1(text));
@@ -41,7 +36,8 @@ class FrmExpr : public ::testing::Test {
         return out;
     }
 
-    TempDirectory directory_;
+    FreshProgram program_;
+    const TempDirectory& directory_ = program_.directory;
     TestHost host_;
     std::unique_ptr<frmExpr> form_;
 };

@@ -10,32 +10,15 @@
 #include <QTimer>
 #include <filesystem>
 
-#include "base/Paths.h"
 #include "settings/CfgFile.h"
-#include "settings/Settings.h"
-#include "shell/FrmMain.h"
-#include "shell/StartSequence.h"
-#include "tests/support/TempDirectory.h"
-#include "tests/support/TestHost.h"
+#include "tests/shell/MainWindow.h"
 
 namespace zg {
 namespace {
 
-class FrmMainCommands : public ::testing::Test {
+class FrmMainCommands : public MainWindow {
  protected:
-    void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        applicationDirectory = directory_.path();
-        startSettings();
-        window_ = std::make_unique<frmMain>(host_);
-        window_->Form_Load();
-        window_->show();
-    }
-
-    void choose(const char* entry) { window_->menuAction(entry)->trigger(); }
-    PolarGraph& plot() { return window_->pgPolarGraph(); }
-    QWidget* child(const char* name) { return window_->findChild<QWidget*>(QString::fromLatin1(name)); }
+    void choose(const char* name) { entry(name).trigger(); }
 
     /// Answers the next modal dialog.
     void withDialog(std::function<void(QDialog&)> act) {
@@ -48,9 +31,6 @@ class FrmMainCommands : public ::testing::Test {
         });
     }
 
-    TempDirectory directory_;
-    TestHost host_;
-    std::unique_ptr<frmMain> window_;
     QString dialogSeen_;
 };
 

@@ -12,41 +12,18 @@
 #include <QTimer>
 
 #include "base/Lines.h"
-#include "base/Paths.h"
 #include "platform/QtText.h"
-#include "settings/Settings.h"
-#include "shell/FrmMain.h"
-#include "shell/StartSequence.h"
-#include "tests/support/TempDirectory.h"
-#include "tests/support/TestHost.h"
+#include "tests/shell/MainWindow.h"
 
 namespace zg {
 namespace {
 
-class FrmMainGraphs : public ::testing::Test {
+class FrmMainGraphs : public ActiveMainWindow {
  protected:
-    void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        applicationDirectory = directory_.path();
-        startSettings();
-        window_ = std::make_unique<frmMain>(host_);
-        window_->Form_Load();
-        window_->show();
-        window_->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
-    }
-
-    PolarGraph& plot() { return window_->pgPolarGraph(); }
     GrapInfo& graph(int number) { return plot().Plot().Item(std::int64_t{number}); }
-    template <typename Control = QWidget>
-    Control* child(const char* name) {
-        return window_->findChild<Control*>(QString::fromLatin1(name));
-    }
     QTreeWidget& table() { return *child<QTreeWidget>("lvwTable"); }
     QLineEdit& equation() { return *child<QComboBox>("cmbFunction")->lineEdit(); }
     QLineEdit& coefficient() { return *child<QLineEdit>("txtCoefficient"); }
-    void click(const char* name) { QTest::mouseClick(child(name), Qt::LeftButton); }
 
     void type(QLineEdit& box, const char* text) {
         box.selectAll();
@@ -93,10 +70,6 @@ class FrmMainGraphs : public ::testing::Test {
                 if (qBlue(page.pixel(x, y)) - qRed(page.pixel(x, y)) > 100) ++count;
         return count;
     }
-
-    TempDirectory directory_;
-    TestHost host_;
-    std::unique_ptr<frmMain> window_;
 };
 
 constexpr Colour lineColour = rgb(12, 34, 250);

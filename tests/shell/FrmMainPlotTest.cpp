@@ -12,44 +12,23 @@
 #include <filesystem>
 #include <fstream>
 
-#include "base/Paths.h"
 #include "platform/QtPicture.h"
 #include "settings/CfgFile.h"
-#include "settings/Settings.h"
-#include "shell/FrmMain.h"
 #include "shell/Resources.h"
-#include "shell/StartSequence.h"
-#include "tests/support/TempDirectory.h"
-#include "tests/support/TestHost.h"
+#include "tests/shell/MainWindow.h"
 
 namespace zg {
 namespace {
 
 const std::string lovett = ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq";
 
-class FrmMainPlot : public ::testing::Test {
+class FrmMainPlot : public MainWindow {
  protected:
     void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        applicationDirectory = directory_.path();
-        std::filesystem::copy_file(ZG_SOURCE_DIR "/data/TimeZones.txt", directory_.file("TimeZones.txt"));
-        startSettings();
-        start();
+        program_.deliver({"TimeZones.txt"});
+        MainWindow::SetUp();
     }
 
-    void start() {
-        window_ = std::make_unique<frmMain>(host_);
-        window_->Form_Load();
-        window_->show();
-    }
-
-    QAction& entry(const char* name) { return *window_->menuAction(name); }
-    PolarGraph& plot() { return window_->pgPolarGraph(); }
-    template <typename Control = QWidget>
-    Control* child(const char* name) {
-        return window_->findChild<Control*>(QString::fromLatin1(name));
-    }
     QWidget& page() { return *child("picGraph"); }
 
     /// Opens a modal dialog by its entry, lets the act operate it, then cancels it.
@@ -93,10 +72,6 @@ class FrmMainPlot : public ::testing::Test {
     std::vector<std::string> legendLimits() {
         return {modPolarGraph.LegendClassLimit.begin(), modPolarGraph.LegendClassLimit.end()};
     }
-
-    TempDirectory directory_;
-    TestHost host_;
-    std::unique_ptr<frmMain> window_;
 };
 
 constexpr const char* lockedEntries[] = {

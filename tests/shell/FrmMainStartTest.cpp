@@ -14,7 +14,7 @@
 #include "settings/Settings.h"
 #include "shell/FrmMain.h"
 #include "shell/StartSequence.h"
-#include "tests/support/TempDirectory.h"
+#include "tests/support/FreshProgram.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
@@ -22,12 +22,7 @@ namespace {
 
 class FrmMainStart : public ::testing::Test {
  protected:
-    void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        applicationDirectory = directory_.path();
-        startSettings();
-    }
+    void SetUp() override { startSettings(); }
 
     frmMain& start() {
         window_ = std::make_unique<frmMain>(host_);
@@ -43,7 +38,8 @@ class FrmMainStart : public ::testing::Test {
             image.save(QString::fromStdString(directory_.file(std::string("Bitmap/") + name)), "BMP"));
     }
 
-    TempDirectory directory_;
+    FreshProgram program_;
+    const TempDirectory& directory_ = program_.directory;
     TestHost host_;
     std::unique_ptr<frmMain> window_;
 };

@@ -7,8 +7,8 @@
 #include "base/Paths.h"
 #include "settings/Settings.h"
 #include "shell/StartSequence.h"
+#include "tests/support/FreshProgram.h"
 #include "tests/support/Pixels.h"
-#include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
@@ -19,9 +19,6 @@ const std::string sample = ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq";
 class FrmMainTest : public ::testing::Test {
  protected:
     void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        applicationDirectory = directory_.path();
         startSettings();
         window_ = std::make_unique<frmMain>(host_);
         window_->show();
@@ -32,7 +29,8 @@ class FrmMainTest : public ::testing::Test {
         window_->menuAction("mnuFileOption_1")->trigger();
     }
 
-    TempDirectory directory_;
+    FreshProgram program_;
+    const TempDirectory& directory_ = program_.directory;
     TestHost host_;
     std::unique_ptr<frmMain> window_;
 };

@@ -13,7 +13,7 @@
 #include "settings/CfgFile.h"
 #include "settings/Settings.h"
 #include "shell/StartSequence.h"
-#include "tests/support/TempDirectory.h"
+#include "tests/support/FreshProgram.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
@@ -22,9 +22,6 @@ namespace {
 class FrmSetSeasonsTest : public ::testing::Test {
  protected:
     void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        applicationDirectory = directory_.path();
         startSettings();
         open();
     }
@@ -44,7 +41,8 @@ class FrmSetSeasonsTest : public ::testing::Test {
         QTest::mouseClick(form_->findChild<QPushButton*>(QString::fromLatin1(name)), Qt::LeftButton);
     }
 
-    TempDirectory directory_;
+    FreshProgram program_;
+    const TempDirectory& directory_ = program_.directory;
     TestHost host_;
     std::unique_ptr<frmSetSeasons> form_;
 };

@@ -12,7 +12,7 @@
 #include "platform/FieldMarks.h"
 #include "settings/Settings.h"
 #include "shell/StartSequence.h"
-#include "tests/support/TempDirectory.h"
+#include "tests/support/FreshProgram.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
@@ -21,9 +21,6 @@ namespace {
 class FrmClassesTest : public ::testing::Test {
  protected:
     void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        applicationDirectory = directory_.path();
         startSettings();
         open();
     }
@@ -47,7 +44,8 @@ class FrmClassesTest : public ::testing::Test {
         for (int row = 0; row < texts.size(); ++row) box(row)->setText(texts[row]);
     }
 
-    TempDirectory directory_;
+    FreshProgram program_;
+    const TempDirectory& directory_ = program_.directory;
     TestHost host_;
     std::unique_ptr<frmSetWindSpeedClasses> form_;
 };

@@ -20,8 +20,9 @@
 #include "shell/FrmOptionsLegend.h"
 #include "shell/FrmSelectWindRose.h"
 #include "shell/StartSequence.h"
+#include "tests/support/FormDriver.h"
+#include "tests/support/FreshProgram.h"
 #include "tests/support/Raises.h"
-#include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
@@ -34,12 +35,9 @@ std::string readBytes(const std::string& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-class PlotOptions : public ::testing::Test {
+class PlotOptions : public ::testing::Test, protected FormDriver {
  protected:
     void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        applicationDirectory = directory_.path();
         startSettings();
         widget_ = std::make_unique<PolarGraphWidget>(host_, PropertyBag());
         widget_->resize(500, 500);
@@ -51,15 +49,9 @@ class PlotOptions : public ::testing::Test {
     template <typename Form>
     void open() {
         form_ = std::make_unique<Form>(host_, plot());
-        form_->show();
-        form_->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
+        showActive(*form_);
     }
-    template <typename Control = QWidget>
-    Control* child(const char* name) {
-        return form_->findChild<Control*>(QString::fromLatin1(name));
-    }
-    void click(const char* name) { QTest::mouseClick(child(name), Qt::LeftButton); }
+    QWidget& driven() override { return *form_; }
     std::string stored(int line) {
         const std::string text = directory_.read("Zephyrgraph.cfg");
         std::size_t at = 0;
@@ -68,7 +60,8 @@ class PlotOptions : public ::testing::Test {
     }
     QImage page() { return widget_->pageImage().copy(); }
 
-    TempDirectory directory_;
+    FreshProgram program_;
+    const TempDirectory& directory_ = program_.directory;
     TestHost host_;
     std::unique_ptr<PolarGraphWidget> widget_;
     std::unique_ptr<QDialog> form_;

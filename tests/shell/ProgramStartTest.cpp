@@ -12,7 +12,7 @@
 #include "settings/Settings.h"
 #include "shell/FrmMain.h"
 #include "shell/StartSequence.h"
-#include "tests/support/TempDirectory.h"
+#include "tests/support/FreshProgram.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
@@ -23,9 +23,6 @@ constexpr int stillRunning = 7;
 class ProgramStart : public ::testing::Test {
  protected:
     void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        applicationDirectory = directory_.path();
         startSettings();
         // Ends a program that does not end by itself.
         QTimer::singleShot(5000, &guard_, [] { QCoreApplication::exit(stillRunning); });
@@ -52,7 +49,8 @@ class ProgramStart : public ::testing::Test {
         return *shownWindow<frmMain>("frmMain");
     }
 
-    TempDirectory directory_;
+    FreshProgram program_;
+    const TempDirectory& directory_ = program_.directory;
     TestHost host_;
     QObject guard_;
 };

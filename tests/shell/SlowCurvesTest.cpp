@@ -9,35 +9,13 @@
 #include <QTest>
 #include <QTreeWidget>
 
-#include "base/Paths.h"
-#include "settings/Settings.h"
-#include "shell/FrmMain.h"
-#include "shell/StartSequence.h"
-#include "tests/support/TempDirectory.h"
-#include "tests/support/TestHost.h"
+#include "tests/shell/MainWindow.h"
 
 namespace zg {
 namespace {
 
-class SlowCurves : public ::testing::Test {
+class SlowCurves : public ActiveMainWindow {
  protected:
-    void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        applicationDirectory = directory_.path();
-        startSettings();
-        window_ = std::make_unique<frmMain>(host_);
-        window_->Form_Load();
-        window_->show();
-        window_->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
-    }
-
-    PolarGraph& plot() { return window_->pgPolarGraph(); }
-    template <typename Control = QWidget>
-    Control* child(const char* name) {
-        return window_->findChild<Control*>(QString::fromLatin1(name));
-    }
     void plotCurve(const char* formula, std::int64_t tick) {
         child<QComboBox>("cmbFunction")->setEditText(QString::fromLatin1(formula));
         host_.tick = tick;
@@ -45,10 +23,6 @@ class SlowCurves : public ::testing::Test {
         host_.tick = 0;
     }
     int rows() { return child<QTreeWidget>("lvwTable")->topLevelItemCount(); }
-
-    TempDirectory directory_;
-    TestHost host_;
-    std::unique_ptr<frmMain> window_;
 };
 
 TEST_F(SlowCurves, EscapeEndsOneWhereverTheKeyboardIs) {

@@ -18,6 +18,7 @@
 #include "shell/FrmSplashScreen.h"
 #include "shell/FrmZoom.h"
 #include "shell/StartSequence.h"
+#include "tests/support/FreshProgram.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 
@@ -147,9 +148,6 @@ TEST(FrmChangeDirTest, CancelKeepsWhereItStarted) {
 class PlotDialogs : public ::testing::Test {
  protected:
     void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        applicationDirectory = directory_.path();
         startSettings();
         window_ = std::make_unique<frmMain>(host_);
         window_->Form_Load();
@@ -157,7 +155,8 @@ class PlotDialogs : public ::testing::Test {
 
     PolarGraph& plot() { return window_->pgPolarGraph(); }
 
-    TempDirectory directory_;
+    FreshProgram program_;
+    const TempDirectory& directory_ = program_.directory;
     TestHost host_;
     std::unique_ptr<frmMain> window_;
 };

@@ -7,8 +7,8 @@
 
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
+#include "tests/support/FreshProgram.h"
 #include "tests/support/Raises.h"
-#include "tests/support/TempDirectory.h"
 
 namespace zg {
 namespace {
@@ -18,14 +18,10 @@ const std::string heading =
 
 class DatumTable : public ::testing::Test {
  protected:
-    void SetUp() override {
-        modDatums = {readDatumRecord, {}};
-        applicationDirectory = directory_.path();
-    }
-    void TearDown() override { modDatums = {readDatumRecord, {}}; }
-    void deliver() { std::filesystem::copy(ZG_SOURCE_DIR "/data/datums.csv", directory_.file("datums.csv")); }
+    void deliver() { program_.deliver({"datums.csv"}); }
 
-    TempDirectory directory_;
+    FreshProgram program_;
+    const TempDirectory& directory_ = program_.directory;
 };
 
 TEST_F(DatumTable, TheDeliveredTableIsReadWhole) {

@@ -10,7 +10,8 @@
 #include "dialogs/gridded/DatumTable.h"
 #include "headers/InfoView.h"
 #include "platform/FieldMarks.h"
-#include "tests/support/TempDirectory.h"
+#include "tests/support/FormDriver.h"
+#include "tests/support/FreshProgram.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
@@ -22,34 +23,18 @@ class Caller : public ProjectionCaller {
     int calls = 0;
 };
 
-class FrmProjectionInfo : public ::testing::Test {
+class FrmProjectionInfo : public ::testing::Test, protected FormDriver {
  protected:
     void SetUp() override {
-        modDatums = {readDatumRecord, {}};
-        modInfoViewDLL = {};
-        projection = {};
-        applicationDirectory = directory_.path();
-        std::filesystem::copy(ZG_SOURCE_DIR "/data/datums.csv", directory_.file("datums.csv"));
+        program_.deliver({"datums.csv"});
         CallingForm = &caller_;
-    }
-    void TearDown() override {
-        form_.reset();
-        CallingForm = nullptr;
-        projection = {};
     }
     void open() {
         form_ = std::make_unique<frmProjectionInfo>(host_);
-        form_->show();
-        form_->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(form_.get()));
+        showActive(*form_);
     }
-    template <typename Control = QWidget>
-    Control* child(const char* name) {
-        return form_->findChild<Control*>(QString::fromLatin1(name));
-    }
+    QWidget& driven() override { return *form_; }
     QComboBox& combo(const char* name) { return *child<QComboBox>(name); }
-    QLineEdit& box(const char* name) { return *child<QLineEdit>(name); }
-    void click(const char* name) { QTest::mouseClick(child(name), Qt::LeftButton); }
     /// Selects an entry of a list as a user does.
     void pick(const char* name, const QString& entry) {
         QComboBox& list = combo(name);
@@ -77,7 +62,8 @@ class FrmProjectionInfo : public ::testing::Test {
         return names;
     }
 
-    TempDirectory directory_;
+    FreshProgram program_;
+    const TempDirectory& directory_ = program_.directory;
     TestHost host_;
     Caller caller_;
     std::unique_ptr<frmProjectionInfo> form_;

@@ -1,4 +1,4 @@
-// Both wizards through their controls, from the first click to the rose in the main window.
+// Both wizards through their controls, from the first click to the roses in the tables.
 
 #include "tests/dialogs/gridded/GridForms.h"
 
@@ -284,20 +284,6 @@ TEST_F(GridFormTest, TheStatusStaysWhileAnotherProgramIsInFront) {
     QFocusEvent goesOn(QEvent::FocusOut, Qt::TabFocusReason);
     QApplication::sendEvent(child("cmdPROCESS"), &goesOn);
     EXPECT_EQ(status(), "");
-}
-
-TEST_F(GridFormTest, TheMenuOpensBothWizards) {
-    for (const int index : {3, 7}) {
-        std::string name;
-        QTimer::singleShot(0, [&] {
-            QWidget* dialog = QApplication::activeModalWidget();
-            ASSERT_NE(dialog, nullptr);
-            name = dialog->objectName().toStdString();
-            dialog->close();
-        });
-        window_->mnuFileOption_Click(index);
-        EXPECT_EQ(name, index == 3 ? "frmProcess3DDATFiles" : "frmProcessVENTOSDATFiles");
-    }
 }
 
 }  // namespace

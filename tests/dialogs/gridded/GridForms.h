@@ -13,18 +13,17 @@
 
 #include "base/Lines.h"
 #include "base/Paths.h"
-#include "dialogs/gridded/DatumTable.h"
 #include "dialogs/gridded/FrmProjectionInfo.h"
 #include "graph/frq/ModPolarGraph.h"
-#include "headers/GridFileHeader.h"
+#include "graph/frq/OpenFreqFile.h"
 #include "headers/Stations.h"
 #include "headers/Zones.h"
 #include "platform/FieldMarks.h"
 #include "settings/Settings.h"
-#include "shell/FrmMain.h"
 #include "shell/StartSequence.h"
 #include "tests/headers/GridFiles.h"
-#include "tests/support/TempDirectory.h"
+#include "tests/support/FormDriver.h"
+#include "tests/support/FreshProgram.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
@@ -60,54 +59,33 @@ class CopyingProcessor : public ProcessStarter {
     std::string directory_;
 };
 
-class GridFormTest : public ::testing::Test {
+class GridFormTest : public ::testing::Test, protected FormDriver {
  protected:
     void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        timeZones = TimeZoneTable();
-        stations = StationTable();
-        projection = {};
-        modInfoViewDLL = {readGridFileHeader, {}, {}, {}, {}};
-        modDatums = {readDatumRecord, {}};
-        applicationDirectory = directory_.path();
-        for (const char* name : {"TimeZones.txt", "datums.csv"})
-            std::filesystem::copy(std::string(ZG_SOURCE_DIR "/data/") + name, directory_.file(name));
+        program_.deliver({"TimeZones.txt", "datums.csv"});
         directory_.write("Station_Data.csv",
                          "STATION_DATA.CSV,V1.0\nheads\nBoston,1,0,0,a,b,c,42.36,-71.01,NAR-B\n"
                          "Albany,2,0,0,a,b,c,42.75,-73.8,WGS-84\n");
         startSettings();
         LoadStationData();
         std::filesystem::create_directory(directory_.file("out"));
-        window_ = std::make_unique<frmMain>(host_);
-    }
-    void TearDown() override {
-        form_.reset();
-        window_.reset();
-        projection = {};
     }
     void open(const GridVariation& variation) {
         form_ = std::make_unique<GridForm>(
             variation, host_, starter_,
             ProcessingWindow{[this](const std::string& path) {
-                                 window_->PlotFrqFile(path);
+                                 settings.CurrentFrqPath = path;
+                                 loadFreqFile(path, modPolarGraph, host_);
                                  if (onPlot_) onPlot_();
                              },
                              [] { return false; }, [this] { ++seasons_; }, [this] { ++classes_; }},
             nullptr);
-        form_->show();
-        form_->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(form_.get()));
+        showActive(*form_);
     }
-    template <typename Control = QWidget>
-    Control* child(const char* name) {
-        return form_->findChild<Control*>(QString::fromLatin1(name));
-    }
-    QLineEdit& box(const char* name) { return *child<QLineEdit>(name); }
+    QWidget& driven() override { return *form_; }
     QComboBox& combo(const char* name) { return *child<QComboBox>(name); }
     QListWidget& list(const char* name) { return *child<QListWidget>(name); }
     std::string caption() { return child<QGroupBox>("Frame_Step3")->title().toStdString(); }
-    std::string status() { return child<QLabel>("lblStatus")->text().toStdString(); }
     void click(const char* name) {
         ASSERT_TRUE(child(name)->isEnabled()) << name;
         QTest::mouseClick(child(name), Qt::LeftButton);
@@ -142,10 +120,10 @@ class GridFormTest : public ::testing::Test {
     }
     int roses() { return modPolarGraph.FrqLoaded ? modPolarGraph.FrqRoseCount : 0; }
 
-    TempDirectory directory_;
+    FreshProgram program_;
+    const TempDirectory& directory_ = program_.directory;
     TestHost host_;
     CopyingProcessor starter_;
-    std::unique_ptr<frmMain> window_;
     std::unique_ptr<GridForm> form_;
     std::function<void()> onPlot_;
     int seasons_ = 0;

@@ -16,37 +16,23 @@
 #include "shell/StartSequence.h"
 #include "tests/dialogs/gridded/FakeGridView.h"
 #include "tests/headers/GridFiles.h"
+#include "tests/support/FakeStarter.h"
+#include "tests/support/FreshProgram.h"
 #include "tests/support/Raises.h"
-#include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
 namespace {
 
-/// Ends at once and writes the requested outputs.
-class WatchedProcessor : public ProcessStarter {
- public:
-    void start(const std::string& program, WindowStyle) override {
-        ++starts;
-        const std::string directory = program.substr(0, program.rfind('/') + 1);
-        for (const std::string& name : makes) LineWriter(directory + name + ".frq").writeLine("x");
-        LineWriter(directory + "finished.txt").writeLine("x");
-    }
-    int starts = 0;
-    std::vector<std::string> makes;
-};
-
 class GridWizardTest : public ::testing::Test {
  protected:
     explicit GridWizardTest(const GridVariation& variation = ventosVariation) : variation_(variation) {}
     void SetUp() override {
-        settings = Settings();
-        timeZones = TimeZoneTable();
-        stations = StationTable();
-        projection = {};
-        modInfoViewDLL = {readGridFileHeader, {}, {}, {}, {}};
-        applicationDirectory = directory_.path();
-        std::filesystem::copy(ZG_SOURCE_DIR "/data/TimeZones.txt", directory_.file("TimeZones.txt"));
+        program_.deliver({"TimeZones.txt"});
+        starter_.onStart = [this](const std::string& directory) {
+            for (const std::string& name : made_) LineWriter(directory + "/" + name + ".frq").writeLine("x");
+            LineWriter(directory + "/finished.txt").writeLine("x");
+        };
         directory_.write("Station_Data.csv",
                          "STATION_DATA.CSV,V1.0\nheads\n"
                          "Boston,1,0,0,a,b,c,42.36,-71.01,NAR-B\n"
@@ -113,9 +99,11 @@ class GridWizardTest : public ::testing::Test {
     std::string status() { return view_.texts["lblStatus"]; }
 
     const GridVariation& variation_;
-    TempDirectory directory_;
+    FreshProgram program_;
+    const TempDirectory& directory_ = program_.directory;
     TestHost host_;
-    WatchedProcessor starter_;
+    FakeStarter starter_;
+    std::vector<std::string> made_;  ///< names of the outputs that a run makes
     FakeGridView view_;
     std::vector<std::string> plotted_;
     std::optional<GridWizard> wizard_;
@@ -478,7 +466,7 @@ TEST_P(ByProjection, TheControlFileIsExact) {
     EXPECT_EQ(view_.visibleControls["Frame_LL"], degrees);
     fillLocation(degrees ? "74.5" : "-3.5", degrees ? "41.25" : "1204.25", "My rose");
     wizard_->cmdNext3_Click();
-    starter_.makes = {"My rose"};
+    made_ = {"My rose"};
     wizard_->cmdPROCESS_Click();
     EXPECT_EQ(wizard_->RunRoot, "VENTOS_wind20050307-20051231");
     EXPECT_EQ(controlFile(), expected(std::string("wizard_ventos_") + name + ".inp"));
@@ -507,12 +495,12 @@ TEST_F(VentosWizard, TheControlFileOfStations) {
     view_.selected = {false, true, true};
     view_.texts["txtExtractionHeight2"] = "12.5";
     wizard_->cmdNext3_Click();
-    starter_.makes = {"Burlington_VENTOS_20050307-20051231_12.5m"};
+    made_ = {"Burlington_VENTOS_20050307-20051231_12.5m"};
     wizard_->cmdPROCESS_Click();
     EXPECT_EQ(controlFile(), expected("wizard_ventos_stations.inp"));
     EXPECT_EQ(plotted_, (std::vector<std::string>{"Burlington_VENTOS_20050307-20051231_12.5m.frq"}));
     EXPECT_EQ(status(), "Finished") << "the last location's";
-    starter_.makes = {"Albany_VENTOS_20050307-20051231_12.5m"};
+    made_ = {"Albany_VENTOS_20050307-20051231_12.5m"};
     std::filesystem::remove(directory_.file("out/Burlington_VENTOS_20050307-20051231_12.5m.frq"));
     wizard_->cmdPROCESS_Click();
     EXPECT_EQ(status(), "Error has occurred.");
@@ -821,7 +809,7 @@ TEST_F(M3dWizard, GridCellsSkipTheProjection) {
     EXPECT_EQ(view_.texts["txtGridPointJ"], "15.88");
     wizard_->cmdNextLocation_Click();
     wizard_->cmdNext3_Click();
-    starter_.makes = {"one", "two"};
+    made_ = {"one", "two"};
     wizard_->cmdPROCESS_Click();
     EXPECT_EQ(controlFile(), expected("wizard_m3d_cells.inp"));
     EXPECT_EQ(plotted_, (std::vector<std::string>{"one.frq", "two.frq"}));
@@ -847,7 +835,7 @@ TEST_F(M3dWizard, EachLocationKeepsItsDegrees) {
     view_.texts["cboWE"] = "E";
     view_.texts["txtExtractionHeight"] = "80";
     wizard_->cmdNext3_Click();
-    starter_.makes = {"one"};
+    made_ = {"one"};
     wizard_->cmdPROCESS_Click();
     EXPECT_EQ(controlFile(), expected("wizard_m3d_ll.inp"));
     EXPECT_EQ(status(), "Error has occurred.");

@@ -9,23 +9,15 @@
 #include "dialogs/gridded/ClosedLibraries.h"
 #include "dialogs/gridded/DatumTable.h"
 #include "dialogs/gridded/Projection.h"
-#include "headers/GridFileHeader.h"
 #include "tests/headers/GridFiles.h"
+#include "tests/support/FreshProgram.h"
 #include "tests/support/Raises.h"
-#include "tests/support/TempDirectory.h"
 
 namespace zg {
 namespace {
 
 class InfoView : public ::testing::Test {
  protected:
-    void SetUp() override {
-        modInfoViewDLL = {readGridFileHeader, {}, {}, {}, {}};
-        modDatums = {readDatumRecord, {}};
-        projection = {};
-        applicationDirectory = directory_.path();
-    }
-    void TearDown() override { SetUp(); }
     static InfoViewResult someResult() {
         InfoViewResult r;
         r.first = {2001, 2, 28, 23, 3599};
@@ -42,7 +34,8 @@ class InfoView : public ::testing::Test {
         projection = nativeProjection();
     }
 
-    TempDirectory directory_;
+    FreshProgram program_;
+    const TempDirectory& directory_ = program_.directory;
 };
 
 TEST_F(InfoView, TimesAreTheHourAndTheSecondsWithinIt) {

@@ -2,70 +2,27 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QTest>
-#include <QTimer>
 #include <algorithm>
 #include <filesystem>
 
 #include "base/Paths.h"
 #include "base/Text.h"
-#include "graph/frq/ModPolarGraph.h"
 #include "headers/Stations.h"
-#include "headers/Zones.h"
-#include "platform/FieldMarks.h"
-#include "platform/QtHost.h"
 #include "settings/Settings.h"
-#include "shell/FrmMain.h"
-#include "shell/StartSequence.h"
-#include "tests/support/TempDirectory.h"
-#include "tests/support/TestHost.h"
+#include "tests/dialogs/point/PointDialogs.h"
 
 namespace zg {
 namespace {
 
-const std::string surf21 =
-    "SURF.DAT        2.1             Hour Start and End Times with Seconds\r\n1\r\nmade for a "
-    "test\r\nNONE\r\n"
-    "UTC-0500\r\n  1990   8  6 1815  1990  15 23  0   3\r\n  1001\r\n  1002\r\n  1003\r\n";
-
-class FakeStarter : public ProcessStarter {
- public:
-    void start(const std::string&, WindowStyle) override {
-        ++starts;
-        if (onStart) onStart();
-    }
-    int starts = 0;
-    std::function<void()> onStart;
-};
-
-class FrmOpenSURFDATFile : public ::testing::Test {
+class FrmOpenSURFDATFile : public PointDialogs {
  protected:
     void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        timeZones = TimeZoneTable();
-        stations = StationTable();
-        applicationDirectory = directory_.path();
-        std::filesystem::copy(ZG_SOURCE_DIR "/data/TimeZones.txt", directory_.file("TimeZones.txt"));
-        startSettings();
-        std::filesystem::create_directory(directory_.file("out"));
+        PointDialogs::SetUp();
+        starter_.onStart = nullptr;
         input_ = directory_.write("my data.dat", surf21);
-        form_ = std::make_unique<frmOpenSURFDATFile>(
-            host_, starter_,
-            ProcessingWindow{[this](const std::string& path) { plotted_.push_back(FileNameOf(path)); },
-                             [this] { return ending_; }, [this] { ++seasons_; }, [this] { ++classes_; }});
-        form_->show();
-        form_->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(form_.get()));
+        open<frmOpenSURFDATFile>();
     }
-    template <typename Control = QWidget>
-    Control* child(const char* name) {
-        return form_->findChild<Control*>(QString::fromLatin1(name));
-    }
-    QLineEdit& box(const char* name) { return *child<QLineEdit>(name); }
-    void click(const char* name) { QTest::mouseClick(child(name), Qt::LeftButton); }
-    std::string status() { return child<QLabel>("lblStatus")->text().toStdString(); }
     void browse() {
         host_.openAnswers.push_back(input_);
         click("cmdBrowseFile");
@@ -74,25 +31,12 @@ class FrmOpenSURFDATFile : public ::testing::Test {
     }
     /// Presses RUN and returns the text of the one box that it shows.
     std::string refusal() {
-        host_.boxes.clear();
-        host_.boxAnswers = {BoxAnswer::Ok};
-        click("cmdView");
-        EXPECT_EQ(starter_.starts, 0);
-        if (host_.boxes.size() != 1) return "boxes: " + std::to_string(host_.boxes.size());
-        EXPECT_EQ(host_.boxes[0].title, "Error");
-        return host_.boxes[0].text;
+        const std::string text = PointDialogs::refusal();
+        EXPECT_TRUE(host_.boxes.size() != 1 || host_.boxes[0].title == "Error");
+        return text;
     }
-    bool marked(const char* name) { return fieldMark(*child(name)) == yellowMark; }
 
-    TempDirectory directory_;
-    TestHost host_;
-    FakeStarter starter_;
     std::string input_;
-    std::vector<std::string> plotted_;
-    bool ending_ = false;
-    int seasons_ = 0;
-    int classes_ = 0;
-    std::unique_ptr<frmOpenSURFDATFile> form_;
 };
 
 TEST_F(FrmOpenSURFDATFile, OpensWithItsDefaults) {
@@ -190,7 +134,7 @@ TEST_F(FrmOpenSURFDATFile, TwoOfThreeStationsAreMadeAndTheLastIsShown) {
     std::vector<std::string> texts;
     std::string names[3] = {"my data-1001_SURF_19900108-19900115_10m", "Albany_SURF_19900108-19900115_10m",
                             "my data-1003_SURF_19900108-19900115_10m"};
-    starter_.onStart = [&] {
+    starter_.onStart = [&](const std::string&) {
         EXPECT_EQ(box("txtFRQOutputFilename").text().toStdString(), names[0]);
         const std::string control = directory_.read("out/my data_SURF_19900108-19900115_tempoline.inp");
         EXPECT_NE(control.find("\r\nWinds\r\n"), std::string::npos);
@@ -221,7 +165,7 @@ TEST_F(FrmOpenSURFDATFile, TwoOfThreeStationsAreMadeAndTheLastIsShown) {
 TEST_F(FrmOpenSURFDATFile, AFirstRowLeftOutEmptiesTheNameAtTheStart) {
     browse();
     child<QListWidget>("lstSURFDATStationIDs")->item(0)->setSelected(false);
-    starter_.onStart = [this] {
+    starter_.onStart = [this](const std::string&) {
         EXPECT_EQ(box("txtFRQOutputFilename").text(), "");
         const std::string control = directory_.read("out/my data_SURF_19900108-19900115_tempoline.inp");
         EXPECT_NE(control.find("! TSFID  = 2 !"), std::string::npos);
@@ -239,7 +183,7 @@ TEST_F(FrmOpenSURFDATFile, RowsTwoAndFiveOfFiveKeepTheirNumbersInTheControlFile)
     input_ = directory_.write("five.dat", text + "  1004\r\n  1005\r\n");
     browse();
     for (const int row : {0, 2, 3}) child<QListWidget>("lstSURFDATStationIDs")->item(row)->setSelected(false);
-    starter_.onStart = [this] { directory_.write("out/finished.txt", ""); };
+    starter_.onStart = [this](const std::string&) { directory_.write("out/finished.txt", ""); };
     click("cmdView");
     const std::string control = directory_.read("out/five_SURF_19900108-19900115_tempoline.inp");
     EXPECT_NE(control.find("! NTSFOUT = 2 !"), std::string::npos);
@@ -343,61 +287,6 @@ TEST_F(FrmOpenSURFDATFile, ItsButtonsOpenSeasonsAndClasses) {
     click("cmdSetWindSpeedClasses");
     EXPECT_EQ(seasons_, 1);
     EXPECT_EQ(classes_, 1);
-}
-
-/// A complete run in the window, with a processor that copies a rose for two of the three stations.
-TEST(SurfRoad, ASurfFileBecomesTheRoseInTheWindow) {
-    TempDirectory directory;
-    modPolarGraph = ModPolarGraph();
-    settings = Settings();
-    timeZones = TimeZoneTable();
-    stations = StationTable();
-    applicationDirectory = directory.path();
-    std::filesystem::copy(ZG_SOURCE_DIR "/data/TimeZones.txt", directory.file("TimeZones.txt"));
-    const std::string processor = directory.write("tempoline.exe",
-                                                  "#!/bin/sh\nfor name in $(grep -v 'wind-1002_' \"$1\" | "
-                                                  "sed -n 's/.*TSFOUT = \\(.*\\) !   !END!.*/\\1/p'); do\n"
-                                                  "cp " ZG_SOURCE_DIR
-                                                  "/data/samples/LOVETT_1988.frq \"$name.FRQ\"; done\n"
-                                                  "echo done > \"${1%.inp}.lst\"\n");
-    std::filesystem::permissions(processor, std::filesystem::perms::owner_all);
-    startSettings();
-    const std::string input = directory.write("wind.dat", surf21);
-    TestHost host;
-    frmMain window(host);
-    window.Form_Load();
-    window.show();
-    host.openAnswers = {input};
-    std::vector<std::string> statuses;
-    host.onPump = [&] {
-        QTest::qWait(5);
-        const auto* dialog = QApplication::activeModalWidget();
-        const auto* label = dialog == nullptr ? nullptr : dialog->findChild<QLabel*>("lblStatus");
-        if (label != nullptr && (statuses.empty() || statuses.back() != label->text().toStdString()))
-            statuses.push_back(label->text().toStdString());
-    };
-    QTimer::singleShot(0, [&] {
-        auto* dialog = QApplication::activeModalWidget();
-        ASSERT_NE(dialog, nullptr);
-        ASSERT_EQ(dialog->objectName(), "frmOpenSURFDATFile");
-        QTest::mouseClick(dialog->findChild<QWidget*>("cmdBrowseFile"), Qt::LeftButton);
-        dialog->findChild<QLineEdit*>("txtFRQOutputFilename")->setText("x");
-        QTest::mouseClick(dialog->findChild<QWidget*>("cmdView"), Qt::LeftButton);
-        EXPECT_EQ(dialog->findChild<QLabel*>("lblStatus")->text(), "Finished");
-        QTest::mouseClick(dialog->findChild<QWidget*>("cmdExit"), Qt::LeftButton);
-    });
-    window.menuAction("mnuFileOption_8")->trigger();
-    ASSERT_GE(statuses.size(), 6U);
-    EXPECT_EQ(statuses.size() % 3, 0U) << "whole steps";
-    for (std::size_t i = 0; i < statuses.size(); i += 3) {
-        EXPECT_EQ(statuses[i], "Running.  ");
-        EXPECT_EQ(statuses[i + 1], "Running.. ");
-        EXPECT_EQ(statuses[i + 2], "Running...");
-    }
-    EXPECT_FALSE(fileExists(directory.file("wind-1002_SURF_19900108-19900115_10m.frq")));
-    EXPECT_EQ(window.windowTitle(), "Zephyrgraph - wind-1003_SURF_19900108-19900115_10m.FRQ");
-    EXPECT_TRUE(modPolarGraph.FrqLoaded);
-    EXPECT_EQ(modPolarGraph.FrqRoseCount, 9);
 }
 
 }  // namespace

@@ -15,13 +15,20 @@
 #include "platform/FieldMarks.h"
 #include "settings/Settings.h"
 #include "shell/StartSequence.h"
-#include "tests/support/TempDirectory.h"
+#include "tests/support/FakeStarter.h"
+#include "tests/support/FormDriver.h"
+#include "tests/support/FreshProgram.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
 
 inline const std::string surfText =
     "SURF.DAT        2.1             x\r\n0\r\nNONE\r\nUTC-0500\r\n1990 8 6 1815 1990 15 23 0 1\r\n1001\r\n";
+
+inline const std::string surf21 =
+    "SURF.DAT        2.1             Hour Start and End Times with Seconds\r\n1\r\nmade for a "
+    "test\r\nNONE\r\n"
+    "UTC-0500\r\n  1990   8  6 1815  1990  15 23  0   3\r\n  1001\r\n  1002\r\n  1003\r\n";
 
 inline const std::string upText =
     "UP.DAT          2.1             x\r\n0\r\nNONE\r\nUTC+0000\r\n1990 8 0 1800 1990 15 12 0\r\nF\r\n"
@@ -39,25 +46,10 @@ inline const std::string seriesText =
     "TIMESERIES.TSF 1.3\n0 - comments\nskipped\nMET\nL: STATION ID = 14735\nUTC-0500\nGREGORIAN_YMD\n"
     "2005 3 7 6 1815 2005 12 31 23 0 3600\n2 - v\nWDIR\nWSPEED\n";
 
-class FinishingStarter : public ProcessStarter {
- public:
-    void start(const std::string& batchFile, WindowStyle) override {
-        ++starts;
-        if (onStart) onStart(DirOf(batchFile));
-    }
-    int starts = 0;
-    std::function<void(const std::string&)> onStart;
-};
-
-class PointDialogs : public ::testing::Test {
+class PointDialogs : public ::testing::Test, protected FormDriver {
  protected:
     void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        timeZones = TimeZoneTable();
-        stations = StationTable();
-        applicationDirectory = directory_.path();
-        std::filesystem::copy(ZG_SOURCE_DIR "/data/TimeZones.txt", directory_.file("TimeZones.txt"));
+        program_.deliver({"TimeZones.txt"});
         startSettings();
         std::filesystem::create_directory(directory_.file("out"));
         starter_.onStart = [this](const std::string& out) {
@@ -71,21 +63,14 @@ class PointDialogs : public ::testing::Test {
         auto form = std::make_unique<Form>(
             host_, starter_,
             ProcessingWindow{[this](const std::string& path) { plotted_.push_back(FileNameOf(path)); },
-                             [this] { return ending_; }, [] {}, [] {}},
+                             [this] { return ending_; }, [this] { ++seasons_; }, [this] { ++classes_; }},
             more...);
         Form& opened = *form;
         form_ = std::move(form);
-        form_->show();
-        form_->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
+        showActive(*form_);
         return opened;
     }
-    template <typename Control = QWidget>
-    Control* child(const char* name) {
-        return form_->findChild<Control*>(QString::fromLatin1(name));
-    }
-    QLineEdit& box(const char* name) { return *child<QLineEdit>(name); }
-    void click(const char* name) { QTest::mouseClick(child(name), Qt::LeftButton); }
+    QWidget& driven() override { return *form_; }
     void browse(const std::string& name, const std::string& text) {
         host_.openAnswers.push_back(directory_.write(name, text));
         click("cmdBrowseFile");
@@ -116,15 +101,17 @@ class PointDialogs : public ::testing::Test {
     std::string control(const std::string& base) {
         return directory_.read("seen/" + base + "_tempoline.inp");
     }
-    std::string status() { return child<QLabel>("lblStatus")->text().toStdString(); }
     bool marked(const char* name) { return fieldMark(*child(name)) == yellowMark; }
 
-    TempDirectory directory_;
+    FreshProgram program_;
+    const TempDirectory& directory_ = program_.directory;
     TestHost host_;
-    FinishingStarter starter_;
+    FakeStarter starter_;
     std::vector<std::string> made_;
     std::vector<std::string> plotted_;
     bool ending_ = false;
+    int seasons_ = 0;
+    int classes_ = 0;
     std::unique_ptr<QDialog> form_;
 };
 

@@ -11,7 +11,6 @@
 #include "dialogs/point/FrmOpenTSFDataFile.h"
 #include "dialogs/point/FrmOpenUPDATFile.h"
 #include "platform/Captions.h"
-#include "shell/FrmMain.h"
 #include "tests/dialogs/point/PointDialogs.h"
 
 namespace zg {
@@ -290,28 +289,6 @@ TEST_F(PointDialogs, ALargeFileIsReadWithTheWindowAlive) {
     EXPECT_EQ(seen, (std::vector<std::string>{"|on", "|on", "Reading...|off", "Reading...|off"}));
     EXPECT_EQ(status(), "");
     EXPECT_TRUE(form_->isEnabled());
-}
-
-TEST_F(PointDialogs, EveryMenuEntryOpensItsDialog) {
-    frmMain window(host_);
-    window.Form_Load();
-    window.show();
-    for (const auto& [entry, name] :
-         std::vector<std::pair<const char*, const char*>>{{"mnuFileOption_4", "frmOpenAERMETSFCFile"},
-                                                          {"mnuFileOption_5", "frmOpenAERMETPFLFile"},
-                                                          {"mnuFileOption_6", "frmOpenAMMNETDataFile"},
-                                                          {"mnuFileOption_8", "frmOpenSURFDATFile"},
-                                                          {"mnuFileOption_9", "frmOpenUPDATFile"},
-                                                          {"mnuFileOption_10", "frmOpenTSFDataFile"}}) {
-        QString seen;
-        QTimer::singleShot(0, [&seen] {
-            auto* dialog = QApplication::activeModalWidget();
-            seen = dialog->objectName();
-            QTest::mouseClick(dialog->findChild<QWidget*>("cmdExit"), Qt::LeftButton);
-        });
-        window.menuAction(entry)->trigger();
-        EXPECT_EQ(seen, name);
-    }
 }
 
 }  // namespace
