@@ -12,12 +12,6 @@
 
 namespace zg {
 
-namespace {
-
-constexpr double percentPerUnit = 5;
-
-}  // namespace
-
 frmChangeRadius::frmChangeRadius(Host& host, PolarGraph& graph, QWidget* parent)
     : QDialog(parent), host_(host), graph_(graph), oldRadius_(graph.Polar().Radius) {
     setObjectName(QStringLiteral("frmChangeRadius"));

@@ -19,8 +19,6 @@ namespace zg {
 
 namespace {
 
-constexpr double percentPerUnit = 5;
-
 QLineEdit* box(const char* name, bool readOnly = false) {
     auto* made = named(new QLineEdit, name);
     made->setReadOnly(readOnly);

@@ -8,6 +8,7 @@
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "graph/frq/ModPolarGraph.h"
+#include "graph/model/Polar.h"
 #include "settings/CfgFile.h"
 #include "settings/Seasons.h"
 #include "settings/Settings.h"
@@ -26,7 +27,7 @@ double startZoom() { return val(settings.ZoomPercentText); }
 
 std::optional<double> startRadius() {
     if (settings.RadiusText.empty()) return std::nullopt;
-    return intFloor(val(trimmed(settings.RadiusText))) / 5;
+    return intFloor(val(trimmed(settings.RadiusText))) / percentPerUnit;
 }
 
 void clearLabelLines() {

@@ -11,8 +11,6 @@ namespace zg {
 
 namespace {
 
-constexpr std::int16_t speedClasses = 6;
-
 constexpr std::array<double, 16> powersOfTen = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                                 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
@@ -58,13 +56,13 @@ void readShares(std::string_view cells, std::int64_t row, FractionTable& fractio
 }
 
 void readDirections(LineReader& reader, std::int16_t rose, ModPolarGraph& tables) {
-    const std::int64_t before = firstFractionRow(rose) - 1;
-    for (std::int16_t r = 1; r <= freqDirections; ++r) {
+    for (std::int16_t direction = 1; direction <= freqDirections; ++direction) {
         FreqFields parts(reader.readLine(), ':');
         const std::string_view label = parts.next();
-        if (rose == 1) tables.FrqDirectionLabel(r) = trimmed(label);
-        if (!readPlainShares(parts.rest(), before + r, tables.FrqFraction))
-            readShares(parts.next(), before + r, tables.FrqFraction);
+        if (rose == 1) tables.FrqDirectionLabel(direction) = trimmed(label);
+        const std::int64_t row = fractionRow(rose, direction);
+        if (!readPlainShares(parts.rest(), row, tables.FrqFraction))
+            readShares(parts.next(), row, tables.FrqFraction);
     }
 }
 

@@ -10,11 +10,6 @@
 
 namespace zg {
 
-constexpr std::int16_t freqDirections = 16;
-
-/// The first row of FrqFraction for rose k (from 1). Roses are 17 rows apart; the last row of each is unused.
-constexpr std::int64_t firstFractionRow(std::int64_t rose) { return rose * 16 + (rose - 16); }
-
 /// Reads the block of rose k into the tables; after an error they keep what was read before it. Direction
 /// labels are taken from rose 1 only.
 void readFreqBlock(LineReader& reader, const FreqVersion& version, std::int16_t rose, ModPolarGraph& tables);

@@ -38,10 +38,19 @@ class Table {
     std::vector<T> values_;
 };
 
+constexpr std::int16_t freqDirections = 16;  ///< rows of a rose, from 1 for north on clockwise
+constexpr std::int16_t speedClasses = 6;     ///< columns of a row, from 1
+
+/// The row of FrqFraction that holds a direction of a rose, both counted from 1. Roses lie one row further
+/// apart than they have directions: the row after the last one stays 0.
+constexpr std::int64_t fractionRow(std::int64_t rose, std::int64_t direction) {
+    return (rose - 1) * (freqDirections + 1) + direction;
+}
+
 /// Shares of the periods by table row and speed class; class 0 stays 0.
 class FractionTable {
  public:
-    static constexpr std::int64_t classes = 7;
+    static constexpr std::int64_t classes = speedClasses + 1;
 
     void redim(std::size_t lastRow) { cells_.assign((lastRow + 1) * static_cast<std::size_t>(classes), 0.0); }
     std::int64_t rows() const { return static_cast<std::int64_t>(cells_.size()) / classes; }
@@ -60,13 +69,12 @@ class FractionTable {
     std::vector<double> cells_;
 };
 
-/// Tables per rose start at index 1; index 0 is unused. Rows of rose k in FrqFraction are 17k - 16 to 17k -
-/// 1.
+/// Tables per rose start at index 1; index 0 is unused.
 struct ModPolarGraph {
     std::string FrqVersion;         ///< "2.0" to "2.3", "" before the first load
     std::int16_t FrqLineCount = 0;  ///< number of lines in the file plus one
     std::int16_t FrqRoseCount = 0;
-    FractionTable FrqFraction;             ///< 0 to 1
+    FractionTable FrqFraction;             ///< 0 to 1; fractionRow gives the row
     Table<std::string> FrqDirectionLabel;  ///< 0 to 16
     Table<std::string> FrqClassLimit;      ///< calm threshold, then the lower limits of the classes, m/s
     Table<std::string> FrqCalmPercent;

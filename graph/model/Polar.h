@@ -19,12 +19,15 @@ struct Origin {
     }
 };
 
+/// What one polar unit is in a wind rose, in percent of the periods.
+constexpr double percentPerUnit = 5;
+
 /// The polar grid.
 struct Polar {
     Colour GridColor = 0;
     Colour FillColor = white;  ///< of the polar disc
     Colour LabelColor = 0;     ///< foreground while spokes are drawn
-    float Radius = 5;          ///< outer ring in polar units; in a wind rose one unit is 5 percent
+    float Radius = 5;          ///< outer ring in polar units
     zg::Origin Origin;
     float Unit = 0.5F;  ///< spacing between ruler and grid marks in polar units
 

@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "base/MathLibrary.h"
-#include "graph/render/WindRose.h"
 
 namespace zg {
 
@@ -40,7 +39,6 @@ void drawCoordinateSystem(Frame& frame) {
     frame.canvas.disc(frame.centre(), frame.outerRadius(), frame.polar.FillColor, frame.polar.FillColor);
     drawRings(frame, gridColour);
     drawSpokes(frame, gridColour);
-    drawWindRose(frame);
 }
 
 }  // namespace zg

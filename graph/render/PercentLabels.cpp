@@ -10,7 +10,6 @@ namespace zg {
 namespace {
 
 constexpr double labelAngleDegrees = 11.25;
-constexpr int percentPerUnit = 5;
 
 Point labelPlace(const Frame& frame, int unit, const TextSize& previous) {
     const double angle = MathLibrary::Radians(labelAngleDegrees);

@@ -10,6 +10,7 @@
 #include "graph/render/Legend.h"
 #include "graph/render/PercentLabels.h"
 #include "graph/render/TitleLines.h"
+#include "graph/render/WindRose.h"
 
 namespace zg {
 
@@ -63,7 +64,10 @@ void redrawFrame(const PlotSettings& settings, Polar& polar, ModPolarGraph& tabl
     Frame frame{settings, polar, tables, canvas, geometry, width, height, startingTextStyle(tables)};
     if (tables.FrqLoaded && settings.ShowLegend) drawLegend(frame);
     drawTitleLines(frame);
-    if (settings.ShowCoordinateSystem) drawCoordinateSystem(frame);
+    if (settings.ShowCoordinateSystem) {
+        drawCoordinateSystem(frame);
+        drawWindRose(frame);
+    }
     if (settings.ShowLabel) drawPercentLabels(frame);
     if (tables.FrqRoseCount == 0) drawNoRoseNotice(frame);
     canvas.keepPicture();

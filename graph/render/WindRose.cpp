@@ -8,20 +8,19 @@ namespace zg {
 
 namespace {
 
-constexpr int sectors = 16;
-constexpr int rowsPerRose = 17;
+constexpr int sectors = freqDirections;
 constexpr double sectorStep = 22.5;
 constexpr double halfWidth = 360.0 / 96;
 constexpr double radiansPerDegree = 6.28318530718 / 360;
-constexpr double unitsPerWhole = 20;  // one polar unit is 5 percent
+constexpr double unitsPerWhole = 100 / percentPerUnit;
 
 void drawStack(Frame& frame, int sector) {
     const ModPolarGraph& tables = frame.tables;
     const PolarGeometry& geometry = frame.geometry;
-    const std::int64_t row = tables.CurrentRose * rowsPerRose - rowsPerRose + directionRow(sector);
+    const std::int64_t row = fractionRow(tables.CurrentRose, directionRow(sector));
     const SectorSpan span = sectorSpan(sector);
     // The longest bar first: each lower class paints over it.
-    for (int speedClass = 6; speedClass >= 1; --speedClass) {
+    for (int speedClass = speedClasses; speedClass >= 1; --speedClass) {
         double share = 0;
         for (int c = 1; c <= speedClass; ++c) share += tables.FrqFraction(row, c);
         DrawPiePiece(frame.canvas, geometry.CentreX, geometry.CentreY,

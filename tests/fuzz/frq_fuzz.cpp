@@ -47,7 +47,7 @@ void checkLoaded(const zg::ModPolarGraph& tables) {
     check(tables.FrqRoseTitle.size() == size && tables.FrqRoseCaption.size() == size);
     check(tables.FrqCalmPercent.size() == size && tables.FrqDirectionLabel.size() == 17);
     check(tables.FrqTotalPeriods.size() == (tables.FrqVersion == "2.0" ? 0 : size));
-    const std::int64_t lastRow = zg::firstFractionRow(tables.FrqRoseCount) + zg::freqDirections - 1;
+    const std::int64_t lastRow = zg::fractionRow(tables.FrqRoseCount, zg::freqDirections);
     check(tables.FrqRoseCount == 0 || lastRow < tables.FrqFraction.rows());
     for (std::int64_t rose = 1; rose <= tables.FrqRoseCount; ++rose)
         for (std::int64_t c = 0; c < 7; ++c) check(tables.FrqFraction(17 * rose, c) == 0);

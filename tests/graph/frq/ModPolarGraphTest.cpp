@@ -7,6 +7,14 @@ namespace {
 
 FontRecord arial(std::int16_t size, bool bold) { return {0, "Arial", size, bold, false}; }
 
+TEST(FractionRows, OfRosesLieSeventeenApart) {
+    EXPECT_EQ(fractionRow(1, 1), 1);
+    EXPECT_EQ(fractionRow(1, 16), 16);
+    EXPECT_EQ(fractionRow(2, 1), 18);
+    EXPECT_EQ(fractionRow(3, 16), 50);
+    EXPECT_EQ(fractionRow(32767, 1), 17 * 32767 - 16);
+}
+
 TEST(FactoryStyle, HasAFontForEachKindOfText) {
     EXPECT_EQ(factoryLabelFont(), arial(8, false));
     EXPECT_EQ(factoryDirectionFont(), arial(8, true));

@@ -37,8 +37,8 @@ class SampleFile : public FreqLoad, public ::testing::WithParamInterface<Sample>
     /// Percent total of a rose: all directions, classes and calm.
     double sumOf(int rose) const {
         double sum = toDouble(tables.FrqCalmPercent(rose));
-        for (int r = 0; r < 16; ++r)
-            for (int c = 1; c <= 6; ++c) sum += 100 * tables.FrqFraction(firstFractionRow(rose) + r, c);
+        for (int direction = 1; direction <= 16; ++direction)
+            for (int c = 1; c <= 6; ++c) sum += 100 * tables.FrqFraction(fractionRow(rose, direction), c);
         return sum;
     }
 };
