@@ -34,7 +34,8 @@ void place(QWidget& widget, const ChildSurface& surface) {
 
 }  // namespace
 
-PolarGraphWidget::PolarGraphWidget(Host& host, const PropertyBag& designed, QWidget* parent)
+PolarGraphWidget::PolarGraphWidget(Host& host, ModPolarGraph& tables, const PropertyBag& designed,
+                                   QWidget* parent)
     : QWidget(parent),
       host_(host),
       picShadow_(plainSurface(this, "picShadow", shadowColour)),
@@ -62,7 +63,7 @@ PolarGraphWidget::PolarGraphWidget(Host& host, const PropertyBag& designed, QWid
     for (QScrollBar* bar : {hsScroll_, vsScroll_})
         connect(bar, &QScrollBar::valueChanged, this, guarded(host_, [this] { scrolled(); }));
     // Only this class may use itself as the ControlWindow.
-    graph_ = std::make_unique<PolarGraph>(static_cast<ControlWindow&>(*this), host_, designed);
+    graph_ = std::make_unique<PolarGraph>(static_cast<ControlWindow&>(*this), host_, tables, designed);
     layoutChanged();
 }
 

@@ -9,8 +9,6 @@
 #include "graph/control/PolarGraph.h"
 #include "platform/QtCanvas.h"
 
-namespace zg {}  // namespace zg
-
 class QPrinter;
 
 namespace zg {
@@ -24,7 +22,9 @@ class PolarGraphWidget : public QWidget, private ControlWindow {
     Q_OBJECT
 
  public:
-    PolarGraphWidget(Host& host, const PropertyBag& designed, QWidget* parent = nullptr);
+    /// The tables are those of its PolarGraph and must outlive the widget.
+    PolarGraphWidget(Host& host, ModPolarGraph& tables, const PropertyBag& designed,
+                     QWidget* parent = nullptr);
     ~PolarGraphWidget() override;
 
     PolarGraph& graph() { return *graph_; }

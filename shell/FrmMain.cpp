@@ -10,6 +10,7 @@
 #include "base/Numbers.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
+#include "graph/frq/ModPolarGraph.h"
 #include "platform/Errors.h"
 #include "platform/Memory.h"
 #include "platform/QtPicture.h"
@@ -40,7 +41,7 @@ frmMain::frmMain(Host& host) : host_(host) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Zephyrgraph"));
     setWindowIcon(programIcon("zephyrgraph"));
-    ui_ = makeFrmMainControls(*this, host);
+    ui_ = makeFrmMainControls(*this, host, modPolarGraph);
     makeMenus();
     makeToolbars();
     graphs_ = std::make_unique<GraphList>(

@@ -241,13 +241,13 @@ void ColourBox::paintEvent(QPaintEvent*) {
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
 }
 
-FrmMainControls makeFrmMainControls(QMainWindow& window, Host& host) {
+FrmMainControls makeFrmMainControls(QMainWindow& window, Host& host, ModPolarGraph& tables) {
     FrmMainControls ui;
     makeToolbar(ui);
     makeToolbox(ui);
     makeEquationRow(ui);
     makeTable(ui);
-    ui.pgPolarGraph = named(new PolarGraphWidget(host, designedProperties()), "pgPolarGraph");
+    ui.pgPolarGraph = named(new PolarGraphWidget(host, tables, designedProperties()), "pgPolarGraph");
 
     auto* centre = new QWidget;
     auto* rows = new QVBoxLayout(centre);

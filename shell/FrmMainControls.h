@@ -108,7 +108,8 @@ struct FrmMainControls {
 };
 
 /// Creates the controls and lays them out: toolbar along the top, toolbox on the left, plot in the middle,
-/// equation row and list below it, status bar along the bottom.
-FrmMainControls makeFrmMainControls(QMainWindow& window, Host& host);
+/// equation row and list below it, status bar along the bottom. The plot draws the tables, which must outlive
+/// the window.
+FrmMainControls makeFrmMainControls(QMainWindow& window, Host& host, ModPolarGraph& tables);
 
 }  // namespace zg

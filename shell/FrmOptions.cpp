@@ -4,9 +4,9 @@
 #include <QVBoxLayout>
 #include <cmath>
 
+#include "base/AtEnd.h"
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
-#include "graph/frq/ModPolarGraph.h"
 #include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FormParts.h"
@@ -35,15 +35,24 @@ void addRow(QGridLayout& grid, const char* caption, QWidget* field) {
     grid.addWidget(field, row, 1);
 }
 
-/// Creating the control anew would reset the tables of the displayed rose.
-PolarGraphWidget* makePreview(Host& host) {
-    const ModPolarGraph kept = modPolarGraph;
+std::unique_ptr<PolarGraphWidget> makePreview(Host& host, ModPolarGraph& tables) {
     PropertyBag bag;
     bag.WriteProperty("ScrollBars", "0");
-    auto* preview = named(new PolarGraphWidget(host, bag), "pgPreview");
-    modPolarGraph = kept;
+    auto preview = std::make_unique<PolarGraphWidget>(host, tables, bag);
+    preview->setObjectName(QStringLiteral("pgPreview"));
     preview->setMinimumSize(310, 310);
     return preview;
+}
+
+/// Several properties change under one repaint.
+template <typename Change>
+void changeTogether(PolarGraph& graph, Change change) {
+    {
+        const AtEnd resumed([&graph] { graph.suspendUpdates(false); });
+        graph.suspendUpdates(true);
+        change();
+    }
+    graph.Refresh();
 }
 
 /// The positive number in a box; nothing for any other text.
@@ -60,21 +69,23 @@ std::optional<float> positive(const QLineEdit& field) {
 }  // namespace
 
 frmOptions::frmOptions(Host& host, PolarGraph& graph, QWidget* parent)
-    : ApplyDialog(host, "frmOptions", "Options", parent), graph_(graph), pgPreview(makePreview(host)) {
-    preview().suspendUpdates(true);
+    : ApplyDialog(host, "frmOptions", "Options", parent),
+      graph_(graph),
+      pgPreview(makePreview(host, previewTables_)) {
+    previewTables_ = graph.tables();
     preview().Polar(graph.Polar());
-    preview().BackColor(graph.BackColor());
-    preview().PictureStyle(graph.PictureStyle());
-    preview().Picture(graph.Picture());
-    preview().suspendUpdates(false);
-    preview().Refresh();
+    changeTogether(preview(), [&] {
+        preview().BackColor(graph.BackColor());
+        preview().PictureStyle(graph.PictureStyle());
+        preview().Picture(graph.Picture());
+    });
     tbsOption = named(new QTabWidget, "tbsOption");
     tbsOption->addTab(makeDetails(), QStringLiteral("D&etails"));
     tbsOption->addTab(makeMisc(), QStringLiteral("&Misc"));
     tbsOption->addTab(makeBackground(), QStringLiteral("&Background"));
     auto* row = new QHBoxLayout;
     row->addWidget(tbsOption);
-    row->addWidget(pgPreview, 1);
+    row->addWidget(pgPreview.get(), 1);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(row, 1);
     QPushButton* cmdDefault = namedButton("&Default", "cmdDefault");
@@ -242,13 +253,12 @@ void frmOptions::cmdBitmap_Click() {
 }
 
 void frmOptions::cmdDefault_Click() {
-    preview().suspendUpdates(true);
     preview().Polar(Polar());
-    preview().BackColor(white);
-    preview().Picture(nullptr);
-    preview().PictureStyle(0);
-    preview().suspendUpdates(false);
-    preview().Refresh();
+    changeTogether(preview(), [this] {
+        preview().BackColor(white);
+        preview().Picture(nullptr);
+        preview().PictureStyle(0);
+    });
     showFields();
 }
 
@@ -262,12 +272,11 @@ void frmOptions::apply() {
     to.GridColor = from.GridColor;
     to.FillColor = from.FillColor;
     to.LabelColor = from.LabelColor;
-    graph_.suspendUpdates(true);
-    graph_.BackColor(preview().BackColor());
-    graph_.PictureStyle(preview().PictureStyle());
-    graph_.Picture(preview().Picture());
-    graph_.suspendUpdates(false);
-    graph_.Refresh();
+    changeTogether(graph_, [this] {
+        graph_.BackColor(preview().BackColor());
+        graph_.PictureStyle(preview().PictureStyle());
+        graph_.Picture(preview().Picture());
+    });
     keepBackgroundPicture();
 }
 

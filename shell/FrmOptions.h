@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QTabWidget>
+#include <memory>
 
 #include "platform/PolarGraphWidget.h"
 #include "shell/ApplyDialog.h"
@@ -39,7 +40,8 @@ class frmOptions : public ApplyDialog {
     void keepBackgroundPicture();
 
     PolarGraph& graph_;
-    PolarGraphWidget* pgPreview;
+    ModPolarGraph previewTables_;
+    std::unique_ptr<PolarGraphWidget> pgPreview;
     QTabWidget* tbsOption;
     QLineEdit* txtUnit;
     QLineEdit* txtRadius;

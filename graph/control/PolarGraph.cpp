@@ -3,7 +3,6 @@
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "graph/control/CreatePolar.h"
-#include "graph/frq/ModPolarGraph.h"
 #include "graph/render/RedrawGraph.h"
 
 namespace zg {
@@ -14,11 +13,12 @@ constexpr std::int16_t curvesAndRulers = 3;
 
 }  // namespace
 
-PolarGraph::PolarGraph(ControlWindow& window, Host& host, const PropertyBag& designed)
+PolarGraph::PolarGraph(ControlWindow& window, Host& host, ModPolarGraph& tables, const PropertyBag& designed)
     : window_(window),
       host_(host),
+      tables_(tables),
       engine_([this] { return host_.tickCount(); }),
-      polar_(createPolar(modPolarGraph)) {
+      polar_(createPolar(tables)) {
     engine_.Language("VBScript");
     engine_.AddObject("MathLib", MathLibrary{});
     ReadProperties(designed);
@@ -135,7 +135,7 @@ void PolarGraph::ClearGraph() {
 
 std::int16_t PolarGraph::OpenFreqFile(const std::string& path) {
     lastOpenOutcome_ = FreqFileOutcome::Refused;
-    lastOpenOutcome_ = loadFreqFile(path, modPolarGraph, host_);
+    lastOpenOutcome_ = loadFreqFile(path, tables_, host_);
     if (lastOpenOutcome_ == FreqFileOutcome::Loaded) Refresh();
     return 0;
 }
@@ -148,7 +148,7 @@ void PolarGraph::RedrawGraph(std::int16_t mode) {
     if (!own_.AutoUpdate || suspended_) return;
     try {
         RecordedCanvas canvas = page();
-        redrawFrame(settings_, polar_, modPolarGraph, canvas, geometry_);
+        redrawFrame(settings_, polar_, tables_, canvas, geometry_);
     } catch (...) {
         keepPicture();  // after an error, the page shows what was painted until then
         throw;

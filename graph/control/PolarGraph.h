@@ -116,20 +116,24 @@ struct ControlProperties {
 constexpr std::int16_t leftButton = 1;
 constexpr std::int16_t rightButton = 2;
 
-/// The control draws modPolarGraph's tables. Each property is a pair of functions of one name; each setter
-/// notifies the window's property store, and setters of visible properties repaint.
+/// The control draws the tables that it is given. Each property is a pair of functions of one name; each
+/// setter notifies the window's property store, and setters of visible properties repaint.
 class PolarGraph {
  public:
     static constexpr const char* cornerToolTip =
         "Left click to reset the drawing area: Right click to change the ruler mode.";
 
-    /// Arranges the children and paints the page with the designed properties. The window's functions are
-    /// called during this. Raises an error for a designed value of the wrong kind.
-    PolarGraph(ControlWindow& window, Host& host, const PropertyBag& designed = {});
+    /// Initialises the tables for a plot without a file (createPolar), arranges the children and paints the
+    /// page with the designed properties. The window's functions are called during this. The tables must
+    /// outlive the control, which reads them at each redraw. Raises an error for a designed value of the
+    /// wrong kind.
+    PolarGraph(ControlWindow& window, Host& host, ModPolarGraph& tables, const PropertyBag& designed = {});
     PolarGraph(const PolarGraph&) = delete;
     PolarGraph& operator=(const PolarGraph&) = delete;
 
     PolarGraphEvents events;
+
+    const ModPolarGraph& tables() const { return tables_; }
 
     float AspectRatio() const { return settings_.AspectRatio; }
     /// Above 0 and up to 5, rounded to four decimals; any other value is refused with a message and the old
@@ -323,6 +327,7 @@ class PolarGraph {
 
     ControlWindow& window_;
     Host& host_;
+    ModPolarGraph& tables_;
     ScriptEngine engine_;
     zg::Polar polar_;
     zg::Plot plot_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/AtEnd.h"
 #include "base/MathLibrary.h"
 #include "base/Numbers.h"
 #include "graph/control/CurveSweep.h"
@@ -18,19 +19,6 @@ constexpr int pumpMilliseconds = 5;
 std::string trackText(float angle) {
     return "Angle : " + doubleText(roundHalfEven(static_cast<double>(angle))) + "\xC2\xB0";
 }
-
-/// Restores a value at the end of the scope, however it is left.
-template <typename Act>
-class AtEnd {
- public:
-    explicit AtEnd(Act act) : act_(std::move(act)) {}
-    ~AtEnd() { act_(); }
-    AtEnd(const AtEnd&) = delete;
-    AtEnd& operator=(const AtEnd&) = delete;
-
- private:
-    Act act_;
-};
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/AtEnd.h"
 #include "graph/script/ScriptError.h"
 
 namespace zg {
@@ -18,20 +19,6 @@ std::string quoted(const std::string& formula) {
     while (end > 0 && (static_cast<unsigned char>(formula[end]) & 0xC0) == 0x80) --end;  // within a character
     return "'" + formula.substr(0, end) + "...'";
 }
-
-/// During its lifetime the engine's scripts are watched.
-class WhileRunning {
- public:
-    WhileRunning(ScriptEngine& engine, SweepWatch& watch) : engine_(engine) {
-        engine_.whileRunning([&watch] { watch.lookNow(); });
-    }
-    ~WhileRunning() { engine_.whileRunning({}); }
-    WhileRunning(const WhileRunning&) = delete;
-    WhileRunning& operator=(const WhileRunning&) = delete;
-
- private:
-    ScriptEngine& engine_;
-};
 
 }  // namespace
 
@@ -56,7 +43,8 @@ void SweepWatch::act() {
 
 void sweepUnderWatch(ScriptEngine& engine, SweepWatch& watch, const std::string& formula,
                      const std::function<void()>& sweep) {
-    const WhileRunning looking(engine, watch);
+    const AtEnd unwatched([&engine] { engine.whileRunning({}); });
+    engine.whileRunning([&watch] { watch.lookNow(); });
     try {
         sweep();
     } catch (RunTimeError& error) {

@@ -262,7 +262,8 @@ FormPointer longTableForm(FormWorld& world) {
 
 }  // namespace
 
-FormWorld::FormWorld() : plot((startProgramIn(directory), host), PropertyBag()), graph(curve()) {
+FormWorld::FormWorld()
+    : plot((startProgramIn(directory), host), modPolarGraph, PropertyBag()), graph(curve()) {
     plot.resize(500, 500);
     plot.graph().OpenFreqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
     modPolarGraph.WorkDir = directory.path() + "/";

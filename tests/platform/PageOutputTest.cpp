@@ -28,7 +28,7 @@ class PageOutput : public ::testing::Test {
     void SetUp() override {
         modPolarGraph = ModPolarGraph();
         applicationDirectory = directory_.path();
-        widget_ = std::make_unique<PolarGraphWidget>(host_, PropertyBag());
+        widget_ = std::make_unique<PolarGraphWidget>(host_, modPolarGraph, PropertyBag());
         widget_->resize(400, 400);
         widget_->show();
         plot().Zoom(100);

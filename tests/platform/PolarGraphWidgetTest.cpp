@@ -24,7 +24,7 @@ class PolarGraphWidgetTest : public ::testing::Test {
         modPolarGraph = ModPolarGraph();
         applicationDirectory = directory_.path();
         designed_.WriteProperty("Zoom", "100");
-        widget_ = std::make_unique<PolarGraphWidget>(host_, designed_);
+        widget_ = std::make_unique<PolarGraphWidget>(host_, modPolarGraph, designed_);
         widget_->resize(700, 700);
         widget_->show();
     }

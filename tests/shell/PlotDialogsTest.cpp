@@ -39,7 +39,7 @@ class PlotOptions : public ::testing::Test, protected FormDriver {
  protected:
     void SetUp() override {
         startSettings();
-        widget_ = std::make_unique<PolarGraphWidget>(host_, PropertyBag());
+        widget_ = std::make_unique<PolarGraphWidget>(host_, modPolarGraph, PropertyBag());
         widget_->resize(500, 500);
         widget_->show();
     }
@@ -372,6 +372,18 @@ TEST_F(PlotOptions, OptionsLeaveTheTablesOfTheRoseOnShowAlone) {
     EXPECT_EQ(child<QLineEdit>("txtRadiusIn")->text(), "25");
     EXPECT_EQ(child<QLineEdit>("txtRadius")->text(), "2.5");
     EXPECT_EQ(child<QLineEdit>("txtDiameter")->text(), "5");
+}
+
+TEST_F(PlotOptions, ThePreviewShowsTheRoseOnShowFromTablesOfItsOwn) {
+    load();
+    modPolarGraph.CurrentRose = 4;
+    modPolarGraph.ClassesFromFile = false;
+    modPolarGraph.ClassesInKnots = true;
+    open<frmOptions>();
+    EXPECT_FALSE(modPolarGraph.KnotTableReady) << "the preview made the table of its own legend";
+    plot().Refresh();
+    EXPECT_TRUE(modPolarGraph.KnotTableReady);
+    EXPECT_EQ(child<PolarGraphWidget>("pgPreview")->pageImage(), page());
 }
 
 TEST_F(PlotOptions, OptionsApplyWhatThePreviewShows) {

@@ -14,7 +14,7 @@ namespace {
 
 class Curves : public PolarGraphFixture {
  protected:
-    Curves() : graph(window, host) { window.forget(); }
+    Curves() : graph(window, host, tables) { window.forget(); }
 
     GrapInfo& add(const std::string& equation, const std::string& coefficient = {}) {
         return graph.Plot().Add(coefficient, equation, rgb(1, 2, 3), rgb(4, 5, 6));

@@ -18,7 +18,7 @@ class Output : public PolarGraphFixture {
         graph.mouseUp(leftButton, 0, x2, y2);
     }
 
-    PolarGraph graph{window, host};
+    PolarGraph graph{window, host, tables};
 };
 
 TEST_F(Output, AGraphFileOfAnEmptyPlotHasOneLine) {
@@ -99,7 +99,7 @@ TEST_F(Output, CopyToAlwaysTakesTheWholePageAndAsksWithAnOverwritePrompt) {
 }
 
 TEST_F(Output, ThePrinterGetsWhatThePageShowsStrokeByStroke) {
-    modPolarGraph = roseTables();
+    tables = roseTables();
     graph.Plot().Add("", "1", rgb(9, 0, 0), 0).Visible = false;
     graph.Plot().Add("", "2", rgb(0, 9, 0), 0).Step = 90;
     window.canvas.commands.clear();
@@ -115,10 +115,10 @@ TEST_F(Output, ThePrinterGetsWhatThePageShowsStrokeByStroke) {
 }
 
 TEST_F(Output, SettingsChangedSinceAreNotPrinted) {
-    modPolarGraph = roseTables();
+    tables = roseTables();
     graph.Refresh();
-    modPolarGraph.ClassesFromFile = false;
-    modPolarGraph.GraphTitle = "later";
+    tables.ClassesFromFile = false;
+    tables.GraphTitle = "later";
     graph.Plot().Add("", "2", rgb(0, 9, 0), 0);
     graph.Polar().Radius = 0;
     graph.SentToPrinter();
@@ -188,7 +188,7 @@ TEST_F(Output, OfMoreThanTheRecordHoldsThePixelsArePrinted) {
 }
 
 TEST_F(Output, ANewPageSizeLeavesNothingOfTheOldPage) {
-    modPolarGraph = roseTables();
+    tables = roseTables();
     graph.Refresh();
     graph.suspendUpdates(true);
     graph.Zoom(50);

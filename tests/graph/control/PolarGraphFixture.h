@@ -13,14 +13,8 @@
 /// Fresh tables, a program directory for the test, and a control in a fake window.
 class PolarGraphFixture : public ::testing::Test {
  protected:
-    PolarGraphFixture() {
-        zg::modPolarGraph = zg::ModPolarGraph();
-        zg::applicationDirectory = directory.path();
-    }
-    ~PolarGraphFixture() override {
-        zg::modPolarGraph = zg::ModPolarGraph();
-        zg::applicationDirectory.clear();
-    }
+    PolarGraphFixture() { zg::applicationDirectory = directory.path(); }
+    ~PolarGraphFixture() override { zg::applicationDirectory.clear(); }
 
     /// The number of the run-time error that the action raises, 0 if none.
     template <typename Action>
@@ -36,4 +30,5 @@ class PolarGraphFixture : public ::testing::Test {
     TempDirectory directory;
     TestHost host;
     FakeWindow window;
+    zg::ModPolarGraph tables;
 };

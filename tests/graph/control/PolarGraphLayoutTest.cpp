@@ -7,7 +7,7 @@ namespace {
 
 class PolarGraphLayout : public PolarGraphFixture {
  protected:
-    PolarGraph graph{window, host};
+    PolarGraph graph{window, host, tables};
 
     void SetUp() override {
         graph.layout(500, 400);

@@ -23,7 +23,7 @@ std::string oneRoseFile() {
 
 class PolarGraphMethods : public PolarGraphFixture {
  protected:
-    PolarGraph graph{window, host};
+    PolarGraph graph{window, host, tables};
 
     void SetUp() override { window.forget(); }
 };
@@ -60,14 +60,14 @@ TEST_F(PolarGraphMethods, SuspendedControlPaintsOnceAtTheEnd) {
 }
 
 TEST_F(PolarGraphMethods, ClearGraphLeavesThePersistentPictureAndTheTables) {
-    modPolarGraph = roseTables();
+    tables = roseTables();
     graph.Plot().Add("", "1", 0, 0);
     graph.BackColor(rgb(5, 6, 7));
     window.forget();
     graph.ClearGraph();
     EXPECT_TRUE(window.canvas.commands.empty());
     EXPECT_EQ(window.calls, (std::vector<std::string>{"restorePicture", "pagePainted"}));
-    EXPECT_TRUE(modPolarGraph.FrqLoaded);
+    EXPECT_TRUE(tables.FrqLoaded);
     EXPECT_EQ(graph.Plot().Count(), 1);
 }
 
@@ -88,7 +88,7 @@ TEST_F(PolarGraphMethods, AcceptedFileIsShown) {
     EXPECT_EQ(graph.OpenFreqFile(directory.write("one.frq", oneRoseFile())), 0);
     EXPECT_EQ(graph.lastOpenOutcome(), FreqFileOutcome::Loaded);
     EXPECT_EQ(window.frames(), 1U);
-    EXPECT_TRUE(modPolarGraph.FrqLoaded);
+    EXPECT_TRUE(tables.FrqLoaded);
     EXPECT_EQ(window.canvas.all<drawn::Pie>().size(), 96U);
     EXPECT_EQ(window.canvas.texts().front(), "Calm Winds [<0.5 m/s] = 4.50%");
 }
@@ -106,12 +106,12 @@ TEST_F(PolarGraphMethods, RefusedFileIsNotShownAndStillGivesZero) {
 }
 
 TEST_F(PolarGraphMethods, RefusalLeavesRoseOneOnShow) {
-    modPolarGraph = roseTables(2);
-    modPolarGraph.CurrentRose = 2;
+    tables = roseTables(2);
+    tables.CurrentRose = 2;
     host.boxAnswers.push_back(BoxAnswer::Ok);
     graph.OpenFreqFile(directory.write("bad.frq", "something else\r\n"));
-    EXPECT_EQ(modPolarGraph.CurrentRose, 1);
-    EXPECT_EQ(modPolarGraph.FrqRoseCount, 2);
+    EXPECT_EQ(tables.CurrentRose, 1);
+    EXPECT_EQ(tables.FrqRoseCount, 2);
 }
 
 TEST_F(PolarGraphMethods, FileThatFailsToLoadIsNoLoadedOne) {
@@ -130,10 +130,10 @@ TEST_F(PolarGraphMethods, ErrorOfTheGridReachesTheCallerAndThePageShowsWhatItLef
 }
 
 TEST_F(PolarGraphMethods, CaptionOfAFileWithoutRosesShowsOnlyAfterALoad) {
-    modPolarGraph.GraphCaption = "typed";
+    tables.GraphCaption = "typed";
     graph.Refresh();
     for (const drawn::Text& text : window.canvas.all<drawn::Text>()) EXPECT_NE(text.style.size, 18);
-    modPolarGraph.FrqRoseCount = 0;
+    tables.FrqRoseCount = 0;
     window.forget();
     graph.Refresh();
     EXPECT_EQ(window.canvas.all<drawn::Text>().back().style.size, 18);

@@ -11,7 +11,7 @@ namespace {
 
 class PolarGraphProperties : public PolarGraphFixture {
  protected:
-    PolarGraph graph{window, host};
+    PolarGraph graph{window, host, tables};
 
     void SetUp() override { window.forget(); }
 
@@ -238,7 +238,8 @@ TEST_F(PolarGraphProperties, SurviveStoringAndReloading) {
     PropertyBag bag;
     graph.WriteProperties(bag);
     FakeWindow otherWindow;
-    const PolarGraph other(otherWindow, host, bag);
+    ModPolarGraph otherTables;
+    const PolarGraph other(otherWindow, host, otherTables, bag);
     EXPECT_EQ(other.AspectRatio(), 2.3457F);
     EXPECT_EQ(other.BackColor(), rgb(255, 255, 254));
     EXPECT_EQ(other.Comment(), "One \"two\"//three, \xE9");

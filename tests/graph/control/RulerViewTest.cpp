@@ -15,7 +15,7 @@ class RulerViews : public PolarGraphFixture {
         graph.OffsetDrawingAreaY(45);
     }
 
-    PolarGraph graph{window, host};
+    PolarGraph graph{window, host, tables};
 };
 
 TEST_F(RulerViews, RunAlongTheirHolders) {

@@ -13,7 +13,7 @@ constexpr int outOfTime = 32811;
 
 class SlowSweep : public PolarGraphFixture {
  protected:
-    SlowSweep() : graph(window, host) {
+    SlowSweep() : graph(window, host, tables) {
         graph.events.DrawProgress = [this](float, float, float, float, float) {
             ++points;
             host.now += millisecondsAPoint;

@@ -26,7 +26,7 @@ class Tools : public PolarGraphFixture {
         graph.mouseUp(leftButton, 0, x2, y2);
     }
 
-    PolarGraph graph{window, host};
+    PolarGraph graph{window, host, tables};
 };
 
 TEST_F(Tools, AReturnToTheSameToolKeepsTheSelectionAndAnotherEndsIt) {
