@@ -307,8 +307,10 @@ void GraphList::playSelected() {
     if (rows.empty()) return;
     hooks_.pressArrow();
     plot().ClearGraph();
-    for (int row = 0; row < plot().Plot().Count(); ++row)
-        if (!plot().DrawGraph(toInt16(row + 1.0), row == rows.front())) break;
+    for (int row = 0; row < plot().Plot().Count(); ++row) {
+        const CurveSweep sweep = row == rows.front() ? CurveSweep::StepByStep : CurveSweep::AtOnce;
+        if (!plot().DrawGraph(toInt16(row + 1.0), sweep)) break;
+    }
 }
 
 void GraphList::showTable() {

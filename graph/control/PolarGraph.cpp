@@ -155,7 +155,7 @@ void PolarGraph::RedrawGraph(std::int16_t mode) {
     }
     keepPicture();
     const AfterFrame after = afterFrame(mode);
-    if (after.curves && !isPutOff()) drawAll(false);
+    if (after.curves && !isPutOff()) drawAll(CurveSweep::AtOnce);
     if (after.rulers) window_.rulersChanged();
 }
 

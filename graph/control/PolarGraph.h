@@ -112,6 +112,12 @@ struct ControlProperties {
     bool StopAni = true;
 };
 
+/// What a curve's delay does while the curve is drawn.
+enum class CurveSweep {
+    AtOnce,     ///< nothing: the whole curve is painted at once
+    StepByStep  ///< a pause after each step; events are served meanwhile, until StopAni becomes true
+};
+
 /// Mouse buttons as numbered in the events.
 constexpr std::int16_t leftButton = 1;
 constexpr std::int16_t rightButton = 2;
@@ -206,13 +212,11 @@ class PolarGraph {
     /// Resets the page to its persistent picture, the rose without curves; tables and objects are unchanged.
     void ClearGraph();
 
-    /// Paints the curve of that number over the page, or all visible ones over the persistent picture. If
-    /// instantly is false each is painted at once, whatever its delay; if true those with a delay sweep step
-    /// by step, and events are served meanwhile, until StopAni becomes true. A curve that takes long also
-    /// serves events: it ends when StopAni becomes true, together with the curves after it, and raises 32811
-    /// beyond the limit of SweepWatch. Raises the script engine's errors; what has been painted remains.
-    /// Returns false if StopAni ended a curve that takes long.
-    bool DrawGraph(std::optional<std::int16_t> index = std::nullopt, bool instantly = false);
+    /// Paints the curve of that number over the page, or all visible ones over the persistent picture. A curve
+    /// that takes long serves events: it ends when StopAni becomes true, together with the curves after it,
+    /// and raises 32811 beyond the limit of SweepWatch. Raises the script engine's errors; what has been
+    /// painted remains. Returns false if StopAni ended a curve that takes long.
+    bool DrawGraph(std::optional<std::int16_t> index = std::nullopt, CurveSweep sweep = CurveSweep::AtOnce);
 
     /// Copies the selection, or the whole page if there is none, to the clipboard.
     void EditCopy();
@@ -292,8 +296,8 @@ class PolarGraph {
 
  private:
     void RedrawGraph(std::int16_t mode);
-    void drawAll(bool instantly);
-    void drawItem(std::int16_t index, bool instantly);
+    void drawAll(CurveSweep sweep);
+    void drawItem(std::int16_t index, CurveSweep sweep);
     void DrawCurve(const GrapInfo& graph);
     void sweep(const GrapInfo& graph);
     void paintPoints(const GrapInfo& curve, const std::function<bool(float)>& goesOn);

@@ -22,15 +22,15 @@ std::string trackText(float angle) {
 
 }  // namespace
 
-bool PolarGraph::DrawGraph(std::optional<std::int16_t> index, bool instantly) {
+bool PolarGraph::DrawGraph(std::optional<std::int16_t> index, CurveSweep sweep) {
     if (suspended_ || isPutOff()) return true;
     if (index) {
-        drawItem(*index, instantly);
+        drawItem(*index, sweep);
         if (!curvesWanted_ || stopped_) return !stopped_;
     }
     // Otherwise a curve that has been hidden, changed or removed since would stay on the page.
     ClearGraph();
-    drawAll(instantly && !index);
+    drawAll(index ? CurveSweep::AtOnce : sweep);
     return !stopped_;
 }
 
@@ -42,23 +42,23 @@ bool PolarGraph::isPutOff() {
     return serving_;
 }
 
-void PolarGraph::drawAll(bool instantly) {
+void PolarGraph::drawAll(CurveSweep sweep) {
     do {
         if (curvesWanted_) ClearGraph();
         curvesWanted_ = false;
         const std::int32_t count = plot_.Count();
         for (std::int32_t i = 1; i <= std::min(count, plot_.Count()) && !curvesWanted_ && !stopped_; ++i)
-            drawItem(toInt16(static_cast<double>(i)), instantly);
+            drawItem(toInt16(static_cast<double>(i)), sweep);
     } while (curvesWanted_ && !stopped_);
 }
 
-void PolarGraph::drawItem(std::int16_t index, bool instantly) {
+void PolarGraph::drawItem(std::int16_t index, CurveSweep sweep) {
     if (!plot_.Item(static_cast<std::int64_t>(index)).Visible) return;
     if (events.BeforeGraph) events.BeforeGraph(index);
     // The host may have changed the list or the number.
     GrapInfo& graph = plot_.Item(static_cast<std::int64_t>(index));
     const std::int16_t delay = graph.Delay;
-    if (!instantly) graph.Delay = 0;
+    if (sweep == CurveSweep::AtOnce) graph.Delay = 0;
     const AtEnd putBack([this, &graph, delay] {
         if (plot_.contains(graph)) graph.Delay = delay;
     });

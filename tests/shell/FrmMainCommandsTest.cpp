@@ -200,7 +200,7 @@ TEST_F(FrmMainCommands, TheProgressBarFollowsACurve) {
         EXPECT_TRUE(bar->isVisible());
         values.push_back(bar->value() * 100 / bar->maximum());
     };
-    plot().DrawGraph(std::int16_t{1}, true);
+    plot().DrawGraph(std::int16_t{1}, CurveSweep::StepByStep);
     ASSERT_FALSE(values.empty());
     EXPECT_EQ(values.front(), 10);
     EXPECT_EQ(values.back(), 100);
@@ -213,7 +213,7 @@ TEST_F(FrmMainCommands, ClosingTheWindowEndsAnAnimation) {
     host_.onPump = [&] {
         if (++pumps == 3) window_->close();
     };
-    plot().DrawGraph(std::int16_t{1}, true);
+    plot().DrawGraph(std::int16_t{1}, CurveSweep::StepByStep);
     EXPECT_LT(pumps, 10);
 }
 

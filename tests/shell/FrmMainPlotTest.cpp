@@ -114,7 +114,7 @@ TEST_F(FrmMainPlot, WhatACurveLocksIsGivenBackAtItsEnd) {
         for (const char* name : {"mnuPolarOption_4", "mnuPolarOption_6"})
             EXPECT_FALSE(entry(name).isEnabled()) << name;
     };
-    plot().DrawGraph(std::int16_t{1}, true);
+    plot().DrawGraph(std::int16_t{1}, CurveSweep::StepByStep);
     EXPECT_GT(looked, 0);
     for (const char* name : lockedEntries) {
         if (!entry(name).isVisible()) continue;

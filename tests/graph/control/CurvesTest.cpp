@@ -258,7 +258,7 @@ TEST_F(Curves, AnAnimationWaitsAtEachStepAndTellsItsAngle) {
     curve.Delay = 100;
     bool running = false;
     host.onPump = [&] { running = running || !graph.StopAni(); };
-    graph.DrawGraph(std::int16_t{1}, true);
+    graph.DrawGraph(std::int16_t{1}, CurveSweep::StepByStep);
     EXPECT_TRUE(running);
     EXPECT_GE(host.now, 300);
     EXPECT_EQ(window.trackAngles,
@@ -274,7 +274,7 @@ TEST_F(Curves, TheAngleStaysUntilTheEndHasBeenTold) {
     curve.Delay = 10;
     std::vector<bool> labelShown;
     graph.events.DrawBegin = [&](bool&) { labelShown.push_back(graph.surfaces().lblTrackAngle.visible); };
-    graph.DrawGraph(std::int16_t{1}, true);
+    graph.DrawGraph(std::int16_t{1}, CurveSweep::StepByStep);
     EXPECT_EQ(labelShown, (std::vector<bool>{false, true}))
         << "not before its beginning, and still at its end";
     EXPECT_FALSE(graph.surfaces().lblTrackAngle.visible);
@@ -288,7 +288,7 @@ TEST_F(Curves, StopAniEndsTheSweep) {
     host.onPump = [&] {
         if (steps == 5) graph.StopAni(true);
     };
-    graph.DrawGraph(std::int16_t{1}, true);
+    graph.DrawGraph(std::int16_t{1}, CurveSweep::StepByStep);
     EXPECT_EQ(steps, 5);
 }
 
@@ -321,7 +321,7 @@ TEST_F(Curves, AnErrorReachesTheCallerAndLeavesNothingLocked) {
     add("Sqr(-1)").Delay = 30;
     std::vector<bool> begun;
     graph.events.DrawBegin = [&begun](bool& value) { begun.push_back(value); };
-    EXPECT_EQ(errorNumberOf([&] { graph.DrawGraph(std::int16_t{2}, true); }), 5);
+    EXPECT_EQ(errorNumberOf([&] { graph.DrawGraph(std::int16_t{2}, CurveSweep::StepByStep); }), 5);
     EXPECT_EQ(begun, (std::vector<bool>{false, true}));
     EXPECT_TRUE(graph.StopAni());
     EXPECT_EQ(graph.Plot().Item(2).Delay, 30);
@@ -349,7 +349,7 @@ TEST_F(Curves, ACurveRemovedDuringItsAnimationIsFinished) {
     host.onPump = [&] {
         if (graph.Plot().Count() > 0) graph.Plot().Remove(std::int64_t{1});
     };
-    graph.DrawGraph(std::int16_t{1}, true);
+    graph.DrawGraph(std::int16_t{1}, CurveSweep::StepByStep);
     EXPECT_EQ(lines().size(), 2U);
 }
 

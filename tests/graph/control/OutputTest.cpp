@@ -137,7 +137,7 @@ TEST_F(Output, ACurveThatWasStoppedIsPrintedAsFarAsItCame) {
         if (++pumps == 5) graph.StopAni(true);
     };
     graph.ClearGraph();
-    graph.DrawGraph(std::int16_t{1}, true);
+    graph.DrawGraph(std::int16_t{1}, CurveSweep::StepByStep);
     const auto green = [](const RecordingCanvas& canvas) {
         long count = 0;
         for (const drawn::Line& line : canvas.all<drawn::Line>()) count += line.style.colour == rgb(0, 9, 0);

@@ -117,7 +117,7 @@ TEST_F(SlowSweep, ServicesDoNotCountToTheLimit) {
 
 TEST_F(SlowSweep, AnAnimationHasNoLimit) {
     add("2").Delay = 5000;
-    graph.DrawGraph(std::int16_t{1}, true);
+    graph.DrawGraph(std::int16_t{1}, CurveSweep::StepByStep);
     EXPECT_EQ(points, 37);
     EXPECT_GT(host.now, 180'000);
 }
