@@ -81,14 +81,6 @@ void PolarGraph::Plot(zg::Plot value) {
     changed();
 }
 
-void PolarGraph::SetActiveTool(std::int32_t value) {
-    if (value == own_.SetActiveTool) return;
-    endTool();
-    own_.SetActiveTool = value;
-    changed();
-    beginTool();
-}
-
 void PolarGraph::SetRulerMode(std::int32_t value) {
     own_.SetRulerMode = value;
     window_.rulersChanged();
@@ -118,11 +110,6 @@ void PolarGraph::ShowLegend(bool value) {
 void PolarGraph::StopAni(bool value) {
     own_.StopAni = value;
     changed();
-}
-
-bool PolarGraph::ActiveSelection() const {
-    const ChildSurface& selection = surfaces_.shpSelect;
-    return selection.visible && !(selection.width == 1 && selection.height == 1);
 }
 
 void PolarGraph::ClearGraph() {

@@ -9,7 +9,11 @@
 #include <string>
 
 #include "base/Host.h"
+#include "graph/control/ControlProperties.h"
+#include "graph/control/ControlWindow.h"
 #include "graph/control/PageLayout.h"
+#include "graph/control/PageTools.h"
+#include "graph/control/PolarGraphEvents.h"
 #include "graph/control/PropertyBag.h"
 #include "graph/control/Rulers.h"
 #include "graph/frq/OpenFreqFile.h"
@@ -23,104 +27,11 @@
 
 namespace zg {
 
-/// What the control needs from the window that shows it.
-class ControlWindow {
- public:
-    virtual ~ControlWindow() = default;
-
-    /// The page's surface, valid until the next pageResized or pagePainted. Its size follows pageResized.
-    virtual Canvas& pageCanvas() = 0;
-
-    /// The page has a new size in pixels, at least 1 by 1; its content is repainted after the call.
-    virtual void pageResized(int width, int height) = 0;
-
-    /// Positions, sizes or visibility of child surfaces have changed.
-    virtual void layoutChanged() = 0;
-
-    /// Shapes of the tools, or the tracking lines of the rulers, have changed.
-    virtual void shapesChanged() = 0;
-
-    /// The rulers have to be repainted.
-    virtual void rulersChanged() = 0;
-
-    /// The present content of the page becomes its persistent picture, until the page gets another size or
-    /// another picture.
-    virtual void keepPicture() = 0;
-
-    /// Shows the persistent picture again; false if there is none.
-    virtual bool restorePicture() = 0;
-
-    /// Displays what has been painted on the page.
-    virtual void pagePainted() = 0;
-
-    /// A property of the property store has a new value.
-    virtual void propertyChanged() = 0;
-
-    /// MousePointer or MouseIcon has changed.
-    virtual void pointerChanged() = 0;
-
-    /// A copy of that part of the painted page, one pixel per scale unit, without the tools' shapes; null for
-    /// an empty part.
-    virtual PicturePointer copyPage(const Rect& part) = 0;
-
-    /// Replaces the contents of the clipboard by the picture.
-    virtual void pictureToClipboard(const Picture& picture) = 0;
-
-    /// Replaces the file by the picture as an uncompressed bitmap; raises the error of the file, which is
-    /// then unchanged.
-    virtual void saveBitmap(const Picture& picture, const std::string& path) = 0;
-
-    /// Asks for a printer and, unless cancelled, has one page painted on it: a square of that many scale
-    /// units, centred and as large as the paper allows. Raises 482, "Printer error".
-    virtual void print(double side, const std::function<void(Canvas&)>& paint) = 0;
-
-    virtual void showAbout(const std::string& title) = 0;
-
-    /// lblTrackAngle has a new text; an empty one hides it.
-    virtual void trackAngleChanged(const std::string& text) = 0;
-
-    /// The picture in a file; null if the file does not exist or is not a picture.
-    virtual PicturePointer loadPicture(const std::string& path) = 0;
-};
-
-/// Events to the host. An empty function means no listener.
-struct PolarGraphEvents {
-    std::function<void(bool& value)> DrawBegin;
-    std::function<void()> Click;
-    std::function<void()> DblClick;
-    std::function<void(std::int16_t& index)> BeforeGraph;
-    std::function<void(std::int16_t& keyCode, std::int16_t shift)> KeyDown;
-    std::function<void(std::int16_t& keyAscii)> KeyPress;
-    std::function<void(std::int16_t& keyCode, std::int16_t shift)> KeyUp;
-    std::function<void(float x, float y, float bearing, float area, float circumference, float diameter,
-                       float radial)>
-        TrackPosition;
-    std::function<void(std::int16_t button, std::int16_t shift, float x, float y)> MouseDown;
-    std::function<void(std::int16_t button, std::int16_t shift, float x, float y)> MouseMove;
-    std::function<void(std::int16_t button, std::int16_t shift, float x, float y)> MouseUp;
-    std::function<void(float angle, float radius, float x, float y, float portion)> DrawProgress;
-};
-
-/// Properties that affect neither drawing nor layout, under their names and with a new control's values.
-struct ControlProperties {
-    bool AutoUpdate = true;
-    std::string Comment;
-    PicturePointer MouseIcon;
-    std::int16_t MousePointer = 0;
-    std::int32_t SetActiveTool = 0;
-    std::int32_t SetRulerMode = 1;
-    bool StopAni = true;
-};
-
 /// What a curve's delay does while the curve is drawn.
 enum class CurveSweep {
     AtOnce,     ///< nothing: the whole curve is painted at once
     StepByStep  ///< a pause after each step; events are served meanwhile, until StopAni becomes true
 };
-
-/// Mouse buttons as numbered in the events.
-constexpr std::int16_t leftButton = 1;
-constexpr std::int16_t rightButton = 2;
 
 /// The control draws the tables that it is given. Each property is a pair of functions of one name; each
 /// setter notifies the window's property store, and setters of visible properties repaint.
@@ -207,14 +118,14 @@ class PolarGraph {
     void Zoom(std::int16_t value);
 
     /// Whether a selection is shown that is larger than 1 by 1.
-    bool ActiveSelection() const;
+    bool ActiveSelection() const { return tools_.hasSelection(); }
 
     /// Resets the page to its persistent picture, the rose without curves; tables and objects are unchanged.
     void ClearGraph();
 
-    /// Paints the curve of that number over the page, or all visible ones over the persistent picture. A curve
-    /// that takes long serves events: it ends when StopAni becomes true, together with the curves after it,
-    /// and raises 32811 beyond the limit of SweepWatch. Raises the script engine's errors; what has been
+    /// Paints the curve of that number over the page, or all visible ones over the persistent picture. A
+    /// curve that takes long serves events: it ends when StopAni becomes true, together with the curves after
+    /// it, and raises 32811 beyond the limit of SweepWatch. Raises the script engine's errors; what has been
     /// painted remains. Returns false if StopAni ended a curve that takes long.
     bool DrawGraph(std::optional<std::int16_t> index = std::nullopt, CurveSweep sweep = CurveSweep::AtOnce);
 
@@ -266,17 +177,17 @@ class PolarGraph {
 
     /// A ruler is dragged; the pointer's position is relative to it, in pixels. Either ruler moves the page
     /// along both axes.
-    void rulerPressed(float x, float y);
-    void rulerDragged(float x, float y);
+    void rulerPressed(float x, float y) { tools_.pressRuler(x, y); }
+    void rulerDragged(float x, float y) { tools_.dragRuler(x, y); }
 
     /// Cancels a drag and undoes its movement; without one, clears the selection. False if there was neither.
-    bool cancelTool();
+    bool cancelTool() { return tools_.cancel(); }
 
     /// The pointer has left the page: hides the rulers' tracking lines.
-    void pointerLeft();
+    void pointerLeft() { tools_.pointerLeft(); }
 
     /// Selects the whole page, unless there is a selection.
-    void EditSelectAll();
+    void EditSelectAll() { tools_.selectAll(); }
 
     /// The pointer on the page, in pixels. Each event is first passed on to the host, then the tool acts;
     /// every move then reports the tracked position.
@@ -317,16 +228,7 @@ class PolarGraph {
     RecordedCanvas page() { return {window_.pageCanvas(), record_}; }
     void keepPicture();
     MarkerPictures markerPictures(const Series& series);
-    void endTool();
-    void beginTool();
-    void showCross(float x, float y);
-    void showRulerLines(float x, float y);
-    void showCircle(float x, float y);
-    void followPan(float x, float y);
-    void showRubber(float x, float y);
-    void endRubber();
-    void moveTo(double x, double y);
-    float withinPage(float place) const;
+    void movePageTo(double x, double y);
     void raiseTrackPosition(float x, float y);
 
     ControlWindow& window_;
@@ -344,21 +246,8 @@ class PolarGraph {
     PolarGeometry geometry_;
     CanvasRecord record_;  ///< of the page's content
 
-    struct Place {
-        std::int16_t x = 0;
-        std::int16_t y = 0;
-    };
-    std::int32_t PanStartX_ = 0;
-    std::int32_t PanStartY_ = 0;
-    float RubberStartX_ = 0;
-    float RubberStartY_ = 0;
-    float RubberEndX_ = 0;
-    float RubberEndY_ = 0;
-    float circleWidth_ = 0;
-    bool dragging_ = false;  ///< the button was pressed with the pan or select tool
-    Place dragFrom_;         ///< of the page, at the start of a drag
-    float rulerX_ = 0;
-    float rulerY_ = 0;
+    PageTools tools_{{window_, surfaces_, page_, geometry_, own_},
+                     [this](double x, double y) { movePageTo(x, y); }};
 
     bool suspended_ = false;
     bool serving_ = false;       ///< events, during a sweep
