@@ -7,10 +7,11 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPainterPath>
+#include <cmath>
 #include <numbers>
 
 #include "graph/control/CreatePolar.h"
-#include "graph/control/CurveSweep.h"
+#include "graph/control/CurveEvaluator.h"
 #include "graph/control/SweepWatch.h"
 #include "graph/frq/OpenFreqFile.h"
 #include "graph/render/CanvasRecord.h"
@@ -155,10 +156,13 @@ void curve(benchmark::State& state) {
     for (auto _ : state) {
         zg::SweepWatch watch([&clock] { return clock.elapsed(); });
         zg::sweepUnderWatch(engine, watch, graph.Equation, [&] {
-            zg::CurveSampler sampler(engine, graph);
+            zg::CurveEvaluator equation(engine, {}, graph.Equation);
             zg::CurvePainter painter(graph.Series, {}, geometry);
             for (zg::SweepAngles angles(graph); !angles.done(); angles.advance()) {
-                painter.paint(surface, sampler.at(angles.angle(), geometry));
+                const double radians = equation.turnTo(angles.angle());
+                const double radius = equation.radius();
+                painter.paint(surface,
+                              geometry.onCanvas({radius * std::cos(radians), -radius * std::sin(radians)}));
                 watch.look();
             }
             painter.finish(surface);

@@ -5,7 +5,7 @@
 #include "base/MathLibrary.h"
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
-#include "graph/control/CurveSweep.h"
+#include "graph/control/CurveEvaluator.h"
 
 namespace zg {
 
@@ -20,24 +20,19 @@ std::vector<CurveRow> tabulateCurve(const GrapInfo& graph, ScriptEngine::Clock c
                                     const std::function<void()>& onRow, SweepWatch::Serve serve) {
     if (graph.Step == 0) raise(ErrorNumber::DivisionByZero);
     ScriptEngine engine(clock);
-    engine.Language("VBScript");
+    prepareForCurves(engine);
     engine.Timeout(-1);
-    engine.AddObject("MathLib", MathLibrary{});
     const bool canBeStopped = static_cast<bool>(serve);
     SweepWatch watch(std::move(clock), std::move(serve),
                      canBeStopped ? std::nullopt : std::optional(SweepWatch::usualLimit));
     std::vector<CurveRow> rows;
     const auto sweep = [&] {
-        engine.AddCode(graph.Coefficient);
-        const VariableSlot t = engine.slot("t");
-        CompiledExpression equation = engine.compile(graph.Equation);
+        CurveEvaluator curve(engine, graph.Coefficient, graph.Equation);
         for (SweepAngles angles(graph); !angles.done(); angles.advance()) {
             if (rows.size() == mostRows) throw RunTimeError(7, "Out of memory");
-            const double radians = MathLibrary::Radians(static_cast<double>(angles.angle()));
-            // t has the digits of its text form, as scripts have always received it.
-            engine.setNumber(t, toDouble(doubleText(radians)));
-            const double x = engine.evaluateNumber(equation) * std::cos(radians);
-            const double y = engine.evaluateNumber(equation) * std::sin(radians);
+            const double radians = curve.turnTo(angles.angle());
+            const double x = curve.radius() * std::cos(radians);
+            const double y = curve.radius() * std::sin(radians);
             const double radius = MathLibrary::Radius(x, y);
             rows.push_back({angles.angle(), roundHalfEven(x, decimals), roundHalfEven(y, decimals),
                             roundHalfEven(radius, decimals)});

@@ -1,24 +1,15 @@
 #include "graph/control/EquationCheck.h"
 
-#include "base/MathLibrary.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "graph/control/CurveEvaluator.h"
 
 namespace zg {
-
-namespace {
-
-void prepare(ScriptEngine& engine) {
-    engine.Language("VBScript");
-    engine.AddObject("MathLib", MathLibrary{});
-}
-
-}  // namespace
 
 std::optional<EquationFault> checkEquation(const std::string& coefficient, const std::string& equation,
                                            ScriptEngine::Clock clock) {
     ScriptEngine engine(std::move(clock));
-    prepare(engine);
+    prepareForCurves(engine);
     auto where = EquationFault::Where::Coefficient;
     try {
         engine.AddCode(trim(coefficient));
@@ -35,7 +26,7 @@ std::optional<EquationFault> checkEquation(const std::string& coefficient, const
 
 std::string expressionFault(const std::string& expression, ScriptEngine::Clock clock) {
     ScriptEngine engine(std::move(clock));
-    prepare(engine);
+    prepareForCurves(engine);
     engine.Timeout(-1);
     try {
         engine.Eval(trim(expression));

@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "graph/control/CreatePolar.h"
+#include "graph/control/CurveEvaluator.h"
 #include "graph/render/RedrawGraph.h"
 
 namespace zg {
@@ -19,8 +20,7 @@ PolarGraph::PolarGraph(ControlWindow& window, Host& host, ModPolarGraph& tables,
       tables_(tables),
       engine_([this] { return host_.tickCount(); }),
       polar_(createPolar(tables)) {
-    engine_.Language("VBScript");
-    engine_.AddObject("MathLib", MathLibrary{});
+    prepareForCurves(engine_);
     ReadProperties(designed);
 }
 

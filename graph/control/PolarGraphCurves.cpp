@@ -6,7 +6,7 @@
 #include "base/AtEnd.h"
 #include "base/MathLibrary.h"
 #include "base/Numbers.h"
-#include "graph/control/CurveSweep.h"
+#include "graph/control/CurveEvaluator.h"
 #include "graph/control/PolarGraph.h"
 #include "graph/control/SweepWatch.h"
 
@@ -15,6 +15,12 @@ namespace zg {
 namespace {
 
 constexpr int pumpMilliseconds = 5;
+
+/// In polar units, y downwards as on the canvas.
+Point polarPoint(float radius, double radians) {
+    return {static_cast<double>(radius) * std::cos(radians),
+            -static_cast<double>(radius) * std::sin(radians)};
+}
 
 std::string trackText(float angle) {
     return "Angle : " + doubleText(roundHalfEven(static_cast<double>(angle))) + "\xC2\xB0";
@@ -109,7 +115,7 @@ void PolarGraph::sweep(const GrapInfo& graph) {
 }
 
 void PolarGraph::paintPoints(const GrapInfo& curve, const std::function<bool(float)>& goesOn) {
-    CurveSampler sampler(engine_, curve);
+    CurveEvaluator equation(engine_, coefficientCode(curve.Coefficient), curve.Equation);
     CurvePainter painter(curve.Series, markerPictures(curve.Series), geometry_);
     const auto finish = [&] {
         RecordedCanvas canvas = page();
@@ -117,13 +123,15 @@ void PolarGraph::paintPoints(const GrapInfo& curve, const std::function<bool(flo
     };
     try {
         for (SweepAngles angles(curve); !angles.done(); angles.advance()) {
-            const CurvePoint point = sampler.at(angles.angle(), geometry_);
+            const double radians = equation.turnTo(angles.angle());
+            const float radius = toSingle(equation.radius());
+            const Point point = polarPoint(radius, radians);
             RecordedCanvas canvas = page();
-            painter.paint(canvas, point);
+            painter.paint(canvas, geometry_.onCanvas(point));
             if (events.DrawProgress)
-                events.DrawProgress(point.angle, point.radius, static_cast<float>(point.x),
+                events.DrawProgress(angles.angle(), radius, static_cast<float>(point.x),
                                     static_cast<float>(point.y), curve.EndingAngle);
-            if (!goesOn(point.angle)) break;
+            if (!goesOn(angles.angle())) break;
         }
     } catch (const SweepStopped&) {
         // Otherwise whatever ended it redraws the page.

@@ -1,8 +1,13 @@
 #include "graph/render/Curve.h"
 
+#include <cmath>
+
 namespace zg {
 
 namespace {
+
+/// Points closer than this to the end of the line change no pixel; a million of them would only cost time.
+constexpr double smallestMove = 0.1;
 
 constexpr std::int32_t alignRight = 1;
 constexpr std::int32_t alignHorizontalCentre = 2;
@@ -29,6 +34,33 @@ void paintCharacter(Canvas& canvas, Point at, const Marker& marker) {
 }
 
 }  // namespace
+
+void CurvePainter::lineTo(Canvas& canvas, Point point) {
+    if (series_.Pen.AllowShading) paintShading(canvas, centre_, pen_, point, series_.Pen);
+    if (series_.Pen.AllowConVertices) paintSegment(canvas, pen_, point, series_.Pen, length_);
+    length_ += std::hypot(point.x - pen_.x, point.y - pen_.y);
+    pen_ = point;
+    waiting_ = false;
+}
+
+void CurvePainter::paint(Canvas& canvas, Point point) {
+    if (series_.AllowPen) {
+        if (!begun_) {
+            pen_ = point;
+        } else if (std::abs(point.x - pen_.x) + std::abs(point.y - pen_.y) >= smallestMove) {
+            lineTo(canvas, point);
+        } else {
+            waiting_ = true;
+        }
+        last_ = point;
+        begun_ = true;
+    }
+    if (series_.AllowMarker) paintMarker(canvas, point, series_.Marker, pictures_);
+}
+
+void CurvePainter::finish(Canvas& canvas) {
+    if (waiting_) lineTo(canvas, last_);
+}
 
 void paintShading(Canvas& canvas, Point centre, Point from, Point to, const Pen& pen) {
     canvas.fillPolygon({centre, from, to}, pen.FillColor);

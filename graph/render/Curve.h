@@ -1,9 +1,12 @@
 #pragma once
 
-// Paints one step of a curve: the line from the previous point, the shading below it, and the marker.
+// Paints the points of a curve: the line from the previous point, the shading below it, and the marker.
+
+#include <utility>
 
 #include "graph/model/Series.h"
 #include "graph/render/Canvas.h"
+#include "graph/render/PolarGeometry.h"
 
 namespace zg {
 
@@ -11,6 +14,31 @@ namespace zg {
 struct MarkerPictures {
     PicturePointer picture;
     PicturePointer mask;
+};
+
+/// Paints the points of a curve one after the other. The canvas is requested for each point, since the window
+/// may display it in between.
+class CurvePainter {
+ public:
+    CurvePainter(const Series& series, MarkerPictures pictures, const PolarGeometry& geometry)
+        : series_(series), pictures_(std::move(pictures)), centre_(geometry.centre()) {}
+
+    void paint(Canvas& canvas, Point point);
+
+    /// Paints the last points, which paint may have held back.
+    void finish(Canvas& canvas);
+
+ private:
+    void lineTo(Canvas& canvas, Point point);
+
+    const Series& series_;
+    MarkerPictures pictures_;
+    Point centre_;
+    double length_ = 0;  ///< of what has been painted
+    bool begun_ = false;
+    bool waiting_ = false;
+    Point pen_;   ///< end of what has been painted
+    Point last_;  ///< the previous point, which may be too close to the pen to be visible
 };
 
 /// Fills the area between the centre and the line.

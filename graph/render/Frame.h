@@ -24,7 +24,7 @@ struct Frame {
     TextStyle textStyle;
     std::string lastLabel = {};  ///< the last direction or percent label, "" before the first
 
-    Point centre() const { return {geometry.CentreX, geometry.CentreY}; }
+    Point centre() const { return geometry.centre(); }
     double outerRadius() const { return static_cast<double>(polar.Radius) * geometry.UnitLength; }
 };
 

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "base/MathLibrary.h"
-#include "graph/control/CurveSweep.h"
+#include "graph/control/CurveEvaluator.h"
 #include "graph/script/ScriptError.h"
 #include "tests/graph/control/PolarGraphFixture.h"
 

@@ -39,6 +39,20 @@ TEST(Shading, FillsTheTriangleAndTheEdgeThatNeighboursShare) {
                                    drawn::Line{{5, 6}, segmentStart, {rgb(1, 2, 3), 1, 0, 0}}}));
 }
 
+TEST(CurvePoints, ThatChangeNoPixelWaitForTheNextOne) {
+    RecordingCanvas canvas;
+    Series series;
+    CurvePainter painter(series, {}, PolarGeometry());
+    for (const Point point : {Point{0, 0}, Point{10, 0}, Point{10.05, 0}}) painter.paint(canvas, point);
+    EXPECT_EQ(canvas.all<drawn::Line>().size(), 1U);
+    painter.finish(canvas);
+    ASSERT_EQ(canvas.all<drawn::Line>().size(), 2U);
+    EXPECT_EQ(canvas.all<drawn::Line>()[1].from, (Point{10, 0}));
+    EXPECT_EQ(canvas.all<drawn::Line>()[1].to, (Point{10.05, 0}));
+    painter.finish(canvas);
+    EXPECT_EQ(canvas.all<drawn::Line>().size(), 2U) << "nothing waits any more";
+}
+
 TEST(MarkerCorners, FollowBothFlagsAndUnknownOnesAreTheFirst) {
     const TextSize size{10, 24};
     for (const std::int32_t horizontal : {0, 1, 2, 7})
