@@ -1,8 +1,8 @@
 #include "batch/BatchRun.h"
 
-#include "base/Numbers.h"
 #include "batch/BatchBitmap.h"
 #include "graph/frq/ModPolarGraph.h"
+#include "graph/frq/ValidHours.h"
 #include "graph/script/ScriptError.h"
 #include "processing/Directories.h"
 #include "settings/Settings.h"
@@ -12,14 +12,6 @@ namespace zg {
 namespace {
 
 constexpr std::size_t extensionLength = 4;  // of ".frq"
-
-/// Version 2.0 does not state the percentage of valid hours; other versions before 2.1 are not exported at
-/// all.
-bool isExported(int rose, float limit) {
-    if (modPolarGraph.FrqVersion == "2.0") return true;
-    if (toSingle(modPolarGraph.FrqVersion) < 2.1F) return false;
-    return !(modPolarGraph.FrqPercentValid(rose) < limit);
-}
 
 /// With many files an error means little without the file's name.
 bool open(const std::string& path, const BatchHooks& hooks) {
@@ -44,7 +36,7 @@ struct Run {
 
 void exportRose(const Run& run, int rose) {
     modPolarGraph.CurrentRose = static_cast<std::int16_t>(rose);
-    if (!isExported(rose, run.limit)) return run.notes.leftOutRose();
+    if (!hasEnoughValidHours(modPolarGraph, rose, run.limit)) return run.notes.leftOutRose();
     modPolarGraph.GraphCaption = modPolarGraph.FrqRoseCaption(rose);
     const std::string picture = batchBitmapPath();
     run.hooks.exportRose();

@@ -16,6 +16,7 @@
 #include "export/WorkQueue.h"
 #include "graph/control/CreatePolar.h"
 #include "graph/frq/OpenFreqFile.h"
+#include "graph/frq/ValidHours.h"
 
 namespace zg {
 
@@ -99,12 +100,6 @@ std::vector<int> askedRoses(const ExportJob& job, const std::string& file, int r
     return {rose};
 }
 
-/// The same rule as in the window's batch export: version 2.0 does not state the percentage of valid hours.
-bool isValidEnough(const ModPolarGraph& tables, int rose, float limit) {
-    if (tables.FrqVersion == "2.0") return true;
-    return toSingle(tables.FrqVersion) >= 2.1F && !(tables.FrqPercentValid(rose) < limit);
-}
-
 std::string pictureName(const ExportJob& job, const std::string& file, int rose, int roseCount) {
     std::string number = format00(rose);
     const std::size_t digits = std::to_string(roseCount).size();
@@ -175,7 +170,8 @@ class Export {
         const std::vector<int> roses = askedRoses(job_, file, tables->FrqRoseCount);
         makeDirectory(job_.directory);
         for (const int rose : roses)
-            if (!isOver() && isValidEnough(*tables, rose, job_.minValid)) addRose(tables, polar, file, rose);
+            if (!isOver() && hasEnoughValidHours(*tables, rose, job_.minValid))
+                addRose(tables, polar, file, rose);
     }
 
     void addRose(const std::shared_ptr<const ModPolarGraph>& tables,
