@@ -21,9 +21,13 @@ std::string asFileName(std::string_view text) {
     return name;
 }
 
+std::string batchBitmapPath(const std::string& directory, const std::string& root, const std::string& title) {
+    return directory + asFileName(root + title) + ".bmp";
+}
+
 std::string batchBitmapPath() {
-    const std::string& title = modPolarGraph.FrqRoseTitle(modPolarGraph.CurrentRose);
-    return settings.BatchDirectory + asFileName(settings.BatchRootFilename + title) + ".bmp";
+    return batchBitmapPath(settings.BatchDirectory, settings.BatchRootFilename,
+                           modPolarGraph.FrqRoseTitle(modPolarGraph.CurrentRose));
 }
 
 }  // namespace zg

@@ -1,7 +1,7 @@
 #include "batch/BatchRun.h"
 
+#include "base/AtEnd.h"
 #include "batch/BatchBitmap.h"
-#include "graph/frq/ModPolarGraph.h"
 #include "graph/frq/ValidHours.h"
 #include "graph/script/ScriptError.h"
 #include "processing/Directories.h"
@@ -13,10 +13,19 @@ namespace {
 
 constexpr std::size_t extensionLength = 4;  // of ".frq"
 
+/// The commands of one run, and the notes about it.
+struct Run {
+    Host& host;
+    ModPolarGraph& tables;
+    const BatchRequest& request;
+    const BatchHooks& hooks;
+    BatchNotes& notes;
+};
+
 /// With many files an error means little without the file's name.
-bool open(const std::string& path, const BatchHooks& hooks) {
+bool open(const Run& run, const std::string& path) {
     try {
-        return hooks.openFrqFile();
+        return run.hooks.openFrqFile(path);
     } catch (const ScriptError&) {
         throw;  // error in a curve, not in the file
     } catch (RunTimeError& error) {
@@ -26,20 +35,13 @@ bool open(const std::string& path, const BatchHooks& hooks) {
     }
 }
 
-/// The commands of one run, and the notes about it.
-struct Run {
-    Host& host;
-    const BatchHooks& hooks;
-    BatchNotes& notes;
-    float limit;
-};
-
-void exportRose(const Run& run, int rose) {
-    modPolarGraph.CurrentRose = static_cast<std::int16_t>(rose);
-    if (!hasEnoughValidHours(modPolarGraph, rose, run.limit)) return run.notes.leftOutRose();
-    modPolarGraph.GraphCaption = modPolarGraph.FrqRoseCaption(rose);
-    const std::string picture = batchBitmapPath();
-    run.hooks.exportRose();
+void exportRose(const Run& run, const std::string& root, int rose) {
+    ModPolarGraph& tables = run.tables;
+    tables.CurrentRose = static_cast<std::int16_t>(rose);
+    if (!hasEnoughValidHours(tables, rose, run.request.percentValidLimit)) return run.notes.leftOutRose();
+    tables.GraphCaption = tables.FrqRoseCaption(rose);
+    const std::string picture = batchBitmapPath(run.request.workDirectory, root, tables.FrqRoseTitle(rose));
+    run.hooks.saveRose(picture);
     run.notes.savedRose(rose, picture);
     run.host.pumpEvents(0);
 }
@@ -48,49 +50,40 @@ void exportRoses(const Run& run, const std::string& path, const std::string& roo
     settings.BatchFRQFilename = path;
     settings.BatchRootFilename = root;
     try {
-        run.notes.tookFile(path, !open(path, run.hooks));
-        for (int rose = 1; rose <= modPolarGraph.FrqRoseCount; ++rose) exportRose(run, rose);
+        run.notes.tookFile(path, !open(run, path));
+        for (int rose = 1; rose <= run.tables.FrqRoseCount; ++rose) exportRose(run, root, rose);
     } catch (...) {
         run.notes.brokeOff(path);
         throw;
     }
 }
 
-void exportDirectory(const Run& run, const BatchRequest& request) {
-    const std::vector<std::string> names = FindFiles("BatchMode", request.directory + "*.frq");
+void exportDirectory(const Run& run) {
+    const std::string& directory = run.request.directory;
+    const std::vector<std::string> names = FindFiles("BatchMode", directory + "*.frq");
     const int count = fileCounts.BatchFileCount;
     for (int i = 0; i < count; ++i) {
         const std::string& name = names[static_cast<std::size_t>(i)];
-        const std::string root = name.substr(0, name.size() - extensionLength) + "_";
-        exportRoses(run, request.directory + name, root);
+        exportRoses(run, directory + name, name.substr(0, name.size() - extensionLength) + "_");
     }
     settings.BatchFRQFilename.clear();
     settings.BatchRootFilename.clear();
     fileCounts.BatchFileCount = 0;
 }
 
-/// During its lifetime the open and the save command ask nothing.
-class BatchModeOn {
- public:
-    explicit BatchModeOn(const std::string& directory) {
-        settings.BatchMode = true;
-        settings.BatchDirectory = directory;
-    }
-    ~BatchModeOn() { settings.BatchMode = false; }
-    BatchModeOn(const BatchModeOn&) = delete;
-    BatchModeOn& operator=(const BatchModeOn&) = delete;
-};
-
 }  // namespace
 
-void runBatch(Host& host, const BatchRequest& request, const BatchHooks& hooks, BatchNotes& notes) {
-    const BatchModeOn on(request.workDirectory);
-    const Run run{host, hooks, notes, request.percentValidLimit};
+void runBatch(Host& host, ModPolarGraph& tables, const BatchRequest& request, const BatchHooks& hooks,
+              BatchNotes& notes) {
+    const AtEnd over([] { settings.BatchMode = false; });
+    settings.BatchMode = true;
+    settings.BatchDirectory = request.workDirectory;
+    const Run run{host, tables, request, hooks, notes};
     if (request.ofDirectory)
-        exportDirectory(run, request);
+        exportDirectory(run);
     else
         exportRoses(run, request.file, request.root);
-    modPolarGraph.WorkDir = request.workDirectory;
+    tables.WorkDir = request.workDirectory;
 }
 
 }  // namespace zg

@@ -8,6 +8,7 @@
 
 #include "base/Host.h"
 #include "batch/BatchNotes.h"
+#include "graph/frq/ModPolarGraph.h"
 
 namespace zg {
 
@@ -21,15 +22,19 @@ struct BatchRequest {
     float percentValidLimit = 0;  ///< lowest percentage of valid hours of a rose to export
 };
 
-/// The commands of the main window that a run uses.
+/// The commands of the main window that a run calls.
 struct BatchHooks {
-    std::function<bool()> openFrqFile;  ///< opens the run's file without asking; false if it was refused
-    std::function<void()> exportRose;   ///< redraws and saves under batchBitmapPath without asking
+    /// Loads a file into the tables and displays it; false if it was refused.
+    std::function<bool(const std::string& path)> openFrqFile;
+    /// Redraws the displayed rose and saves the page as that bitmap, without asking.
+    std::function<void(const std::string& picture)> saveRose;
 };
 
-/// Runs with BatchMode set, which is cleared at the end in any case; events are served after each rose, so
-/// that it is displayed. Raises the errors of the commands, those of a file with its name and line; the notes
-/// then cover the run so far.
-void runBatch(Host& host, const BatchRequest& request, const BatchHooks& hooks, BatchNotes& notes);
+/// Exports the roses that the hooks load into the tables, one after the other; the last one tried remains the
+/// displayed one. The settings mirror the run; BatchMode is cleared at the end in any case. Events are served
+/// after each rose, so that it is displayed. Raises the errors of the commands, those of a file with its name
+/// and line; the notes then cover the run so far.
+void runBatch(Host& host, ModPolarGraph& tables, const BatchRequest& request, const BatchHooks& hooks,
+              BatchNotes& notes);
 
 }  // namespace zg

@@ -2,8 +2,8 @@
 
 #include <QGroupBox>
 #include <QVBoxLayout>
-#include <memory>
 
+#include "base/AtEnd.h"
 #include "base/Numbers.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
@@ -266,10 +266,9 @@ void frmBatchMode::begin() {
     request.percentValidLimit = toSingle(trim(typed(txtPercentValidLimit->text())));
     say("Running...");
     BatchNotes notes;
-    const auto tell = [this](const BatchNotes* of) { txtNotes->setPlainText(shown(of->text())); };
     {
-        const std::unique_ptr<const BatchNotes, decltype(tell)> atEnd(&notes, tell);
-        runBatch(host_, request, hooks_, notes);
+        const AtEnd told([this, &notes] { txtNotes->setPlainText(shown(notes.text())); });
+        runBatch(host_, modPolarGraph, request, hooks_, notes);
     }
     lblStatus->setText(QStringLiteral("Finished"));
     cmdCancel->setText(QStringLiteral("Exit"));

@@ -1,5 +1,6 @@
 #include "batch/RunningDialog.h"
 
+#include "base/AtEnd.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
 #include "platform/QtText.h"
@@ -26,6 +27,7 @@ void RunningDialog::reject() {
 
 void RunningDialog::run(const std::function<void()>& work) {
     if (running_) return;
+    const AtEnd idle([this] { running_ = false; });
     running_ = true;
     const QString before = lblStatus->text();
     try {
@@ -34,7 +36,6 @@ void RunningDialog::run(const std::function<void()>& work) {
         lblStatus->setText(before);
         showError(host_, std::current_exception());
     }
-    running_ = false;
 }
 
 void RunningDialog::refuse(QWidget& field, const char* text) {

@@ -49,17 +49,10 @@ void window(benchmark::State& state) {
     request.directory = inputs(static_cast<int>(state.range(0)));
     request.workDirectory = (scratch / "out").string() + "/";
     fs::create_directories(request.workDirectory);
-    const zg::BatchHooks hooks{[&] {
-                                   main.mnuFileOption_Click(1);
-                                   return true;
-                               },
-                               [&] {
-                                   main.pgPolarGraph().Refresh();
-                                   main.mnuFileOption_Click(12);
-                               }};
+    const zg::BatchHooks hooks = main.batchHooks();
     for (auto _ : state) {
         zg::BatchNotes notes;
-        zg::runBatch(host, request, hooks, notes);
+        zg::runBatch(host, zg::modPolarGraph, request, hooks, notes);
     }
     state.SetItemsProcessed(state.iterations() * (state.range(0) + 8) / 9 * 9);
     state.counters["MB"] = residentMegabytes();

@@ -37,7 +37,9 @@ struct Settings {
     std::string CurrentFrqPath;  ///< displayed file, "" before the first
     bool DebugFlag = false;      ///< the check mark of the About box; nothing else reads it
 
-    bool BatchMode = false;         ///< the open command uses BatchFRQFilename and asks nothing
+    // Mirrors of a batch run, which calls its commands with these values and reads none of them here. While
+    // BatchMode is set the entries Open and Copy To use them and ask nothing.
+    bool BatchMode = false;
     std::string BatchFRQFilename;   ///< full path
     std::string BatchRootFilename;  ///< prefix of the bitmaps' names
     std::string BatchDirectory;     ///< directory for the bitmaps, with its final separator

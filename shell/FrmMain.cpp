@@ -114,16 +114,22 @@ void frmMain::PlotFrqFile(const std::string& path) {
     QTimer::singleShot(0, this, [] { giveBackMemory(); });
 }
 
-void frmMain::openFrqFile() {
+std::string frmMain::askForFrqFile() {
     FilePick pick;
     pick.filter = "Frequency File (*.frq) | *.frq; |All Files (*.*) | *.*";
     pick.directory = modPolarGraph.WorkDir;
-    const std::string path = settings.BatchMode ? settings.BatchFRQFilename : host_.pickFileToOpen(pick);
-    if (path.empty()) return;
+    return host_.pickFileToOpen(pick);
+}
+
+/// Shows that file, and the next file dialog starts where it lies; nothing for an empty path. False where the
+/// file was refused.
+bool frmMain::openFrqFile(const std::string& path) {
+    if (path.empty()) return false;
     modPolarGraph.WorkDir = DirOf(path);
     // Only the first character is checked, so nearly every directory gets a final separator here.
     if (modPolarGraph.WorkDir.substr(0, 1) != "\\") modPolarGraph.WorkDir += pathSeparator;
     PlotFrqFile(path);
+    return pgPolarGraph().lastOpenOutcome() == FreqFileOutcome::Loaded;
 }
 
 }  // namespace zg

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "base/Host.h"
+#include "batch/BatchRun.h"
 #include "dialogs/point/PointDialog.h"
 #include "platform/BatchStarter.h"
 #include "shell/FrmMainControls.h"
@@ -29,7 +30,7 @@ class frmMain : public QMainWindow {
     void Form_Load();
 
     // Run the entry of that index, as a click would: mnuFileOption 1 opens an FRQ file, 12 saves the page as
-    // a bitmap. In batch mode neither asks for a file.
+    // a bitmap. While settings.BatchMode is set neither asks for a file.
     void mnuFileOption_Click(int Index) { runEntry("mnuFileOption", Index); }
     void mnuEditOption_Click(int Index) { runEntry("mnuEditOption", Index); }
     void mnuViewAspectOption_Click(int Index) { runEntry("mnuViewAspectOption", Index); }
@@ -38,6 +39,9 @@ class frmMain : public QMainWindow {
 
     /// Loads an FRQ file into the plot. The title names the file first, even if it then fails to load.
     void PlotFrqFile(const std::string& path);
+
+    /// The commands that a batch run calls.
+    BatchHooks batchHooks();
 
     /// Appends the row of the plot's curve of that number, from 1, to the list.
     void AddGraph(std::int16_t Index) { graphs_->add(Index); }
@@ -86,7 +90,8 @@ class frmMain : public QMainWindow {
     template <typename Form, typename... Values>
     void process(Values... values);
 
-    void openFrqFile();
+    bool openFrqFile(const std::string& path);
+    std::string askForFrqFile();
     void selectPage();
     void copyTo();
     void mnuEdit_Open();

@@ -46,7 +46,8 @@ void frmMain::process(Values... values) {
 
 frmMain::Commands frmMain::fileCommands() {
     return {
-        {"mnuFileOption_1", [this] { openFrqFile(); }},
+        {"mnuFileOption_1",
+         [this] { openFrqFile(settings.BatchMode ? settings.BatchFRQFilename : askForFrqFile()); }},
         {"mnuFileOption_3",
          [this] {
              useLibrariesBeside(applicationDirectory);
@@ -229,17 +230,16 @@ ProcessingWindow frmMain::processingWindow() {
             [this] { frmSetWindSpeedClasses(host_, this).exec(); }};
 }
 
-void frmMain::showBatchMode() {
-    const BatchHooks hooks{[this] {
-                               mnuFileOption_Click(1);
-                               return pgPolarGraph().lastOpenOutcome() == FreqFileOutcome::Loaded;
-                           },
-                           [this] {
-                               pgPolarGraph().Refresh();
-                               mnuFileOption_Click(12);
-                           }};
-    frmBatchMode(host_, hooks, this).exec();
+BatchHooks frmMain::batchHooks() {
+    return {[this](const std::string& path) { return openFrqFile(path); },
+            [this](const std::string& picture) {
+                pgPolarGraph().Refresh();
+                selectPage();
+                pgPolarGraph().EditCopyTo(picture);
+            }};
 }
+
+void frmMain::showBatchMode() { frmBatchMode(host_, batchHooks(), this).exec(); }
 
 void frmMain::toggleShown(const char* entry, QWidget& bar) {
     bar.setVisible(actions_.at(entry)->isChecked());

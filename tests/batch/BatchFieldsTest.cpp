@@ -45,7 +45,9 @@ class OutputFields : public ::testing::Test {
         ASSERT_TRUE(QTest::qWaitForWindowActive(form_.get()));
     }
     void openBatch() {
-        show(std::make_unique<frmBatchMode>(host_, BatchHooks{[this] { return ++started_ > 0; }, [] {}}));
+        show(std::make_unique<frmBatchMode>(
+            host_,
+            BatchHooks{[this](const std::string&) { return ++started_ > 0; }, [](const std::string&) {}}));
     }
     void openReport() {
         show(std::make_unique<frmCreateReport>(host_, nullptr, std::unique_ptr<ReportWriter>()));

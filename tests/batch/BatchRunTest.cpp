@@ -40,15 +40,17 @@ class BatchRun : public ::testing::Test {
         }
     }
     void run() {
-        runBatch(host_, request_,
-                 {[this] {
+        runBatch(host_, modPolarGraph, request_,
+                 {[this](const std::string& path) {
                       EXPECT_TRUE(settings.BatchMode);
-                      opened_.push_back(settings.BatchFRQFilename);
+                      EXPECT_EQ(settings.BatchFRQFilename, path);
+                      opened_.push_back(path);
                       if (load_) load_();
                       return load_ != nullptr;
                   },
-                  [this] {
-                      saved_.push_back(batchBitmapPath());
+                  [this](const std::string& picture) {
+                      EXPECT_EQ(batchBitmapPath(), picture) << "the settings mirror the run";
+                      saved_.push_back(picture);
                       captions_.push_back(modPolarGraph.GraphCaption);
                   }},
                  notes_);
@@ -179,8 +181,8 @@ TEST_F(BatchRun, NotesNameRefusedFilesAndWhatTookTheirPlace) {
     roses("2.2", {100, 20});
     std::vector<bool> accepted = {false, true, false};
     std::size_t file = 0;
-    const BatchHooks hooks{[&] { return accepted[file++]; }, [] {}};
-    runBatch(host_, request_, hooks, notes_);
+    const BatchHooks hooks{[&](const std::string&) { return accepted[file++]; }, [](const std::string&) {}};
+    runBatch(host_, modPolarGraph, request_, hooks, notes_);
     EXPECT_EQ(
         notes_.text(),
         directory_.file("a.frq") +

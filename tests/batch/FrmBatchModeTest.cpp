@@ -37,11 +37,12 @@ class FrmBatchMode : public ::testing::Test {
         open();
     }
     void open() {
-        form_ = std::make_unique<frmBatchMode>(host_, BatchHooks{[this] { return ++opened_ > 0; },
-                                                                 [this] {
-                                                                     ++saved_;
-                                                                     if (onSave_) onSave_();
-                                                                 }});
+        form_ = std::make_unique<frmBatchMode>(
+            host_, BatchHooks{[this](const std::string&) { return ++opened_ > 0; },
+                              [this](const std::string&) {
+                                  ++saved_;
+                                  if (onSave_) onSave_();
+                              }});
         form_->show();
         form_->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form_.get()));

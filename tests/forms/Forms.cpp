@@ -152,13 +152,17 @@ FormPointer errorForm(FormWorld&) {
     return form;
 }
 
+BatchHooks batchHooks(bool accepted) {
+    return {[accepted](const std::string&) { return accepted; }, [](const std::string&) {}};
+}
+
 FormPointer batchForm(FormWorld& world) {
-    return std::make_unique<frmBatchMode>(world.host, BatchHooks{[] { return true; }, [] {}});
+    return std::make_unique<frmBatchMode>(world.host, batchHooks(true));
 }
 
 /// Every file is refused: the roses still in memory are saved under its names.
 FormPointer refusingBatchForm(FormWorld& world) {
-    return std::make_unique<frmBatchMode>(world.host, BatchHooks{[] { return false; }, [] {}});
+    return std::make_unique<frmBatchMode>(world.host, batchHooks(false));
 }
 
 void runBatchOfSample(QWidget& form) {

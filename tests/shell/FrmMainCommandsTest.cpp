@@ -116,6 +116,16 @@ TEST_F(FrmMainCommands, InBatchModeTheOpenCommandAsksNothing) {
     EXPECT_EQ(settings.CurrentFrqPath, settings.BatchFRQFilename);
 }
 
+TEST_F(FrmMainCommands, InBatchModeTheSaveCommandAsksNothing) {
+    window_->PlotFrqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
+    settings.BatchMode = true;
+    settings.BatchDirectory = directory_.path() + "/";
+    settings.BatchRootFilename = "R_";
+    window_->mnuFileOption_Click(12);
+    EXPECT_TRUE(host_.savePicks.empty());
+    EXPECT_TRUE(std::filesystem::exists(directory_.file("R_" + modPolarGraph.FrqRoseTitle(1) + ".bmp")));
+}
+
 TEST_F(FrmMainCommands, AToolReleasesTheOthersAndShowsItsList) {
     QTest::mouseClick(child("tblToolbox_Zoom"), Qt::LeftButton);
     EXPECT_TRUE(child("lstZoom")->isVisible());

@@ -14,9 +14,9 @@ TEST_F(Evaluator, APreparedEngineKnowsTheLibrary) { EXPECT_EQ(engine.evalNumber(
 
 TEST_F(Evaluator, TIsTheAngleInRadiansWithTheDigitsOfItsText) {
     CurveEvaluator curve(engine, "", "t");
-    EXPECT_EQ(curve.turnTo(1), 0.017453292519943295);
+    EXPECT_DOUBLE_EQ(curve.turnTo(1), 0.017453292519943295);
     EXPECT_EQ(curve.radius(), 1.74532925199433E-02);
-    EXPECT_EQ(curve.turnTo(-180), -MathLibrary::Pi());
+    EXPECT_DOUBLE_EQ(curve.turnTo(-180), -MathLibrary::Pi());
     EXPECT_EQ(curve.radius(), -3.14159265358979);
 }
 
