@@ -8,6 +8,7 @@
 
 #include "export/PictureFile.h"
 #include "graph/render/RedrawGraph.h"
+#include "platform/PngWriter.h"
 #include "platform/QtCanvas.h"
 #include "platform/QtText.h"
 
@@ -25,14 +26,14 @@ void draw(ModPolarGraph& tables, const Polar& polar, QtCanvas& canvas) {
     redrawFrame(PlotSettings{}, own, tables, canvas, geometry);
 }
 
-bool saveRaster(ModPolarGraph& tables, const Polar& polar, QIODevice& file, const char* kind, int side) {
+bool saveRaster(ModPolarGraph& tables, const Polar& polar, QIODevice& file, bool packed, int side) {
     QImage page = makePageImage(side, side);
     if (page.isNull()) throw std::bad_alloc();
     {
         QtCanvas canvas(page, side, side);
         draw(tables, polar, canvas);
     }
-    return page.save(&file, kind);
+    return packed ? writePng(page, file) : page.save(&file, "BMP");
 }
 
 bool saveSvg(ModPolarGraph& tables, const Polar& polar, QIODevice& file, int side) {
@@ -73,7 +74,7 @@ bool savePdf(ModPolarGraph& tables, const Polar& polar, QIODevice& file, int sid
 bool save(ModPolarGraph& tables, const Polar& polar, QIODevice& file, const std::string& format, int side) {
     if (format == "svg") return saveSvg(tables, polar, file, side);
     if (format == "pdf") return savePdf(tables, polar, file, side);
-    return saveRaster(tables, polar, file, format == "png" ? "PNG" : "BMP", side);
+    return saveRaster(tables, polar, file, format == "png", side);
 }
 
 /// Errors that the next picture would also meet.
