@@ -31,6 +31,13 @@ constexpr Colour paintedColour(float stored) {
     return stored >= 16777215.0F ? 16777215U : static_cast<Colour>(stored);
 }
 
+/// A colour of the desktop as the neutral one that it comes out as on every theme; others as they are.
+constexpr Colour solidColour(Colour colour) {
+    if (colour == scrollBarColour) return rgb(72, 72, 72);
+    if (colour == buttonFaceColour) return rgb(240, 240, 240);
+    return colour & 0xFFFFFFU;
+}
+
 /// The font of one group of texts. The colour is a single-precision number, as in the configuration file.
 struct FontRecord {
     float colour = 0;

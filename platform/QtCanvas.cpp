@@ -68,10 +68,9 @@ QString shownLine(const std::string& text, const std::string& face) {
 }  // namespace
 
 QColor toQColor(Colour colour) {
-    if (colour == scrollBarColour) return {72, 72, 72};
-    if (colour == buttonFaceColour) return {240, 240, 240};
-    return {static_cast<int>(redOf(colour)), static_cast<int>(greenOf(colour)),
-            static_cast<int>(blueOf(colour))};
+    const Colour solid = solidColour(colour);
+    return {static_cast<int>(redOf(solid)), static_cast<int>(greenOf(solid)),
+            static_cast<int>(blueOf(solid))};
 }
 
 Colour fromQColor(const QColor& colour) {

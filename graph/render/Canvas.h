@@ -107,6 +107,29 @@ class Canvas {
     virtual void text(const std::string& text, const TextStyle& style) = 0;
 
     virtual TextSize measure(const std::string& text, const TextStyle& style) const = 0;
+
+    /// What is drawn until the matching endGroup belongs together, under a plain name such as "rings". Groups
+    /// nest. A canvas of pixels need not know of them.
+    virtual void beginGroup(const char*) {}
+    virtual void endGroup() {}
+
+    /// The canvas keeps what shapes say in words; for others nobody need make them.
+    virtual bool keepsWords() const { return false; }
+
+    /// What the next shape is, a plain name such as "class3", and what it says to a reader, UTF-8.
+    virtual void describe(const std::string& /*kind*/, const std::string& /*words*/) {}
+};
+
+/// A group of a canvas, as long as this lives.
+class CanvasGroup {
+ public:
+    CanvasGroup(Canvas& canvas, const char* name) : canvas_(canvas) { canvas_.beginGroup(name); }
+    ~CanvasGroup() { canvas_.endGroup(); }
+    CanvasGroup(const CanvasGroup&) = delete;
+    CanvasGroup& operator=(const CanvasGroup&) = delete;
+
+ private:
+    Canvas& canvas_;
 };
 
 }  // namespace zg

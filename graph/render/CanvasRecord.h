@@ -115,7 +115,7 @@ class CanvasRecord {
     bool keptOverflown_ = false;
 };
 
-/// Paints on another canvas and records the commands.
+/// Paints on another canvas and records the commands, without groups and words.
 class RecordedCanvas : public Canvas {
  public:
     RecordedCanvas(Canvas& canvas, CanvasRecord& record) : canvas_(canvas), record_(record) {}
@@ -137,6 +137,12 @@ class RecordedCanvas : public Canvas {
     void text(const std::string& text, const TextStyle& style) override;
     TextSize measure(const std::string& text, const TextStyle& style) const override {
         return canvas_.measure(text, style);
+    }
+    void beginGroup(const char* name) override { canvas_.beginGroup(name); }
+    void endGroup() override { canvas_.endGroup(); }
+    bool keepsWords() const override { return canvas_.keepsWords(); }
+    void describe(const std::string& kind, const std::string& words) override {
+        canvas_.describe(kind, words);
     }
 
  private:

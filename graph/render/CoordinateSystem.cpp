@@ -10,13 +10,15 @@ namespace {
 
 void drawRings(Frame& frame, Colour gridColour) {
     if (frame.settings.ShowGrid == 0) return;
+    const CanvasGroup group(frame.canvas, "rings");
     const int rings = wholeUnits(frame.polar);
-    for (int i = 1; i <= rings; ++i)
-        frame.canvas.circle(frame.centre(), i * static_cast<double>(frame.geometry.UnitLength), gridColour);
+    for (int i = 1; i <= rings; ++i) frame.canvas.circle(frame.centre(), frame.lengthOf(i), gridColour);
 }
 
 void drawSpokes(Frame& frame, Colour gridColour) {
     const int count = spokeCount(frame.settings.ShowGrid);
+    if (count == 0) return;
+    const CanvasGroup group(frame.canvas, "spokes");
     const Point centre = frame.centre();
     const double radius = frame.outerRadius();
     for (int j = 0; j < count; ++j) {

@@ -19,13 +19,18 @@ struct Frame {
     PolarGeometry& geometry;
     double width = 0;  ///< of the canvas, scale units
     double height = 0;
+    double innerUnits = 0;  ///< polar units of the calm circle, where bars and rings begin
     /// The current text style. A piece that writes leaves its style behind, and later texts are measured in
     /// it.
     TextStyle textStyle;
     std::string lastLabel = {};  ///< the last direction or percent label, "" before the first
 
     Point centre() const { return geometry.centre(); }
-    double outerRadius() const { return static_cast<double>(polar.Radius) * geometry.UnitLength; }
+    /// Canvas length from the centre of so many polar units of a bar or ring.
+    double lengthOf(double units) const {
+        return (innerUnits + units) * static_cast<double>(geometry.UnitLength);
+    }
+    double outerRadius() const { return lengthOf(static_cast<double>(polar.Radius)); }
 };
 
 /// The style of a font family in its own colour.

@@ -26,6 +26,13 @@ std::string calmLineText(const std::string& limit, const std::string& unit, cons
 /// The line of speed class 1 to 6, from the limits of the classes; raises 9 for a missing limit.
 std::string classLineText(const Table<std::string>& limits, int speedClass, const std::string& unit);
 
+/// Fills the swatch of a class 1 to 6 in its colour, with its pattern where the style has one.
+void paintSwatch(Canvas& canvas, const Rect& swatch, const ModPolarGraph& tables, const RoseStyle& style,
+                 int speedClass);
+
+/// The calm circle's mark, as wide as it is high.
+void paintCalmMark(Canvas& canvas, Point centre, double width);
+
 /// Rebuilds LegendClassLimit and draws the legend with it.
 void drawLegend(Frame& frame);
 

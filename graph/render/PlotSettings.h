@@ -4,6 +4,7 @@
 
 #include "base/Style.h"
 #include "graph/render/Canvas.h"
+#include "graph/render/RoseStyle.h"
 
 namespace zg {
 
@@ -18,6 +19,7 @@ struct PlotSettings {
     std::int32_t PictureStyle = 0;  ///< 0 top left, 1 centred, 2 stretched, else tiled
     PicturePointer Picture;         ///< background, null for none
     Colour BackColor = white;
+    RoseStyle Style;
 };
 
 }  // namespace zg

@@ -9,6 +9,8 @@
 #include "graph/render/Frame.h"
 #include "graph/render/Legend.h"
 #include "graph/render/PercentLabels.h"
+#include "graph/render/RoseWords.h"
+#include "graph/render/ShareNumbers.h"
 #include "graph/render/TitleLines.h"
 #include "graph/render/WindRose.h"
 
@@ -23,6 +25,14 @@ void drawNoRoseNotice(Frame& frame) {
     frame.textStyle.bold = true;
     frame.canvas.setTextPosition({frame.width / 3.75, frame.height / 1.9});
     frame.canvas.text(frame.tables.GraphCaption, frame.textStyle);
+}
+
+bool hasBars(const ModPolarGraph& tables) { return tables.FrqLoaded && tables.FrqRoseCount > 0; }
+
+/// Radius of the calm circle in polar units, 0 for none.
+double calmUnits(const RoseStyle& style, const ModPolarGraph& tables) {
+    if (!style.calmCircle || !hasBars(tables)) return 0;
+    return calmShare(tables) * 100 / style.percentPerRing;
 }
 
 TextStyle startingTextStyle(const ModPolarGraph& tables) {
@@ -59,9 +69,21 @@ void redrawFrame(const PlotSettings& settings, Polar& polar, ModPolarGraph& tabl
     canvas.clear(settings.BackColor);
     if (settings.Picture) drawBackground(canvas, settings.Picture, settings.PictureStyle);
     placeCentre(polar.Origin, settings.Zoom, width, height, geometry);
-    geometry.UnitLength = unitLength(width, height, polar.Radius, settings.AspectRatio);
+    const double inner = calmUnits(settings.Style, tables);
+    geometry.UnitLength =
+        unitLength(width, height, polar.Radius + static_cast<float>(inner), settings.AspectRatio);
 
-    Frame frame{settings, polar, tables, canvas, geometry, width, height, startingTextStyle(tables)};
+    CanvasRecord written;
+    RecordedCanvas watched(canvas, written);
+    Frame frame{settings,
+                polar,
+                tables,
+                settings.Style.numbers ? watched : canvas,
+                geometry,
+                width,
+                height,
+                inner,
+                startingTextStyle(tables)};
     if (tables.FrqLoaded && settings.ShowLegend) drawLegend(frame);
     drawTitleLines(frame);
     if (settings.ShowCoordinateSystem) {
@@ -70,6 +92,7 @@ void redrawFrame(const PlotSettings& settings, Polar& polar, ModPolarGraph& tabl
     }
     if (settings.ShowLabel) drawPercentLabels(frame);
     if (tables.FrqRoseCount == 0) drawNoRoseNotice(frame);
+    if (settings.Style.numbers && hasBars(tables)) drawShareNumbers(frame, written);
     canvas.keepPicture();
 }
 

@@ -5,6 +5,7 @@ namespace zg {
 void drawTitleLines(Frame& frame) {
     const ModPolarGraph& tables = frame.tables;
     if (tables.GraphTitle.empty() && tables.GraphSubTitle.empty() && tables.GraphCaption.empty()) return;
+    const CanvasGroup group(frame.canvas, "titles");
     frame.textStyle = textStyleOf(tables.LabelFont);
     const double left = frame.width / 20;
     const double gap = frame.height / 100;

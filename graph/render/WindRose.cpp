@@ -1,33 +1,59 @@
 #include "graph/render/WindRose.h"
 
 #include <cmath>
+#include <optional>
 
 #include "base/MathLibrary.h"
+#include "graph/render/Hatch.h"
+#include "graph/render/RoseWords.h"
 
 namespace zg {
 
 namespace {
 
 constexpr int sectors = freqDirections;
-constexpr double sectorStep = 22.5;
-constexpr double halfWidth = 360.0 / 96;
 constexpr double radiansPerDegree = 6.28318530718 / 360;
-constexpr double unitsPerWhole = 100 / percentPerUnit;
 
-void drawStack(Frame& frame, int sector) {
+void hatchClass(Frame& frame, int sector, const SectorSpan& span, int speedClass, Colour fill) {
+    const double inner = speedClass == 1 ? frame.lengthOf(0) : barRadius(frame, sector, speedClass - 1);
+    drawHatch(frame.canvas,
+              hatchOfRingPart({frame.centre(), inner, barRadius(frame, sector, speedClass),
+                               span.startDegrees * radiansPerDegree, span.endDegrees * radiansPerDegree},
+                              speedClass),
+              hatchColour(fill));
+}
+
+/// The limits are those of the words; without them none are said.
+void drawStack(Frame& frame, int sector, const std::optional<SpeedLimits>& limits) {
     const ModPolarGraph& tables = frame.tables;
     const PolarGeometry& geometry = frame.geometry;
-    const std::int64_t row = fractionRow(tables.CurrentRose, directionRow(sector));
-    const SectorSpan span = sectorSpan(sector);
+    const RoseStyle& look = frame.settings.Style;
+    const int direction = directionRow(sector);
+    const SectorSpan span = sectorSpan(sector, look.sectorWidth);
     // The longest bar first: each lower class paints over it.
     for (int speedClass = speedClasses; speedClass >= 1; --speedClass) {
-        double share = 0;
-        for (int c = 1; c <= speedClass; ++c) share += tables.FrqFraction(row, c);
-        DrawPiePiece(frame.canvas, geometry.CentreX, geometry.CentreY,
-                     share * unitsPerWhole * static_cast<double>(geometry.UnitLength),
-                     tables.WindClassColor[static_cast<std::size_t>(speedClass - 1)], span.startDegrees,
-                     span.endDegrees);
+        if (limits && shareOf(tables, direction, speedClass) == 0) continue;
+        if (limits)
+            frame.canvas.describe("class" + std::to_string(speedClass),
+                                  barWords(tables, *limits, direction, speedClass));
+        const float colour = tables.WindClassColor[static_cast<std::size_t>(speedClass - 1)];
+        DrawPiePiece(frame.canvas, geometry.CentreX, geometry.CentreY, barRadius(frame, sector, speedClass),
+                     colour, span.startDegrees, span.endDegrees);
+        if (look.hatch) hatchClass(frame, sector, span, speedClass, paintedColour(colour));
     }
+}
+
+/// Over the bars, which begin at its edge.
+void drawCalmCircle(Frame& frame) {
+    frame.canvas.describe("calm", frame.canvas.keepsWords() ? calmWords(frame.tables) : std::string());
+    frame.canvas.disc(frame.centre(), frame.lengthOf(0), calmColour, scrollBarColour);
+}
+
+std::optional<SpeedLimits> limitsForWords(const Frame& frame) {
+    if (!frame.canvas.keepsWords()) return {};
+    const bool knots = frame.tables.ClassesInKnots && !frame.tables.ClassesFromFile;
+    const SpeedUnit chosen = frame.settings.Style.unit;
+    return speedLimits(frame.tables, chosen == SpeedUnit::AsChosen && knots ? SpeedUnit::Knots : chosen);
 }
 
 void drawDirectionLabel(Frame& frame, int sector) {
@@ -52,9 +78,17 @@ int directionRow(int sector) {
     return row > sectors ? row - sectors : row;
 }
 
-SectorSpan sectorSpan(int sector) {
+double barRadius(const Frame& frame, int sector, int speedClass) {
+    const ModPolarGraph& tables = frame.tables;
+    const std::int64_t row = fractionRow(tables.CurrentRose, directionRow(sector));
+    double share = 0;
+    for (int c = 1; c <= speedClass; ++c) share += tables.FrqFraction(row, c);
+    return frame.lengthOf(share * (100 / frame.settings.Style.percentPerRing));
+}
+
+SectorSpan sectorSpan(int sector, double width) {
     const double middle = sector * sectorStep;
-    SectorSpan span{middle - halfWidth, middle + halfWidth};
+    SectorSpan span{middle - width / 2, middle + width / 2};
     if (span.startDegrees < 0) span.startDegrees += 360;
     if (span.endDegrees > 360) span.endDegrees -= 360;
     return span;
@@ -68,10 +102,14 @@ void DrawPiePiece(Canvas& canvas, float cx, float cy, double radius, float color
 
 void drawWindRose(Frame& frame) {
     const ModPolarGraph& tables = frame.tables;
+    const CanvasGroup group(frame.canvas, "bars");
+    const bool hasBars = tables.FrqLoaded && tables.FrqRoseCount > 0;
+    const std::optional<SpeedLimits> limits = hasBars ? limitsForWords(frame) : std::nullopt;
     for (int sector = 0; sector < sectors; ++sector) {
-        if (tables.FrqLoaded && tables.FrqRoseCount > 0) drawStack(frame, sector);
+        if (hasBars) drawStack(frame, sector, limits);
         if (frame.settings.ShowLabel && tables.FrqLoaded) drawDirectionLabel(frame, sector);
     }
+    if (frame.innerUnits > 0) drawCalmCircle(frame);
 }
 
 }  // namespace zg
