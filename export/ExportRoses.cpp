@@ -1,7 +1,9 @@
 #include "export/ExportRoses.h"
 
+#include <algorithm>
 #include <atomic>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <new>
@@ -10,6 +12,8 @@
 #include "base/Host.h"
 #include "base/Numbers.h"
 #include "base/Paths.h"
+#include "export/HtmlReport.h"
+#include "export/PanelPicture.h"
 #include "export/ProgressBar.h"
 #include "export/RosePicture.h"
 #include "export/TablesJson.h"
@@ -23,6 +27,9 @@ namespace zg {
 namespace {
 
 std::atomic<bool> stopped = false;
+
+/// Side of a rose in a report for print, whose pages are scaled to the paper.
+constexpr int reportSide = 600;
 
 constexpr const char* outOfMemory = ": out of memory";
 
@@ -107,6 +114,20 @@ std::string pictureName(const ExportJob& job, const std::string& file, int rose,
     return stemOf(file) + "_" + number + "." + job.format;
 }
 
+/// Wrong words end the run before anything is drawn.
+PictureLook checkedLook(const ExportJob& job) {
+    try {
+        if (!job.style.panel.empty()) panelShape(job.style.panel, 1);
+        return lookOf(job.style);
+    } catch (const WrongStyle& wrong) {
+        throw ExportFailure{wrong.text, exportWrongUsage};
+    } catch (const RunTimeError& error) {
+        throw ExportFailure{job.style.palette + (error.where.empty() ? "" : ":") + error.where + ": " +
+                                error.description + " (error " + std::to_string(error.number) + ")",
+                            exportWrongUsage};
+    }
+}
+
 void makeDirectory(const std::string& directory) {
     std::error_code error;
     std::filesystem::create_directories(directory, error);
@@ -125,11 +146,13 @@ class Export {
           queue_(job.jobs, [this](const WorkQueue::Result& result) { tell(result); }) {}
 
     int run() {
+        look_ = checkedLook(job_);
         const std::vector<std::string> files = filesOf(job_);
         for (std::size_t i = 0; i < files.size() && !isOver(); ++i) {
             bar_.show(i, files.size(), drawn_);
             exportFile(files[i], files.size() == 1);
         }
+        drawFound();
         queue_.finish();
         bar_.clear();
         if (stopped) throw ExportFailure{"the run was stopped after " + std::to_string(drawn_) + " pictures"};
@@ -171,27 +194,80 @@ class Export {
         makeDirectory(job_.directory);
         for (const int rose : roses)
             if (!isOver() && hasEnoughValidHours(*tables, rose, job_.minValid))
-                addRose(tables, polar, file, rose);
+                take({tables, polar, rose, file});
     }
 
-    void addRose(const std::shared_ptr<const ModPolarGraph>& tables,
-                 const std::shared_ptr<const Polar>& polar, const std::string& file, int rose) {
-        const std::string path =
-            (std::filesystem::path(job_.directory) / pictureName(job_, file, rose, tables->FrqRoseCount))
-                .string();
-        queue_.add([this, tables, polar, path, rose] {
+    void take(RoseOfFile rose) {
+        if (job_.style.needsAllRoses())
+            found_.push_back(std::move(rose));
+        else
+            addRose(rose, look_);
+    }
+
+    /// What had to wait for all roses.
+    void drawFound() {
+        if (found_.empty() || isOver()) return;
+        const StyleRequest& asked = job_.style;
+        const PictureLook look = asked.sameScale ? sharedLook(look_, found_) : look_;
+        if (!asked.html.empty()) addHtml(look);
+        if (!asked.pdf.empty()) addPages(look);
+        if (!asked.panel.empty()) return drawPanels();
+        if (asked.html.empty() && asked.pdf.empty())
+            for (const RoseOfFile& rose : found_) addRose(rose, look);
+    }
+
+    void addHtml(const PictureLook& look) {
+        addWork(job_.style.html, [this, look] {
+            const std::string html = htmlReport(found_, look, job_.sizePixels);
+            return saveFile(job_.style.html, [&](QIODevice& file) {
+                return file.write(html.data(), static_cast<qint64>(html.size())) >= 0;
+            });
+        });
+    }
+
+    void addPages(const PictureLook& look) {
+        addWork(job_.style.pdf, [this, look] {
+            const std::vector<Drawing> pages = reportPages(found_, look, reportSide);
+            return saveFile(job_.style.pdf,
+                            [&](QIODevice& file) { return writePages(pages, pages.front().title, file); });
+        });
+    }
+
+    void drawPanels() {
+        const PanelShape shape = panelShape(job_.style.panel, static_cast<int>(found_.size()));
+        const std::vector<Drawing> pages = panelDrawings(found_, look_, shape, job_.sizePixels);
+        const std::size_t digits = std::max<std::size_t>(2, std::to_string(pages.size()).size());
+        for (std::size_t i = 0; i < pages.size(); ++i) {
+            std::string number = std::to_string(i + 1);
+            number.insert(0, digits - number.size(), '0');
+            const std::string path = pathOf("panel_" + number + "." + job_.format);
+            addWork(path, [this, page = pages[i], path] { return savePicture(page, path, job_.format); });
+        }
+    }
+
+    std::string pathOf(const std::string& name) const {
+        return (std::filesystem::path(job_.directory) / name).string();
+    }
+
+    void addRose(const RoseOfFile& rose, const PictureLook& look) {
+        const std::string path = pathOf(pictureName(job_, rose.file, rose.rose, rose.tables->FrqRoseCount));
+        addWork(path, [this, rose, look, path] {
+            return savePicture(roseDrawing(rose, look, job_.sizePixels), path, job_.format);
+        });
+    }
+
+    void addWork(const std::string& path, std::function<PictureFault()> make) {
+        queue_.add([this, path, make = std::move(make)] {
             if (isOver()) return WorkQueue::Result();
-            WorkQueue::Result result = drawn(*tables, *polar, path, rose);
+            WorkQueue::Result result = drawn(path, make);
             if (result.endsRun) ended_ = true;
             return result;
         });
     }
 
-    WorkQueue::Result drawn(const ModPolarGraph& tables, const Polar& polar, const std::string& path,
-                            int rose) const {
+    WorkQueue::Result drawn(const std::string& path, const std::function<PictureFault()>& make) const {
         try {
-            ModPolarGraph own = tables;  // drawing changes the current rose and rebuilds the legend's limits
-            const PictureFault fault = drawRosePicture(own, polar, rose, path, job_.format, job_.sizePixels);
+            const PictureFault fault = make();
             if (fault.text.empty()) return {path, {}};
             return {{}, fault.text, fault.noRoom};
         } catch (const RunTimeError& error) {
@@ -223,6 +299,8 @@ class Export {
     std::ostream& errors_;
     StreamHost host_;
     ProgressBar bar_;
+    PictureLook look_;
+    std::vector<RoseOfFile> found_;  ///< of a run that has to know all before it draws one
     std::size_t drawn_ = 0;
     bool failed_ = false;
     std::atomic<bool> ended_ = false;  ///< by an error that would affect everything after it

@@ -1,81 +1,18 @@
 #include "export/RosePicture.h"
 
-#include <QPdfWriter>
-#include <QSvgGenerator>
 #include <cerrno>
-#include <new>
 #include <system_error>
 
+#include "base/Encoding.h"
 #include "export/PictureFile.h"
+#include "graph/render/PartCanvas.h"
 #include "graph/render/RedrawGraph.h"
-#include "platform/PngWriter.h"
-#include "platform/QtCanvas.h"
-#include "platform/QtText.h"
+#include "graph/render/RoseWords.h"
+#include "graph/render/ShareTable.h"
 
 namespace zg {
 
 namespace {
-
-constexpr int layoutDotsPerInch = 96;
-constexpr int vectorDotsPerInch = 1200;
-constexpr double pointsPerInch = 72;
-
-void draw(ModPolarGraph& tables, const Polar& polar, QtCanvas& canvas) {
-    PolarGeometry geometry;
-    Polar own = polar;
-    redrawFrame(PlotSettings{}, own, tables, canvas, geometry);
-}
-
-bool saveRaster(ModPolarGraph& tables, const Polar& polar, QIODevice& file, bool packed, int side) {
-    QImage page = makePageImage(side, side);
-    if (page.isNull()) throw std::bad_alloc();
-    {
-        QtCanvas canvas(page, side, side);
-        draw(tables, polar, canvas);
-    }
-    return packed ? writePng(page, file) : page.save(&file, "BMP");
-}
-
-bool saveSvg(ModPolarGraph& tables, const Polar& polar, QIODevice& file, int side) {
-    QSvgGenerator svg;
-    svg.setOutputDevice(&file);
-    svg.setSize({side, side});
-    svg.setViewBox(QRect(0, 0, side, side));
-    svg.setResolution(layoutDotsPerInch);
-    svg.setTitle(shown(tables.GraphTitle));
-    QPainter painter;
-    if (!painter.begin(&svg)) return false;
-    {
-        QtCanvas canvas(painter, side, side);
-        draw(tables, polar, canvas);
-    }
-    return painter.end();
-}
-
-bool savePdf(ModPolarGraph& tables, const Polar& polar, QIODevice& file, int side) {
-    QPdfWriter pdf(&file);
-    const double points = side * pointsPerInch / layoutDotsPerInch;
-    pdf.setResolution(vectorDotsPerInch);
-    pdf.setPageSize(QPageSize(QSizeF(points, points), QPageSize::Point, QString(), QPageSize::ExactMatch));
-    pdf.setPageMargins(QMarginsF(0, 0, 0, 0));
-    pdf.setTitle(shown(tables.GraphTitle));
-    pdf.setCreator(QStringLiteral("Zephyrgraph"));
-    QPainter painter;
-    if (!painter.begin(&pdf)) return false;
-    const double scale = static_cast<double>(vectorDotsPerInch) / layoutDotsPerInch;
-    painter.scale(scale, scale);
-    {
-        QtCanvas canvas(painter, side, side);
-        draw(tables, polar, canvas);
-    }
-    return painter.end();
-}
-
-bool save(ModPolarGraph& tables, const Polar& polar, QIODevice& file, const std::string& format, int side) {
-    if (format == "svg") return saveSvg(tables, polar, file, side);
-    if (format == "pdf") return savePdf(tables, polar, file, side);
-    return saveRaster(tables, polar, file, format == "png", side);
-}
 
 /// Errors that the next picture would also meet.
 bool leavesNoRoom(int fault) {
@@ -85,14 +22,63 @@ bool leavesNoRoom(int fault) {
     return fault == ENOSPC || fault == EFBIG || fault == ENOMEM;
 }
 
+/// Draws the rose in the whole of a canvas.
+void drawRose(const RoseOfFile& rose, const PictureLook& look, Canvas& canvas) {
+    ModPolarGraph tables = tablesFor(rose, look);  // drawing rebuilds the legend's limits
+    Polar polar = *rose.polar;
+    polar.Radius = look.scale.rings;
+    PlotSettings settings;
+    settings.Style = look.rose;
+    PolarGeometry geometry;
+    redrawFrame(settings, polar, tables, canvas, geometry);
+}
+
 }  // namespace
 
-PictureFault drawRosePicture(ModPolarGraph& tables, const Polar& polar, int rose, const std::string& path,
-                             const std::string& format, int side) {
-    tables.CurrentRose = static_cast<std::int16_t>(rose);
-    tables.GraphCaption = tables.FrqRoseCaption(rose);
+ModPolarGraph tablesFor(const RoseOfFile& rose, const PictureLook& look) {
+    ModPolarGraph tables = *rose.tables;
+    tables.CurrentRose = static_cast<std::int16_t>(rose.rose);
+    tables.GraphCaption = tables.FrqRoseCaption(rose.rose);
+    if (look.palette)
+        for (std::size_t i = 0; i < look.palette->size(); ++i)
+            tables.WindClassColor[i] = static_cast<float>((*look.palette)[i]);
+    return tables;
+}
+
+Drawing roseDrawing(const RoseOfFile& rose, const PictureLook& asked, int side) {
+    const PictureLook look = lookFor(asked, *rose.tables, rose.rose);
+    Drawing drawing{side, side, {}, {}, {}};
+    drawing.title = toUtf8(rose.tables->GraphTitle + ", " + rose.tables->FrqRoseCaption(rose.rose));
+    drawing.words = [rose, look] {
+        const ModPolarGraph tables = tablesFor(rose, look);
+        return roseWords(tables, speedLimits(tables, look.rose.unit));
+    };
+    if (!look.besideTable) {
+        drawing.draw = [rose, look](Canvas& canvas) { drawRose(rose, look, canvas); };
+        return drawing;
+    }
+    drawing.width = side + shareTableWidth(side);
+    drawing.draw = [rose, look, side](Canvas& canvas) {
+        canvas.clear(white);
+        const auto whole = static_cast<double>(side);
+        {
+            PartCanvas part(canvas, {0, 0}, whole, whole, 1);
+            drawRose(rose, look, part);
+        }
+        PartCanvas part(canvas, {whole, 0}, canvas.width() - whole, whole, 1);
+        const ModPolarGraph own = tablesFor(rose, look);
+        drawShareTable(part, own, speedLimits(own, look.rose.unit));
+    };
+    return drawing;
+}
+
+PictureFault savePicture(const Drawing& drawing, const std::string& path, const std::string& format) {
+    return saveFile(path, [&](QIODevice& file) { return writeDrawing(drawing, format, file); });
+}
+
+PictureFault saveFile(const std::string& path, const std::function<bool(QIODevice&)>& write) {
     PictureFile file(path);
-    if (file.fault() == 0 && !save(tables, polar, file, format, side) && file.fault() == 0)
+    if (file.fault() == 0 && !write(file) && file.fault() == 0)
         return {path + ": the picture could not be made", true};
     file.commit();
     if (file.fault() == 0) return {};

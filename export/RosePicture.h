@@ -1,23 +1,41 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
+#include "export/Drawing.h"
+#include "export/StyleRequest.h"
 #include "graph/frq/ModPolarGraph.h"
 #include "graph/model/Polar.h"
 
 namespace zg {
 
-/// What went wrong with a picture, "" if nothing.
+/// A rose of loaded tables.
+struct RoseOfFile {
+    std::shared_ptr<const ModPolarGraph> tables;
+    std::shared_ptr<const Polar> polar;
+    int rose = 1;
+    std::string file;  ///< its path, as it was given
+};
+
+/// What went wrong with a picture, "" for nothing.
 struct PictureFault {
     std::string text;
     bool noRoom = false;  ///< no later picture can be written either
 };
 
-/// Draws a rose of the tables into a new file of that kind: "png" and "bmp" have this many pixels per side,
-/// "svg" and "pdf" are drawn with the same strokes on a page of this many 96ths of an inch. An existing file
-/// is replaced in one step when the new one is complete. Throws std::bad_alloc for a page that does not fit
-/// in memory.
-PictureFault drawRosePicture(ModPolarGraph& tables, const Polar& polar, int rose, const std::string& path,
-                             const std::string& format, int side);
+/// The page of a rose: a square of that side, with its table beside it where the look wants that.
+Drawing roseDrawing(const RoseOfFile& rose, const PictureLook& look, int side);
+
+/// Tables that show that rose in that look.
+ModPolarGraph tablesFor(const RoseOfFile& rose, const PictureLook& look);
+
+/// Draws the page into a new file of that kind: "png" and "bmp" have a pixel a unit, "svg" and "pdf" are
+/// drawn by the same strokes on a page of so many 96ths of an inch. Replaces the file at once when it is
+/// whole. Throws std::bad_alloc for a page that memory cannot hold.
+PictureFault savePicture(const Drawing& drawing, const std::string& path, const std::string& format);
+
+/// A file of that name made by the function, which tells whether it could; replaced at once when it is whole.
+PictureFault saveFile(const std::string& path, const std::function<bool(QIODevice&)>& write);
 
 }  // namespace zg

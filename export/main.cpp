@@ -26,6 +26,7 @@
 #include "base/Version.h"
 #include "export/ExportRoses.h"
 #include "export/PictureFile.h"
+#include "export/StyleOptions.h"
 
 namespace {
 
@@ -115,6 +116,7 @@ int runCommand(int argc, char** argv) {
     app.add_flag("--quiet", quiet, "Show no progress bar on a terminal");
     app.add_flag("--tables", job.tables,
                  "Write every loaded table to standard output as JSON and draw nothing");
+    zg::addStyleOptions(app, job.style);
     try {
         app.parse(wordsOf(argc, argv));
     } catch (const CLI::ParseError& error) {
