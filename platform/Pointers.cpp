@@ -1,9 +1,8 @@
 #include "platform/Pointers.h"
 
 #include <QGuiApplication>
-#include <QPainter>
-#include <QSvgRenderer>
 
+#include "platform/LineArt.h"
 #include "platform/QtPicture.h"
 
 // Outside any namespace, as the toolkit's macro requires: the resources of a library must be initialised
@@ -21,11 +20,7 @@ constexpr int pointerSide = 32;
 PicturePointer pointerPicture(const QString& resource, QPoint hotSpot) {
     const double scale = qGuiApp->devicePixelRatio();
     const int side = qRound(pointerSide * scale);
-    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    QSvgRenderer(resource).render(&painter);
-    painter.end();
+    QImage image = LineArt(resource).image(side);
     image.setDevicePixelRatio(scale);
     return std::make_shared<QtPicture>(image, hotSpot);
 }

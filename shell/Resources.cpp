@@ -2,6 +2,7 @@
 
 #include <map>
 
+#include "platform/LineArt.h"
 #include "platform/Pointers.h"
 
 // Outside any namespace, as the toolkit's macro requires: the resources of a library must be initialised
@@ -24,7 +25,7 @@ const std::map<int, QPoint>& hotSpots() {
 
 QIcon programIcon(const char* name) {
     loadResources();
-    return QIcon(QStringLiteral(":/shell/icons/") + QString::fromLatin1(name) + QStringLiteral(".svg"));
+    return lineArtIcon(QStringLiteral(":/shell/icons/") + QString::fromLatin1(name) + QStringLiteral(".svg"));
 }
 
 PicturePointer cursorPicture(int id) {

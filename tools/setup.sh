@@ -8,11 +8,11 @@
 #     tools/setup.sh --cluster  only what tests/cluster/slurm.sh needs
 set -euo pipefail
 
-packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libcli11-dev nlohmann-json3-dev libproj-dev zlib1g-dev
+packages=(g++ cmake ninja-build qt6-base-dev libcli11-dev nlohmann-json3-dev libproj-dev zlib1g-dev libdeflate-dev
           fonts-liberation fonts-dejavu-core libreoffice-impress-nogui libreoffice-writer-nogui)
-tests=(libgtest-dev libbenchmark-dev libmuparser-dev parallel python3 clang libclang-rt-14-dev)
+tests=(libgtest-dev libbenchmark-dev libmuparser-dev parallel python3 clang libclang-rt-14-dev librsvg2-bin)
 e2e=(xvfb openbox xdotool imagemagick)
-checks=(clang-format clang-tidy cppcheck git debootstrap dpkg-dev file)
+checks=(clang-format clang-tidy cppcheck git debootstrap dpkg-dev file chromium-headless-shell)
 cluster=(slurmctld slurmd slurm-client munge python3)
 
 case "${1:-}" in
