@@ -56,14 +56,20 @@ void finish(benchmark::State& state) {
 
 void monitor(benchmark::State& state) {
     const std::string path = monitorFile();
-    for (auto _ : state) benchmark::DoNotOptimize(zg::readMonitorHeader(path));
+    for (auto _ : state) {
+        zg::HeaderSource source(path);
+        benchmark::DoNotOptimize(zg::readMonitorHeader(source));
+    }
     finish(state);
 }
 BENCHMARK(monitor)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(2);
 
 void surface(benchmark::State& state) {
     const std::string path = surfaceFile();
-    for (auto _ : state) benchmark::DoNotOptimize(zg::readAermetPeriod(path, zg::AermetKind::Surface));
+    for (auto _ : state) {
+        zg::HeaderSource source(path);
+        benchmark::DoNotOptimize(zg::readAermetPeriod(source, zg::InputKind::AermSfc));
+    }
     finish(state);
 }
 BENCHMARK(surface)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(2);

@@ -1,9 +1,7 @@
 #include "headers/AermetPeriod.h"
 
-#include "base/Lines.h"
 #include "base/Text.h"
 #include "headers/DateHelpers.h"
-#include "headers/HeaderDates.h"
 
 namespace zg {
 
@@ -12,44 +10,51 @@ namespace {
 constexpr std::size_t stationField = 5;
 constexpr std::size_t bytesBetweenSteps = 4'000'000;
 
-DateTime momentOfLine(std::string_view line, AermetKind kind) {
-    const std::string squeezed = squeezeBlanks(line);
-    const Pieces fields = split(squeezed, " ");
-    const std::string hour(fields[kind == AermetKind::Surface ? 4 : 3]);
-    const DateTime date =
-        DateFromParts(std::string(fields[0]), std::string(fields[1]), std::string(fields[2]));
+DateTime momentOfLine(HeaderSource& source, std::string_view line, InputKind kind) {
+    HeaderFields fields(source, line);
+    const std::string year = fields.text("year");
+    const std::string month = fields.text("month");
+    const std::string day = fields.text("day");
+    if (kind == InputKind::AermSfc) fields.skip(1);
+    const std::string hour = fields.text("hour");
+    source.atField("date");
+    const DateTime date = DateFromParts(year, month, day);
     if (hour == "24") return addDays(date, 1);
+    source.atField("hour", hour, "an hour");
     return AddTimeToDate(date, hour + ":00:00");
 }
 
-AermetPeriod readLines(LineReader& lines, AermetKind kind, const std::function<void()>& onProgress) {
+AermetPeriod readLines(HeaderSource& source, InputKind kind, const std::function<void()>& onProgress) {
     AermetPeriod period;
-    if (kind == AermetKind::Surface) {
-        const std::string header = squeezeBlanks(lines.readLine());
-        period.station = std::string(split(header, " ")[stationField]);
+    if (kind == InputKind::AermSfc) {
+        HeaderFields header(source, source.readLine("header"));
+        header.skip(stationField);
+        period.station = header.text("station");
     }
-    std::string last(lines.readLine());
-    period.begin = addSeconds(momentOfLine(last, kind), -3600);
+    std::string last(source.readLine("first hour"));
+    HeaderSource::Line lastLine = source.line();
+    period.begin = addSeconds(momentOfLine(source, last, kind), -3600);
     std::size_t bytes = 0;
-    while (!lines.atEnd()) {
-        const std::string_view line = lines.readLine();
+    while (!source.atEnd()) {
+        const std::string_view line = source.readLine("last hour");
         bytes += line.size();
         if (onProgress && bytes >= bytesBetweenSteps) {
             onProgress();
             bytes = 0;
         }
-        if (!trimmed(line).empty()) last.assign(line);
+        if (trimmed(line).empty()) continue;
+        last.assign(line);
+        lastLine = source.line();
     }
-    period.end = momentOfLine(last, kind);
+    source.atLine(lastLine);
+    period.end = momentOfLine(source, last, kind);
     return period;
 }
 
 }  // namespace
 
-AermetPeriod readAermetPeriod(const std::string& path, AermetKind kind,
-                              const std::function<void()>& onProgress) {
-    LineReader lines(path);
-    return withLineNumbers(lines, [&] { return readLines(lines, kind, onProgress); });
+AermetPeriod readAermetPeriod(HeaderSource& source, InputKind kind, const std::function<void()>& onProgress) {
+    return source.placing([&] { return readLines(source, kind, onProgress); });
 }
 
 }  // namespace zg

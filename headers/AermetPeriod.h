@@ -6,10 +6,10 @@
 #include <string>
 
 #include "base/Dates.h"
+#include "formats/Kinds.h"
+#include "headers/HeaderSource.h"
 
 namespace zg {
-
-enum class AermetKind { Surface, Profile };
 
 struct AermetPeriod {
     std::string station;  ///< from a surface file's header; "" for a profile
@@ -17,9 +17,9 @@ struct AermetPeriod {
     DateTime end;
 };
 
-/// Reads the whole file; onProgress is called at intervals. The kind of file is not checked: a wrong file
-/// raises 13 or 9, a file that ends too early 62, each with the line number.
-AermetPeriod readAermetPeriod(const std::string& path, AermetKind kind,
+/// Reads the whole file, of the kind AermSfc or AermPfl; onProgress is called at intervals. The kind of file
+/// is not checked: a wrong file raises a HeaderError 13 or 9, a file that ends too early 62.
+AermetPeriod readAermetPeriod(HeaderSource& source, InputKind kind,
                               const std::function<void()>& onProgress = {});
 
 }  // namespace zg

@@ -27,12 +27,9 @@ std::int16_t MonthAndDay::value(std::size_t i) const {
     return (*values_)[i];
 }
 
-MonthAndDay VBGRDAY(Host& host, std::int16_t year, std::int16_t julianDay) {
+MonthAndDay VBGRDAY(std::int16_t year, std::int16_t julianDay) {
     const CumulativeDays days = cumulativeDays(year);
-    if (julianDay < 1 || julianDay > days.back()) {
-        host.showBox({"Error in VBGRDAY: invalid date.", "", BoxIcon::None, BoxButtons::Ok});
-        return {};
-    }
+    if (julianDay < 1 || julianDay > days.back()) return {};
     std::size_t month = 0;
     while (days[month] < julianDay) ++month;
     const int before = month == 0 ? 0 : days[month - 1];

@@ -9,7 +9,6 @@
 #include <string_view>
 
 #include "base/Dates.h"
-#include "base/Host.h"
 
 namespace zg {
 
@@ -29,9 +28,12 @@ class MonthAndDay {
     std::optional<std::array<std::int16_t, 2>> values_;
 };
 
-/// Month and day of a day of the year, counted from 1. Every fourth year is a leap year, including 1900. For
-/// a day that the year does not have, shows a message and gives an empty result.
-MonthAndDay VBGRDAY(Host& host, std::int16_t year, std::int16_t julianDay);
+/// What a dialog shows if the result of VBGRDAY is empty.
+constexpr const char* invalidJulianDayText = "Error in VBGRDAY: invalid date.";
+
+/// Month and day of a day of the year, counted from 1. Every fourth year is a leap year, including 1900.
+/// Empty for a day that the year does not have.
+MonthAndDay VBGRDAY(std::int16_t year, std::int16_t julianDay);
 
 /// {minutes, seconds}; the argument keeps only the seconds.
 std::array<std::int16_t, 2> MinSecOf(std::int16_t& seconds);

@@ -1,34 +1,38 @@
 #include "headers/GridFileHeader.h"
 
 #include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <optional>
 #include <vector>
 
 #include "base/Dates.h"
-#include "base/Lines.h"
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "formats/Kinds.h"
 #include "formats/Times.h"
+#include "formats/ZoneKeys.h"
 
 namespace zg {
 
 namespace {
 
 constexpr std::int32_t largestGrid = 100'000;  // cells per side; a larger number is invalid
+constexpr std::int32_t mostLevels = 10'000;
+constexpr std::int32_t mostComments = 1'000'000;
+constexpr int longestName = 20;
 // The models behind 3D.DAT use a sphere of 6370 km.
 constexpr const char* sphereOfModels = "NWS-84";
+constexpr std::array<std::string_view, 7> projections = {"LL", "UTM", "TTM", "LCC", "PS", "EM", "LAZA"};
 
-/// The error in the file, in the words for the user.
-struct Fault {
-    std::string text;
-};
+std::string inQuotes(const std::string& field) { return "\"" + leftN(field, longestName) + "\""; }
 
-/// One line's fields, separated by blanks.
-class Fields {
+/// One line's fields, separated by blanks and tabs.
+class GridFields {
  public:
-    Fields(std::string_view line, std::size_t number, std::string what)
-        : number_(number), what_(std::move(what)) {
+    GridFields(HeaderSource& source, std::string_view line) : source_(source) {
         for (std::size_t at = 0; (at = line.find_first_not_of(" \t", at)) != std::string_view::npos;) {
             const std::size_t end = std::min(line.find_first_of(" \t", at), line.size());
             fields_.emplace_back(line.substr(at, end - at));
@@ -36,26 +40,34 @@ class Fields {
         }
     }
 
+    bool atEnd() const { return next_ >= fields_.size(); }
+
     /// The next field as a text.
     std::string text(const char* name) {
-        if (next_ >= fields_.size()) fail(name, "is missing");
+        if (atEnd()) fail(name, "is missing");
         return fields_[next_++];
     }
     std::int32_t whole(const char* name) {
-        return number<std::int32_t>(name, static_cast<std::int32_t (*)(std::string_view)>(toInt32));
+        const std::string field = plainNumber(name);
+        const double value = toDouble(field);
+        if (value != std::floor(value) || !(std::abs(value) <= std::numeric_limits<std::int32_t>::max()))
+            fail(name, inQuotes(field) + " is not a whole number");
+        return static_cast<std::int32_t>(value);
     }
-    float real(const char* name) {
-        return number<float>(name, static_cast<float (*)(std::string_view)>(toSingle));
+    float real(const char* name) { return toSingle(plainNumber(name)); }
+    void cornerAndCellSize() {
+        skip(2, "corner or cell size");
+        if (!(real("corner or cell size") > 0)) fail("cell size", "must be above 0");
     }
     /// "NONE" means that a value is not used.
     bool skipUnused() {
-        if (next_ >= fields_.size() || ucase(fields_[next_]) != "NONE") return false;
+        if (atEnd() || ucase(fields_[next_]) != "NONE") return false;
         ++next_;
         return true;
     }
     /// Degrees, signed or with the letter of the hemisphere.
     float angle(const char* name) {
-        if (next_ >= fields_.size()) fail(name, "is missing");
+        if (atEnd()) fail(name, "is missing");
         std::string& field = fields_[next_];
         if (skipUnused()) return 0;
         const std::string letter = ucase(rightN(field, 1));
@@ -74,91 +86,92 @@ class Fields {
         for (int i = 0; i < count; ++i) real(name);
     }
     [[noreturn]] void fail(const char* name, const std::string& problem) const {
-        throw Fault{"line " + std::to_string(number_) + " (" + what_ + "): " + name + " " + problem};
+        source_.atField(name);
+        source_.fail(problem);
     }
 
  private:
-    template <typename Number>
-    Number number(const char* name, Number (*convert)(std::string_view)) {
+    /// The next field, which can be converted: the conversions alone would also take grouping commas.
+    std::string plainNumber(const char* name) {
         const std::string field = text(name);
         try {
-            return convert(field);
-        } catch (const RunTimeError&) {
-            fail(name, "\"" + leftN(field, longestQuote) + "\" is not a number");
+            if (field.find(',') == std::string::npos && std::isfinite(toSingle(field))) return field;
+        } catch (const RunTimeError&) {  // said below, with the field
         }
+        fail(name, inQuotes(field) + " is not a number");
     }
 
-    static constexpr std::size_t longestQuote = 20;
-    std::size_t number_;
-    std::string what_;
+    HeaderSource& source_;
     std::vector<std::string> fields_;
     std::size_t next_ = 0;
 };
 
-class Header {
+class GridHeader {
  public:
-    Header(const std::string& path, InfoViewResult& result) : lines_(path), r_(result) {}
+    GridHeader(HeaderSource& source, InfoViewResult& result) : source_(source), r_(result) {}
 
-    void read(GridKind kind) {
-        readKind(formatOf(kind == GridKind::M3d ? InputKind::M3d : InputKind::Ventos));
-        const std::int32_t comments = fields("number of comment lines").wholeFrom(0, largestGrid, "number");
-        for (std::int32_t i = 0; i < comments; ++i) line("comment");
-        if (kind == GridKind::M3d)
-            readM3d();
-        else
-            readVentos();
+    /// Seconds of a record.
+    std::int32_t read(InputKind kind) {
+        readKind(formatOf(kind));
+        skipComments();
+        return kind == InputKind::M3d ? readM3d() : readVentos();
     }
 
  private:
-    std::string_view line(const char* what) {
-        if (lines_.atEnd())
-            throw Fault{"line " + std::to_string(lines_.lineNumber() + 1) + " (" + what +
-                        "): the file ends here"};
-        return lines_.readLine();
-    }
-    Fields fields(const char* what) {
-        const std::string_view text = line(what);
-        return {text, lines_.lineNumber(), what};
-    }
+    GridFields fields(const char* part) { return {source_, source_.readLine(part)}; }
 
     /// Examines only the first bytes: another kind of file may have no line end at all.
     void readKind(const Format& format) {
         const std::string kind(format.firstWord);
-        if (!lines_.ahead().starts_with(kind))
-            throw Fault{"line 1 (file type): the file does not begin with " + kind};
-        Fields first = fields("file type");
-        if (const std::string name = first.text("name"); name != kind)
-            throw Fault{"line 1 (file type): the file does not begin with " + kind};
+        const std::string_view begin = source_.ahead();
+        const std::size_t word = std::min(begin.find_first_not_of(" \t"), begin.size());
+        if (ucase(begin.substr(word, kind.size())) != kind) failKind(kind);
+        GridFields first = fields("file type");
+        if (ucase(first.text("name")) != kind) failKind(kind);
         if (const std::string found = first.text("version"); !format.hasVersion(found))
-            throw Fault{"line 1 (file type): version " + leftN(found, 20) + " is not known"};
+            first.fail("", "version " + leftN(found, longestName) + " is not known");
     }
 
-    void readM3d() {
-        Fields flags = fields("output flags");
-        for (int i = 0; i < 6; ++i) flags.wholeFrom(0, 1, "flag");
-        Fields map = fields("projection");
-        r_.PMAP = map.text("projection");
+    [[noreturn]] void failKind(const std::string& kind) {
+        source_.atLine({1, "file type"});
+        source_.fail("the file does not begin with " + kind);
+    }
+
+    /// The number, after which text may follow a hyphen, and the comments.
+    void skipComments() {
+        const std::string_view line = source_.readLine("number of comment lines");
+        const std::int32_t comments =
+            GridFields(source_, line.substr(0, line.find('-', 1))).wholeFrom(0, mostComments, "number");
+        for (std::int32_t i = 0; i < comments; ++i) source_.readLine("comment");
+    }
+
+    std::int32_t readM3d() {
+        source_.readLine("output flags");
+        GridFields map = fields("projection");
+        r_.PMAP = ucase(map.text("projection"));
         if (r_.PMAP != "LCC" && r_.PMAP != "PS" && r_.PMAP != "EM" && r_.PMAP != "LL")
-            map.fail("projection", "\"" + leftN(r_.PMAP, 20) + "\" is not known");
+            map.fail("projection", inQuotes(r_.PMAP) + " is not known");
         r_.RLAT0 = map.angle("RLAT0");
         r_.RLON0 = map.angle("RLON0");
         r_.XLAT1 = map.angle("XLAT1");
         r_.XLAT2 = map.angle("XLAT2");
         needPolarParallel(map);
-        map.skip(3, "corner or cell size");
-        for (const char* name : {"nx", "ny", "nz"}) map.wholeFrom(1, largestGrid, name);
-        line("model options");
+        map.cornerAndCellSize();
+        for (const char* name : {"nx", "ny", "nz"})
+            map.text(name);  // of the model; those of the extract follow
+        source_.readLine("model options");
         r_.DATUM = sphereOfModels;
         r_.timeZone = "UTC+0000";
         readExtract();
+        return secondsOfHour;
     }
 
-    void needPolarParallel(const Fields& map) const {
+    void needPolarParallel(const GridFields& map) const {
         if (r_.PMAP == "PS" && r_.XLAT1 == 0) map.fail("XLAT1", "is missing: a polar map is true at it");
     }
 
     void readExtract() {
-        Fields extract = fields("extracted period and grid");
+        GridFields extract = fields("extracted period and grid");
         const std::int32_t stamp = extract.wholeFrom(100'010'100, 2'147'483'647, "first time");
         r_.first = {stamp / 1'000'000, stamp / 10'000 % 100, stamp / 100 % 100, stamp % 100, 0};
         const std::int32_t hours = extract.wholeFrom(1, 10'000'000, "number of hours");
@@ -168,22 +181,42 @@ class Header {
         const DateTime begin = moment(extract, r_.first);
         // Each record covers the hour that begins at its time.
         setTime(r_.last, addSeconds(begin, std::int64_t{hours} * secondsOfHour));
-        fields("range of the extract").skip(10, "range");
-        for (std::int32_t i = 0; i < nz; ++i) fields("sigma level").real("sigma");
-        for (std::int64_t i = 0; i < std::int64_t{nx} * ny; ++i) fields("grid cell").skip(4, "cell");
+        needBounds(nx, ny, nz);
+        for (std::int32_t i = 0; i < nz; ++i) source_.readLine("sigma level");
+        for (std::int64_t i = 0; i < std::int64_t{nx} * ny; ++i) {
+            GridFields cell = fields("grid cell");
+            cell.whole("i");
+            cell.whole("j");
+        }
     }
 
-    void readVentos() {
-        Fields times = fields("period");
+    /// First and last cell and level; degrees that may follow are of no use here.
+    void needBounds(std::int32_t nx, std::int32_t ny, std::int32_t nz) {
+        GridFields range = fields("range of the extract");
+        std::array<std::int32_t, 6> bounds{};  // i1 j1 i2 j2 k1 k2
+        for (std::int32_t& bound : bounds) bound = range.wholeFrom(1, largestGrid, "range");
+        if (bounds[2] - bounds[0] + 1 != nx || bounds[3] - bounds[1] + 1 != ny ||
+            bounds[5] - bounds[4] + 1 != nz)
+            range.fail("range", "does not agree with nx, ny and nz of the line before");
+    }
+
+    std::int32_t readVentos() {
+        GridFields times = fields("period");
         readTime(times, r_.first);
         readTime(times, r_.last);
         r_.timeZone = times.text("time zone");
-        times.wholeFrom(1, 366 * 24 * secondsOfHour, "step");
-        Fields map = fields("projection");
-        r_.PMAP = map.text("PMAP");
+        if (!zoneOffset(r_.timeZone))
+            times.fail("time zone", inQuotes(r_.timeZone) + " is no zone such as UTC-0500");
+        const std::int32_t step = times.wholeFrom(1, 366 * 24 * secondsOfHour, "step");
+        GridFields map = fields("projection");
+        r_.PMAP = ucase(map.text("PMAP"));
+        if (std::find(projections.begin(), projections.end(), r_.PMAP) == projections.end())
+            map.fail("PMAP", inQuotes(r_.PMAP) + " is not known");
         r_.DATUM = map.text("DATUM");
         r_.UTMHEM = map.text("UTMHEM");
         r_.IUTMZN = map.skipUnused() ? 0 : map.whole("IUTMZN");
+        if (r_.PMAP == "UTM" && (r_.IUTMZN < 1 || r_.IUTMZN > 60))
+            map.fail("IUTMZN", "must be between 1 and 60");
         r_.FEAST = map.skipUnused() ? 0 : map.real("FEAST");
         r_.FNORTH = map.skipUnused() ? 0 : map.real("FNORTH");
         r_.RLAT0 = map.angle("RLAT0");
@@ -191,24 +224,39 @@ class Header {
         r_.XLAT1 = map.angle("XLAT1");
         r_.XLAT2 = map.angle("XLAT2");
         needPolarParallel(map);
-        Fields grid = fields("grid");
+        GridFields grid = fields("grid");
         grid.wholeFrom(1, largestGrid, "nx");
         grid.wholeFrom(1, largestGrid, "ny");
-        const std::int32_t nz = grid.wholeFrom(1, largestGrid, "nz");
-        grid.skip(3, "corner or cell size");
-        fields("cell face heights").skip(nz + 1, "height");
+        const std::int32_t nz = grid.wholeFrom(1, mostLevels, "nz");
+        grid.cornerAndCellSize();
+        readFaces(nz + 1);
+        return step;
     }
 
-    void readTime(Fields& fields, InfoViewResult::Time& time) {
-        time.year = fields.wholeFrom(100, 9999, "year");
+    /// Rising, on one line or on several.
+    void readFaces(std::int32_t count) {
+        std::optional<float> below;
+        while (count > 0) {
+            GridFields faces = fields("cell face heights");
+            for (; !faces.atEnd(); --count) {
+                if (count == 0) faces.fail("height", "is one more than nz + 1");
+                const float height = faces.real("height");
+                if (below && height <= *below) faces.fail("height", "does not rise");
+                below = height;
+            }
+        }
+    }
+
+    void readTime(GridFields& fields, InfoViewResult::Time& time) {
+        time.year = fullYear(fields.wholeFrom(0, 9999, "year"));
         time.month = fields.wholeFrom(1, 12, "month");
         time.day = fields.wholeFrom(1, 31, "day");
-        time.hour = fields.wholeFrom(0, 24, "hour");
+        time.hour = fields.wholeFrom(0, lastHour, "hour");
         time.seconds = fields.wholeFrom(0, secondsOfHour, "seconds");
         setTime(time, moment(fields, time));  // hour 24 and second 3600 belong to the next ones
     }
 
-    static DateTime moment(const Fields& fields, const InfoViewResult::Time& time) {
+    static DateTime moment(const GridFields& fields, const InfoViewResult::Time& time) {
         try {
             return addSeconds(makeDate(time.year, time.month, time.day),
                               std::int64_t{time.hour} * secondsOfHour + time.seconds);
@@ -223,24 +271,24 @@ class Header {
         time = {date.year, date.month, date.day, clock.hour, clock.minute * 60 + clock.second};
     }
 
-    LineReader lines_;
+    HeaderSource& source_;
     InfoViewResult& r_;
 };
 
 }  // namespace
 
-void readGridFileHeader(const std::string& path, GridKind kind, InfoViewResult& result) {
-    const auto fail = [&result](const std::string& text) {
+std::int32_t readGridHeader(HeaderSource& source, InputKind kind, InfoViewResult& result) {
+    return source.placing([&] { return GridHeader(source, result).read(kind); });
+}
+
+void readGridFileHeader(const std::string& path, InputKind kind, InfoViewResult& result) {
+    try {
+        HeaderSource source(path);
+        readGridHeader(source, kind, result);
+    } catch (const HeaderError& error) {
         result = InfoViewResult();
         result.errorFlag = 1;
-        result.errorText = text;
-    };
-    try {
-        Header(path, result).read(kind);
-    } catch (const Fault& fault) {
-        fail(fault.text);
-    } catch (const RunTimeError& error) {
-        fail(error.description);
+        result.errorText = messageOf(error);
     }
 }
 

@@ -6,9 +6,7 @@
 #include <string>
 
 #include "base/Dates.h"
-#include "base/Host.h"
-#include "base/Lines.h"
-#include "base/RunTimeError.h"
+#include "headers/HeaderSource.h"
 
 namespace zg {
 
@@ -20,28 +18,20 @@ struct JulianStamp {
     std::int16_t seconds = 0;  ///< within the hour
 };
 
-/// The stamp's day; hour 24 becomes hour 0 of the next one. A day that the year does not have shows its
-/// message; raises 13 for an invalid date.
-DateTime dayOf(Host& host, JulianStamp& stamp);
+/// The next fields of a line: year, day of the year, hour and, if the version has them, seconds.
+JulianStamp readStamp(HeaderFields& fields, bool withSeconds);
+
+/// The stamp's day; hour 24 becomes hour 0 of the next one. Raises 13 for an invalid date, with that field;
+/// for a day that the year does not have the error has a notice.
+DateTime dayOf(HeaderSource& source, JulianStamp& stamp, const char* field);
 
 /// Day and time of the stamp, in the same way; raises 13 for an invalid date or time.
-DateTime momentOf(Host& host, JulianStamp stamp);
+DateTime momentOf(HeaderSource& source, JulianStamp stamp, const char* field);
 
 /// "h:m:s" from an hour's text and the seconds within the hour.
 std::string timeTextOf(const std::string& hour, std::int16_t seconds);
 
 /// Skips the number of comments, the comments, and the one line that always follows them.
-void skipComments(LineReader& lines);
-
-/// Reads by calling the function; adds the line number to an error.
-template <typename Read>
-auto withLineNumbers(LineReader& lines, Read read) {
-    try {
-        return read();
-    } catch (RunTimeError& error) {
-        if (error.where.empty()) error.where = std::to_string(lines.lineNumber());
-        throw;
-    }
-}
+void skipComments(HeaderSource& source);
 
 }  // namespace zg

@@ -26,7 +26,7 @@ DateTime momentOf(const InfoViewResult::Time& time) {
 }
 
 /// False if there is no answer.
-bool ask(const std::string& path, GridKind kind, InfoViewResult& result) {
+bool ask(const std::string& path, InputKind kind, InfoViewResult& result) {
     try {
         modInfoViewDLL.infoview(path, kind, result);
         return true;
@@ -38,7 +38,7 @@ bool ask(const std::string& path, GridKind kind, InfoViewResult& result) {
 
 }  // namespace
 
-void ReadGridHeader(const std::string& path, GridKind kind) {
+void ReadGridHeader(const std::string& path, InputKind kind) {
     ModInfoViewDLL& m = modInfoViewDLL;
     m.result = InfoViewResult();
     m.HeaderStartTime = m.HeaderEndTime = DateTime();

@@ -8,11 +8,9 @@
 #include <string>
 
 #include "base/Dates.h"
+#include "formats/Kinds.h"
 
 namespace zg {
-
-/// Codes of the kinds of files, as the operation expects them.
-enum class GridKind : std::int32_t { Ventos = 1, Fumarol = 2, M3d = 3 };
 
 /// The answer for one file. Times are in the zone of the data; seconds are those within the hour.
 struct InfoViewResult {
@@ -40,8 +38,10 @@ struct InfoViewResult {
     std::string DATUM;
 };
 
-/// Fills in the answer, which is initially empty. Raises a RunTimeError if there is no answer at all.
-using InfoViewOperation = std::function<void(const std::string& path, GridKind kind, InfoViewResult& result)>;
+/// Fills in the answer, which is initially empty, for a file of the kind Ventos or M3d. Raises a RunTimeError
+/// if there is no answer at all.
+using InfoViewOperation =
+    std::function<void(const std::string& path, InputKind kind, InfoViewResult& result)>;
 
 /// The operation, its last answer, and that answer in the form for the wizards.
 struct ModInfoViewDLL {
@@ -56,6 +56,6 @@ extern ModInfoViewDLL modInfoViewDLL;
 
 /// Reads a file's header into modInfoViewDLL. If the operation itself fails, everything is left empty without
 /// a message. Raises 13 for an answer with an impossible time.
-void ReadGridHeader(const std::string& path, GridKind kind);
+void ReadGridHeader(const std::string& path, InputKind kind);
 
 }  // namespace zg

@@ -2,12 +2,10 @@
 
 #include <algorithm>
 
-#include "base/Lines.h"
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "headers/DateHelpers.h"
-#include "headers/HeaderDates.h"
 #include "headers/TextHelpers.h"
 
 namespace zg {
@@ -16,6 +14,9 @@ namespace {
 
 constexpr std::int64_t recordStationField = 2;  // of all records but the first
 constexpr std::size_t bytesBetweenCalls = 4'000'000;
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+constexpr const char* wholeNumber = "a number";
+constexpr const char* dateAndTime = "a date and a time";
 
 struct Stamp {
     DateTime date;
@@ -41,19 +42,25 @@ std::string_view rawField(std::string_view line, std::int64_t index) {
     return line.substr(0, line.find(','));
 }
 
-std::string fieldOf(const std::string& record, std::int64_t index) {
+/// The field of that column, which the error is named by.
+std::string fieldOf(HeaderSource& source, const std::string& record, std::int64_t index, const char* column,
+                    const char* wanted) {
+    source.atField(column);
     if (index < 0) raise(ErrorNumber::SubscriptOutOfRange);
-    return std::string(split(record, ",")[static_cast<std::size_t>(index)]);
+    std::string field(split(record, ",")[static_cast<std::size_t>(index)]);
+    source.atField(column, field, wanted);
+    return field;
 }
 
 class MonitorReader {
  public:
-    MonitorReader(LineReader& lines, const std::function<void()>& onProgress,
+    MonitorReader(HeaderSource& source, const std::function<void()>& onProgress,
                   const std::function<void(const std::string&)>& onStation)
-        : lines_(lines), onProgress_(onProgress), onStation_(onStation) {}
+        : source_(source), onProgress_(onProgress), onStation_(onStation) {}
 
     MonitorHeader read() {
-        const std::string names = removeQuotes(lines_.readLine());
+        std::string names = removeQuotes(source_.readLine("names"));
+        if (names.starts_with(byteOrderMark)) names.erase(0, byteOrderMark.size());
         const Pieces pieces = split(names, ",");
         std::vector<std::string> columns;
         for (std::size_t i = 0; i < pieces.size(); ++i) columns.emplace_back(pieces[i]);
@@ -63,13 +70,22 @@ class MonitorReader {
         if (dateColumn < 0 || codeColumn < 0) return {};
         header_.isMonitor = true;
         std::string record = firstRecord();
-        header_.averagingMinutes = toInt16(fieldOf(record, averageColumn));
-        addStation(fieldOf(record, codeColumn));
-        const Stamp first = stampOf(fieldOf(record, dateColumn));
-        passOver(record);
-        const Stamp last = stampOf(fieldOf(removeQuotes(record), dateColumn));
+        const HeaderSource::Line firstLine = source_.line();
+        header_.averagingMinutes = toInt16(fieldOf(source_, record, averageColumn, "DATAAVID", wholeNumber));
+        addStation(fieldOf(source_, record, codeColumn, "STNCODE", "a station"));
+        const std::string firstTime = fieldOf(source_, record, dateColumn, "DATETIME", dateAndTime);
+        const Stamp first = stampOf(firstTime);
+        const HeaderSource::Line lastLine = passOver(record);
+        source_.atLine(lastLine);
+        const std::string lastTime =
+            fieldOf(source_, removeQuotes(record), dateColumn, "DATETIME", dateAndTime);
+        const Stamp last = stampOf(lastTime);
+        source_.atLine(firstLine);
+        source_.atField("DATETIME", firstTime, dateAndTime);
         header_.begin =
             addSeconds(AddTimeToDate(first.date, first.time), std::int64_t{-60} * header_.averagingMinutes);
+        source_.atLine(lastLine);
+        source_.atField("DATETIME", lastTime, dateAndTime);
         header_.end = AddTimeToDate(last.date, last.time);
         return std::move(header_);
     }
@@ -77,26 +93,30 @@ class MonitorReader {
  private:
     std::string firstRecord() {
         std::string record;
-        while (record.empty()) record = removeQuotes(lines_.readLine());
+        while (record.empty()) record = removeQuotes(source_.readLine("record"));
         return record;
     }
 
-    /// Leaves the last line that is not empty in the record.
-    void passOver(std::string& record) {
+    /// Leaves the last line that is not empty in the record, and tells which one it is.
+    HeaderSource::Line passOver(std::string& record) {
+        HeaderSource::Line last = source_.line();
         std::size_t bytes = 0;
         std::string current = header_.stations.back();
-        while (!lines_.atEnd()) {
-            const std::string_view line = trimmed(lines_.readLine());
+        while (!source_.atEnd()) {
+            const std::string_view line = trimmed(source_.readLine("record"));
             bytes += line.size();
             if (onProgress_ && bytes >= bytesBetweenCalls) {
                 onProgress_();
                 bytes = 0;
             }
             if (line.empty()) continue;
+            source_.atField("station (third field)");
             const std::string_view raw = rawField(line, recordStationField);
             if (raw != current) takeTurn(raw, current);
             record.assign(line);
+            last = source_.line();
         }
+        return last;
     }
 
     void takeTurn(std::string_view raw, std::string& current) {
@@ -112,7 +132,7 @@ class MonitorReader {
         if (onStation_) onStation_(station);
     }
 
-    LineReader& lines_;
+    HeaderSource& source_;
     const std::function<void()>& onProgress_;
     const std::function<void(const std::string&)>& onStation_;
     MonitorHeader header_;
@@ -120,10 +140,9 @@ class MonitorReader {
 
 }  // namespace
 
-MonitorHeader readMonitorHeader(const std::string& path, const std::function<void()>& onProgress,
+MonitorHeader readMonitorHeader(HeaderSource& source, const std::function<void()>& onProgress,
                                 const std::function<void(const std::string&)>& onStation) {
-    LineReader lines(path);
-    return withLineNumbers(lines, [&] { return MonitorReader(lines, onProgress, onStation).read(); });
+    return source.placing([&] { return MonitorReader(source, onProgress, onStation).read(); });
 }
 
 }  // namespace zg

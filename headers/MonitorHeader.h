@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/Dates.h"
+#include "headers/HeaderSource.h"
 
 namespace zg {
 
@@ -20,9 +21,9 @@ struct MonitorHeader {
 };
 
 /// Reads the whole file; onProgress is called at intervals, onStation with each station when it begins, even
-/// if an error further on ends the reading. Raises 13 for an invalid number, date or time, 9 for a missing
-/// field, 62 without a record, each with the line number.
-MonitorHeader readMonitorHeader(const std::string& path, const std::function<void()>& onProgress = {},
+/// if an error further on ends the reading. Raises a HeaderError: 13 for an invalid number, date or time, 9
+/// for a missing field, 62 without a record.
+MonitorHeader readMonitorHeader(HeaderSource& source, const std::function<void()>& onProgress = {},
                                 const std::function<void(const std::string&)>& onStation = {});
 
 }  // namespace zg

@@ -1,6 +1,5 @@
 #include "headers/SurfHeader.h"
 
-#include "base/Lines.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "formats/Kinds.h"
@@ -16,59 +15,56 @@ constexpr std::size_t versionLength = 3;
 
 class SurfReader {
  public:
-    SurfReader(Host& host, const std::string& path) : host_(host), lines_(path) {}
+    SurfReader(HeaderSource& source, SurfHeader& header) : source_(source), header_(header) {}
 
-    void read(SurfHeader& header) {
-        withLineNumbers(lines_, [&] { readLines(header); });
-    }
-
- private:
-    void readLines(SurfHeader& header) {
-        const std::string first(lines_.readLine());
+    void read() {
+        const std::string first(source_.readLine("file type"));
         const Format& format = formatOf(InputKind::Surf);
         if (!trim(first).starts_with(format.firstWord)) return;
         const std::string version = rightN(leftN(first, versionEnd), versionLength);
-        header.outcome = SurfOutcome::UnknownVersion;
+        header_.outcome = SurfOutcome::UnknownVersion;
         if (!format.hasVersion(version)) return;
-        skipComments(lines_);
-        if (version == "2.1") header.timeZone = trim(lines_.readLine());
-        const int stationCount = version == "2.1" ? readPeriod21(header) : readPeriod20(header);
-        header.stationsReached = true;
-        for (int i = 0; i < stationCount; ++i) header.stations.push_back(trim(lines_.readLine()));
-        header.begin = momentOf(host_, begin_);
-        header.end = momentOf(host_, end_);
-        if (version == "2.0") header.begin = addSeconds(header.begin, -3600);
-        header.outcome = SurfOutcome::Read;
+        withSeconds_ = version == "2.1";
+        skipComments(source_);
+        if (withSeconds_) header_.timeZone = trim(source_.readLine("time zone"));
+        readPeriod();
+        header_.stationsReached = true;
+        for (int i = 0; i < stationCount_; ++i) header_.stations.push_back(trim(source_.readLine("station")));
+        makePeriod();
+        header_.outcome = SurfOutcome::Read;
     }
 
-    int readPeriod20(SurfHeader& header) {
-        const std::string line = squeezeBlanks(lines_.readLine());
-        const Pieces fields = split(line, " ");
-        begin_ = {toInt16(fields[0]), toInt16(fields[1]), toInt16(fields[2]), 0};
-        end_ = {toInt16(fields[3]), toInt16(fields[4]), toInt16(fields[5]), 0};
-        header.timeZone = TimeZoneFromHours(toDouble(fields[6]));
-        return toInt16(fields[7]);
+ private:
+    void readPeriod() {
+        HeaderFields fields(source_, source_.readLine("period"));
+        periodLine_ = source_.line();
+        begin_ = readStamp(fields, withSeconds_);
+        end_ = readStamp(fields, withSeconds_);
+        if (!withSeconds_) header_.timeZone = TimeZoneFromHours(fields.number("time zone"));
+        stationCount_ = fields.whole("number of stations");
     }
 
-    int readPeriod21(SurfHeader&) {
-        const std::string line = squeezeBlanks(lines_.readLine());
-        const Pieces fields = split(line, " ");
-        begin_ = {toInt16(fields[0]), toInt16(fields[1]), toInt16(fields[2]), toInt16(fields[3])};
-        end_ = {toInt16(fields[4]), toInt16(fields[5]), toInt16(fields[6]), toInt16(fields[7])};
-        return toInt16(fields[8]);
+    void makePeriod() {
+        source_.atLine(periodLine_);
+        header_.begin = momentOf(source_, begin_, "begin");
+        header_.end = momentOf(source_, end_, "end");
+        if (!withSeconds_) header_.begin = addSeconds(header_.begin, -3600);
     }
 
-    Host& host_;
-    LineReader lines_;
+    HeaderSource& source_;
+    SurfHeader& header_;
+    bool withSeconds_ = false;
+    HeaderSource::Line periodLine_;
     JulianStamp begin_;
     JulianStamp end_;
+    int stationCount_ = 0;
 };
 
 }  // namespace
 
-void readSurfHeader(Host& host, const std::string& path, SurfHeader& header) {
+void readSurfHeader(HeaderSource& source, SurfHeader& header) {
     header = SurfHeader();
-    SurfReader(host, path).read(header);
+    source.placing([&] { SurfReader(source, header).read(); });
 }
 
 }  // namespace zg

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "base/Dates.h"
-#include "base/Host.h"
+#include "headers/HeaderSource.h"
 
 namespace zg {
 
@@ -26,10 +26,9 @@ struct SurfHeader {
     DateTime end;
 };
 
-/// Reads it. A day that the year does not have first shows its message. Raises 13 for an invalid number or
-/// date, 9 for a line with missing fields, 62 for a file that ends too early, 6 for a count out of range, and
-/// the error of a file that cannot be read, with the line number. What was read before an error stays in the
-/// header.
-void readSurfHeader(Host& host, const std::string& path, SurfHeader& header);
+/// Raises a HeaderError: 13 for an invalid number or date (with a notice for a day that the year does not
+/// have), 9 for a line with missing fields, 62 for a file that ends too early, 6 for a count out of range.
+/// What was read before the error stays in the header.
+void readSurfHeader(HeaderSource& source, SurfHeader& header);
 
 }  // namespace zg

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "base/Dates.h"
+#include "headers/HeaderSource.h"
 
 namespace zg {
 
@@ -25,8 +26,8 @@ struct TsfHeader {
     std::int32_t stepSeconds = 0;
 };
 
-/// Raises 62 for a file that ends too early, for example without a line for its zone, 9 for a line with
-/// missing fields, 13 for an invalid number, date or time, 6 for a count out of range, each with its line.
-TsfHeader readTsfHeader(const std::string& path);
+/// Raises a HeaderError: 62 for a file that ends too early, for example without a line for its zone, 9 for a
+/// line with missing fields, 13 for an invalid number, date or time, 6 for a count out of range.
+TsfHeader readTsfHeader(HeaderSource& source);
 
 }  // namespace zg

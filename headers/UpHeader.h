@@ -5,7 +5,7 @@
 #include <string>
 
 #include "base/Dates.h"
-#include "base/Host.h"
+#include "headers/HeaderSource.h"
 
 namespace zg {
 
@@ -21,6 +21,6 @@ struct UpHeader {
 };
 
 /// Raises the same errors as readSurfHeader.
-UpHeader readUpHeader(Host& host, const std::string& path);
+UpHeader readUpHeader(HeaderSource& source);
 
 }  // namespace zg

@@ -53,8 +53,8 @@ frmMain::Commands frmMain::fileCommands() {
              useLibrariesBeside(applicationDirectory);
              process<frmProcess3DDATFiles>();
          }},
-        {"mnuFileOption_4", [this] { process<frmOpenAERMETFile>(AermetKind::Surface); }},
-        {"mnuFileOption_5", [this] { process<frmOpenAERMETFile>(AermetKind::Profile); }},
+        {"mnuFileOption_4", [this] { process<frmOpenAERMETFile>(InputKind::AermSfc); }},
+        {"mnuFileOption_5", [this] { process<frmOpenAERMETFile>(InputKind::AermPfl); }},
         {"mnuFileOption_6", [this] { process<frmOpenAMMNETDataFile>(); }},
         {"mnuFileOption_7",
          [this] {

@@ -27,6 +27,8 @@ constexpr const char* librarySuffix = ".so";
 #endif
 
 using Int = std::int32_t;
+constexpr Int ventosCode = 1;  // of the kinds of files; 2 is for files of concentrations
+constexpr Int m3dCode = 3;
 using InfoViewFunction = void (*)(const char*, Int*, Int*, Int*, Int*, Int*, Int*, Int*, Int*, Int*, Int*,
                                   Int*, Int*, Int*, Int*, Int*, Int*, Int*, float*, float*, float*, float*,
                                   float*, float*, char*, char*, char*, char*, char*, Int, Int, Int, Int, Int,
@@ -63,8 +65,8 @@ Function resolve(const std::string& path, const char* name) {
                        FileNameOf(path) + " has no function " + name);
 }
 
-void callInfoView(InfoViewFunction infoview, const std::string& path, GridKind gridKind, InfoViewResult& r) {
-    Int kind = static_cast<Int>(gridKind);
+void callInfoView(InfoViewFunction infoview, const std::string& path, InputKind gridKind, InfoViewResult& r) {
+    Int kind = gridKind == InputKind::Ventos ? ventosCode : m3dCode;
     Int one = 1;
     Int two = 1;
     Int unused1 = 0;
@@ -113,7 +115,7 @@ void useLibrariesBeside(const std::string& directory) {
     const std::string infoview = withSeparator(directory) + "infoview_dll" + librarySuffix;
     const std::string init = withSeparator(directory) + "init" + librarySuffix;
     if (fileExists(infoview))
-        modInfoViewDLL.infoview = [infoview](const std::string& path, GridKind kind, InfoViewResult& r) {
+        modInfoViewDLL.infoview = [infoview](const std::string& path, InputKind kind, InfoViewResult& r) {
             callInfoView(resolve<InfoViewFunction>(infoview, "infoview"), path, kind, r);
         };
     if (fileExists(init))

@@ -68,7 +68,7 @@ RunHooks GridWizard::hooks() {
 void GridWizard::readValues() {
     RunDirectory = withSeparator(trim(view_.text("txtOutputDirectory")));
     ControlFile v;
-    v.type = variation_.type;
+    v.type = variation_.kind;
     v.title = view_.text("txtTitleLine");
     v.inputFiles = view_.rows(variation_.fileList);
     const CalendarDate begin = dateOf(view_.begin());

@@ -10,8 +10,7 @@
 
 namespace zg {
 
-const GridVariation ventosVariation = {.kind = GridKind::Ventos,
-                                       .type = InputKind::Ventos,
+const GridVariation ventosVariation = {.kind = InputKind::Ventos,
                                        .form = "frmProcessVENTOSDATFiles",
                                        .fileList = "lstVENTOSDATFiles",
                                        .title = "Generate Wind Rose Plots from VENTOS Data",
@@ -30,8 +29,7 @@ const GridVariation ventosVariation = {.kind = GridKind::Ventos,
                                        .oneCoordinatePair = true};
 
 const GridVariation m3dVariation = {
-    .kind = GridKind::M3d,
-    .type = InputKind::M3d,
+    .kind = InputKind::M3d,
     .form = "frmProcess3DDATFiles",
     .fileList = "lst3DDATFiles",
     .title = "Generate Wind Rose Plots from MM5 or WRF 3D.DAT Data",

@@ -21,8 +21,7 @@ namespace zg {
 
 /// What differs between the wizards for VENTOS.DAT and 3D.DAT.
 struct GridVariation {
-    GridKind kind;
-    InputKind type;
+    InputKind kind;
     const char* form;  ///< objectName, as is the next
     const char* fileList;
     const char* title;

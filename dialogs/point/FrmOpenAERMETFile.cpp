@@ -8,12 +8,12 @@ namespace zg {
 
 namespace {
 
-bool isSurface(AermetKind kind) { return kind == AermetKind::Surface; }
+bool isSurface(InputKind kind) { return kind == InputKind::AermSfc; }
 
 }  // namespace
 
 frmOpenAERMETFile::frmOpenAERMETFile(Host& host, ProcessStarter& starter, ProcessingWindow window,
-                                     AermetKind kind, QWidget* parent)
+                                     InputKind kind, QWidget* parent)
     : StationDialog(host, starter, std::move(window),
                     isSurface(kind) ? "frmOpenAERMETSFCFile" : "frmOpenAERMETPFLFile",
                     isSurface(kind) ? "Generate Wind Rose Plots from AERMET Surface Data"
@@ -32,9 +32,7 @@ frmOpenAERMETFile::frmOpenAERMETFile(Host& host, ProcessStarter& starter, Proces
           *txtStationID);
 }
 
-InputKind frmOpenAERMETFile::inputType() const {
-    return isSurface(kind_) ? InputKind::AermSfc : InputKind::AermPfl;
-}
+InputKind frmOpenAERMETFile::inputType() const { return kind_; }
 
 std::string frmOpenAERMETFile::stationText() const { return readOrTyped(*txtStationID); }
 
@@ -56,8 +54,10 @@ bool frmOpenAERMETFile::checkPlace() {
 
 void frmOpenAERMETFile::ReadAERMETFile(const std::string& path) {
     AermetPeriod period;
-    readLargeFile(
-        [&](const std::function<void()>& progress) { period = readAermetPeriod(path, kind_, progress); });
+    readLargeFile([&](const std::function<void()>& progress) {
+        HeaderSource source(path);
+        period = readAermetPeriod(source, kind_, progress);
+    });
     showPeriod(period.begin, period.end);
     if (isSurface(kind_)) showRead(*txtStationID, period.station);
 }

@@ -10,7 +10,7 @@ class frmOpenAERMETFile : public StationDialog {
     Q_OBJECT
 
  public:
-    frmOpenAERMETFile(Host& host, ProcessStarter& starter, ProcessingWindow window, AermetKind kind,
+    frmOpenAERMETFile(Host& host, ProcessStarter& starter, ProcessingWindow window, InputKind kind,
                       QWidget* parent = nullptr);
 
     void ReadAERMETFile(const std::string& path);
@@ -22,7 +22,7 @@ class frmOpenAERMETFile : public StationDialog {
     std::string stationToLookUp() override;
     bool checkPlace() override;
 
-    AermetKind kind_;
+    InputKind kind_;
     QLineEdit* txtStationID;
 };
 

@@ -38,8 +38,10 @@ void frmOpenAMMNETDataFile::ReadMonitorHeader(const std::string& path) {
         addRead(*cboStationID, station);
     };
     try {
-        readLargeFile(
-            [&](const std::function<void()>& progress) { header = readMonitorHeader(path, progress, add); });
+        readLargeFile([&](const std::function<void()>& progress) {
+            HeaderSource source(path);
+            header = readMonitorHeader(source, progress, add);
+        });
     } catch (...) {
         // The file now named in the box must not run with the station and the period of another.
         if (isFirst) cboStationID->clear();

@@ -110,7 +110,10 @@ void frmOpenSURFDATFile::showStations(const SurfHeader& header) {
 void frmOpenSURFDATFile::ReadSURFDATHeader(const std::string& path) {
     SurfHeader header;
     try {
-        readSurfHeader(host_, path, header);
+        readNoticing([&] {
+            HeaderSource source(path);
+            readSurfHeader(source, header);
+        });
     } catch (...) {
         showStations(header);
         throw;

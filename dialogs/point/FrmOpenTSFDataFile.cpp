@@ -28,7 +28,8 @@ frmOpenTSFDataFile::frmOpenTSFDataFile(Host& host, ProcessStarter& starter, Proc
 std::string frmOpenTSFDataFile::stationText() const { return readOrTyped(*txtStationID); }
 
 void frmOpenTSFDataFile::ReadTSFHeader(const std::string& path) {
-    const TsfHeader header = readTsfHeader(path);
+    HeaderSource source(path);
+    const TsfHeader header = readTsfHeader(source);
     switch (header.outcome) {
         case TsfOutcome::NotTsf:
             refuse(*fileBox_, "The selected file is not a valid Time Series File (*.TSF).");

@@ -100,7 +100,11 @@ void frmOpenUPDATFile::showShifted(DateTime moment, QDateEdit& date, QTimeEdit& 
 }
 
 void frmOpenUPDATFile::ReadUPDATHeader(const std::string& path) {
-    const UpHeader header = readUpHeader(host_, path);
+    UpHeader header;
+    readNoticing([&] {
+        HeaderSource source(path);
+        header = readUpHeader(source);
+    });
     if (!header.isUp) {
         refuse(*txtUPDATFile, "The selected file is not a valid UP.DAT file.");
         return;

@@ -6,6 +6,7 @@
 
 #include "base/Paths.h"
 #include "base/Text.h"
+#include "headers/HeaderError.h"
 #include "headers/Zones.h"
 #include "platform/Captions.h"
 #include "platform/Combos.h"
@@ -278,6 +279,15 @@ bool PointDialog::browseInput(QLineEdit& box, const char* filter) {
     if (remembered_.substr(0, 1) != "\\") remembered_ += pathSeparator;
     showPath(*txtOutputDirectory, remembered_);
     return true;
+}
+
+void PointDialog::readNoticing(const std::function<void()>& read) {
+    try {
+        read();
+    } catch (const HeaderError& error) {
+        if (!error.notice.empty()) host_.showBox({error.notice, "", BoxIcon::None, BoxButtons::Ok});
+        throw;
+    }
 }
 
 void PointDialog::readLargeFile(const std::function<void(const std::function<void()>&)>& read) {

@@ -74,6 +74,9 @@ class PointDialog : public QDialog {
     /// Asks for the input file; takes it, and its directory for the output. False if cancelled.
     bool browseInput(QLineEdit& box, const char* filter);
 
+    /// Reads a header. If its error has a notice, shows it and then passes the error on.
+    void readNoticing(const std::function<void()>& read);
+
     /// While a large file is read the window stays responsive, the fields are disabled, and after a second
     /// the status line says so.
     void readLargeFile(const std::function<void(const std::function<void()>&)>& read);

@@ -97,7 +97,7 @@ FormPointer ofInput(FormWorld& world) {
     return std::make_unique<Form>(world.host, world.starter, idleWindow());
 }
 
-template <AermetKind Kind>
+template <InputKind Kind>
 FormPointer ofAermet(FormWorld& world) {
     return std::make_unique<frmOpenAERMETFile>(world.host, world.starter, idleWindow(), Kind);
 }
@@ -204,7 +204,7 @@ std::unique_ptr<GridForm> wizardAt(FormWorld& world, const GridVariation& variat
                                    bool byStation) {
     LoadStationData();
     auto form = std::make_unique<GridForm>(variation, world.host, world.starter, idleWindow(), nullptr);
-    const bool model = variation.kind == GridKind::M3d;
+    const bool model = variation.kind == InputKind::M3d;
     const std::string file = world.directory.write("wind.dat", model ? m3dText() : ventosText());
     world.host.filesAnswers.push_back({file});
     click(*form, "cmdBrowseDataFiles");
@@ -299,9 +299,9 @@ const std::vector<FormRow>& forms() {
         {"frmExpr", "", ofHost<frmExpr>},
         {"frmExpr", "Add", ofHost<frmExpr>, withClickOn("cmdAdd")},
         {"frmGridFonts", "", ofPlot<frmGridFonts>},
-        {"frmOpenAERMETPFLFile", "", ofAermet<AermetKind::Profile>},
-        {"frmOpenAERMETSFCFile", "", ofAermet<AermetKind::Surface>},
-        {"frmOpenAERMETSFCFile", "Reason", ofAermet<AermetKind::Surface>, waitWithReason},
+        {"frmOpenAERMETPFLFile", "", ofAermet<InputKind::AermPfl>},
+        {"frmOpenAERMETSFCFile", "", ofAermet<InputKind::AermSfc>},
+        {"frmOpenAERMETSFCFile", "Reason", ofAermet<InputKind::AermSfc>, waitWithReason},
         {"frmOpenAMMNETDataFile", "", ofInput<frmOpenAMMNETDataFile>},
         {"frmOpenSURFDATFile", "", ofInput<frmOpenSURFDATFile>},
         {"frmOpenSURFDATFile", "Reason", ofInput<frmOpenSURFDATFile>, waitWithReason},

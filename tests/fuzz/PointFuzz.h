@@ -12,6 +12,7 @@
 #include "base/Host.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
+#include "headers/HeaderSource.h"
 
 /// A host whose boxes and pickers get no real answers.
 class DeafHost : public zg::Host {
@@ -34,6 +35,18 @@ inline void useAsApplicationDirectory(char* pattern, const std::string& file,
     zg::applicationDirectory = pattern;
     for (const char* name : names)
         if (symlink(file.c_str(), zg::inApplicationDirectory(name).c_str()) != 0) std::abort();
+}
+
+/// Passes the bytes to the reader of a header. Any other error than a HeaderError that says something ends
+/// the program.
+template <typename Read>
+void readHeader(const std::uint8_t* data, std::size_t size, Read read) {
+    zg::HeaderSource source({reinterpret_cast<const char*>(data), size}, "input");
+    try {
+        read(source);
+    } catch (const zg::HeaderError& error) {
+        if (zg::messageOf(error).empty()) std::abort();
+    }
 }
 
 /// Passes the bytes to the reader as an in-memory file.

@@ -6,7 +6,7 @@
 
 FUZZ_TARGET(grid) {
     readAsFile(data, size, [&](zg::Host&, const std::string& path) {
-        for (const zg::GridKind kind : {zg::GridKind::M3d, zg::GridKind::Ventos}) {
+        for (const zg::InputKind kind : {zg::InputKind::M3d, zg::InputKind::Ventos}) {
             zg::InfoViewResult result;
             zg::readGridFileHeader(path, kind, result);
             if ((result.errorFlag == 0) == result.PMAP.empty()) std::abort();

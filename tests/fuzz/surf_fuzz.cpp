@@ -1,13 +1,13 @@
-// Any bytes as a file of this format: gives its contents or a RunTimeError, and nothing else.
+// Any bytes as a file of this format: gives its contents or a HeaderError, and nothing else.
 
 #include "headers/SurfHeader.h"
 #include "tests/fuzz/Fuzz.h"
 #include "tests/fuzz/PointFuzz.h"
 
 FUZZ_TARGET(surf) {
-    readAsFile(data, size, [&]([[maybe_unused]] zg::Host& host, const std::string& path) {
+    readHeader(data, size, [&](zg::HeaderSource& source) {
         zg::SurfHeader header;
-        zg::readSurfHeader(host, path, header);
+        zg::readSurfHeader(source, header);
     });
     return 0;
 }

@@ -7,6 +7,7 @@
 #include <iterator>
 #include <sstream>
 
+#include "base/Text.h"
 #include "tests/headers/GridFiles.h"
 #include "tests/support/TempDirectory.h"
 
@@ -15,7 +16,7 @@ namespace {
 
 class GridFileHeader : public ::testing::Test {
  protected:
-    InfoViewResult read(GridKind kind, const std::string& text) {
+    InfoViewResult read(InputKind kind, const std::string& text) {
         InfoViewResult result;
         readGridFileHeader(directory_.write("grid.dat", text), kind, result);
         return result;
@@ -28,7 +29,7 @@ class GridFileHeader : public ::testing::Test {
 };
 
 TEST_F(GridFileHeader, OfA3dDatFile) {
-    const InfoViewResult r = read(GridKind::M3d, m3dText());
+    const InfoViewResult r = read(InputKind::M3d, m3dText());
     EXPECT_EQ(r.errorFlag, 0) << r.errorText;
     EXPECT_EQ(r.PMAP, "LCC");
     EXPECT_EQ(r.RLAT0, 40.5F);
@@ -48,7 +49,7 @@ TEST_F(GridFileHeader, OfA3dDatFile) {
 }
 
 TEST_F(GridFileHeader, OfAVentosFile) {
-    const InfoViewResult r = read(GridKind::Ventos, ventosText("UTM NAR-C N 18 0 0 0 0 0 0"));
+    const InfoViewResult r = read(InputKind::Ventos, ventosText("UTM NAR-C N 18 0 0 0 0 0 0"));
     EXPECT_EQ(r.errorFlag, 0) << r.errorText;
     EXPECT_EQ(r.PMAP, "UTM");
     EXPECT_EQ(r.UTMHEM, "N");
@@ -65,36 +66,36 @@ TEST_F(GridFileHeader, OfAVentosFile) {
 
 TEST_F(GridFileHeader, NoneStandsForWhatIsNotUsed) {
     const InfoViewResult r =
-        read(GridKind::Ventos, ventosText("LL WGS-84 NONE NONE NONE NONE NONE NONE NONE NONE"));
+        read(InputKind::Ventos, ventosText("LL WGS-84 NONE NONE NONE NONE NONE NONE NONE NONE"));
     EXPECT_EQ(r.errorFlag, 0) << r.errorText;
     EXPECT_EQ(r.IUTMZN, 0);
     for (const float value : {r.FEAST, r.FNORTH, r.RLAT0, r.RLON0, r.XLAT1, r.XLAT2}) EXPECT_EQ(value, 0);
 }
 
 TEST_F(GridFileHeader, AnglesMayEndInTheirHemisphere) {
-    const InfoViewResult r = read(GridKind::Ventos, ventosText("PS NWS-84 NONE 0 0 0 40.5S 97.25w 33N 0E"));
+    const InfoViewResult r = read(InputKind::Ventos, ventosText("PS NWS-84 NONE 0 0 0 40.5S 97.25w 33N 0E"));
     EXPECT_EQ(r.errorFlag, 0) << r.errorText;
     EXPECT_EQ(r.RLAT0, -40.5F);
     EXPECT_EQ(r.RLON0, -97.25F);
     EXPECT_EQ(r.XLAT1, 33);
-    EXPECT_EQ(read(GridKind::Ventos, ventosText("PS NWS-84 NONE 0 0 0 S 97W 33N 0")).errorText,
+    EXPECT_EQ(read(InputKind::Ventos, ventosText("PS NWS-84 NONE 0 0 0 S 97W 33N 0")).errorText,
               "line 6 (projection): RLAT0 \"\" is not a number");
 }
 
 TEST_F(GridFileHeader, APolarMapWithoutItsParallelIsBroken) {
     for (const char* const parallel : {"0", "0N", "NONE"})
-        EXPECT_EQ(
-            read(GridKind::Ventos, ventosText(std::string("PS NWS-84 NONE 0 0 0 90N 97W ") + parallel + " 0"))
-                .errorText,
-            "line 6 (projection): XLAT1 is missing: a polar map is true at it");
+        EXPECT_EQ(read(InputKind::Ventos,
+                       ventosText(std::string("PS NWS-84 NONE 0 0 0 90N 97W ") + parallel + " 0"))
+                      .errorText,
+                  "line 6 (projection): XLAT1 is missing: a polar map is true at it");
     const std::string model = replaced(m3dText(), "LCC", "PS");
-    EXPECT_EQ(read(GridKind::M3d, model).errorFlag, 0);
-    EXPECT_EQ(read(GridKind::M3d, replaced(model, " 33", " 0")).errorFlag, 1);
+    EXPECT_EQ(read(InputKind::M3d, model).errorFlag, 0);
+    EXPECT_EQ(read(InputKind::M3d, replaced(model, " 33", " 0")).errorFlag, 1);
 }
 
 TEST_F(GridFileHeader, AFalseOriginHasNoLetter) {
     for (const char* const fields : {"500W 0", "500E 0", "0 5N", "5S 0"})
-        EXPECT_NE(read(GridKind::Ventos,
+        EXPECT_NE(read(InputKind::Ventos,
                        ventosText(std::string("TTM NWS-84 NONE 0 ") + fields + " 0N 97W NONE NONE"))
                       .errorText,
                   "")
@@ -103,7 +104,7 @@ TEST_F(GridFileHeader, AFalseOriginHasNoLetter) {
 
 TEST_F(GridFileHeader, HourTwentyFourIsTheNextMidnight) {
     const InfoViewResult r =
-        read(GridKind::Ventos, replaced(ventosText(), "2005 12 31 23 0", "2004 12 31 24 0"));
+        read(InputKind::Ventos, replaced(ventosText(), "2005 12 31 23 0", "2004 12 31 24 0"));
     EXPECT_EQ(r.errorFlag, 0) << r.errorText;
     EXPECT_EQ(r.last.year, 2005);
     EXPECT_EQ(r.last.month, 1);
@@ -112,8 +113,8 @@ TEST_F(GridFileHeader, HourTwentyFourIsTheNextMidnight) {
 }
 
 TEST_F(GridFileHeader, CutAtEveryLineIsToldWithTheLine) {
-    for (const GridKind kind : {GridKind::M3d, GridKind::Ventos}) {
-        const std::string whole = kind == GridKind::M3d ? m3dText() : ventosText();
+    for (const InputKind kind : {InputKind::M3d, InputKind::Ventos}) {
+        const std::string whole = kind == InputKind::M3d ? m3dText() : ventosText();
         const int lines = static_cast<int>(std::count(whole.begin(), whole.end(), '\n'));
         for (int i = 0; i < lines; ++i) {
             const InfoViewResult r = read(kind, firstLines(whole, i));
@@ -131,29 +132,27 @@ TEST_F(GridFileHeader, CutAtEveryByteNeverPassesAsWhole) {
     const std::string whole = ventosText();
     // The last number may lose its last digit and still be a number.
     for (std::size_t i = 0; i + 4 < whole.size(); ++i)
-        EXPECT_EQ(read(GridKind::Ventos, whole.substr(0, i)).errorFlag, 1) << i;
+        EXPECT_EQ(read(InputKind::Ventos, whole.substr(0, i)).errorFlag, 1) << i;
 }
 
 TEST_F(GridFileHeader, BrokenFieldsAreNamed) {
     const auto m3d = [&](const char* old, const char* fresh) {
-        return read(GridKind::M3d, replaced(m3dText(), old, fresh)).errorText;
+        return read(InputKind::M3d, replaced(m3dText(), old, fresh)).errorText;
     };
     EXPECT_EQ(m3d("2.1", "3.0"), "line 1 (file type): version 3.0 is not known");
     EXPECT_EQ(m3d("\n1\n", "\nx\n"), "line 2 (number of comment lines): number \"x\" is not a number");
-    EXPECT_EQ(m3d("1 1 0 0 0 0", "1 1 0 0 0"), "line 4 (output flags): flag is missing");
-    EXPECT_EQ(m3d("1 1 0 0 0 0", "1 1 0 0 0 2"), "line 4 (output flags): flag must be between 0 and 1");
     EXPECT_EQ(m3d("LCC", "XYZ"), "line 5 (projection): projection \"XYZ\" is not known");
     EXPECT_EQ(m3d("-97.25", "-97,2x"), "line 5 (projection): RLON0 \"-97,2x\" is not a number");
     EXPECT_EQ(m3d("2005030706", "2005023006"), "line 7 (extracted period and grid): date does not exist");
     EXPECT_EQ(m3d("48 2 2 3", "0 2 2 3"),
               "line 7 (extracted period and grid): number of hours must be between 1 and 10000000");
-    EXPECT_EQ(read(GridKind::Ventos, replaced(ventosText(), "2005 12 31", "2005 13 31")).errorText,
+    EXPECT_EQ(read(InputKind::Ventos, replaced(ventosText(), "2005 12 31", "2005 13 31")).errorText,
               "line 5 (period): month must be between 1 and 12");
 }
 
 TEST_F(GridFileHeader, EveryFieldOfAVentosFileGoesToItsValue) {
     const InfoViewResult r =
-        read(GridKind::Ventos, ventosText("LCC NWS-84 S 18 100.5 -20 40.5 -97.25 33 45"));
+        read(InputKind::Ventos, ventosText("LCC NWS-84 S 18 100.5 -20 40.5 -97.25 33 45"));
     EXPECT_EQ(r.errorFlag, 0) << r.errorText;
     EXPECT_EQ(r.PMAP, "LCC");
     EXPECT_EQ(r.DATUM, "NWS-84");
@@ -173,7 +172,7 @@ TEST_F(GridFileHeader, EveryFieldOfAVentosFileGoesToItsValue) {
 
 TEST_F(GridFileHeader, SecondThirtySixHundredIsTheNextHour) {
     const InfoViewResult r =
-        read(GridKind::Ventos, replaced(ventosText(), "2005 12 31 23 0", "2005 12 30 23 3600"));
+        read(InputKind::Ventos, replaced(ventosText(), "2005 12 31 23 0", "2005 12 30 23 3600"));
     EXPECT_EQ(r.errorFlag, 0) << r.errorText;
     EXPECT_EQ(r.last.day, 31);
     EXPECT_EQ(r.last.hour, 0);
@@ -182,11 +181,11 @@ TEST_F(GridFileHeader, SecondThirtySixHundredIsTheNextHour) {
 
 class GridFileFields : public GridFileHeader {
  protected:
-    static std::string text(GridKind kind) { return kind == GridKind::M3d ? m3dText() : ventosText(); }
+    static std::string text(InputKind kind) { return kind == InputKind::M3d ? m3dText() : ventosText(); }
 
     /// The file with one line, counted from 1, rebuilt from its fields.
     template <typename Change>
-    static std::string withLine(GridKind kind, int number, Change change) {
+    static std::string withLine(InputKind kind, int number, Change change) {
         const std::string whole = text(kind);
         const std::string before = firstLines(whole, number - 1);
         const std::string after = whole.substr(firstLines(whole, number).size());
@@ -200,7 +199,7 @@ class GridFileFields : public GridFileHeader {
 
     /// The messages for a line that ends after no field, after one, and so on: "(period): year" for each
     /// field that is then missing.
-    std::vector<std::string> missing(GridKind kind, int number) {
+    std::vector<std::string> missing(InputKind kind, int number) {
         std::vector<std::string> told;
         const std::string start = "line " + std::to_string(number) + " ";
         const std::string end = " is missing";
@@ -214,7 +213,7 @@ class GridFileFields : public GridFileHeader {
         }
     }
 
-    std::string errorWith(GridKind kind, int number, std::size_t field, const std::string& value) {
+    std::string errorWith(InputKind kind, int number, std::size_t field, const std::string& value) {
         return read(kind, withLine(kind, number, [&](auto& fields) { fields[field] = value; })).errorText;
     }
 };
@@ -227,58 +226,56 @@ TEST_F(GridFileFields, AreNamedWhereOneOfAVentosFileIsMissing) {
         for (const char* name : {"year", "month", "day", "hour", "seconds"})
             period.push_back(std::string("(period): ") + name);
     period.insert(period.end(), {"(period): time zone", "(period): step"});
-    EXPECT_EQ(missing(GridKind::Ventos, 2), Names{"(number of comment lines): number"});
-    EXPECT_EQ(missing(GridKind::Ventos, 5), period);
+    EXPECT_EQ(missing(InputKind::Ventos, 2), Names{"(number of comment lines): number"});
+    EXPECT_EQ(missing(InputKind::Ventos, 5), period);
     Names map;
     for (const char* name :
          {"PMAP", "DATUM", "UTMHEM", "IUTMZN", "FEAST", "FNORTH", "RLAT0", "RLON0", "XLAT1", "XLAT2"})
         map.push_back(std::string("(projection): ") + name);
-    EXPECT_EQ(missing(GridKind::Ventos, 6), map);
-    EXPECT_EQ(missing(GridKind::Ventos, 7),
+    EXPECT_EQ(missing(InputKind::Ventos, 6), map);
+    EXPECT_EQ(missing(InputKind::Ventos, 7),
               (Names{"(grid): nx", "(grid): ny", "(grid): nz", "(grid): corner or cell size",
                      "(grid): corner or cell size", "(grid): corner or cell size"}));
-    EXPECT_EQ(missing(GridKind::Ventos, 8),
-              (Names{"(cell face heights): height", "(cell face heights): height"}));
+    EXPECT_EQ(missing(InputKind::Ventos, 8), Names{}) << "they may go on on the next line";
 }
 
 TEST_F(GridFileFields, AreNamedWhereOneOfA3dDatFileIsMissing) {
-    EXPECT_EQ(missing(GridKind::M3d, 4), Names(6, "(output flags): flag"));
     Names map;
     for (const char* name : {"projection", "RLAT0", "RLON0", "XLAT1", "XLAT2", "corner or cell size",
                              "corner or cell size", "corner or cell size", "nx", "ny", "nz"})
         map.push_back(std::string("(projection): ") + name);
-    EXPECT_EQ(missing(GridKind::M3d, 5), map);
+    EXPECT_EQ(missing(InputKind::M3d, 5), map);
     Names extract;
     for (const char* name : {"first time", "number of hours", "nx", "ny", "nz"})
         extract.push_back(std::string("(extracted period and grid): ") + name);
-    EXPECT_EQ(missing(GridKind::M3d, 7), extract);
-    EXPECT_EQ(missing(GridKind::M3d, 8), Names(10, "(range of the extract): range"));
-    EXPECT_EQ(missing(GridKind::M3d, 9), Names{"(sigma level): sigma"});
-    EXPECT_EQ(missing(GridKind::M3d, 11), Names{"(sigma level): sigma"});
-    EXPECT_EQ(missing(GridKind::M3d, 12), Names(4, "(grid cell): cell"));
-    EXPECT_EQ(missing(GridKind::M3d, 15), Names(4, "(grid cell): cell"));
-    EXPECT_EQ(read(GridKind::M3d, "3D.DAT\n").errorText, "line 1 (file type): version is missing");
+    EXPECT_EQ(missing(InputKind::M3d, 7), extract);
+    EXPECT_EQ(missing(InputKind::M3d, 8), Names(6, "(range of the extract): range"));
+    EXPECT_EQ(missing(InputKind::M3d, 12), (Names{"(grid cell): i", "(grid cell): j"}));
+    EXPECT_EQ(missing(InputKind::M3d, 15), (Names{"(grid cell): i", "(grid cell): j"}));
+    EXPECT_EQ(read(InputKind::M3d, "3D.DAT\n").errorText, "line 1 (file type): version is missing");
 }
 
 TEST_F(GridFileFields, HaveTheirRanges) {
     struct Range {
-        GridKind kind;
+        InputKind kind;
         int line;
         std::size_t field;
         std::int64_t least;
         std::int64_t most;
     };
     constexpr std::int64_t cells = 100'000;
+    constexpr std::int64_t comments = 1'000'000;
+    constexpr std::int64_t levels = 10'000;
     for (const Range& r :
-         {Range{GridKind::M3d, 2, 0, 0, cells}, Range{GridKind::M3d, 4, 5, 0, 1},
-          Range{GridKind::M3d, 5, 8, 1, cells}, Range{GridKind::M3d, 5, 10, 1, cells},
-          Range{GridKind::M3d, 7, 1, 1, 10'000'000}, Range{GridKind::M3d, 7, 2, 1, cells},
-          Range{GridKind::M3d, 7, 3, 1, cells}, Range{GridKind::M3d, 7, 4, 1, cells},
-          Range{GridKind::Ventos, 5, 0, 100, 9999}, Range{GridKind::Ventos, 5, 1, 1, 12},
-          Range{GridKind::Ventos, 5, 2, 1, 31}, Range{GridKind::Ventos, 5, 3, 0, 24},
-          Range{GridKind::Ventos, 5, 4, 0, 3600}, Range{GridKind::Ventos, 5, 11, 1, 31'622'400},
-          Range{GridKind::Ventos, 7, 0, 1, cells}, Range{GridKind::Ventos, 7, 1, 1, cells},
-          Range{GridKind::Ventos, 7, 2, 1, cells}}) {
+         {Range{InputKind::M3d, 2, 0, 0, comments},
+
+          Range{InputKind::M3d, 7, 1, 1, 10'000'000}, Range{InputKind::M3d, 7, 2, 1, cells},
+          Range{InputKind::M3d, 7, 3, 1, cells}, Range{InputKind::M3d, 7, 4, 1, cells},
+          Range{InputKind::M3d, 8, 2, 1, cells}, Range{InputKind::Ventos, 5, 0, 0, 9999},
+          Range{InputKind::Ventos, 5, 1, 1, 12}, Range{InputKind::Ventos, 5, 2, 1, 31},
+          Range{InputKind::Ventos, 5, 3, 0, 24}, Range{InputKind::Ventos, 5, 4, 0, 3600},
+          Range{InputKind::Ventos, 5, 11, 1, 31'622'400}, Range{InputKind::Ventos, 7, 0, 1, cells},
+          Range{InputKind::Ventos, 7, 1, 1, cells}, Range{InputKind::Ventos, 7, 2, 1, levels}}) {
         const auto with = [&](std::int64_t value) {
             return errorWith(r.kind, r.line, r.field, std::to_string(value));
         };
@@ -289,33 +286,81 @@ TEST_F(GridFileFields, HaveTheirRanges) {
         for (const std::int64_t value : {r.least, r.most})
             EXPECT_EQ(with(value).find("must be between"), std::string::npos) << with(value);
     }
-    EXPECT_EQ(errorWith(GridKind::M3d, 7, 0, "100010099"),
+    EXPECT_EQ(errorWith(InputKind::M3d, 7, 0, "100010099"),
               "line 7 (extracted period and grid): first time must be between 100010100 and 2147483647");
-    EXPECT_EQ(errorWith(GridKind::M3d, 7, 0, "100010100"), "");
+    EXPECT_EQ(errorWith(InputKind::M3d, 7, 0, "100010100"), "");
 }
 
 TEST_F(GridFileFields, AreQuotedByTheirFirstTwentyCharacters) {
     const std::string field = "abcdefghijklmnopqrst";
-    EXPECT_EQ(errorWith(GridKind::M3d, 2, 0, field + "u"),
+    EXPECT_EQ(errorWith(InputKind::M3d, 2, 0, field + "u"),
               "line 2 (number of comment lines): number \"" + field + "\" is not a number");
-    EXPECT_EQ(errorWith(GridKind::M3d, 5, 0, field + "u"),
-              "line 5 (projection): projection \"" + field + "\" is not known");
-    EXPECT_EQ(errorWith(GridKind::M3d, 1, 1, field + "u"),
+    EXPECT_EQ(errorWith(InputKind::M3d, 5, 0, field + "u"),
+              "line 5 (projection): projection \"" + ucase(field) + "\" is not known");
+    EXPECT_EQ(errorWith(InputKind::M3d, 1, 1, field + "u"),
               "line 1 (file type): version " + field + " is not known");
 }
 
+TEST_F(GridFileHeader, OtherStylesAreRead) {
+    const auto first = [&](InputKind kind, const std::string& text) {
+        const InfoViewResult r = read(kind, text);
+        EXPECT_EQ(r.errorFlag, 0) << r.errorText;
+        return std::pair(r.PMAP, r.first.year * 100 + r.first.day);
+    };
+    const std::pair<std::string, int> lambert("LCC", 2005 * 100 + 7);
+    EXPECT_EQ(first(InputKind::M3d, replaced(m3dText(), "3D.DAT", " 3d.dat")), lambert);
+    EXPECT_EQ(first(InputKind::Ventos, replaced(ventosText(), "VENTOS.DAT", "Ventos.dat")), lambert);
+    EXPECT_EQ(first(InputKind::M3d, replaced(m3dText(), "\n1\n", "\n1-Comment\n")), lambert);
+    EXPECT_EQ(first(InputKind::Ventos, replaced(ventosText(), "\r\n2\r\n", "\r\n2 - Comments\r\n")), lambert);
+    EXPECT_EQ(first(InputKind::M3d, replaced(m3dText(), " -98 -97 40 41", "")), lambert);
+    EXPECT_EQ(first(InputKind::M3d, replaced(m3dText(), "LCC", "lcc")), lambert);
+    EXPECT_EQ(first(InputKind::M3d, replaced(m3dText(), "1 1 0 0 0 0", "1 1 0 0 2")), lambert)
+        << "no flag is used";
+    EXPECT_EQ(first(InputKind::M3d, replaced(m3dText(), " 40 40 30\n", " many many 30\n")), lambert);
+    EXPECT_EQ(first(InputKind::M3d, replaced(m3dText(), "0.98", "top")), lambert);
+    EXPECT_EQ(first(InputKind::Ventos, replaced(ventosText(), "LCC", "lcc")), lambert);
+    EXPECT_EQ(first(InputKind::Ventos, replaced(ventosText(), "\r\n0 20\r\n", "\r\n0\r\n\r\n 20\r\n")),
+              lambert);
+    EXPECT_EQ(first(InputKind::Ventos, replaced(ventosText(), "2005 3 7", "5 3 7")), lambert)
+        << "two digits of the year";
+}
+
+TEST_F(GridFileHeader, WhatTheProcessorCouldNotReadIsRefused) {
+    const auto ventos = [&](const char* old, const char* fresh) {
+        return read(InputKind::Ventos, replaced(ventosText(), old, fresh)).errorText;
+    };
+    EXPECT_EQ(ventos("UTC-0500", "EST"), "line 5 (period): time zone \"EST\" is no zone such as UTC-0500");
+    EXPECT_EQ(ventos("LCC", "XYZ"), "line 6 (projection): PMAP \"XYZ\" is not known");
+    EXPECT_EQ(ventos("LCC NWS-84 NONE 0", "UTM NWS-84 N 0"),
+              "line 6 (projection): IUTMZN must be between 1 and 60");
+    EXPECT_EQ(ventos("20 12", "20 0"), "line 7 (grid): cell size must be above 0");
+    EXPECT_EQ(ventos("2 2 1", "2.5 2 1"), "line 7 (grid): nx \"2.5\" is not a whole number");
+    EXPECT_EQ(ventos("-100.5 20 12", "-1,000.5 20 12"),
+              "line 7 (grid): corner or cell size \"-1,000.5\" is not a number");
+    EXPECT_EQ(ventos("0 20\r\n", "20 20\r\n"), "line 8 (cell face heights): height does not rise");
+    EXPECT_EQ(ventos("0 20\r\n", "0 20 40\r\n"),
+              "line 8 (cell face heights): height is one more than nz + 1");
+    EXPECT_EQ(ventos("0 20\r\n", "0\r\n"), "line 9 (cell face heights): the file ends here");
+    const auto m3d = [&](const char* old, const char* fresh) {
+        return read(InputKind::M3d, replaced(m3dText(), old, fresh)).errorText;
+    };
+    EXPECT_EQ(m3d("20 12 40", "20 -1 40"), "line 5 (projection): cell size must be above 0");
+    EXPECT_EQ(m3d("1 1 2 2 1 3", "1 1 2 2 1 4"),
+              "line 8 (range of the extract): range does not agree with nx, ny and nz of the line before");
+}
+
 TEST_F(GridFileHeader, OtherFilesAreRefused) {
-    EXPECT_EQ(read(GridKind::Ventos, m3dText()).errorText,
+    EXPECT_EQ(read(InputKind::Ventos, m3dText()).errorText,
               "line 1 (file type): the file does not begin with VENTOS.DAT");
-    EXPECT_EQ(read(GridKind::M3d, "3D.DATA 2.1\n").errorText,
+    EXPECT_EQ(read(InputKind::M3d, "3D.DATA 2.1\n").errorText,
               "line 1 (file type): the file does not begin with 3D.DAT");
-    EXPECT_EQ(read(GridKind::M3d, "").errorText, "line 1 (file type): the file does not begin with 3D.DAT");
-    EXPECT_EQ(read(GridKind::M3d, std::string(100'000, '\0')).errorFlag, 1);
+    EXPECT_EQ(read(InputKind::M3d, "").errorText, "line 1 (file type): the file does not begin with 3D.DAT");
+    EXPECT_EQ(read(InputKind::M3d, std::string(100'000, '\0')).errorFlag, 1);
     InfoViewResult r;
-    readGridFileHeader(directory_.path(), GridKind::M3d, r);
+    readGridFileHeader(directory_.path(), InputKind::M3d, r);
     EXPECT_EQ(r.errorText, "Path/File access error") << "a directory";
     r = {};
-    readGridFileHeader(directory_.file("no"), GridKind::M3d, r);
+    readGridFileHeader(directory_.file("no"), InputKind::M3d, r);
     EXPECT_EQ(r.errorText, "File not found");
 }
 

@@ -2,13 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "base/RunTimeError.h"
 #include "headers/AermetPeriod.h"
 #include "headers/MonitorHeader.h"
 #include "headers/TsfHeader.h"
 #include "headers/UpHeader.h"
-#include "tests/support/TempDirectory.h"
-#include "tests/support/TestHost.h"
 
 namespace zg {
 namespace {
@@ -17,21 +14,42 @@ std::string textOf(DateTime moment) { return formatDate(moment) + " " + longTime
 
 class PointReaders : public ::testing::Test {
  protected:
-    std::string file(const std::string& text) { return directory_.write("in.dat", text); }
+    static UpHeader up(const std::string& text) {
+        HeaderSource source(text, "in.dat");
+        return readUpHeader(source);
+    }
+    static MonitorHeader monitor(const std::string& text, const std::function<void()>& onProgress = {},
+                                 const std::function<void(const std::string&)>& onStation = {}) {
+        HeaderSource source(text, "in.csv");
+        return readMonitorHeader(source, onProgress, onStation);
+    }
+    static AermetPeriod aermet(const std::string& text, InputKind kind,
+                               const std::function<void()>& onProgress = {}) {
+        HeaderSource source(text, "in.met");
+        return readAermetPeriod(source, kind, onProgress);
+    }
+    static AermetPeriod sample(const char* name, InputKind kind) {
+        HeaderSource source(std::string(ZG_SOURCE_DIR "/data/samples/") + name);
+        return readAermetPeriod(source, kind);
+    }
+    static TsfHeader tsf(const std::string& text) {
+        HeaderSource source(text, "in.tsf");
+        return readTsfHeader(source);
+    }
     template <typename Read>
     int errorOf(Read read) {
         try {
             read();
-        } catch (const RunTimeError& error) {
+        } catch (const HeaderError& error) {
             where_ = error.where;
+            text_ = messageOf(error);
             return error.number;
         }
         return 0;
     }
 
-    TempDirectory directory_;
-    TestHost host_;
     std::string where_;
+    std::string text_;
 };
 
 const std::string up21Text =
@@ -39,7 +57,7 @@ const std::string up21Text =
     "  1990   8  0 1830  1990  15 23  3599  500.\r\n  F F F F\r\n   6201     4417   1990\r\n";
 
 TEST_F(PointReaders, Up21HasItsFieldsAndZone) {
-    const UpHeader header = readUpHeader(host_, file(up21Text));
+    const UpHeader header = up(up21Text);
     EXPECT_TRUE(header.isUp);
     EXPECT_EQ(header.version, "2.1");
     EXPECT_EQ(header.timeZone, "UTC+0000");
@@ -53,8 +71,7 @@ TEST_F(PointReaders, Up21HasItsFieldsAndZone) {
 }
 
 TEST_F(PointReaders, Up20BeginsAnHourEarlier) {
-    const UpHeader header =
-        readUpHeader(host_, file("up.dat 2.0\n0\nNONE\n1990 8 1 1990 15 23\nskipped\n x 77 y\n"));
+    const UpHeader header = up("up.dat 2.0\n0\nNONE\n1990 8 1 1990 15 23\nskipped\n x 77 y\n");
     EXPECT_TRUE(header.isUp) << "letter case does not count";
     EXPECT_EQ(header.timeZone, "UTC+0000");
     EXPECT_EQ(textOf(header.begin), "Jan 8, 1990 12:00:00 AM");
@@ -62,19 +79,17 @@ TEST_F(PointReaders, Up20BeginsAnHourEarlier) {
 }
 
 TEST_F(PointReaders, UpOfAnotherKindOrVersion) {
-    EXPECT_FALSE(readUpHeader(host_, file("SURF.DAT 2.1\n")).isUp);
-    EXPECT_FALSE(readUpHeader(host_, file("\n")).isUp);
-    EXPECT_EQ(readUpHeader(host_, file("UP.DAT 2.2\n")).version, "");
-    EXPECT_EQ(errorOf([&] { readUpHeader(host_, file("UP.DAT\n")); }), 9);
-    EXPECT_EQ(
-        readUpHeader(host_, file("UP.DAT 2.0\n-1\nNONE\n1990 8 1 1990 15 23\nskipped\n x 77 y\n")).station,
-        "77")
+    EXPECT_FALSE(up("SURF.DAT 2.1\n").isUp);
+    EXPECT_FALSE(up("\n").isUp);
+    EXPECT_EQ(up("UP.DAT 2.2\n").version, "");
+    EXPECT_EQ(errorOf([&] { up("UP.DAT\n"); }), 9);
+    EXPECT_EQ(up("UP.DAT 2.0\n-1\nNONE\n1990 8 1 1990 15 23\nskipped\n x 77 y\n").station, "77")
         << "one line follows the comments, even of a negative count";
 }
 
 TEST_F(PointReaders, UpCutAnywhereIsTheEndOfTheFile) {
     for (std::size_t at = up21Text.find("\r\n") + 2; at < up21Text.size(); at = up21Text.find("\r\n", at) + 2)
-        EXPECT_EQ(errorOf([&] { readUpHeader(host_, file(up21Text.substr(0, at))); }), 62) << at;
+        EXPECT_EQ(errorOf([&] { up(up21Text.substr(0, at)); }), 62) << at;
 }
 
 TEST_F(PointReaders, SecondsOfAWholeHourAreNoTimeInUp) {
@@ -82,12 +97,12 @@ TEST_F(PointReaders, SecondsOfAWholeHourAreNoTimeInUp) {
         std::string text = up21Text;
         return text.replace(text.find(from), std::string(from).size(), to);
     };
-    EXPECT_EQ(textOf(readUpHeader(host_, file(with("15 23  3599", "15 24  3599"))).end),
-              "Jan 16, 1990 12:59:59 AM");
-    EXPECT_EQ(errorOf([&] { readUpHeader(host_, file(with("15 23  3599", "15 23 3600"))); }), 13);
-    EXPECT_EQ(errorOf([&] { readUpHeader(host_, file(with("15 23  3599", "15 24 7200"))); }), 13);
-    EXPECT_EQ(errorOf([&] { readUpHeader(host_, file(with("0 1830", "0 3600"))); }), 13);
-    EXPECT_EQ(errorOf([&] { readUpHeader(host_, file(with("0 1830", "0   -1"))); }), 13);
+    EXPECT_EQ(textOf(up(with("15 23  3599", "15 24  3599")).end), "Jan 16, 1990 12:59:59 AM");
+    EXPECT_EQ(errorOf([&] { up(with("15 23  3599", "15 23 3600")); }), 13);
+    EXPECT_EQ(text_, "line 6 (period): end does not exist");
+    EXPECT_EQ(errorOf([&] { up(with("15 23  3599", "15 24 7200")); }), 13);
+    EXPECT_EQ(errorOf([&] { up(with("0 1830", "0 3600")); }), 13);
+    EXPECT_EQ(errorOf([&] { up(with("0 1830", "0   -1")); }), 13);
 }
 
 const std::string csv =
@@ -95,7 +110,7 @@ const std::string csv =
     "B2,3/15/2005 2:00:00,B2,60\r\nA1,3/16/2005 13:30,\"A1\",60\r\n\r\n";
 
 TEST_F(PointReaders, MonitorListsItsStationsInTurnsAndReadsToItsLastRecord) {
-    const MonitorHeader header = readMonitorHeader(file(csv));
+    const MonitorHeader header = monitor(csv);
     EXPECT_TRUE(header.isMonitor);
     EXPECT_EQ(header.averagingMinutes, 60);
     EXPECT_EQ(header.stations, (std::vector<std::string>{"A1", "B2", "A1"}));
@@ -104,22 +119,22 @@ TEST_F(PointReaders, MonitorListsItsStationsInTurnsAndReadsToItsLastRecord) {
 }
 
 TEST_F(PointReaders, MonitorWithOneRecordHasOneLineForBothEnds) {
-    const MonitorHeader header = readMonitorHeader(file("DATETIME,STNCODE,DATAAVID\n1/2/99 6:00:00 PM,7,15"));
+    const MonitorHeader header = monitor("DATETIME,STNCODE,DATAAVID\n1/2/99 6:00:00 PM,7,15");
     EXPECT_EQ(textOf(header.begin), "Jan 2, 1999 5:45:00 AM") << "PM is lost";
     EXPECT_EQ(textOf(header.end), "Jan 2, 1999 6:00:00 AM");
     EXPECT_EQ(header.stations, std::vector<std::string>{"7"});
 }
 
 TEST_F(PointReaders, MonitorStationsComeFromTheThirdFieldAfterTheFirstRecord) {
-    const MonitorHeader header = readMonitorHeader(
-        file("STNCODE,DATETIME,VALUE,DATAAVID\nS,1/1/2005 1:00:00,5.5,60\nS,1/1/2005 2:00:00,6.5,60\n"));
+    const MonitorHeader header =
+        monitor("STNCODE,DATETIME,VALUE,DATAAVID\nS,1/1/2005 1:00:00,5.5,60\nS,1/1/2005 2:00:00,6.5,60\n");
     EXPECT_EQ(header.stations, (std::vector<std::string>{"S", "6.5"})) << "as such files are read";
 }
 
 TEST_F(PointReaders, BlanksAtTheEndsOfAMonitorLineAreNoPartOfItsFields) {
-    const MonitorHeader header = readMonitorHeader(
-        file("DATETIME,DATAAVID,STNCODE\n 1/1/2005 1:00:00,60,A  \n 1/1/2005 2:00:00,60,A  \n"
-             "  1/1/2005 3:00:00,60, B \n1/1/2005 4:00:00,60,\"B\"  \n   \n"));
+    const MonitorHeader header = monitor(
+        "DATETIME,DATAAVID,STNCODE\n 1/1/2005 1:00:00,60,A  \n 1/1/2005 2:00:00,60,A  \n"
+        "  1/1/2005 3:00:00,60, B \n1/1/2005 4:00:00,60,\"B\"  \n   \n");
     EXPECT_EQ(header.stations, (std::vector<std::string>{"A", " B", "B"})) << "those within the line are";
     EXPECT_EQ(textOf(header.end), "Jan 1, 2005 4:00:00 AM");
 }
@@ -127,27 +142,39 @@ TEST_F(PointReaders, BlanksAtTheEndsOfAMonitorLineAreNoPartOfItsFields) {
 TEST_F(PointReaders, MonitorTellsItsStationsBeforeAFault) {
     std::vector<std::string> told;
     EXPECT_EQ(errorOf([&] {
-                  readMonitorHeader(file("DATETIME,DATAAVID,STNCODE\n1/1/2005 1:00:00,60,A\n"
-                                         "1/1/2005 2:00:00,60,B\nx\n"),
-                                    {}, [&](const std::string& station) { told.push_back(station); });
+                  monitor(
+                      "DATETIME,DATAAVID,STNCODE\n1/1/2005 1:00:00,60,A\n"
+                      "1/1/2005 2:00:00,60,B\nx\n",
+                      {}, [&](const std::string& station) { told.push_back(station); });
               }),
               9);
     EXPECT_EQ(where_, "4");
+    EXPECT_EQ(text_, "line 4 (record): station (third field) is missing");
     EXPECT_EQ(told, (std::vector<std::string>{"A", "B"}));
 }
 
+TEST_F(PointReaders, MonitorNamesMayFollowAByteOrderMark) {
+    const MonitorHeader header =
+        monitor("\xEF\xBB\xBF\"DATETIME\",STNCODE,DATAAVID\n1/2/1999 6:00:00,7,15\n");
+    EXPECT_TRUE(header.isMonitor);
+    EXPECT_EQ(textOf(header.end), "Jan 2, 1999 6:00:00 AM");
+}
+
 TEST_F(PointReaders, MonitorFaults) {
-    EXPECT_FALSE(readMonitorHeader(file("DATETIME,CODE,DATAAVID\n")).isMonitor);
-    EXPECT_FALSE(readMonitorHeader(file("datetime,STNCODE,DATAAVID\n")).isMonitor) << "its case counts";
-    EXPECT_EQ(errorOf([&] { readMonitorHeader(file("DATETIME,STNCODE\n1/1/2005 1:00:00,S\n")); }), 9)
+    EXPECT_FALSE(monitor("DATETIME,CODE,DATAAVID\n").isMonitor);
+    EXPECT_FALSE(monitor("datetime,STNCODE,DATAAVID\n").isMonitor) << "its case counts";
+    EXPECT_EQ(errorOf([&] { monitor("DATETIME,STNCODE\n1/1/2005 1:00:00,S\n"); }), 9)
         << "the averaging time is missing";
-    EXPECT_EQ(errorOf([&] { readMonitorHeader(file("DATETIME,STNCODE,DATAAVID\n")); }), 62);
-    EXPECT_EQ(
-        errorOf([&] { readMonitorHeader(file("DATETIME,STNCODE,DATAAVID\n1/1/2005 1:00:00,S,60\nx,y\n")); }),
-        9);
+    EXPECT_EQ(errorOf([&] { monitor("DATETIME,STNCODE,DATAAVID\n"); }), 62);
+    EXPECT_EQ(errorOf([&] { monitor("DATETIME,STNCODE,DATAAVID\n1/1/2005 1:00:00,S,60\nx,y\n"); }), 9);
     EXPECT_EQ(where_, "3");
+    EXPECT_EQ(text_, "line 3 (record): station (third field) is missing");
+    EXPECT_EQ(errorOf([&] { monitor("DATETIME,STNCODE,DATAAVID\n13/1/2005 1:00:00,S,60\n"); }), 13);
+    EXPECT_EQ(text_, "line 2 (record): DATETIME \"13/1/2005 1:00:00\" is not a date and a time");
     EXPECT_EQ(
-        errorOf([&] { readMonitorHeader(file("DATETIME,STNCODE,DATAAVID\n13/1/2005 1:00:00,S,60\n")); }), 13);
+        errorOf([&] { monitor("DATETIME,STNCODE,DATAAVID\n1/1/2005 1:00:00,S,60\n1/1/2005 25:00,S,60\n"); }),
+        13);
+    EXPECT_EQ(text_, "line 3 (record): DATETIME \"1/1/2005 25:00\" is not a date and a time");
 }
 
 TEST_F(PointReaders, LineEndsOfEveryKindAndHighBytes) {
@@ -157,24 +184,21 @@ TEST_F(PointReaders, LineEndsOfEveryKindAndHighBytes) {
         std::string text;
         for (const char character : records)
             text += character == '|' ? std::string(end) : std::string(1, character);
-        const MonitorHeader header = readMonitorHeader(file(text));
+        const MonitorHeader header = monitor(text);
         EXPECT_EQ(header.stations, (std::vector<std::string>{"\xE9t\xE9", "\xFF"}));
     }
 }
 
 TEST_F(PointReaders, TheRealSurfaceYearHasItsPeriod) {
-    const AermetPeriod period =
-        readAermetPeriod(ZG_SOURCE_DIR "/data/samples/LOVETT.SFC", AermetKind::Surface);
+    const AermetPeriod period = sample("LOVETT.SFC", InputKind::AermSfc);
     EXPECT_EQ(period.station, "14735");
     EXPECT_EQ(textOf(period.begin), "Jan 1, 1988 12:00:00 AM");
     EXPECT_EQ(textOf(period.end), "Jan 1, 1989 12:00:00 AM");
 }
 
 TEST_F(PointReaders, TheRealFilesOfFourDaysHaveTheirPeriod) {
-    const AermetPeriod surface =
-        readAermetPeriod(ZG_SOURCE_DIR "/data/samples/AERMET2.SFC", AermetKind::Surface);
-    const AermetPeriod profile =
-        readAermetPeriod(ZG_SOURCE_DIR "/data/samples/AERMET2.PFL", AermetKind::Profile);
+    const AermetPeriod surface = sample("AERMET2.SFC", InputKind::AermSfc);
+    const AermetPeriod profile = sample("AERMET2.PFL", InputKind::AermPfl);
     EXPECT_EQ(surface.station, "14735");
     for (const AermetPeriod& period : {surface, profile}) {
         EXPECT_EQ(textOf(period.begin), "Mar 1, 1988 12:00:00 AM");
@@ -183,18 +207,22 @@ TEST_F(PointReaders, TheRealFilesOfFourDaysHaveTheirPeriod) {
 }
 
 TEST_F(PointReaders, AProfileHasNoHeaderAndItsHourInTheFourthField) {
-    const AermetPeriod period = readAermetPeriod(
-        file("88  3  1  1    10.0 0   317.5     0.80\n88  3  4 24   100.0 1   317.0     3.80\n\n  \n"),
-        AermetKind::Profile);
+    const AermetPeriod period =
+        aermet("88  3  1  1    10.0 0   317.5     0.80\n88  3  4 24   100.0 1   317.0     3.80\n\n  \n",
+               InputKind::AermPfl);
     EXPECT_EQ(period.station, "");
     EXPECT_EQ(textOf(period.begin), "Mar 1, 1988 12:00:00 AM");
     EXPECT_EQ(textOf(period.end), "Mar 5, 1988 12:00:00 AM");
 }
 
 TEST_F(PointReaders, AWrongAermetFileIsAnError) {
-    EXPECT_EQ(errorOf([&] { readAermetPeriod(file(csv), AermetKind::Surface); }), 9);
-    EXPECT_EQ(errorOf([&] { readAermetPeriod(file(""), AermetKind::Profile); }), 62);
-    EXPECT_EQ(errorOf([&] { readAermetPeriod(file("x y z 1\n"), AermetKind::Profile); }), 13);
+    EXPECT_EQ(errorOf([&] { aermet(csv, InputKind::AermSfc); }), 9);
+    EXPECT_EQ(errorOf([&] { aermet("", InputKind::AermPfl); }), 62);
+    EXPECT_EQ(errorOf([&] { aermet("x y z 1\n", InputKind::AermPfl); }), 13);
+    EXPECT_EQ(text_, "line 1 (first hour): date does not exist");
+    const std::string hours = "88 3 1 1 x\n88 3 4 25 x\n\n";
+    EXPECT_EQ(errorOf([&] { aermet(hours, InputKind::AermPfl); }), 13);
+    EXPECT_EQ(text_, "line 2 (last hour): hour \"25\" is not an hour");
 }
 
 /// Lines of 50 characters each that begin with these texts.
@@ -209,8 +237,7 @@ TEST_F(PointReaders, LongFilesTellTheirProgressEveryFourMillionBytes) {
     const std::string first = "88 3 1 1 x\n";
     for (const auto& [lines, expected] : {std::pair{79'999, 0}, std::pair{160'000, 2}}) {
         int calls = 0;
-        readAermetPeriod(file(first + fiftyCharacters("88 3 1 2 ", lines)), AermetKind::Profile,
-                         [&] { ++calls; });
+        aermet(first + fiftyCharacters("88 3 1 2 ", lines), InputKind::AermPfl, [&] { ++calls; });
         EXPECT_EQ(calls, expected);
     }
 }
@@ -219,8 +246,8 @@ TEST_F(PointReaders, LongMonitorFilesTellTheirProgressEveryFourMillionBytes) {
     const std::string first = "DATETIME,STNCODE,DATAAVID\n1/1/2005 1:00:00,S,60\n";
     for (const auto& [lines, expected] : {std::pair{79'999, 0}, std::pair{160'000, 2}}) {
         int calls = 0;
-        const MonitorHeader header = readMonitorHeader(
-            file(first + fiftyCharacters("1/1/2005 2:00:00,S,S,", lines)), [&] { ++calls; });
+        const MonitorHeader header =
+            monitor(first + fiftyCharacters("1/1/2005 2:00:00,S,S,", lines), [&] { ++calls; });
         EXPECT_EQ(header.stations, std::vector<std::string>{"S"});
         EXPECT_EQ(calls, expected);
     }
@@ -232,7 +259,7 @@ const std::string tsfText =
     "2005 3 7 6 1815 2005 12 31 23 0 3600\r\n2 - variables\r\nWDIR deg\r\nWSPEED m/s\r\n";
 
 TEST_F(PointReaders, ATimeSeriesHasItsPeriodAsWritten) {
-    const TsfHeader header = readTsfHeader(file(tsfText));
+    const TsfHeader header = tsf(tsfText);
     EXPECT_EQ(header.outcome, TsfOutcome::Read);
     EXPECT_EQ(header.station, "14735");
     EXPECT_EQ(header.timeZone, "UTC-0500");
@@ -246,20 +273,19 @@ std::string changed(std::string text, const std::string& from, const std::string
 }
 
 TEST_F(PointReaders, TimeSeriesThatAreRefused) {
-    EXPECT_EQ(readTsfHeader(file("x\n")).outcome, TsfOutcome::NotTsf);
-    EXPECT_EQ(readTsfHeader(file(changed(tsfText, "1.3", "1.2"))).outcome, TsfOutcome::Refused);
-    EXPECT_EQ(readTsfHeader(file(changed(tsfText, "GREGORIAN_YMD", "JULIAN"))).outcome, TsfOutcome::Refused);
-    EXPECT_EQ(readTsfHeader(file(changed(tsfText, "WSPEED", "SPEED"))).outcome,
-              TsfOutcome::NotMeteorological);
-    EXPECT_EQ(errorOf([&] { readTsfHeader(file(changed(tsfText, "UTC-0500", "GMT"))); }), 62);
-    EXPECT_EQ(errorOf([&] { readTsfHeader(file(changed(tsfText, "2 - variables", "100000 - v"))); }), 6);
-    EXPECT_EQ(errorOf([&] { readTsfHeader(file(changed(tsfText, "6 1815", "24 0"))); }), 13)
-        << "hour 24 is no time here";
+    EXPECT_EQ(tsf("x\n").outcome, TsfOutcome::NotTsf);
+    EXPECT_EQ(tsf(changed(tsfText, "1.3", "1.2")).outcome, TsfOutcome::Refused);
+    EXPECT_EQ(tsf(changed(tsfText, "GREGORIAN_YMD", "JULIAN")).outcome, TsfOutcome::Refused);
+    EXPECT_EQ(tsf(changed(tsfText, "WSPEED", "SPEED")).outcome, TsfOutcome::NotMeteorological);
+    EXPECT_EQ(errorOf([&] { tsf(changed(tsfText, "UTC-0500", "GMT")); }), 62);
+    EXPECT_EQ(errorOf([&] { tsf(changed(tsfText, "2 - variables", "100000 - v")); }), 6);
+    EXPECT_EQ(errorOf([&] { tsf(changed(tsfText, "6 1815", "24 0")); }), 13) << "hour 24 is no time here";
+    EXPECT_EQ(text_, "line 11 (period): begin does not exist");
 }
 
 TEST_F(PointReaders, ATimeSeriesMayLackItsStation) {
-    EXPECT_EQ(readTsfHeader(file(changed(tsfText, "Location: STATION ID = 14735 ", ""))).station, "");
-    EXPECT_EQ(readTsfHeader(file(changed(tsfText, "STATION ID", "STATION"))).station, "");
+    EXPECT_EQ(tsf(changed(tsfText, "Location: STATION ID = 14735 ", "")).station, "");
+    EXPECT_EQ(tsf(changed(tsfText, "STATION ID", "STATION")).station, "");
 }
 
 }  // namespace

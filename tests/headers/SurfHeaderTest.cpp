@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "base/RunTimeError.h"
 #include "tests/support/Raises.h"
 #include "tests/support/TempDirectory.h"
-#include "tests/support/TestHost.h"
 
 namespace zg {
 namespace {
@@ -19,22 +17,26 @@ class SurfHeaderTest : public ::testing::Test {
  protected:
     SurfHeader read(const std::string& text) {
         SurfHeader header;
-        readSurfHeader(host_, directory_.write("s.dat", text), header);
+        HeaderSource source(text, "s.dat");
+        readSurfHeader(source, header);
         return header;
     }
     int errorOf(const std::string& text) {
         try {
             read(text);
-        } catch (const RunTimeError& error) {
+        } catch (const HeaderError& error) {
             where_ = error.where;
+            text_ = messageOf(error);
+            notice_ = error.notice;
             return error.number;
         }
         return 0;
     }
 
     TempDirectory directory_;
-    TestHost host_;
     std::string where_;
+    std::string text_;
+    std::string notice_;
 };
 
 TEST_F(SurfHeaderTest, Version21HasSecondsAndItsZone) {
@@ -83,6 +85,9 @@ TEST_F(SurfHeaderTest, AHeaderCutAtAnyLineIsTheEndOfTheFile) {
     for (const std::string& line : lines) {
         text += line;
         EXPECT_EQ(errorOf(text), &line == &lines.back() ? 0 : 62) << text;
+        if (&line != &lines.back()) {
+            EXPECT_TRUE(text_.ends_with(": the file ends here")) << text_;
+        }
     }
     EXPECT_EQ(errorOf(""), 62);
 }
@@ -93,20 +98,25 @@ TEST_F(SurfHeaderTest, FaultyFieldsAreErrorsWithTheirLine) {
     };
     EXPECT_EQ(errorOf(withPeriod("1990 x 0 0 1990 15 23 0 1")), 13);
     EXPECT_EQ(where_, "5");
+    EXPECT_EQ(text_, "line 5 (period): day of the year \"x\" is not a number");
     EXPECT_EQ(errorOf(withPeriod("1990 8 0 0 1990 15 23 0")), 9) << "a field is missing";
+    EXPECT_EQ(text_, "line 5 (period): number of stations is missing");
     EXPECT_EQ(errorOf(withPeriod("1990 8 0 0 1990 15 23 0 100000")), 6);
+    EXPECT_EQ(text_, "line 5 (period): number of stations \"100000\" is out of range");
     EXPECT_EQ(errorOf(withPeriod("1990 8 25 0 1990 15 23 0 1")), 13);
+    EXPECT_EQ(text_, "line 5 (period): begin does not exist");
+    EXPECT_EQ(notice_, "");
     EXPECT_EQ(errorOf(head21 + "x\r\n"), 13);
     EXPECT_EQ(where_, "2");
 }
 
-TEST_F(SurfHeaderTest, ADayOutOfItsYearShowsItsMessageFirst) {
+TEST_F(SurfHeaderTest, ADayOutOfItsYearHasItsNotice) {
     for (const char* day : {"0", "366", "400"}) {
-        host_.boxAnswers = {BoxAnswer::Ok};
         EXPECT_EQ(
             errorOf(head21 + "0\r\nNONE\r\nUTC-0500\r\n1990 " + day + " 0 0 1990 15 23 0 1\r\n14606\r\n"),
             13);
-        EXPECT_EQ(host_.boxes.back().text, "Error in VBGRDAY: invalid date.");
+        EXPECT_EQ(notice_, "Error in VBGRDAY: invalid date.");
+        EXPECT_EQ(text_, "line 5 (period): begin does not exist");
     }
 }
 
@@ -122,8 +132,14 @@ TEST_F(SurfHeaderTest, ANegativeNumberOfCommentsIsNone) {
 }
 
 TEST_F(SurfHeaderTest, AMissingFileIsAnError) {
-    SurfHeader header;
-    EXPECT_RAISES(53, "File not found", (readSurfHeader(host_, directory_.file("no.dat"), header), 0));
+    try {
+        HeaderSource source(directory_.file("no.dat"));
+        FAIL();
+    } catch (const HeaderError& error) {
+        EXPECT_EQ(error.number, 53);
+        EXPECT_EQ(error.place.file, "no.dat");
+        EXPECT_EQ(messageOf(error), "File not found");
+    }
 }
 
 TEST_F(SurfHeaderTest, OneLineFollowsTheCommentsEvenOfANegativeCount) {
@@ -139,7 +155,8 @@ TEST_F(SurfHeaderTest, WhatWasReadBeforeAnErrorStays) {
     const std::string upToPeriod = head21 + "0\r\nNONE\r\nUTC-0500\r\n";
     SurfHeader header;
     const auto readInto = [&](const std::string& text) {
-        readSurfHeader(host_, directory_.write("s.dat", text), header);
+        HeaderSource source(text, "s.dat");
+        readSurfHeader(source, header);
         return 0;
     };
     EXPECT_RAISES(62, "Input past end of file",

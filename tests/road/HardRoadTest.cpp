@@ -19,7 +19,7 @@ class HardRoad : public WholeRoad {
     void openWith(const std::string& name) {
         const std::string data = directory_.file(name);
         std::filesystem::copy(samples + "LOVETT.SFC", data);
-        open<frmOpenAERMETFile>(AermetKind::Surface);
+        open<frmOpenAERMETFile>(InputKind::AermSfc);
         browse(data);
         fill("txtAnemometerHeight", "50");
         fill("txtStationID", "");
@@ -173,7 +173,7 @@ TEST_F(ReadOnlyRoad, ChangesHoldUntilTheProgramEnds) {
     click("cmdView");
     ASSERT_EQ(status(), "Finished") << listing();
     form_.reset();
-    open<frmOpenAERMETFile>(AermetKind::Surface);
+    open<frmOpenAERMETFile>(InputKind::AermSfc);
     EXPECT_EQ(child<QComboBox>("cboTimeZone")->currentIndex(), 0);
 }
 

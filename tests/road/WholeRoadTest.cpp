@@ -23,7 +23,7 @@ void expectSameRoses(const ModPolarGraph& a, const ModPolarGraph& b) {
 }
 
 TEST_F(WholeRoad, AermetSurfaceGivesTheRosesThatAnotherProgramComputed) {
-    open<frmOpenAERMETFile>(AermetKind::Surface);
+    open<frmOpenAERMETFile>(InputKind::AermSfc);
     browse("LOVETT.SFC");
     fill("txtAnemometerHeight", "50");
     if (child<QLineEdit>("txtStationID")->text().isEmpty()) fill("txtStationID", "14735");
@@ -36,7 +36,7 @@ TEST_F(WholeRoad, AermetSurfaceGivesTheRosesThatAnotherProgramComputed) {
 }
 
 TEST_F(WholeRoad, AermetProfile) {
-    open<frmOpenAERMETFile>(AermetKind::Profile);
+    open<frmOpenAERMETFile>(InputKind::AermPfl);
     browse("AERMET2.PFL");
     fill("txtStationID", "14735");
     fill("txtFRQOutputFilename", "profile");
@@ -46,7 +46,7 @@ TEST_F(WholeRoad, AermetProfile) {
 }
 
 TEST_F(WholeRoad, AProfileWithoutSuchALevelIsFinishedWithAWarning) {
-    open<frmOpenAERMETFile>(AermetKind::Profile);
+    open<frmOpenAERMETFile>(InputKind::AermPfl);
     browse("AERMET2.PFL");
     fill("txtStationID", "14735");
     fill("txtFRQOutputFilename", "profile");

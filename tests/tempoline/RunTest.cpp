@@ -191,7 +191,8 @@ TEST(Run, TheDialogReadsTheHeaderOfTheSeries) {
     changes.emplace_back("NSECDT", "7200");
     inside.directory.write("c.inp", control("aermsfc.inp", changes));
     ASSERT_EQ(run("c.inp"), ExitStatus::Completed);
-    const TsfHeader header = readTsfHeader("out.tsf");
+    HeaderSource source("out.tsf");
+    const TsfHeader header = readTsfHeader(source);
     EXPECT_EQ(header.outcome, TsfOutcome::Read);
     EXPECT_EQ(header.station, "00072");
     EXPECT_EQ(header.timeZone, "UTC-0500");

@@ -155,7 +155,7 @@ TEST_F(VentosWizard, AFileOfAnotherFormIsTold) {
 
 TEST_F(VentosWizard, TheFirstFileGivesTheBeginAndTheLastTheEndAndTheProjection) {
     std::vector<std::string> asked;
-    modInfoViewDLL.infoview = [&asked](const std::string& path, GridKind, InfoViewResult& r) {
+    modInfoViewDLL.infoview = [&asked](const std::string& path, InputKind, InfoViewResult& r) {
         asked.push_back(FileNameOf(path));
         const int n = path.back() - '0';
         r.first = {2000 + n, 1, 1, 0, 0};
@@ -178,7 +178,7 @@ TEST_F(VentosWizard, TheFirstFileGivesTheBeginAndTheLastTheEndAndTheProjection) 
 }
 
 TEST_F(VentosWizard, AnUnknownZoneLeavesTheComboAndALibraryThatFailsLeavesThePeriod) {
-    modInfoViewDLL.infoview = [](const std::string&, GridKind, InfoViewResult& r) {
+    modInfoViewDLL.infoview = [](const std::string&, InputKind, InfoViewResult& r) {
         r.first = {2000, 1, 1, 0, 0};
         r.last = {2000, 12, 31, 0, 0};
         r.timeZone = "MST";
@@ -187,7 +187,7 @@ TEST_F(VentosWizard, AnUnknownZoneLeavesTheComboAndALibraryThatFailsLeavesThePer
     view_.zoneRow = 7;
     wizard_->cmdNext1_Click();
     EXPECT_EQ(view_.zoneRow, 7);
-    modInfoViewDLL.infoview = [](const std::string&, GridKind, InfoViewResult&) {
+    modInfoViewDLL.infoview = [](const std::string&, InputKind, InfoViewResult&) {
         throw RunTimeError(53, "File not found");
     };
     view_.beginShown = makeDate(1990, 1, 1);
@@ -748,7 +748,7 @@ TEST_F(M3dWizard, DataOfAnUnknownZoneGoOnInTheOneOnShow) {
     const DateTime begin = view_.beginShown;
     const DateTime end = view_.endShown;
     wizard_->cmdPrevious2_Click();
-    modInfoViewDLL.infoview = [](const std::string& path, GridKind kind, InfoViewResult& r) {
+    modInfoViewDLL.infoview = [](const std::string& path, InputKind kind, InfoViewResult& r) {
         readGridFileHeader(path, kind, r);
         r.timeZone = "MST";
     };

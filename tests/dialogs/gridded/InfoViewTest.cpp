@@ -25,11 +25,11 @@ class InfoView : public ::testing::Test {
         return r;
     }
     void answer(const InfoViewResult& result) {
-        modInfoViewDLL.infoview = [result](const std::string&, GridKind, InfoViewResult& r) { r = result; };
+        modInfoViewDLL.infoview = [result](const std::string&, InputKind, InfoViewResult& r) { r = result; };
     }
 
     /// As the wizard does.
-    static void readHeader(const std::string& path, GridKind kind) {
+    static void readHeader(const std::string& path, InputKind kind) {
         ReadGridHeader(path, kind);
         projection = nativeProjection();
     }
@@ -40,7 +40,7 @@ class InfoView : public ::testing::Test {
 
 TEST_F(InfoView, TimesAreTheHourAndTheSecondsWithinIt) {
     answer(someResult());
-    readHeader("x", GridKind::Ventos);
+    readHeader("x", InputKind::Ventos);
     EXPECT_EQ(modInfoViewDLL.HeaderStartTime, addSeconds(makeDate(2001, 2, 28), 23 * 3600 + 3599));
     EXPECT_EQ(modInfoViewDLL.HeaderEndTime, addSeconds(makeDate(2002, 1, 1), 61));
 }
@@ -59,7 +59,7 @@ TEST_F(InfoView, TheRecordHoldsTheNativeProjection) {
     r.XLAT1 = 0;
     r.XLAT2 = 33.3F;
     answer(r);
-    readHeader("x", GridKind::Ventos);
+    readHeader("x", InputKind::Ventos);
     EXPECT_EQ(modInfoViewDLL.HeaderTimeZone, "utc-0500");
     EXPECT_EQ(projection.PMAP, "LCC");
     EXPECT_EQ(projection.DATUM, "NAS-C");
@@ -73,7 +73,7 @@ TEST_F(InfoView, TheRecordHoldsTheNativeProjection) {
     EXPECT_EQ(projection.XLAT2, "33.3N");
     r.RLON0 = -97.25F;
     answer(r);
-    readHeader("x", GridKind::Ventos);
+    readHeader("x", InputKind::Ventos);
     EXPECT_EQ(projection.RLON0, "97.25W");
 }
 
@@ -81,21 +81,21 @@ TEST_F(InfoView, AnImpossibleTimeRaisesAndAFlaggedFileHasNone) {
     InfoViewResult r = someResult();
     r.last.month = 13;
     answer(r);
-    EXPECT_RAISES(13, "Type mismatch", readHeader("x", GridKind::Ventos));
+    EXPECT_RAISES(13, "Type mismatch", readHeader("x", InputKind::Ventos));
     r.errorFlag = 3;
     answer(r);
-    readHeader("x", GridKind::Ventos);
+    readHeader("x", InputKind::Ventos);
     EXPECT_EQ(modInfoViewDLL.HeaderStartTime, DateTime());
     EXPECT_EQ(modInfoViewDLL.result.errorFlag, 3);
 }
 
 TEST_F(InfoView, ACallThatFailsLeavesTheHeaderEmptyAndIsNotTold) {
     modInfoViewDLL.HeaderStartTime = makeDate(2000, 1, 1);
-    modInfoViewDLL.infoview = [](const std::string&, GridKind, InfoViewResult& r) {
+    modInfoViewDLL.infoview = [](const std::string&, InputKind, InfoViewResult& r) {
         r.PMAP = "LCC";
         throw RunTimeError(53, "File not found");
     };
-    readHeader("x", GridKind::Ventos);
+    readHeader("x", InputKind::Ventos);
     EXPECT_EQ(modInfoViewDLL.HeaderStartTime, DateTime());
     EXPECT_EQ(modInfoViewDLL.HeaderTimeZone, "");
     EXPECT_EQ(modInfoViewDLL.result.errorFlag, 0);
@@ -105,7 +105,7 @@ TEST_F(InfoView, ACallThatFailsLeavesTheHeaderEmptyAndIsNotTold) {
 
 TEST_F(InfoView, TheNotesOfALibraryAreRemoved) {
     directory_.write("infoview.txt", "notes");
-    readHeader(directory_.write("wind.dat", ventosText()), GridKind::Ventos);
+    readHeader(directory_.write("wind.dat", ventosText()), InputKind::Ventos);
     EXPECT_FALSE(fileExists(directory_.file("infoview.txt")));
     EXPECT_TRUE(fileExists(directory_.file("wind.dat")));
 }
@@ -118,7 +118,7 @@ class ClosedLibraries : public InfoView {
 TEST_F(ClosedLibraries, AHeaderLibraryBesideTheProgramAnswers) {
     lay("infoview_dll.so");
     useLibrariesBeside(directory_.path());
-    readHeader(" " + directory_.file("any.dat") + "  ", GridKind::M3d);
+    readHeader(" " + directory_.file("any.dat") + "  ", InputKind::M3d);
     const InfoViewResult& r = modInfoViewDLL.result;
     EXPECT_EQ(r.IUTMZN, 32) << "the kind's code and two ones";
     EXPECT_EQ(modInfoViewDLL.HeaderStartTime, addSeconds(makeDate(2001, 2, 28), 23 * 3600 + 3599));
@@ -133,7 +133,7 @@ TEST_F(ClosedLibraries, AHeaderLibraryBesideTheProgramAnswers) {
     EXPECT_EQ(projection.XLAT2, "0.5S");
     EXPECT_EQ(projection.FEAST, "100.5");
     EXPECT_EQ(projection.FNORTH, "-20");
-    readHeader(directory_.file("bad.dat"), GridKind::Ventos);
+    readHeader(directory_.file("bad.dat"), InputKind::Ventos);
     EXPECT_EQ(r.errorFlag, 7);
     EXPECT_EQ(r.errorText, "not mine: 1");
 }
@@ -152,12 +152,12 @@ TEST_F(ClosedLibraries, ATableLibraryBesideTheProgramAnswers) {
 TEST_F(ClosedLibraries, WhatIsNoLibraryCannotAnswer) {
     directory_.write("infoview_dll.so", "no library");
     useLibrariesBeside(directory_.path());
-    readHeader(directory_.write("wind.dat", ventosText()), GridKind::Ventos);
+    readHeader(directory_.write("wind.dat", ventosText()), InputKind::Ventos);
     EXPECT_EQ(modInfoViewDLL.HeaderStartTime, DateTime());
     EXPECT_EQ(modInfoViewDLL.result.errorFlag, 0);
     std::filesystem::remove(directory_.file("infoview_dll.so"));
     useLibrariesBeside(directory_.path());
-    readHeader(directory_.file("wind.dat"), GridKind::Ventos);
+    readHeader(directory_.file("wind.dat"), InputKind::Ventos);
     EXPECT_NE(modInfoViewDLL.HeaderStartTime, DateTime()) << "the program's own reader again";
 }
 

@@ -88,6 +88,21 @@ TEST_F(FrmOpenSURFDATFile, AnUnknownZoneLeavesTheListAndAnotherKindIsTold) {
     EXPECT_EQ(host_.boxes.size(), 1U);
 }
 
+TEST_F(FrmOpenSURFDATFile, ADayOutOfItsYearShowsTwoBoxes) {
+    std::string text = surf21;
+    text.replace(text.find("1990   8"), 8, "1990 367");
+    input_ = directory_.write("day.dat", text);
+    host_.boxAnswers = {BoxAnswer::Ok, BoxAnswer::Ok};
+    browse();
+    ASSERT_EQ(host_.boxes.size(), 2U);
+    EXPECT_EQ(host_.boxes[0].text, "Error in VBGRDAY: invalid date.");
+    EXPECT_EQ(host_.boxes[0].title, "");
+    EXPECT_EQ(host_.boxes[0].buttons, BoxButtons::Ok);
+    EXPECT_EQ(host_.boxes[1].text, "Run-time error '13':\n\nType mismatch");
+    EXPECT_EQ(child<QListWidget>("lstSURFDATStationIDs")->count(), 3)
+        << "what was read before the fault stays";
+}
+
 TEST_F(FrmOpenSURFDATFile, ChecksInOrder) {
     EXPECT_EQ(refusal(), "Please select a SURF.DAT file.");
     EXPECT_TRUE(marked("txtSURFDATFile"));

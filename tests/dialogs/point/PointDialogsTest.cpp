@@ -177,7 +177,7 @@ TEST_F(PointDialogs, MonitorRefusesOtherFilesAndChecksItsStep) {
 }
 
 TEST_F(PointDialogs, AermetSurfaceAndProfileAreOneForm) {
-    open<frmOpenAERMETFile>(AermetKind::Surface);
+    open<frmOpenAERMETFile>(InputKind::AermSfc);
     EXPECT_EQ(form_->objectName(), "frmOpenAERMETSFCFile");
     EXPECT_EQ(form_->windowTitle(), "Generate Wind Rose Plots from AERMET Surface Data");
     EXPECT_EQ(spoken(child<QGroupBox>("frameFile")->title()), "AERMET Surface Data File:");
@@ -190,7 +190,7 @@ TEST_F(PointDialogs, AermetSurfaceAndProfileAreOneForm) {
     click("cmdView");
     EXPECT_EQ(plotted_.size(), 1U);
     EXPECT_NE(control(made_[0]).find("! MDATA = AERMSFC !"), std::string::npos);
-    open<frmOpenAERMETFile>(AermetKind::Profile);
+    open<frmOpenAERMETFile>(InputKind::AermPfl);
     EXPECT_EQ(form_->objectName(), "frmOpenAERMETPFLFile");
     EXPECT_EQ(spoken(child<QGroupBox>("frameFile")->title()), "AERMET Profile Data File:");
     browse("a.pfl", "88 1 1 1 10.0 0\n88 1 2 5 10.0 0\n");
@@ -204,7 +204,7 @@ TEST_F(PointDialogs, AermetSurfaceAndProfileAreOneForm) {
 }
 
 TEST_F(PointDialogs, AermetWantsBothOrNeitherOfThePlace) {
-    open<frmOpenAERMETFile>(AermetKind::Surface);
+    open<frmOpenAERMETFile>(InputKind::AermSfc);
     EXPECT_EQ(refusal(), "Please select an AERMET Met Data file.");
     browse("a.sfc", sfcText);
     child<QTimeEdit>("DTPicker_TimeStep")->setTime(QTime(0, 0));
@@ -221,7 +221,7 @@ TEST_F(PointDialogs, AermetWantsBothOrNeitherOfThePlace) {
 }
 
 TEST_F(PointDialogs, AWrongAermetFileIsARunTimeError) {
-    open<frmOpenAERMETFile>(AermetKind::Surface);
+    open<frmOpenAERMETFile>(InputKind::AermSfc);
     host_.boxAnswers = {BoxAnswer::Ok};
     browse("x.sfc", "a b c d e f\ng h i j k\n");
     EXPECT_EQ(host_.boxes[0].text, "Run-time error '13':\n\nType mismatch");
@@ -277,7 +277,7 @@ TEST_F(PointDialogs, ATimeSeriesOfAnUnknownZoneShowsTheFirstAndADayStepWraps) {
 }
 
 TEST_F(PointDialogs, ALargeFileIsReadWithTheWindowAlive) {
-    open<frmOpenAERMETFile>(AermetKind::Profile);
+    open<frmOpenAERMETFile>(InputKind::AermPfl);
     std::string text = "88 1 1 1 10.0 0\n";
     while (text.size() < 18'000'000) text += "88 1 1 2 10.0 0 and so on, a line like any other of the file\n";
     std::vector<std::string> seen;

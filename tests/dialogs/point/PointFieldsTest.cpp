@@ -25,8 +25,8 @@ class PointFields : public PointDialogs {
             {"SURF", [this] { open<frmOpenSURFDATFile>(); }, "s.dat", surfText},
             {"UP", [this] { open<frmOpenUPDATFile>(); }, "u.dat", upText},
             {"monitor", [this] { open<frmOpenAMMNETDataFile>(); }, "m.csv", csvText},
-            {"surface", [this] { open<frmOpenAERMETFile>(AermetKind::Surface); }, "a.sfc", sfcText},
-            {"profile", [this] { open<frmOpenAERMETFile>(AermetKind::Profile); }, "a.pfl", pflText},
+            {"surface", [this] { open<frmOpenAERMETFile>(InputKind::AermSfc); }, "a.sfc", sfcText},
+            {"profile", [this] { open<frmOpenAERMETFile>(InputKind::AermPfl); }, "a.pfl", pflText},
             {"series", [this] { open<frmOpenTSFDataFile>(); }, "t.tsf", seriesText}};
         for (const Kind& kind : kinds) {
             SCOPED_TRACE(kind.name);
@@ -173,7 +173,7 @@ TEST_F(PointFields, KeysOfTheHeightsAndOfThePlace) {
         typeInto("txtAnemometerHeight", "x-2.5,");
         EXPECT_EQ(box("txtAnemometerHeight").text(), "2.5");
     };
-    for (const AermetKind kind : {AermetKind::Surface, AermetKind::Profile}) {
+    for (const InputKind kind : {InputKind::AermSfc, InputKind::AermPfl}) {
         open<frmOpenAERMETFile>(kind);
         typeInto("txtStationID", "a-1.2,3");
         EXPECT_EQ(box("txtStationID").text(), "123");
@@ -196,7 +196,7 @@ TEST_F(PointFields, EnterGoesOnAndStartsNothing) {
     open<frmOpenUPDATFile>();
     goesOn("txtStationID", "txtExtractionHeights");
     goesOn("txtExtractionHeights", "DTPicker_BeginDate");
-    open<frmOpenAERMETFile>(AermetKind::Surface);
+    open<frmOpenAERMETFile>(InputKind::AermSfc);
     goesOn("txtStationID", "txtXLoc");
     goesOn("txtXLoc", "txtYLoc");
     goesOn("txtYLoc", "txtAnemometerHeight");

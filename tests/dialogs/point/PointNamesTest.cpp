@@ -85,11 +85,11 @@ TEST_F(PointNames, AStationOfTheTableNamesItsRoseInTheBytesOfTheTable) {
         open<frmOpenUPDATFile>();
         browseTo("u.dat", upText);
         expectRun(name + "_UP_19900108-19900115", name + "_UP_19900108-19900115_10m", "TSFOUT");
-        open<frmOpenAERMETFile>(AermetKind::Surface);
+        open<frmOpenAERMETFile>(InputKind::AermSfc);
         browseTo("a.sfc", sfcText);
         expectRun(name + "_AERMETSFC_19880101-19890101_10m", name + "_AERMETSFC_19880101-19890101_10m",
                   "TSFOUT");
-        open<frmOpenAERMETFile>(AermetKind::Profile);
+        open<frmOpenAERMETFile>(InputKind::AermPfl);
         browseTo("a.pfl", pflText);
         box("txtStationID").setText("77");
         expectRun(name + "_AERMETPFL_19880101-19880102_10m", name + "_AERMETPFL_19880101-19880102_10m",
@@ -121,7 +121,7 @@ TEST_F(PointNames, TheProcessorIsAskedForTheStationInTheBytesOfItsData) {
         browseTo("u.dat", replacing(upText, "4417", name));
         EXPECT_EQ(box("txtStationID").text(), shownName);
         EXPECT_NE(run("u_UP_19900108-19900115").find(met), std::string::npos);
-        open<frmOpenAERMETFile>(AermetKind::Surface);
+        open<frmOpenAERMETFile>(InputKind::AermSfc);
         browseTo("a.sfc", replacing(sfcText, "14606", name));
         EXPECT_NE(run("a_AERMETSFC_19880101-19890101_10m").find(met), std::string::npos);
         open<frmOpenAMMNETDataFile>();
@@ -146,7 +146,7 @@ TEST_F(PointNames, ThePathsOfInputAndOutputKeepTheirBytes) {
     for (const std::string& name : montreals) {
         const std::string place = directory_.file("in " + name);
         std::filesystem::create_directory(place);
-        open<frmOpenAERMETFile>(AermetKind::Surface);
+        open<frmOpenAERMETFile>(InputKind::AermSfc);
         browse("in " + name + "/" + name + ".sfc", sfcText);
         EXPECT_EQ(box("txtAERMETDataFile").text().toStdString(),
                   directory_.file("in " + montreals[1] + "/" + montreals[1] + ".sfc"))
