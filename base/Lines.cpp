@@ -3,14 +3,12 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <filesystem>
-#include <system_error>
+#include <optional>
 
+#include "base/Files.h"
 #include "base/RunTimeError.h"
 
 namespace zg {
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -53,13 +51,10 @@ std::size_t countLineEnds(std::string_view bytes, char before) {
 }  // namespace
 
 FileHandle openForReading(const std::string& path) {
-    // The C library would cut such a name at the NUL.
-    if (path.find('\0') != std::string::npos) raise(ErrorNumber::FileNotFound);
-    std::error_code error;
-    const fs::file_status status = fs::status(path, error);
+    const std::optional<FileState> state = stateOfFile(path);
     // Opening a pipe that nobody writes to would block for good.
-    if (fs::exists(status) && !fs::is_regular_file(status)) raise(ErrorNumber::PathFileAccessError);
-    FileHandle file(std::fopen(path.c_str(), "rb"));
+    if (state && state->kind != FileKind::Plain) raise(ErrorNumber::PathFileAccessError);
+    FileHandle file(openStream(path, "rb"));
     if (!file) raiseFileError(errno);
     return file;
 }
@@ -171,10 +166,10 @@ std::size_t LineReader::skipAll() {
 }
 
 LineWriter::LineWriter(const std::string& path) {
-    std::error_code error;
-    if (path.find('\0') != std::string::npos || fs::is_directory(path, error))
+    const std::optional<FileState> state = stateOfFile(path);
+    if (path.find('\0') != std::string::npos || (state && state->kind == FileKind::Directory))
         raise(ErrorNumber::PathFileAccessError);
-    file_.reset(std::fopen(path.c_str(), "wb"));
+    file_.reset(openStream(path, "wb"));
     if (!file_) raiseFileError(errno == ENOENT ? ENOTDIR : errno);
 }
 

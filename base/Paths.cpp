@@ -1,14 +1,12 @@
 #include "base/Paths.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
+#include <optional>
 
+#include "base/Files.h"
 #include "base/Text.h"
 
 namespace zg {
-
-namespace fs = std::filesystem;
 
 std::string applicationDirectory;
 
@@ -43,14 +41,13 @@ bool matches(std::string_view name, std::string_view pattern) {
     return p == pattern.size();
 }
 
-/// The system would look up only the part of such a name before the NUL.
-bool holdsNul(const fs::path& path) {
-    return path.native().find(fs::path::value_type()) != fs::path::string_type::npos;
+bool isPlainFile(const std::string& path) {
+    const std::optional<FileState> state = stateOfFile(path);
+    return state && state->kind == FileKind::Plain;
 }
 
-bool isPlainFile(const fs::path& path) {
-    std::error_code error;
-    return !holdsNul(path) && fs::is_regular_file(path, error);
+std::vector<std::string> namesInFolder(const std::string& folder) {
+    return namesIn(folder.empty() ? "." : folder);
 }
 
 }  // namespace
@@ -79,6 +76,11 @@ std::string withSeparator(std::string_view directory, char separator) {
     return out;
 }
 
+std::string folderOf(const std::string& path) {
+    const std::size_t at = pathSeparator == '\\' ? path.find_last_of("/\\:") : path.rfind(pathSeparator);
+    return at == std::string::npos ? "" : path.substr(0, at + 1);
+}
+
 std::string DriveOf(std::string_view path) {
     path = trimmed(path);
     return std::string(path.substr(0, path.find(':'))) + ":";
@@ -86,38 +88,34 @@ std::string DriveOf(std::string_view path) {
 
 std::string existingFile(const std::string& path) {
     if (path.empty()) return {};
-    if (isPlainFile(path)) return path;
-    const fs::path wanted(path);
-    const std::string name = lcase(wanted.filename().string());
-    const fs::path directory = wanted.has_parent_path() ? wanted.parent_path() : fs::path(".");
-    std::error_code error;
+    const bool isThere = isPlainFile(path);
+    // A system that ignores letter case gives any of them the file.
+    constexpr bool tellsCases = pathSeparator == '/';
+    if (isThere && tellsCases) return path;
+    const std::string folder = folderOf(path);
+    const std::string name = path.substr(folder.size());
     std::string found;
-    for (fs::directory_iterator it(directory, error), end; !error && it != end; it.increment(error)) {
-        const std::string other = it->path().filename().string();
-        if (lcase(other) == name && isPlainFile(it->path()) && (found.empty() || other < found))
-            found = other;
+    for (const std::string& other : namesInFolder(folder)) {
+        const bool isOne = lcase(other) == lcase(name) || (isThere && nameKey(other) == nameKey(name));
+        if (isOne && (found.empty() || other < found) && isPlainFile(folder + other)) found = other;
     }
-    if (found.empty()) return {};
-    return wanted.has_parent_path() ? (wanted.parent_path() / found).string() : found;
+    if (found.empty()) return isThere ? path : "";
+    return folder + found;
 }
 
-bool fileExists(const std::string& path) { return !existingFile(path).empty(); }
+bool fileExists(const std::string& path) { return isPlainFile(path) || !existingFile(path).empty(); }
 
 bool IsDirectory(const std::string& path) {
-    std::error_code error;
-    return !holdsNul(path) && fs::is_directory(path, error);
+    const std::optional<FileState> state = stateOfFile(path);
+    return state && state->kind == FileKind::Directory;
 }
 
 std::vector<std::string> filesMatching(const std::string& pattern) {
-    const fs::path whole(pattern);
-    const std::string wanted = lcase(whole.filename().string());
+    const std::string folder = folderOf(pattern);
+    const std::string wanted = lcase(pattern.substr(folder.size()));
     std::vector<std::string> names;
-    std::error_code error;
-    const fs::path directory = whole.has_parent_path() ? whole.parent_path() : fs::path(".");
-    for (fs::directory_iterator it(directory, error), end; !error && it != end; it.increment(error)) {
-        const std::string name = it->path().filename().string();
-        if (matches(lcase(name), wanted) && isPlainFile(it->path())) names.push_back(name);
-    }
+    for (const std::string& name : namesInFolder(folder))
+        if (matches(lcase(name), wanted) && isPlainFile(folder + name)) names.push_back(name);
     std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
         const std::string la = lcase(a);
         const std::string lb = lcase(b);

@@ -3,17 +3,14 @@
 // Paths as users and files write them. The separator is an argument that defaults to the platform's own, so
 // that the rules for "\" are in force, and tested, everywhere.
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace zg {
 
-#ifdef _WIN32
-constexpr char pathSeparator = '\\';
-#else
-constexpr char pathSeparator = '/';
-#endif
+constexpr char pathSeparator = static_cast<char>(std::filesystem::path::preferred_separator);
 
 /// The directory of the running program without a final separator. It is set once at the start; tests set it
 /// as they need.
@@ -33,6 +30,9 @@ bool endsInSeparator(std::string_view path, char separator = pathSeparator);
 
 /// The path with the separator at its end; a final separator or "\" that is already there is not doubled.
 std::string withSeparator(std::string_view directory, char separator = pathSeparator);
+
+/// The part of a path up to the name, with its separator, by the rules of the platform; "" for a name alone.
+std::string folderOf(const std::string& path);
 
 /// The trimmed path up to and including the first ":"; a path without one gives the whole path followed by
 /// ":".

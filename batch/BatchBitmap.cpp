@@ -1,18 +1,16 @@
 #include "batch/BatchBitmap.h"
 
+#include "base/Paths.h"
 #include "graph/frq/ModPolarGraph.h"
 #include "settings/Settings.h"
 
 namespace zg {
 
 std::string asFileName(std::string_view text) {
-#ifdef _WIN32
-    constexpr std::string_view refused = "/\\:*?\"<>|";
-    constexpr char lowest = ' ';
-#else
-    constexpr std::string_view refused = "/\\";  // "\" separates directories everywhere in this program
-    constexpr char lowest = '\x01';
-#endif
+    constexpr bool onWindows = pathSeparator == '\\';
+    // "\" separates directories everywhere in this program.
+    constexpr std::string_view refused = onWindows ? "/\\:*?\"<>|" : "/\\";
+    constexpr char lowest = onWindows ? ' ' : '\x01';
     std::string name(text);
     for (char& character : name) {
         const bool control = static_cast<unsigned char>(character) < static_cast<unsigned char>(lowest);

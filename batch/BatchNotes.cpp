@@ -1,8 +1,6 @@
 #include "batch/BatchNotes.h"
 
-#include <filesystem>
-#include <system_error>
-
+#include "base/Files.h"
 #include "base/Paths.h"
 #include "base/Text.h"
 
@@ -12,8 +10,7 @@ namespace {
 
 /// Whether two names lead to one file, as on a file system that ignores letter case.
 bool isSameFile(const std::string& one, const std::string& other) {
-    std::error_code error;
-    return one == other || std::filesystem::equivalent(one, other, error);
+    return one == other || isOneFile(one, other);
 }
 
 std::string counted(int count, const char* what) {

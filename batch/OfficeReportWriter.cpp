@@ -7,8 +7,8 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
-#include <filesystem>
 
+#include "base/Files.h"
 #include "base/RunTimeError.h"
 #include "platform/QtPicture.h"
 #include "platform/QtText.h"
@@ -155,10 +155,7 @@ void OfficeReportWriter::save(const std::string& path, const char* tail, const c
     // First copied to the same directory, so that the target is never a partial file.
     const QString fresh = fileName(path) + QStringLiteral(".new");
     QFile::remove(fresh);
-    std::error_code failed;
-    const bool copied = QFile::copy(made, fresh);
-    if (copied) std::filesystem::rename(filePath(fresh), path, failed);
-    if (!copied || failed) {
+    if (!QFile::copy(made, fresh) || !moveFile(filePath(fresh), path)) {
         QFile::remove(fresh);
         fail(ErrorNumber::PathFileAccessError, "The report could not be written: " + path);
     }

@@ -2,13 +2,15 @@
 
 #include <algorithm>
 #include <atomic>
-#include <filesystem>
+#include <cerrno>
+#include <cstring>
 #include <functional>
 #include <map>
 #include <memory>
 #include <new>
 #include <ostream>
 
+#include "base/Files.h"
 #include "base/Host.h"
 #include "base/Numbers.h"
 #include "base/Paths.h"
@@ -64,7 +66,17 @@ struct ExportFailure {
     int status = exportFailed;
 };
 
-std::string stemOf(const std::string& file) { return std::filesystem::path(file).stem().string(); }
+/// The name without its directory and its ending.
+std::string stemOf(const std::string& file) {
+    const std::string name = file.substr(folderOf(file).size());
+    const std::size_t dot = name.rfind('.');
+    return dot == 0 ? name : name.substr(0, dot);
+}
+
+std::string inDirectory(const std::string& directory, const std::string& name) {
+    return directory.size() == folderOf(directory).size() ? directory + name
+                                                          : directory + pathSeparator + name;
+}
 
 /// The files of the inputs; those of a directory in order of their names.
 std::vector<std::string> filesOf(const ExportJob& job) {
@@ -74,10 +86,9 @@ std::vector<std::string> filesOf(const ExportJob& job) {
             files.push_back(input);
             continue;
         }
-        const std::filesystem::path directory(input);
-        const auto names = filesMatching((directory / "*.frq").string());
+        const auto names = filesMatching(inDirectory(input, "*.frq"));
         if (names.empty()) throw ExportFailure{input + ": the directory holds no FRQ file"};
-        for (const std::string& name : names) files.push_back((directory / name).string());
+        for (const std::string& name : names) files.push_back(inDirectory(input, name));
     }
     std::map<std::string, std::string> fileOfStem;
     for (const std::string& file : files)
@@ -129,9 +140,7 @@ PictureLook checkedLook(const ExportJob& job) {
 }
 
 void makeDirectory(const std::string& directory) {
-    std::error_code error;
-    std::filesystem::create_directories(directory, error);
-    if (error && !IsDirectory(directory)) throw ExportFailure{directory + ": " + error.message()};
+    if (!zg::makeDirectories(directory)) throw ExportFailure{directory + ": " + std::strerror(errno)};
 }
 
 /// One run: loads file after file and passes their roses to the workers.
@@ -245,9 +254,7 @@ class Export {
         }
     }
 
-    std::string pathOf(const std::string& name) const {
-        return (std::filesystem::path(job_.directory) / name).string();
-    }
+    std::string pathOf(const std::string& name) const { return inDirectory(job_.directory, name); }
 
     void addRose(const RoseOfFile& rose, const PictureLook& look) {
         const std::string path = pathOf(pictureName(job_, rose.file, rose.rose, rose.tables->FrqRoseCount));

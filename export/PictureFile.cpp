@@ -4,15 +4,11 @@
 #include <array>
 #include <atomic>
 #include <cerrno>
-#include <filesystem>
-#include <system_error>
-#ifndef _WIN32
-#include <unistd.h>
-#endif
+
+#include "base/Files.h"
+#include "base/Paths.h"
 
 namespace zg {
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -30,31 +26,18 @@ std::string spareName(const std::string& path) {
     static std::atomic<int> count = 0;
     const std::string name = ".zephyrgraph-" + std::to_string(QCoreApplication::applicationPid()) + "-" +
                              std::to_string(++count) + ".tmp";
-    return (fs::path(path).parent_path() / name).string();
+    return folderOf(path) + name;
 }
 
 /// Flushes the bytes to the disk, as far as the disk can tell.
-bool reachesDisk(std::FILE* file) {
-    if (std::fflush(file) != 0) return false;
-#ifndef _WIN32
-    if (fsync(fileno(file)) != 0 && errno != EINVAL && errno != ENOTSUP) return false;
-#endif
-    return true;
-}
-
-/// A picture that replaces another keeps its permissions.
-void takePermissions(const std::string& from, const std::string& to) {
-    std::error_code error;
-    const fs::file_status old = fs::symlink_status(from, error);
-    if (fs::is_regular_file(old)) fs::permissions(to, old.permissions(), error);
-}
+bool reachesDisk(std::FILE* file) { return reachDisk(file) || errno == EINVAL || errno == ENOTSUP; }
 
 }  // namespace
 
 PictureFile::PictureFile(std::string path) : path_(std::move(path)) {
     do {
         temporary_ = spareName(path_);
-        file_.reset(std::fopen(temporary_.c_str(), "wbx"));
+        file_.reset(openStream(temporary_, "wbx"));
     } while (!file_ && errno == EEXIST);
     if (!file_) {
         temporary_.clear();
@@ -68,8 +51,7 @@ PictureFile::PictureFile(std::string path) : path_(std::move(path)) {
 PictureFile::~PictureFile() {
     file_.reset();
     if (temporary_.empty()) return;
-    std::error_code ignored;
-    fs::remove(temporary_, ignored);
+    removeFile(temporary_);
     swapName(temporary_.c_str(), nullptr);
 }
 
@@ -88,11 +70,9 @@ void PictureFile::commit() {
     if (!reachesDisk(file_.get())) keepFault();
     if (std::fclose(file_.release()) != 0) keepFault();
     if (fault_ != 0) return;
-    takePermissions(path_, temporary_);
-    std::error_code error;
-    fs::rename(temporary_, path_, error);
-    if (error) {
-        fault_ = error.value();
+    copyPermissions(path_, temporary_);
+    if (!moveFile(temporary_, path_)) {
+        keepFault();
         return;
     }
     swapName(temporary_.c_str(), nullptr);
@@ -101,11 +81,7 @@ void PictureFile::commit() {
 
 void dropUnfinishedPictures() noexcept {
     for (const std::atomic<const char*>& name : namesUnderWay)
-#ifdef _WIN32
-        if (const char* left = name) std::remove(left);
-#else
-        if (const char* left = name) unlink(left);
-#endif
+        if (const char* left = name) removeAtOnce(left);
 }
 
 }  // namespace zg

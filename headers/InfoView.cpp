@@ -1,7 +1,6 @@
 #include "headers/InfoView.h"
 
-#include <cstdio>
-
+#include "base/Files.h"
 #include "base/Numbers.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
@@ -45,7 +44,7 @@ void ReadGridHeader(const std::string& path, InputKind kind) {
     const bool answered = ask(trim(path), kind, m.result);
     // A library leaves its own notes there, which nobody reads.
     const std::string notes = existingFile(withSeparator(DirOf(path)) + "infoview.txt");
-    if (!notes.empty()) std::remove(notes.c_str());
+    if (!notes.empty()) removeFile(notes);
     if (answered && m.result.errorFlag == 0) {
         m.HeaderStartTime = momentOf(m.result.first);
         m.HeaderEndTime = momentOf(m.result.last);

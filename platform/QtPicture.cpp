@@ -5,9 +5,9 @@
 #include <array>
 #include <cstdint>
 #include <cstdlib>
-#include <filesystem>
-#include <system_error>
+#include <optional>
 
+#include "base/Files.h"
 #include "base/Lines.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
@@ -55,11 +55,10 @@ class BitmapHead {
 /// The toolkit reads as much of a bitmap as there is and leaves the rest black.
 void needWhole(const std::string& path, std::FILE* file) {
     const std::int64_t needed = BitmapHead(file).bytesNeeded();
-    std::error_code error;
-    const auto size = std::filesystem::file_size(path, error);
-    if (error || needed <= 0 || size >= static_cast<std::uintmax_t>(needed)) return;
-    throw RunTimeError(invalidPicture, "Invalid picture, cut short at " + std::to_string(size) + " of " +
-                                           std::to_string(needed) + " bytes");
+    const std::optional<FileState> state = stateOfFile(path);
+    if (!state || needed <= 0 || state->size >= static_cast<std::uint64_t>(needed)) return;
+    throw RunTimeError(invalidPicture, "Invalid picture, cut short at " + std::to_string(state->size) +
+                                           " of " + std::to_string(needed) + " bytes");
 }
 
 }  // namespace

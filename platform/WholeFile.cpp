@@ -2,15 +2,11 @@
 
 #include <cerrno>
 #include <cstring>
-#include <filesystem>
-#include <system_error>
-#ifndef _WIN32
-#include <unistd.h>
-#endif
+#include <optional>
+
+#include "base/Files.h"
 
 namespace zg {
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -18,29 +14,18 @@ constexpr int mostNames = 1000;
 
 /// The target of a link; the path itself if it is not one.
 std::string withoutLink(std::string path) {
-    std::error_code error;
-    const fs::path target = fs::is_symlink(path, error) ? fs::canonical(path, error) : fs::path();
-    return error || target.empty() ? std::move(path) : target.string();
+    const std::optional<FileState> state = stateOfName(path);
+    const std::string target = state && state->kind == FileKind::Other ? wholePath(path) : "";
+    return target.empty() ? std::move(path) : target;
 }
 
 /// Whether a file may be created or replaced there; errno says why not. A write-protected one is not
 /// replaced.
 bool isReplaceable(const std::string& path) {
-    std::error_code error;
-    const fs::file_status old = fs::status(path, error);
-    if (!fs::exists(old)) return true;
-    errno = fs::is_directory(old) ? EISDIR : EINVAL;
-    return fs::is_regular_file(old) && FileHandle(std::fopen(path.c_str(), "r+b")) != nullptr;
-}
-
-/// The bytes are on the disk before the older file loses its name.
-bool reachesDisk(std::FILE* file) {
-    if (std::fflush(file) != 0) return false;
-#ifdef _WIN32
-    return true;
-#else
-    return fsync(fileno(file)) == 0;
-#endif
+    const std::optional<FileState> old = stateOfFile(path);
+    if (!old) return true;
+    errno = old->kind == FileKind::Directory ? EISDIR : EINVAL;
+    return old->kind == FileKind::Plain && FileHandle(openStream(path, "r+b")) != nullptr;
 }
 
 }  // namespace
@@ -53,7 +38,7 @@ WholeFile::WholeFile(std::string path) : path_(withoutLink(std::move(path))) {
     errno = 0;
     for (int i = 1; !handle_ && i <= mostNames && (i == 1 || errno == EEXIST); ++i) {
         temporary_ = path_ + ".new" + std::to_string(i);
-        handle_.reset(std::fopen(temporary_.c_str(), "wbx"));
+        handle_.reset(openStream(temporary_, "wbx"));
     }
     if (handle_) {
         setOpenMode(QIODevice::WriteOnly);
@@ -65,7 +50,7 @@ WholeFile::WholeFile(std::string path) : path_(withoutLink(std::move(path))) {
 
 WholeFile::~WholeFile() {
     handle_.reset();
-    if (!temporary_.empty()) std::remove(temporary_.c_str());
+    if (!temporary_.empty()) removeFile(temporary_);
 }
 
 bool WholeFile::fail() {
@@ -87,12 +72,11 @@ bool WholeFile::commit() {
     if (errorNumber_ != 0 || !handle_) return false;
     setOpenMode(QIODevice::NotOpen);
     errno = 0;
-    if (!reachesDisk(handle_.get())) return fail();
+    // The bytes are on the disk before the older file loses its name.
+    if (!reachDisk(handle_.get())) return fail();
     if (std::fclose(handle_.release()) != 0) return fail();
-    std::error_code error;
-    if (const fs::file_status old = fs::status(path_, error); fs::exists(old))
-        fs::permissions(temporary_, old.permissions(), error);
-    if (std::rename(temporary_.c_str(), path_.c_str()) != 0) return fail();
+    copyPermissions(path_, temporary_);
+    if (!moveFile(temporary_, path_)) return fail();
     temporary_.clear();
     return true;
 }

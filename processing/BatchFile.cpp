@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "base/Console.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 
@@ -68,6 +69,16 @@ std::vector<std::string> batchLines(const std::string& outputDirectory, const st
                                     const std::string& programDirectory, char separator) {
     for (const std::string& name : {outputDirectory, base, programDirectory}) needBatchName(name, separator);
     return lineTexts({outputDirectory, base, programDirectory}, separator);
+}
+
+std::string batchDirectory(const std::string& directory) {
+    return batchText(directory) ? directory : plainerName(directory);
+}
+
+std::string batchBytes(const std::string& line) {
+    if (const std::optional<std::string> bytes = batchText(line)) return *bytes;
+    throw RunTimeError(badNameError,
+                       "Bad file name or number: the command shell has no characters for \"" + line + "\"");
 }
 
 std::optional<RunBatch> readRunBatch(const std::vector<std::string>& lines, char separator) {

@@ -29,6 +29,13 @@ struct RunBatch {
 std::vector<std::string> batchLines(const std::string& outputDirectory, const std::string& base,
                                     const std::string& programDirectory, char separator = pathSeparator);
 
+/// A directory as those lines can name it: by another of its names if the shell has no characters for this
+/// one.
+std::string batchDirectory(const std::string& directory);
+
+/// The bytes of a line for the shell; raises 52, with the line, if the shell has no characters for it.
+std::string batchBytes(const std::string& line);
+
 /// The names in such lines; nothing if they are not, byte for byte, what batchLines gives for these names.
 std::optional<RunBatch> readRunBatch(const std::vector<std::string>& lines, char separator = pathSeparator);
 

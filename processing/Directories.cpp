@@ -1,8 +1,6 @@
 #include "processing/Directories.h"
 
-#include <filesystem>
-#include <system_error>
-
+#include "base/Files.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 
@@ -36,9 +34,7 @@ bool MakeDirectoryTree(std::string_view path, char separator) {
         missing.push_back(level.size());
     for (; !missing.empty(); missing.pop_back()) {
         const std::string level(path.substr(0, missing.back()));
-        std::error_code error;
-        std::filesystem::create_directory(level, error);
-        if (error || !IsDirectory(level)) return false;
+        if (!makeDirectory(level) && !IsDirectory(level)) return false;
     }
     return true;
 }

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 
+#include "base/Files.h"
 #include "base/Lines.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
@@ -92,7 +92,8 @@ class Run {
             directory_ = hooks_.outputDirectory();
             base_ = hooks_.base();
             outputs_ = hooks_.outputs();
-            batch_ = batchLines(directory_, base_, applicationDirectory);
+            batch_ = batchLines(batchDirectory(directory_), base_, batchDirectory(applicationDirectory));
+            for (std::string& line : batch_) line = batchBytes(line);
         });
     }
 
@@ -115,7 +116,7 @@ class Run {
     /// In every letter case: each of them would end the wait.
     void removeMarker() {
         for (std::string marker; !(marker = existingFile(directory_ + markerName)).empty();)
-            if (std::remove(marker.c_str()) != 0) raiseFileError(errno);
+            if (!removeFile(marker)) raiseFileError(errno);
     }
 
     void awaitMarker() {

@@ -1,8 +1,8 @@
 #include "processing/TextViewer.h"
 
-#include <filesystem>
-#include <system_error>
+#include <cerrno>
 
+#include "base/Files.h"
 #include "base/Lines.h"
 #include "base/RunTimeError.h"
 #include "processing/BatchFile.h"
@@ -26,19 +26,17 @@ void writeBatchFile(const std::string& batchFile, const std::string& line) {
 void ViewTextFile(Host& host, ProcessStarter& starter, const std::string& path, const std::string& directory,
                   char separator) {
     const std::string batchFile = withSeparator(directory, separator) + "open_file.bat";
-    needBatchName(batchFile, separator);  // the shell has this time to start
-    writeBatchFile(batchFile, viewerLine(path, separator));
-    std::error_code error;
+    needBatchName(batchFile, separator);  // the shell is asked to run it
+    writeBatchFile(batchFile, batchBytes(viewerLine(batchDirectory(path), separator)));
     try {
         WaitMs(host, pauseMs);
         starter.start(batchFile, WindowStyle::Hidden);
         WaitMs(host, pauseMs);
     } catch (...) {
-        std::filesystem::remove(batchFile, error);
+        removeFile(batchFile);
         throw;
     }
-    std::filesystem::remove(batchFile, error);
-    if (error) raiseFileError(error.value());
+    if (!removeFile(batchFile) && errno != ENOENT) raiseFileError(errno);
 }
 
 }  // namespace zg

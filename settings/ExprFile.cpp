@@ -1,9 +1,8 @@
 #include "settings/ExprFile.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <filesystem>
 
+#include "base/Files.h"
 #include "base/Lines.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
@@ -46,13 +45,12 @@ bool writeExpressions(const std::string& path, const std::vector<std::string>& e
     try {
         write(fresh, expressions);
     } catch (const RunTimeError&) {
-        std::remove(fresh.c_str());
+        removeFile(fresh);
         return false;
     }
-    std::error_code failed;
-    std::filesystem::rename(fresh, path, failed);
-    if (failed) std::remove(fresh.c_str());
-    return !failed;
+    const bool replaced = moveFile(fresh, path);
+    if (!replaced) removeFile(fresh);
+    return replaced;
 }
 
 bool sameExpression(const std::string& a, const std::string& b) {

@@ -13,11 +13,7 @@ namespace zg {
 
 namespace {
 
-#ifdef _WIN32
-const char* const rootDirectory = "C:\\";
-#else
-const char* const rootDirectory = "/";
-#endif
+constexpr const char* rootDirectory = pathSeparator == '\\' ? "C:\\" : "/";
 
 std::string startDirectory(const std::string& asked, const std::string& workDir) {
     if (IsDirectory(asked)) return asked;

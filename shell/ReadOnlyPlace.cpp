@@ -1,8 +1,8 @@
 #include "shell/ReadOnlyPlace.h"
 
 #include <cstdio>
-#include <filesystem>
 
+#include "base/Files.h"
 #include "base/Lines.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
@@ -37,11 +37,11 @@ void noteAsTold(const std::string& notes) {
 
 bool canWriteIn(const std::string& directory) {
     const std::string path = withSeparator(directory) + "zephyrgraph-can-write.tmp";
-    std::FILE* file = std::fopen(path.c_str(), "wb");
+    std::FILE* file = openStream(path, "wb");
     if (file == nullptr) return false;
     const bool whole = std::fputc('x', file) != EOF;
     const bool closed = std::fclose(file) == 0;
-    std::remove(path.c_str());
+    removeFile(path);
     return whole && closed;
 }
 
@@ -56,8 +56,7 @@ void tellReadOnlyPlace(Host& host, const std::string& notesDirectory) {
              ".\n\nThe program works all the same; changes of these are lost when it ends. Results go to "
              "the directories you choose. A copy of the program in a directory of your own keeps them.",
          "", BoxIcon::Information, BoxButtons::Ok});
-    std::error_code ignored;
-    std::filesystem::create_directories(notesDirectory, ignored);
+    makeDirectories(notesDirectory);
     noteAsTold(notes);
 }
 

@@ -1,8 +1,7 @@
 #include "shell/StartSequence.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <vector>
+#include "base/Files.h"
 #include "base/Numbers.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
@@ -54,18 +53,15 @@ std::optional<BackgroundPicture> findBackgroundPicture() {
 }
 
 void removeBackgroundPictures() {
-    std::error_code ignored;  // a missing directory has none
-    std::vector<std::filesystem::path> pictures;
-    for (const auto& entry : std::filesystem::directory_iterator(inApplicationDirectory("Bitmap"), ignored))
-        if (lcase(entry.path().extension().string()) == ".pgw") pictures.push_back(entry.path());
-    for (const auto& picture : pictures) std::filesystem::remove(picture, ignored);
+    const std::string directory = inApplicationDirectory("Bitmap");
+    // A missing directory has none; a name that is nothing but an extension has no extension.
+    for (const std::string& name : namesIn(directory))
+        if (lcase(name).ends_with(".pgw") && name.size() > 4) removeFile(directory + pathSeparator + name);
 }
 
 std::string newBackgroundPicturePath(std::int32_t style) {
     const std::string directory = inApplicationDirectory("Bitmap");
-    std::error_code failed;
-    std::filesystem::create_directories(directory, failed);
-    if (failed) raise(ErrorNumber::PathFileAccessError);
+    if (!makeDirectories(directory)) raise(ErrorNumber::PathFileAccessError);
     return directory + pathSeparator + "WP" + std::to_string(std::clamp(style, 0, 3) + 1) + ".pgw";
 }
 

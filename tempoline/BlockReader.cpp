@@ -1,15 +1,11 @@
 #include "tempoline/BlockReader.h"
 
-#include <fcntl.h>
-#include <poll.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <array>
 #include <atomic>
 #include <cerrno>
 #include <cstring>
 
+#include "base/InputFile.h"
 #include "tempoline/Failure.h"
 #include "tempoline/Interrupt.h"
 #include "tempoline/UnzippedBlocks.h"
@@ -22,50 +18,28 @@ namespace {
     throw Failure(ExitStatus::Failed, path + ": " + std::strerror(error));
 }
 
-/// Opening a pipe waits for a writer; an interrupt ends the wait.
-int openForReading(const std::string& path) {
-    int file = -1;
-    do {
-        throwIfInterrupted();
-        file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    } while (file < 0 && errno == EINTR);
-    if (file < 0) failWithErrno(path, errno);
-    return file;
-}
-
 class PlainBlocks : public BlockReader {
  public:
-    explicit PlainBlocks(const std::string& path) : path_(path), file_(openForReading(path)) {
-        struct stat state = {};
-        if (fstat(file_, &state) != 0 || S_ISDIR(state.st_mode)) {
-            const int error = S_ISDIR(state.st_mode) ? EISDIR : errno;
-            close(file_);
-            failWithErrno(path, error);
-        }
-        regular_ = S_ISREG(state.st_mode);
-        size_ = state.st_size;
-        posix_fadvise(file_, 0, 0, POSIX_FADV_SEQUENTIAL);
+    explicit PlainBlocks(const std::string& path) : path_(path) {
+        if (const int error = file_.open(path, throwIfInterrupted); error != 0) failWithErrno(path, error);
     }
-    ~PlainBlocks() override { close(file_); }
-    PlainBlocks(const PlainBlocks&) = delete;
-    PlainBlocks& operator=(const PlainBlocks&) = delete;
 
     void stop() override { stopped_ = true; }
 
     std::size_t read(char* place, std::vector<std::uint32_t>& lineEnds) override {
         throwIfInterrupted();
         lineEnds.clear();
-        if (!regular_ && !waitForInput()) return 0;
-        ssize_t got = 0;
-        while ((got = ::read(file_, place, blockSize)) < 0) {
+        if (!file_.isPlain() && !waitForInput()) return 0;
+        std::ptrdiff_t got = 0;
+        while ((got = file_.read(place, blockSize)) < 0) {
             throwIfInterrupted();
             if (errno != EINTR) failWithErrno(path_, errno);
         }
         given_ += got;
-        if (got == 0 && regular_ && given_ < size_)
+        if (got == 0 && file_.isPlain() && given_ < file_.size())
             throw Failure(ExitStatus::Failed,
                           path_ + ": the file became shorter while it was read: " + std::to_string(given_) +
-                              " of " + std::to_string(size_) + " bytes were there");
+                              " of " + std::to_string(file_.size()) + " bytes were there");
         findLineEnds(place, static_cast<std::size_t>(got), lineEnds);
         return static_cast<std::size_t>(got);
     }
@@ -75,22 +49,20 @@ class PlainBlocks : public BlockReader {
     /// it does not.
     bool waitForInput() const {
         constexpr int milliseconds = 100;
-        pollfd state = {file_, POLLIN, 0};
         while (!stopped_) {
-            const int ready = poll(&state, 1, milliseconds);
+            const InputFile::Wait wait = file_.waitForBytes(milliseconds);
+            const int error = errno;
             throwIfInterrupted();
-            if (ready > 0) return true;
-            if (ready < 0 && errno != EINTR) failWithErrno(path_, errno);
+            if (wait == InputFile::Wait::Ready) return true;
+            if (wait == InputFile::Wait::Failed) failWithErrno(path_, error);
         }
         return false;
     }
 
     std::string path_;
-    int file_;
+    InputFile file_;
     std::atomic<bool> stopped_ = false;
-    bool regular_ = false;
-    off_t size_ = 0;
-    off_t given_ = 0;
+    std::int64_t given_ = 0;
 };
 
 class BlocksAhead : public BlockReader {

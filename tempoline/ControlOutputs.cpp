@@ -4,6 +4,8 @@
 #include <optional>
 #include <set>
 
+#include "base/Files.h"
+
 namespace zg::tempoline {
 
 namespace {
@@ -137,8 +139,7 @@ std::vector<OutputRequest> readRoseName(ControlKeys& keys) {
 
 std::string plainFileName(const ControlKeys& keys, std::string_view key, const std::string& name) {
     if (name.empty()) throw keys.failure(key, "a name is missing");
-    if (name.find('/') != std::string::npos || name == "." || name == "..")
-        throw keys.failure(key, "\"" + name + "\" is no plain file name");
+    if (!isPlainName(name)) throw keys.failure(key, "\"" + name + "\" is no plain file name");
     return name;
 }
 

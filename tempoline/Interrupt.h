@@ -5,7 +5,7 @@
 
 namespace zg::tempoline {
 
-/// From now on SIGINT, SIGTERM and SIGHUP (unless nohup ignores it) only record the request.
+/// From now on the requests to end that base/Console knows are only recorded.
 void catchInterrupts();
 
 /// Throws if a stop was requested.

@@ -1,7 +1,8 @@
 #include "tempoline/Listing.h"
 
-#include <sys/stat.h>
+#include <optional>
 
+#include "base/Files.h"
 #include "tempoline/Advice.h"
 #include "tempoline/MapText.h"
 #include "tempoline/OutputFile.h"
@@ -20,9 +21,9 @@ std::string recordText(const RecordMark& record) {
 
 /// The size of a pipe means nothing.
 std::string sizeText(const std::string& path) {
-    struct stat about = {};
-    if (stat(path.c_str(), &about) != 0 || !S_ISREG(about.st_mode)) return {};
-    return ", " + std::to_string(about.st_size) + " bytes";
+    const std::optional<FileState> state = stateOfFile(path);
+    if (!state || state->kind != FileKind::Plain) return {};
+    return ", " + std::to_string(state->size) + " bytes";
 }
 
 std::string outputText(const OutputRequest& output) {

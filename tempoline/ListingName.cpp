@@ -1,9 +1,8 @@
 #include "tempoline/ListingName.h"
 
-#include <sys/stat.h>
-
 #include <vector>
 
+#include "base/Files.h"
 #include "tempoline/ControlLexer.h"
 #include "tempoline/OlderResults.h"
 
@@ -18,7 +17,7 @@ Assignment listingOf(const std::vector<Assignment>& assignments) {
     for (const Assignment& entry : assignments) {
         const std::string& name = entry.value;
         if (entry.key != "TSFLST" || name.empty()) continue;
-        if (name.find('/') != std::string::npos || name == "." || name == "..") break;
+        if (!isPlainName(name)) break;
         return entry;
     }
     return {"TSFLST", defaultListing, 0};
@@ -28,19 +27,14 @@ bool isResult(const std::string& name, const Assignment& entry) {
     if (entry.key != "TSFOUT" && entry.key != "ROSEPLT") return false;
     for (const char* const ending : {".frq", ".tab", ".tsf"}) {
         const std::string result = entry.value + ending;
-        if (name == result || name == asideName(result)) return true;
+        if (nameKey(name) == nameKey(result) || nameKey(name) == nameKey(asideName(result))) return true;
     }
     return false;
 }
 
 }  // namespace
 
-bool isSameFile(const std::string& a, const std::string& b) {
-    struct stat first = {};
-    struct stat second = {};
-    return a == b || (stat(a.c_str(), &first) == 0 && stat(b.c_str(), &second) == 0 &&
-                      first.st_dev == second.st_dev && first.st_ino == second.st_ino);
-}
+bool isSameFile(const std::string& a, const std::string& b) { return a == b || isOneFile(a, b); }
 
 std::string freeListingName(std::string_view text, const std::string& controlFile) {
     const std::vector<Assignment> assignments = readableAssignments(text);

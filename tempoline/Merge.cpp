@@ -2,10 +2,9 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <filesystem>
-#include <system_error>
 #include <tuple>
 
+#include "base/Files.h"
 #include "tempoline/Failure.h"
 #include "tempoline/FrqWriter.h"
 #include "tempoline/Interrupt.h"
@@ -63,15 +62,13 @@ void needNoneAside(const std::vector<std::string>& files, const std::string& nam
 std::vector<std::string> moveAside(std::vector<std::string> files, const ResultSet& results,
                                    OlderResults& older) {
     std::vector<std::pair<std::string*, std::string>> own;
-    std::error_code ignored;
     for (std::string& file : files)
         for (const std::string& result : results)
-            if (std::filesystem::exists(file, ignored) && isSameFile(file, result))
-                own.emplace_back(&file, asideName(result));
+            if (stateOfFile(file) && isSameFile(file, result)) own.emplace_back(&file, asideName(result));
     const std::string fault = older.putAside({results});
     if (!fault.empty()) throw Failure(ExitStatus::Failed, fault);
     for (const auto& [file, aside] : own)
-        if (!std::filesystem::exists(*file, ignored)) *file = aside;
+        if (!stateOfFile(*file)) *file = aside;
     return files;
 }
 

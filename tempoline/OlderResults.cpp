@@ -1,11 +1,7 @@
 #include "tempoline/OlderResults.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <optional>
 #include <string_view>
@@ -19,24 +15,19 @@ namespace {
 constexpr std::string_view asideEnding = ".previous";
 constexpr std::size_t mostNamed = 6;
 
-/// Status of a file of that name that can be moved; nothing for a directory.
-std::optional<struct stat> stateOf(const std::string& name) {
-    struct stat state = {};
-    if (lstat(name.c_str(), &state) != 0 || S_ISDIR(state.st_mode)) return {};
-    return state;
-}
-
-bool areOneFile(const std::string& name, const std::string& other) {
-    const std::optional<struct stat> state = stateOf(name);
-    const std::optional<struct stat> second = stateOf(other);
-    return state && second && state->st_dev == second->st_dev && state->st_ino == second->st_ino;
+/// Identity of a file of that name that can be moved; nothing for a directory.
+std::optional<FileIdentity> movable(const std::string& name) {
+    const std::optional<FileState> state = stateOfName(name);
+    if (!state || state->kind == FileKind::Directory) return {};
+    return state->identity;
 }
 
 /// False on failure, with the error in errno.
 bool move(const std::string& name, const std::string& aside) {
-    if (std::rename(name.c_str(), aside.c_str()) != 0) return false;
-    // If both are names of one file, rename leaves both in place.
-    return !areOneFile(name, aside) || unlink(name.c_str()) == 0;
+    if (!moveFile(name, aside)) return false;
+    // If both are names of one file, renaming it leaves both in place.
+    const std::optional<FileIdentity> left = movable(name);
+    return !left || left != movable(aside) || removeFile(name);
 }
 
 }  // namespace
@@ -54,10 +45,10 @@ bool isKeptForOlder(const std::string& output) {
 std::string OlderResults::putAside(const std::vector<ResultSet>& sets) {
     std::string fault;
     for (const ResultSet& set : sets) {
-        const bool isWhole = stateOf(set.back()).has_value();
+        const bool isWhole = movable(set.back()).has_value();
         for (const std::string& name : set) {
             const std::string aside = asideName(name);
-            if (stateOf(name) && (isWhole || !stateOf(aside)) && !move(name, aside) && fault.empty())
+            if (movable(name) && (isWhole || !movable(aside)) && !move(name, aside) && fault.empty())
                 fault = name + ": cannot be moved aside as " + aside + ": " + std::strerror(errno);
             note(aside);
         }
@@ -67,15 +58,13 @@ std::string OlderResults::putAside(const std::vector<ResultSet>& sets) {
 
 /// Remembers the identity of the file: one that another run moves there must not be removed by this one.
 void OlderResults::note(const std::string& name) {
-    if (const std::optional<struct stat> state = stateOf(name)) aside_[name] = {state->st_dev, state->st_ino};
+    if (const std::optional<FileIdentity> identity = movable(name)) aside_[name] = *identity;
 }
 
 std::vector<std::string> OlderResults::remove() const {
     std::vector<std::string> left;
     for (const auto& [name, identity] : aside_) {
-        const std::optional<struct stat> state = stateOf(name);
-        if (state && Identity(state->st_dev, state->st_ino) == identity && unlink(name.c_str()) != 0)
-            left.push_back(name);
+        if (movable(name) == identity && !removeFile(name)) left.push_back(name);
     }
     return left;
 }
@@ -83,7 +72,7 @@ std::vector<std::string> OlderResults::remove() const {
 std::vector<std::string> OlderResults::kept() const {
     std::vector<std::string> names;
     for (const auto& [name, identity] : aside_)
-        if (stateOf(name)) names.push_back(name);
+        if (movable(name)) names.push_back(name);
     return names;
 }
 

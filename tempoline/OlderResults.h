@@ -3,12 +3,11 @@
 // A user will take any result for that of the last run. Therefore a run moves older results of its names
 // aside before it reads data; it removes them when it succeeds and leaves them aside when it fails.
 
-#include <sys/types.h>
-
 #include <map>
 #include <string>
-#include <utility>
 #include <vector>
+
+#include "base/Files.h"
 
 namespace zg::tempoline {
 
@@ -36,11 +35,9 @@ class OlderResults {
     std::vector<std::string> kept() const;
 
  private:
-    using Identity = std::pair<dev_t, ino_t>;
-
     void note(const std::string& name);
 
-    std::map<std::string, Identity> aside_;  ///< by name
+    std::map<std::string, FileIdentity> aside_;  ///< by name
 };
 
 /// One line of text; empty without names. Only the first of many names are listed.

@@ -1,13 +1,10 @@
 #include "tempoline/OutputFile.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
+#include <optional>
 
+#include "base/Files.h"
 #include "tempoline/Failure.h"
 
 namespace zg::tempoline {
@@ -21,10 +18,9 @@ namespace {
 }  // namespace
 
 void needFreeName(const std::string& name) {
-    struct stat state = {};
-    const bool isThere = lstat(name.c_str(), &state) == 0;
-    if (!isThere && errno != ENOENT) failToWrite(name, errno);
-    if (isThere && S_ISDIR(state.st_mode)) failToWrite(name, EISDIR);
+    const std::optional<FileState> state = stateOfName(name);
+    if (!state && errno != ENOENT) failToWrite(name, errno);
+    if (state && state->kind == FileKind::Directory) failToWrite(name, EISDIR);
 }
 
 OutputFile::OutputFile(std::string name) : name_(std::move(name)) {
@@ -35,23 +31,11 @@ OutputFile::OutputFile(std::string name) : name_(std::move(name)) {
 }
 
 OutputFile::~OutputFile() {
-    if (!temporary_.empty()) unlink(temporary_.c_str());
+    if (!temporary_.empty()) removeFile(temporary_);
 }
 
 void OutputFile::flush() {
-    const int file = open(temporary_.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC);
-    if (file < 0) failToWrite(name_, errno);
-    std::string_view rest = buffer_;
-    int error = 0;
-    while (!rest.empty() && error == 0) {
-        const ssize_t written = ::write(file, rest.data(), rest.size());
-        if (written >= 0)
-            rest.remove_prefix(static_cast<std::size_t>(written));
-        else if (errno != EINTR)
-            error = errno;
-    }
-    if (close(file) != 0 && error == 0 && errno != EINTR) error = errno;
-    if (error != 0) failToWrite(name_, error);
+    if (!appendToFile(temporary_, buffer_)) failToWrite(name_, errno);
     buffer_.clear();
 }
 
@@ -61,7 +45,7 @@ void OutputFile::finish() {
 }
 
 void OutputFile::replace() {
-    if (std::rename(temporary_.c_str(), name_.c_str()) != 0) failToWrite(name_, errno);
+    if (!moveFile(temporary_, name_)) failToWrite(name_, errno);
     temporary_.clear();
 }
 
@@ -73,7 +57,7 @@ void OutputFile::commitAll(const std::vector<OutputFile*>& files) {
     try {
         for (; replaced < files.size(); ++replaced) files[replaced]->replace();
     } catch (...) {
-        while (replaced > 0) unlink(files[--replaced]->name_.c_str());
+        while (replaced > 0) removeFile(files[--replaced]->name_);
         throw;
     }
 }

@@ -1,11 +1,10 @@
 #include "tempoline/PeriodLimit.h"
 
-#include <sys/stat.h>
-
 #include <array>
 #include <cstdio>
 #include <optional>
 
+#include "base/Files.h"
 #include "base/Lines.h"
 #include "base/Unzip.h"
 #include "tempoline/ControlLexer.h"
@@ -20,7 +19,7 @@ constexpr Seconds mostEmpty = 10;             // steps per record
 
 bool isZippedFile(const std::string& path) {
     std::array<char, 2> start{};
-    const FileHandle file(std::fopen(path.c_str(), "rb"));
+    const FileHandle file(openStream(path, "rb"));
     return file && std::fread(start.data(), 1, start.size(), file.get()) == start.size() &&
            Unzipper::isZipped({start.data(), start.size()});
 }
@@ -28,10 +27,10 @@ bool isZippedFile(const std::string& path) {
 std::optional<Seconds> sizeOf(const Control& control) {
     Seconds size = 0;
     for (const std::string& input : control.inputs) {
-        struct stat state = {};
-        if (stat(input.c_str(), &state) != 0 || !S_ISREG(state.st_mode)) return {};
-        size += isZippedFile(input) ? state.st_size * static_cast<Seconds>(Unzipper::mostOfOneByte)
-                                    : state.st_size;
+        const std::optional<FileState> state = stateOfFile(input);
+        if (!state || state->kind != FileKind::Plain) return {};
+        const auto bytes = static_cast<Seconds>(state->size);
+        size += isZippedFile(input) ? bytes * static_cast<Seconds>(Unzipper::mostOfOneByte) : bytes;
     }
     return size;
 }

@@ -8,6 +8,8 @@
 #include <memory>
 #include <vector>
 
+#include "base/Files.h"
+#include "base/Paths.h"
 #include "base/Text.h"
 #include "tempoline/DatumShifts.h"
 #include "tempoline/Texts.h"
@@ -181,6 +183,11 @@ PJ* keptOperation(const std::string& key, Maker make) {
     Operation operation;
     operation.context.reset(proj_context_create());
     proj_log_level(operation.context.get(), PJ_LOG_NONE);
+    // Where the system has no PROJ of its own, its database is beside the program.
+    if (stateOfFile(inApplicationDirectory("proj.db"))) {
+        const char* const place = applicationDirectory.c_str();
+        proj_context_set_search_paths(operation.context.get(), 1, &place);
+    }
     operation.transform = make(operation.context.get());
     if (kept.size() >= mostKept) kept.clear();
     return kept.emplace(key, std::move(operation)).first->second.transform.get();

@@ -1,15 +1,12 @@
 #include "tempoline/ResultNames.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <map>
 #include <optional>
 #include <set>
 
+#include "base/Files.h"
 #include "base/Text.h"
 #include "tempoline/ControlLexer.h"
 #include "tempoline/Failure.h"
@@ -19,10 +16,6 @@
 namespace zg::tempoline {
 
 namespace {
-
-bool isPlain(const std::string& name) {
-    return !name.empty() && name.find('/') == std::string::npos && name != "." && name != "..";
-}
 
 ResultSet resultsNamed(const std::string& name, bool series, bool roses) {
     ResultSet set;
@@ -35,23 +28,22 @@ ResultSet resultsNamed(const std::string& name, bool series, bool roses) {
 class OtherFiles {
  public:
     void add(const std::string& name, const std::string& what) {
-        names_.emplace(name, what);
-        struct stat state = {};
-        if (stat(name.c_str(), &state) == 0) files_.emplace(std::pair(state.st_dev, state.st_ino), what);
+        names_.emplace(nameKey(name), what);
+        if (const auto state = stateOfFile(name)) files_.emplace(state->identity, what);
     }
 
     /// What the file of that name is; empty if it may be replaced.
     std::string whatIs(const std::string& name) const {
-        if (const auto found = names_.find(name); found != names_.end()) return found->second;
-        struct stat state = {};
-        if (stat(name.c_str(), &state) != 0) return {};
-        const auto found = files_.find(std::pair(state.st_dev, state.st_ino));
+        if (const auto found = names_.find(nameKey(name)); found != names_.end()) return found->second;
+        const auto state = stateOfFile(name);
+        if (!state) return {};
+        const auto found = files_.find(state->identity);
         return found == files_.end() ? "" : found->second;
     }
 
  private:
     std::map<std::string, std::string> names_;
-    std::map<std::pair<dev_t, ino_t>, std::string> files_;
+    std::map<FileIdentity, std::string> files_;
 };
 
 /// Equal for all names that any file system considers the same, and for some others.
@@ -68,8 +60,8 @@ class NameTrial {
     NameTrial() : temporaries_(Temporaries::ofThisRun()), directory_(temporaries_->makeDirectory()) {}
     ~NameTrial() {
         if (directory_.empty()) return;
-        for (const std::string& name : made_) unlink(path(name).c_str());
-        rmdir(directory_.c_str());
+        for (const std::string& name : made_) removeFile(path(name));
+        removeDirectory(directory_);
     }
     NameTrial(const NameTrial&) = delete;
     NameTrial& operator=(const NameTrial&) = delete;
@@ -82,7 +74,7 @@ class NameTrial {
             return {};
         }
         if (errno != EEXIST) return {};
-        unlink(path(name).c_str());
+        removeFile(path(name));
         const auto found = std::find_if(made_.begin(), made_.end(),
                                         [this](const std::string& other) { return make(other); });
         return found == made_.end() ? "" : *found;
@@ -90,11 +82,7 @@ class NameTrial {
 
  private:
     std::string path(const std::string& name) const { return directory_ + "/" + name; }
-    bool make(const std::string& name) const {
-        const int file = open(path(name).c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (file >= 0) close(file);
-        return file >= 0;
-    }
+    bool make(const std::string& name) const { return makeFile(path(name)); }
 
     std::shared_ptr<Temporaries> temporaries_;
     std::string directory_;
@@ -145,7 +133,7 @@ std::vector<ResultSet> readableResults(std::string_view text, const std::string&
     std::vector<ResultSet> sets;
     for (const Assignment& entry : assignments) {
         if (entry.key != "TSFOUT" && entry.key != "ROSEPLT") continue;
-        if (!isPlain(entry.value) || isKeptForOlder(entry.value)) continue;
+        if (!isPlainName(entry.value) || isKeptForOlder(entry.value)) continue;
         ResultSet set;
         for (const std::string& name : resultsNamed(entry.value, entry.key == "TSFOUT", true))
             if (others.whatIs(name).empty() && others.whatIs(asideName(name)).empty()) set.push_back(name);

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "base/FileLock.h"
+
 namespace zg::tempoline {
 
 class Temporaries {
@@ -32,10 +34,8 @@ class Temporaries {
 
     template <typename Make>
     std::string underNewName(Make make);
-    bool lock();
-
     std::string stem_;
-    int lock_ = -1;
+    FileLock lock_;
     int count_ = 0;
 };
 

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "base/Console.h"
+#include "base/Files.h"
 #include "base/Paths.h"
 #include "base/Version.h"
 #include "tempoline/Interrupt.h"
@@ -48,7 +50,7 @@ ExitStatus merge(const std::vector<std::string>& arguments) {
         else
             files.push_back(arguments[i]);
     }
-    if (files.empty() || name.empty() || name.find('/') != std::string::npos) {
+    if (files.empty() || !zg::isPlainName(name + ".tab")) {
         std::fputs(usage, stderr);
         return ExitStatus::BadControl;
     }
@@ -88,7 +90,7 @@ ExitStatus told(const char* message, ExitStatus status) {
 /// Every result is reported in one line.
 ExitStatus startGuarded(int argc, char** argv) {
     try {
-        return start({argv + 1, argv + argc});
+        return start(zg::programWords(argc, argv));
     } catch (const Failure& failure) {
         return told(failure.what(), failure.status);
     } catch (const std::bad_alloc&) {
@@ -101,6 +103,8 @@ ExitStatus startGuarded(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    zg::useUtf8Console();
+    zg::applicationDirectory = zg::programDirectory();
     zg::tempoline::catchInterrupts();
     return static_cast<int>(startGuarded(argc, argv));
 }

@@ -20,11 +20,7 @@ namespace zg {
 
 namespace {
 
-#ifdef Q_OS_WIN
-constexpr const char* librarySuffix = ".dll";
-#else
-constexpr const char* librarySuffix = ".so";
-#endif
+constexpr const char* librarySuffix = pathSeparator == '\\' ? ".dll" : ".so";
 
 using Int = std::int32_t;
 constexpr Int ventosCode = 1;  // of the kinds of files; 2 is for files of concentrations

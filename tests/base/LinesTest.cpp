@@ -1,7 +1,6 @@
 #include "base/Lines.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <filesystem>
 #include <string>
@@ -9,6 +8,7 @@
 #include <vector>
 
 #include "tests/support/Raises.h"
+#include "tests/support/System.h"
 #include "tests/support/TempDirectory.h"
 
 namespace zg {
@@ -153,7 +153,7 @@ TEST(LineReader, RaisesForWhatCannotBeRead) {
 
 TEST(LineReader, RefusesAPipeInsteadOfWaitingForItsWriter) {
     const TempDirectory directory;
-    ASSERT_EQ(mkfifo(directory.file("pipe").c_str(), 0600), 0);
+    ASSERT_TRUE(makePipe(directory.file("pipe")));
     EXPECT_RAISES(75, "Path/File access error", LineReader(directory.file("pipe")));
     EXPECT_RAISES(75, "Path/File access error", readWholeFile(directory.file("pipe")));
 }

@@ -1,13 +1,13 @@
 #include "base/Paths.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <filesystem>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "tests/support/System.h"
 #include "tests/support/TempDirectory.h"
 
 namespace zg {
@@ -77,7 +77,7 @@ TEST(ExistingFile, AmongOtherCasesTheFirstByItsBytesCounts) {
 TEST(ExistingFile, PassesOverWhatIsNoPlainFile) {
     const TempDirectory directory;
     std::filesystem::create_directory(directory.file("OUT.FRQ"));
-    ASSERT_EQ(mkfifo(directory.file("Out.frq").c_str(), 0600), 0);
+    ASSERT_TRUE(makePipe(directory.file("Out.frq")));
     std::filesystem::create_symlink(directory.file("nowhere"), directory.file("oUT.frq"));
     EXPECT_EQ(existingFile(directory.file("out.frq")), "");
     EXPECT_EQ(existingFile(directory.file("Out.frq")), "");
@@ -144,7 +144,7 @@ TEST(FilesMatching, OtherSignsStandForThemselves) {
 TEST(FilesMatching, GivesPlainFilesOnly) {
     const TempDirectory directory;
     directory.write("file.frq", "");
-    ASSERT_EQ(mkfifo(directory.file("pipe.frq").c_str(), 0600), 0);
+    ASSERT_TRUE(makePipe(directory.file("pipe.frq")));
     std::filesystem::create_symlink("file.frq", directory.file("link.frq"));
     std::filesystem::create_symlink("nowhere", directory.file("dangling.frq"));
     EXPECT_EQ(filesMatching(directory.file("*.frq")), (std::vector<std::string>{"file.frq", "link.frq"}));

@@ -3,9 +3,6 @@
 #include "processing/ControlFile.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-
-#include <csignal>
 
 #include "base/Lines.h"
 #include "tests/support/Raises.h"
@@ -176,21 +173,6 @@ TEST(ControlFile, IsWrittenUnderItsBaseAndReplacesAnOldOne) {
     EXPECT_EQ(directory.read("base_20050307-20051231_tempoline.inp"), controlFileBytes(v));
     EXPECT_NE(controlFileBytes(v).find("METINP = t\xE9.tsf !"), std::string::npos) << "one byte a character";
     EXPECT_RAISES(76, "Path not found", WriteControlFile(directory.file("no/"), v));
-}
-
-TEST(ControlFile, AFullDiskIsAnErrorOfItsOwn) {
-    const TempDirectory directory;
-    const ControlFile values = common(InputKind::Tsf, {"t.tsf"});
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    // Full half-way, and full at the last byte, which only closing the file reports.
-    for (const std::size_t room : {std::size_t{5'000}, controlFileBytes(values).size() - 1}) {
-        const rlimit small{room, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-        EXPECT_THROW(WriteControlFile(directory.path() + "/", values), RunTimeError) << room;
-        setrlimit(RLIMIT_FSIZE, &before);
-    }
 }
 
 }  // namespace

@@ -279,13 +279,11 @@ TEST_F(CfgFileTest, FailedWriteLeavesTheDefaultFile) {
     EXPECT_EQ(settings.RadiusText, "37.5%") << "the values in memory stay";
 }
 
-#ifdef __linux__
 TEST_F(CfgFileTest, FullDiskLeavesTheDefaultFile) {
     setOwnValues();
     WriteCfgFile("/dev/full");
     EXPECT_EQ(cfgBytes(), defaultBytes());
 }
-#endif
 
 TEST_F(CfgFileTest, ReadOnlyFileKeepsItsBytesWhereTheSystemForbidsWriting) {
     writeCfg(defaultBytes());

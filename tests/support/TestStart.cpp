@@ -3,10 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
+
+#include "tests/support/System.h"
 
 namespace {
 
@@ -19,12 +20,12 @@ bool everythingNeededIsThere(const std::filesystem::path& program) {
     while (list >> target && std::getline(list >> std::ws, path)) {
         if (std::filesystem::exists(path)) continue;
         std::fprintf(stderr, "%s needs %s, which is not there. Build it:  cmake --build %s --target %s\n",
-                     program.filename().c_str(), path.c_str(), ZG_BINARY_DIR, target.c_str());
+                     program.filename().string().c_str(), path.c_str(), ZG_BINARY_DIR, target.c_str());
         complete = false;
     }
     if (!std::filesystem::exists(ZG_SOURCE_DIR "/data/samples")) {
-        std::fprintf(stderr, "%s needs the checkout that it was built from: %s\n", program.filename().c_str(),
-                     ZG_SOURCE_DIR);
+        std::fprintf(stderr, "%s needs the checkout that it was built from: %s\n",
+                     program.filename().string().c_str(), ZG_SOURCE_DIR);
         complete = false;
     }
     return complete;
@@ -33,7 +34,7 @@ bool everythingNeededIsThere(const std::filesystem::path& program) {
 }  // namespace
 
 int startTests(int argc, char** argv) {
-    setenv("LC_ALL", "C.UTF-8", 1);
+    setEnvironment("LC_ALL", "C.UTF-8");
     ::testing::InitGoogleTest(&argc, argv);
     if (!everythingNeededIsThere(argv[0])) return 2;
     return RUN_ALL_TESTS();

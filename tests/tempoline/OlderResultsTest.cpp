@@ -15,7 +15,7 @@ const ResultSet usual = {"out.tsf", "out.tab", "out.frq"};
 std::string contentsHere() {
     std::map<std::string, std::string> files;
     for (const auto& entry : std::filesystem::directory_iterator("."))
-        files[entry.path().filename()] =
+        files[entry.path().filename().string()] =
             entry.is_directory() ? "directory" : readWholeFile(entry.path().string());
     std::string text;
     for (const auto& [name, content] : files)

@@ -9,6 +9,7 @@
 #include <map>
 #include <set>
 
+#include "tempoline/Interrupt.h"
 #include "tempoline/Merge.h"
 #include "tempoline/Run.h"
 #include "tests/tempoline/FileCalls.h"
@@ -62,7 +63,8 @@ std::string listingHere() { return readWholeFile(runListing); }
 
 std::set<std::string> allNames() {
     std::set<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(".")) names.insert(entry.path().filename());
+    for (const auto& entry : std::filesystem::directory_iterator("."))
+        names.insert(entry.path().filename().string());
     return names;
 }
 
@@ -387,6 +389,26 @@ TEST(RunResults, AFailedMergeLeavesNoneOfItsName) {
     mergeTabs({"sum.tab"}, "sum");  // a sum of itself
     EXPECT_EQ(inside.directory.read("sum.frq"), good);
     EXPECT_FALSE(std::filesystem::exists("sum.previous.tab"));
+}
+
+TEST(RunResults, AnInterruptLeavesOldResultsWholeAndAside) {
+    const InDirectory inside;
+    inside.directory.write("in.sfc", "header\n");
+    inside.directory.write("out.frq", "old");
+    auto changes = firstDay;
+    changes.emplace_back("METINP", "in.sfc");
+    inside.directory.write("c.inp", control("aermsfc.inp", changes));
+    FileCalls::before(6, [] { setInterrupted(true); });
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(run("c.inp"), ExitStatus::Interrupted);
+    setInterrupted(false);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "tempoline: the results of an earlier run are kept as out.previous.frq\n"
+              "tempoline: interrupted\n");
+    EXPECT_EQ(inside.directory.read("out.previous.frq"), "old");
+    EXPECT_EQ(run("c.inp"), ExitStatus::Completed);
+    EXPECT_NE(inside.directory.read("out.frq"), "old");
+    EXPECT_FALSE(std::filesystem::exists("out.previous.frq"));
 }
 
 }  // namespace zg::tempoline

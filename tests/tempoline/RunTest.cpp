@@ -7,7 +7,6 @@
 #include "tempoline/Interrupt.h"
 #include "tempoline/Merge.h"
 #include "tests/support/TestHost.h"
-#include "tests/tempoline/FileCalls.h"
 #include "tests/tempoline/RunSupport.h"
 #include "tests/tempoline/TempolineSupport.h"
 
@@ -213,26 +212,6 @@ TEST(Run, WithoutARecordInThePeriodTheDesktopSaysThatAllAreMissing) {
     ASSERT_EQ(loadFreqFile("out.frq", tables, host), FreqFileOutcome::Loaded);
     EXPECT_EQ(tables.FrqRoseCount, 0);
     EXPECT_EQ(tables.GraphCaption, "ALL DATA ARE MISSING");
-}
-
-TEST(Run, AnInterruptLeavesOldResultsWholeAndAside) {
-    const InDirectory inside;
-    inside.directory.write("in.sfc", "header\n");
-    inside.directory.write("out.frq", "old");
-    auto changes = firstDay;
-    changes.emplace_back("METINP", "in.sfc");
-    inside.directory.write("c.inp", control("aermsfc.inp", changes));
-    FileCalls::before(6, [] { setInterrupted(true); });
-    testing::internal::CaptureStderr();
-    EXPECT_EQ(run("c.inp"), ExitStatus::Interrupted);
-    setInterrupted(false);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "tempoline: the results of an earlier run are kept as out.previous.frq\n"
-              "tempoline: interrupted\n");
-    EXPECT_EQ(inside.directory.read("out.previous.frq"), "old");
-    EXPECT_EQ(run("c.inp"), ExitStatus::Completed);
-    EXPECT_NE(inside.directory.read("out.frq"), "old");
-    EXPECT_FALSE(std::filesystem::exists("out.previous.frq"));
 }
 
 }  // namespace zg::tempoline

@@ -30,7 +30,9 @@ class FakeWindow : public zg::ControlWindow {
     std::string aboutTitle;
 
     /// Number of calls since the last forget.
-    long count(const std::string& call) const { return std::count(calls.begin(), calls.end(), call); }
+    std::ptrdiff_t count(const std::string& call) const {
+        return std::count(calls.begin(), calls.end(), call);
+    }
 
     /// Number of whole frames painted since the last forget.
     std::size_t frames() const { return canvas.all<drawn::KeepPicture>().size(); }

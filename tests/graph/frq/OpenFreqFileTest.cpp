@@ -289,13 +289,13 @@ int openHandlesOn(const std::string& path) {
     int count = 0;
     std::error_code closedMeanwhile;
     for (const auto& handle : std::filesystem::directory_iterator("/proc/self/fd"))
-        count += std::filesystem::read_symlink(handle.path(), closedMeanwhile) == path;
+        count += std::filesystem::read_symlink(handle.path(), closedMeanwhile).string() == path;
     return count;
 }
 
 TEST_F(OpenFreqFile, ARefusedFileStaysOpenAndALoadedOneDoesNot) {
     host.boxAnswers = {BoxAnswer::Ok, BoxAnswer::Ok};
-    const std::string path = std::filesystem::canonical(directory.write("wind.frq", "no wind\r\n"));
+    const std::string path = std::filesystem::canonical(directory.write("wind.frq", "no wind\r\n")).string();
     EXPECT_EQ(loadFreqFile(path, tables, host), FreqFileOutcome::Refused);
     EXPECT_EQ(openHandlesOn(path), 1);
     EXPECT_EQ(loadFreqFile(path, tables, host), FreqFileOutcome::Refused);

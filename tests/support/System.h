@@ -1,0 +1,10 @@
+#pragma once
+
+// What tests ask of the system beyond what the programs do.
+
+#include <string>
+
+/// A pipe with a name among the files; false on a system that has none.
+bool makePipe(const std::string& path);
+
+void setEnvironment(const char* name, const char* value);
