@@ -12,35 +12,22 @@
 #include <string>
 #include <string_view>
 #include <vector>
-#ifdef _WIN32
-#include <io.h>
-#else
-#include <sys/mman.h>
-#include <unistd.h>
-#ifndef __SANITIZE_ADDRESS__  // which reports crashes itself
-#define ZG_TELLS_CRASHES
-#endif
-#endif
 
+#include "base/Console.h"
 #include "base/Paths.h"
 #include "base/Version.h"
+#include "export/Crashes.h"
 #include "export/ExportRoses.h"
 #include "export/PictureFile.h"
 #include "export/StyleOptions.h"
+#include "platform/Fonts.h"
+#include "platform/QtText.h"
 
 namespace {
 
-bool isTerminal() {
-#ifdef _WIN32
-    return _isatty(_fileno(stderr)) != 0;
-#else
-    return isatty(STDERR_FILENO) != 0;
-#endif
-}
-
 /// In the order in which the parser consumes them, the last one first. It reads "[a]" as a list of one name.
 std::vector<std::string> wordsOf(int argc, char** argv) {
-    std::vector<std::string> words(argv + 1, argv + argc);
+    std::vector<std::string> words = zg::programWords(argc, argv);
     for (std::string& word : words)
         if (word.size() > 1 && word.front() == '[' && word.back() == ']') word.insert(0, "./");
     std::reverse(words.begin(), words.end());
@@ -67,22 +54,6 @@ void ignoreRemarks(QtMsgType kind, const QMessageLogContext&, const QString& tex
     std::fputs(fault, stderr);
     std::_Exit(zg::exportFailed);
 }
-
-#ifdef ZG_TELLS_CRASHES
-/// Libraries below the toolkit do not check their allocations and crash without memory. If the system has
-/// none to give, that is reported as such; every other crash remains a crash.
-void crash(int signal) {
-    constexpr std::size_t some = std::size_t{64} << 20;
-    constexpr std::string_view fault = "zephyrgraph-export: out of memory\n";
-    if (mmap(nullptr, some, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0) == MAP_FAILED) {
-        zg::dropUnfinishedPictures();
-        [[maybe_unused]] const auto told = write(STDERR_FILENO, fault.data(), fault.size());
-        _exit(zg::exportFailed);
-    }
-    std::signal(signal, SIG_DFL);
-    std::raise(signal);
-}
-#endif
 
 int runCommand(int argc, char** argv) {
     zg::ExportJob job;
@@ -123,7 +94,7 @@ int runCommand(int argc, char** argv) {
         return app.exit(error) == 0 ? zg::exportDone : zg::exportWrongUsage;
     }
 
-    job.progress = !quiet && isTerminal();
+    job.progress = !quiet && zg::isTerminal(stderr);
 #ifdef SIGXFSZ
     std::signal(SIGXFSZ, SIG_IGN);  // the size limit becomes a write error with the file's name
 #endif
@@ -132,7 +103,8 @@ int runCommand(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(ignoreRemarks);
     QGuiApplication application(argc, argv);
-    zg::applicationDirectory = QCoreApplication::applicationDirPath().toStdString();
+    zg::applicationDirectory = zg::filePath(QCoreApplication::applicationDirPath());
+    zg::useFontsBeside(zg::applicationDirectory);
     return zg::runExport(job, std::cout, std::cerr);
 }
 
@@ -140,9 +112,8 @@ int runCommand(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     std::set_terminate(endInOneLine);
-#ifdef ZG_TELLS_CRASHES
-    for (const int signal : {SIGSEGV, SIGBUS, SIGABRT}) std::signal(signal, crash);
-#endif
+    zg::tellLackOfMemory();
+    zg::useUtf8Console();
     try {
         return runCommand(argc, argv);
     } catch (...) {

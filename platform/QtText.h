@@ -3,11 +3,14 @@
 // Conversion between the program's 8-bit texts and the toolkit's.
 
 #include <QColor>
+#include <QDir>
 #include <QFile>
 #include <QString>
 
 #include "base/Encoding.h"
+#include "base/Paths.h"
 #include "base/Style.h"
+#include "base/WideNames.h"
 
 namespace zg {
 
@@ -19,9 +22,13 @@ inline std::string typed(const QString& text) { return fromUtf8(text.toStdString
 
 /// File names keep the bytes of the file system.
 inline QString fileName(const std::string& path) {
+    if constexpr (pathSeparator == '\\') return QString::fromStdU16String(wideName(path));
     return QFile::decodeName(QByteArray(path.data(), static_cast<qsizetype>(path.size())));
 }
-inline std::string filePath(const QString& name) { return QFile::encodeName(name).toStdString(); }
+inline std::string filePath(const QString& name) {
+    if constexpr (pathSeparator == '\\') return narrowName(QDir::toNativeSeparators(name).toStdU16String());
+    return QFile::encodeName(name).toStdString();
+}
 
 /// A colour to paint; colours of the desktop are replaced by neutral ones that suit every theme.
 QColor toQColor(Colour colour);

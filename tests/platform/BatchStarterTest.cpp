@@ -2,19 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#ifndef _WIN32
 #include <unistd.h>
 
-#include <cerrno>
-#endif
-
 #include <QTest>
+#include <cerrno>
 #include <filesystem>
 
 #include "tests/support/Raises.h"
 #include "tests/support/TempDirectory.h"
 
-#ifndef _WIN32
 namespace {
 int forksThatSucceed = -1;  // unlimited
 }
@@ -31,12 +27,9 @@ pid_t __wrap_fork() {
     return __real_fork();
 }
 }
-#endif
 
 namespace zg {
 namespace {
-
-#ifndef _WIN32
 
 /// Programs are searched in a directory of the test.
 class BatchStarterTest : public ::testing::Test {
@@ -111,8 +104,6 @@ TEST_F(BatchStarterTest, RaisesTheErrorOfABatchFileThatIsMissing) {
     EXPECT_RAISES(53, "File not found",
                   (starter_.start(directory_.file("none.bat"), WindowStyle::Hidden), 0));
 }
-
-#endif
 
 }  // namespace
 }  // namespace zg

@@ -1,41 +1,20 @@
-#include "platform/BatchStarter.h"
-
 #include <QGuiApplication>
-#include <QProcess>
 #include <vector>
 
 #include "base/Lines.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "platform/BatchScript.h"
+#include "platform/BatchStarter.h"
 #include "platform/Detached.h"
 #include "platform/QtText.h"
 #include "processing/BatchFile.h"
-
-#ifdef _WIN32
-#include <qt_windows.h>
-#endif
 
 namespace zg {
 
 namespace {
 
 constexpr std::size_t mostLines = 5;
-
-#ifdef _WIN32
-/// The shell's console is a separate window, or none.
-void startShell(const std::string& batchFile, WindowStyle style) {
-    QProcess shell;
-    shell.setProgram(QStringLiteral("cmd.exe"));
-    // Unchanged: the toolkit would add quotes around the quotes of the path.
-    shell.setNativeArguments(fileName(shellArguments(batchFile)));
-    shell.setCreateProcessArgumentsModifier([style](QProcess::CreateProcessArguments* process) {
-        process->flags &= ~static_cast<unsigned long>(CREATE_NO_WINDOW);
-        process->flags |= style == WindowStyle::Hidden ? CREATE_NO_WINDOW : CREATE_NEW_CONSOLE;
-    });
-    if (!shell.startDetached()) raise(ErrorNumber::InvalidProcedureCall);
-}
-#endif
 
 /// The lines of a small file; one line more than the program writes means that another program wrote it.
 std::vector<std::string> firstLines(const std::string& batchFile) {
@@ -79,9 +58,6 @@ std::string BatchStarter::newReport(const std::string& batchFile) {
 }
 
 void BatchStarter::start(const std::string& batchFile, WindowStyle style) {
-#ifdef _WIN32
-    startShell(batchFile, style);
-#else
     static_cast<void>(style);  // here only the viewer opens a window of its own
     const std::vector<std::string> lines = firstLines(batchFile);
     if (const std::string path = lines.size() == 1 ? viewedFile(lines[0]) : std::string(); !path.empty())
@@ -93,7 +69,6 @@ void BatchStarter::start(const std::string& batchFile, WindowStyle style) {
                                " holds other lines than this program writes");
     if (!startDetached(scriptCommand(asShellScript(*run, newReport(batchFile)), terminalProgram())))
         raise(ErrorNumber::InvalidProcedureCall);
-#endif
 }
 
 std::string BatchStarter::outcome(const std::string& batchFile) {

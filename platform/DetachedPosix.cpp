@@ -1,29 +1,19 @@
-#include "platform/Detached.h"
-
-#include <QStandardPaths>
-
-#include "platform/QtText.h"
-
-#ifndef _WIN32
 #include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <QStandardPaths>
 
 #include <cerrno>
 #include <csignal>
-#endif
+
+#include "platform/Detached.h"
+#include "platform/QtText.h"
 
 namespace zg {
 
 std::string programInPath(const std::string& name) {
     return filePath(QStandardPaths::findExecutable(fileName(name)));
 }
-
-#ifdef _WIN32
-
-bool startDetached(const std::vector<std::string>&) { return false; }
-
-#else
 
 namespace {
 
@@ -73,7 +63,5 @@ bool startDetached(const std::vector<std::string>& words) {
     }
     return child > 0 && got == 0;
 }
-
-#endif
 
 }  // namespace zg

@@ -1,0 +1,28 @@
+#include <qt_windows.h>
+
+#include <QProcess>
+
+#include "base/RunTimeError.h"
+#include "platform/BatchScript.h"
+#include "platform/BatchStarter.h"
+#include "platform/QtText.h"
+
+namespace zg {
+
+/// The shell's console is a window of its own, or none at all.
+void BatchStarter::start(const std::string& batchFile, WindowStyle style) {
+    QProcess shell;
+    shell.setProgram(QStringLiteral("cmd.exe"));
+    // As they stand: the toolkit would put the quotes of the path in quotes of its own.
+    shell.setNativeArguments(fileName(shellArguments(batchFile)));
+    shell.setCreateProcessArgumentsModifier([style](QProcess::CreateProcessArguments* process) {
+        process->flags &= ~static_cast<unsigned long>(CREATE_NO_WINDOW);
+        process->flags |= style == WindowStyle::Hidden ? CREATE_NO_WINDOW : CREATE_NEW_CONSOLE;
+    });
+    if (!shell.startDetached()) raise(ErrorNumber::InvalidProcedureCall);
+}
+
+/// The console itself tells the person.
+std::string BatchStarter::outcome(const std::string&) { return {}; }
+
+}  // namespace zg

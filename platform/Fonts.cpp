@@ -1,0 +1,32 @@
+#include "platform/Fonts.h"
+
+#include <QFont>
+#include <QFontDatabase>
+
+#include "base/Paths.h"
+#include "platform/QtText.h"
+
+namespace zg {
+
+namespace {
+
+const char* const wantedFace = "Arial";
+const char* const equalFace = "Liberation Sans";
+
+bool isThere(const char* face) {
+    return QFontDatabase::families().contains(QString::fromLatin1(face), Qt::CaseInsensitive);
+}
+
+}  // namespace
+
+void useFontsBeside(const std::string& programDirectory) {
+    if (isThere(wantedFace)) return;
+    const std::string directory = programDirectory + pathSeparator + "fonts" + pathSeparator;
+    const std::vector<std::string> names = filesMatching(directory + "*.ttf");
+    if (names.empty()) return;  // the system has its own rules for what takes the place
+    for (const std::string& name : names) QFontDatabase::addApplicationFont(fileName(directory + name));
+    if (isThere(equalFace))
+        QFont::insertSubstitution(QString::fromLatin1(wantedFace), QString::fromLatin1(equalFace));
+}
+
+}  // namespace zg
