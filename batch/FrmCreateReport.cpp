@@ -5,6 +5,7 @@
 
 #include "base/Paths.h"
 #include "base/Text.h"
+#include "batch/AutomationReportWriter.h"
 #include "batch/OfficeReportWriter.h"
 #include "graph/frq/ModPolarGraph.h"
 #include "platform/Captions.h"
@@ -28,7 +29,8 @@ constexpr float slideSide = 539.88F;
 
 frmCreateReport::frmCreateReport(Host& host, QWidget* parent, std::unique_ptr<ReportWriter> writer)
     : RunningDialog(host, "frmCreateReport", "Create Report", parent), writer_(std::move(writer)) {
-    if (!writer_) writer_ = std::make_unique<OfficeReportWriter>(host);
+    if (!writer_)
+        writer_ = std::make_unique<AutomationReportWriter>(std::make_unique<OfficeReportWriter>(host));
     txtBMPDirectory = named(new QLineEdit, "txtBMPDirectory");
     cmdBrowseBMPDirectory =
         browseButton("&Browse...", "cmdBrowseBMPDirectory", "Browse for a directory of bitmaps");
