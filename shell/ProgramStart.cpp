@@ -13,9 +13,9 @@
 
 namespace zg {
 
-int runProgram(Host& host) {
+int runProgram(Host& host, const std::string& frqFile) {
     std::unique_ptr<frmMain> window;
-    const auto showMain = [&host, &window] {
+    const auto showMain = [&host, &window, &frqFile] {
         window = std::make_unique<frmMain>(host);
         guarded(host, [&window] { window->Form_Load(); })();
         window->show();
@@ -24,6 +24,9 @@ int runProgram(Host& host) {
                                const auto notes = QStandardPaths::AppConfigLocation;
                                tellReadOnlyPlace(host, filePath(QStandardPaths::writableLocation(notes)));
                            }));
+        if (frqFile.empty()) return;
+        QTimer::singleShot(0, window.get(),
+                           guarded(host, [&window, &frqFile] { window->PlotFrqFile(frqFile); }));
     };
     frmSplashScreen splash(host, showMain);
     splash.run();

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <string>
+
 #include "base/Host.h"
 
 namespace zg {
 
 /// From the splash to the end of the program; returns the exit status. Closing the window, or choosing Exit,
-/// while the splash still waits ends it at once.
-int runProgram(Host& host);
+/// while the splash still waits ends it at once. An FRQ file that is given is opened when the window is
+/// shown.
+int runProgram(Host& host, const std::string& frqFile = {});
 
 }  // namespace zg

@@ -83,5 +83,29 @@ TEST_F(ProgramStart, ExitAfterTheSplashEndsTheProgram) {
     EXPECT_GE(host_.now, 1750);
 }
 
+TEST_F(ProgramStart, AFileThatIsGivenIsOpenedInTheWindow) {
+    const std::string sample = std::string(ZG_SOURCE_DIR) + "/data/samples/LOVETT_1988.frq";
+    QString title;
+    QTimer user;
+    QObject::connect(&user, &QTimer::timeout, [&title] {
+        auto* const window = shownWindow<frmMain>("frmMain");
+        if (window == nullptr || window->windowTitle() == QLatin1String("Zephyrgraph")) return;
+        title = window->windowTitle();
+        window->menuAction("mnuFileOption_18")->trigger();
+    });
+    user.start(10);
+    EXPECT_EQ(runProgram(host_, sample), 0);
+    EXPECT_EQ(title, QStringLiteral("Zephyrgraph - LOVETT_1988.frq"));
+    EXPECT_GT(modPolarGraph.FrqRoseCount, 1);
+}
+
+TEST_F(ProgramStart, AFileThatIsGivenAndMissingIsToldInABox) {
+    host_.boxAnswers = {BoxAnswer::Ok};
+    host_.onBox = [] { QTimer::singleShot(0, [] { QCoreApplication::exit(stillRunning); }); };
+    EXPECT_EQ(runProgram(host_, directory_.file("none.frq")), stillRunning);
+    ASSERT_EQ(host_.boxes.size(), 1U);
+    EXPECT_NE(host_.boxes[0].text.find("File not found"), std::string::npos) << host_.boxes[0].text;
+}
+
 }  // namespace
 }  // namespace zg
