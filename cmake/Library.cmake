@@ -37,6 +37,11 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     add_compile_options(--param=ggc-min-expand=1000 --param=ggc-min-heapsize=1000000)
 endif()
 
+# A program without the toolkit needs no library of the compiler's beside it.
+if(WIN32)
+    set(ZG_ALONE -static)
+endif()
+
 include(${CMAKE_CURRENT_LIST_DIR}/Precompiled.cmake)
 
 option(ZG_UNITY "Compile several sources of a library at once" ON)

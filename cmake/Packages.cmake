@@ -8,6 +8,11 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/samples ${PROJECT_SOURCE_DIR}/data/
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md DESTINATION . COMPONENT app)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION . COMPONENT app)
 
+if(WIN32)
+    include(${CMAKE_CURRENT_LIST_DIR}/PackagesWindows.cmake)
+    return()
+endif()
+
 # From /usr/lib/zephyrgraph.
 set(system ../..)
 set(links ${CMAKE_BINARY_DIR}/package_links)

@@ -39,6 +39,8 @@ if(ZG_TOOLKIT)
 endif()
 if(ZG_TESTS)
     zg_precompiled(zg_pch_test LINKS GTest::gtest OPTIONS ${ZG_TEST_OPTIMISATION} HEADERS ${ZG_STANDARD_HEADERS} <gtest/gtest.h>)
-    zg_precompiled(zg_pch_qt_test LINKS ${ZG_TOOLKIT_LIBRARIES} Qt6::Test GTest::gtest OPTIONS ${ZG_TEST_OPTIMISATION}
-                   HEADERS ${ZG_STANDARD_HEADERS} ${ZG_TOOLKIT_HEADERS} <QTest> <gtest/gtest.h>)
+    if(ZG_TOOLKIT)
+        zg_precompiled(zg_pch_qt_test LINKS ${ZG_TOOLKIT_LIBRARIES} Qt6::Test GTest::gtest OPTIONS ${ZG_TEST_OPTIMISATION}
+                       HEADERS ${ZG_STANDARD_HEADERS} ${ZG_TOOLKIT_HEADERS} <QTest> <gtest/gtest.h>)
+    endif()
 endif()

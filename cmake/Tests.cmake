@@ -1,13 +1,18 @@
 # Fewer than in a library: tests are changed more often than they are built from scratch.
 set(ZG_UNITY_SOURCES 5)
 
+# Under Wine this system's root is a drive.
+if(CMAKE_CROSSCOMPILING)
+    set(ZG_DRIVE "Z:")
+endif()
+
 # zg_test_library(NAME [QT] SOURCES a.cpp ... LINKS ...): what several test programs share.
 function(zg_test_library name)
     cmake_parse_arguments(ARG "QT" "" "SOURCES;LINKS" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC ${ARG_LINKS} GTest::gtest PRIVATE zg_flags)
-    target_compile_definitions(${name} PRIVATE ZG_SOURCE_DIR="${PROJECT_SOURCE_DIR}" ZG_BINARY_DIR="${PROJECT_BINARY_DIR}")
+    target_compile_definitions(${name} PRIVATE ZG_SOURCE_DIR="${ZG_DRIVE}${PROJECT_SOURCE_DIR}" ZG_BINARY_DIR="${ZG_DRIVE}${PROJECT_BINARY_DIR}")
     if(ARG_QT)
         zg_compile_together(${name} zg_pch_qt_test)
     else()
@@ -20,16 +25,19 @@ endfunction()
 # below tests/ and "toolkit" or "fast". NEEDS names the programs and libraries that it starts or loads: they are built with it.
 function(zg_test name)
     cmake_parse_arguments(ARG "QT" "PARTS" "SOURCES;LINKS;NEEDS" ${ARGN})
+    list(TRANSFORM ARG_SOURCES PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+    list(REMOVE_ITEM ARG_SOURCES ${ZG_SOURCES_LEFT_OUT})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} zg_test_support zg_flags GTest::gtest)
-    target_compile_definitions(${name} PRIVATE ZG_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
-                                               ZG_BINARY_DIR="${PROJECT_BINARY_DIR}")
+    target_compile_definitions(${name} PRIVATE ZG_SOURCE_DIR="${ZG_DRIVE}${PROJECT_SOURCE_DIR}"
+                                               ZG_BINARY_DIR="${ZG_DRIVE}${PROJECT_BINARY_DIR}")
     if(ARG_QT)
         target_link_libraries(${name} PRIVATE zg_qt_test_main Qt6::Test)
         zg_compile_together(${name} zg_pch_qt_test)
         set(kind toolkit)
     else()
         target_link_libraries(${name} PRIVATE zg_test_main)
+        target_link_options(${name} PRIVATE ${ZG_ALONE})
         zg_compile_together(${name} zg_pch_test)
         set(kind fast)
     endif()
@@ -39,7 +47,7 @@ function(zg_test name)
         add_dependencies(${name} ${target})
         string(APPEND needs "${target} $<TARGET_FILE:${target}>\n")
     endforeach()
-    file(GENERATE OUTPUT ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${name}.needs CONTENT "${needs}")
+    file(GENERATE OUTPUT ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${name}${CMAKE_EXECUTABLE_SUFFIX}.needs CONTENT "${needs}")
 
     if(NOT ARG_PARTS)
         set(ARG_PARTS 1)
@@ -62,6 +70,9 @@ function(zg_add_test_run run program kind)
     set_property(TEST ${run} PROPERTY ENVIRONMENT "QT_QPA_PLATFORM=offscreen"
                  "GTEST_OUTPUT=xml:${PROJECT_BINARY_DIR}/Testing/cases/${run}.xml" ${ARGN})
     set_property(TEST ${run} PROPERTY TIMEOUT 600)
+    if(ZG_CASES_LEFT_OUT_OF_${program})
+        set_property(TEST ${run} APPEND PROPERTY ENVIRONMENT "GTEST_FILTER=-${ZG_CASES_LEFT_OUT_OF_${program}}")
+    endif()
 endfunction()
 
 # zg_label(TEST LABEL ...): labels the test with these and with the folders on the path below tests/.

@@ -56,4 +56,12 @@ done
 while read -r folder; do
     [ -n "${allowed[$folder]+named}" ] || { echo "$folder/ has sources and is not in the map"; fail=1; }
 done < <(git ls-files '*.h' '*.cpp' | xargs -r -n1 dirname | sort -u | grep -vE '^(tests|bench)(/|$)')
+systems=$(git grep -nE '(_WIN32|__linux__|__unix__|Q_OS_[A-Z])' -- '*.cpp' '*.h' || true)
+calls=$(git grep -nE '^#include <(unistd|fcntl|poll|dirent|windows|qt_windows|sys/[a-z]+)\.h>' -- '*.cpp' '*.h' ':!tests' ':!bench' ':!*Posix.cpp' ':!*Windows.cpp' \
+    ':!base/WindowsNames.*' || true)
+if [ -n "$systems$calls" ]; then
+    echo "What differs from system to system belongs in a pair of sources, ...Posix.cpp and ...Windows.cpp:"
+    echo "$systems$calls"
+    fail=1
+fi
 exit $fail

@@ -4,7 +4,7 @@
 #   tools/setup.sh --tests    and what ./test.sh needs
 #     tools/setup.sh --e2e      and what the walk through the program in a real window needs
 #   tools/setup.sh --checks   and what the stricter checks need
-#   tools/setup.sh --windows  and the compiler for Windows
+#   tools/setup.sh --windows  and what tools/windows.sh needs
 #     tools/setup.sh --cluster  only what tests/cluster/slurm.sh needs
 set -euo pipefail
 
@@ -13,6 +13,7 @@ packages=(g++ cmake ninja-build qt6-base-dev libcli11-dev nlohmann-json3-dev lib
 tests=(libgtest-dev libbenchmark-dev libmuparser-dev parallel python3 clang libclang-rt-14-dev librsvg2-bin)
 e2e=(xvfb openbox xdotool imagemagick)
 checks=(clang-format clang-tidy cppcheck git debootstrap dpkg-dev file chromium-headless-shell)
+windows=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine wine64 nsis librsvg2-bin libgtest-dev python3 zip dpkg-dev tcl sqlite3)
 cluster=(slurmctld slurmd slurm-client munge python3)
 
 case "${1:-}" in
@@ -20,11 +21,11 @@ case "${1:-}" in
     --tests) packages+=("${tests[@]}") ;;
     --e2e) packages+=("${tests[@]}" "${e2e[@]}") ;;
     --checks)
-        packages+=("${tests[@]}" "${e2e[@]}" "${checks[@]}")
+        packages+=("${tests[@]}" "${e2e[@]}" "${checks[@]}" "${windows[@]}")
         "$0" --cluster || echo "tools/setup.sh: no Slurm can be had here: tests/cluster/slurm.sh will be skipped" >&2
         ;;
     --cluster) packages=("${cluster[@]}") ;;
-    --windows) packages+=(g++-mingw-w64-x86-64-posix) ;;
+    --windows) packages+=("${windows[@]}") ;;
     *) echo "tools/setup.sh: unknown option $1" >&2; exit 2 ;;
 esac
 

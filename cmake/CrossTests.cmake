@@ -1,0 +1,21 @@
+# Tests of a cross-built program: the test framework from the sources that Debian's libgtest-dev brings, and what stays out on that system.
+find_path(ZG_GTEST_SOURCES googletest/src/gtest-all.cc PATHS /usr/src/googletest NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
+if(ZG_GTEST_SOURCES)
+    set(BUILD_GMOCK OFF CACHE BOOL "")
+    set(INSTALL_GTEST OFF CACHE BOOL "")
+    add_subdirectory(${ZG_GTEST_SOURCES} ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+    set(GTest_FOUND TRUE)
+endif()
+
+# Lines "source PATH: reason" and "case PROGRAM SUITE.CASE: reason".
+file(STRINGS ${PROJECT_SOURCE_DIR}/tests/windows.txt lines REGEX "^(source|case) ")
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/windows.txt)
+foreach(line IN LISTS lines)
+    if(line MATCHES "^source ([^:]+): ")
+        list(APPEND ZG_SOURCES_LEFT_OUT ${PROJECT_SOURCE_DIR}/${CMAKE_MATCH_1})
+    elseif(line MATCHES "^case ([^ ]+) ([^: ]+): ")
+        string(APPEND ZG_CASES_LEFT_OUT_OF_${CMAKE_MATCH_1} ":${CMAKE_MATCH_2}")
+    else()
+        message(FATAL_ERROR "tests/windows.txt: no reason, or no such word: ${line}")
+    endif()
+endforeach()
