@@ -4,8 +4,8 @@
 
 namespace zg {
 
-/// Carries an action out at the end of the scope, however the end comes about: what was changed for a while
-/// is put back there. The action must not throw.
+/// Runs an action at the end of the scope, however it is left, to restore what was changed temporarily. The
+/// action must not throw.
 template <typename Act>
 class AtEnd {
  public:

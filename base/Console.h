@@ -1,6 +1,6 @@
 #pragma once
 
-// What a program asks of the system about the console that it was started from.
+// The system's side of the console from which a program was started.
 
 #include <cstdio>
 #include <optional>
@@ -10,31 +10,31 @@
 
 namespace zg {
 
-/// The words of the command line after the program's name, in the bytes of names (see Files.h).
+/// The arguments after the program's name, as names in bytes (see Files.h).
 std::vector<std::string> programWords(int argc, char** argv);
 
-/// The directory of the running program, without a final separator; "" if it cannot be told.
+/// The directory of the running program, without a final separator; "" if it cannot be determined.
 std::string programDirectory();
 
-/// From here on the console shows UTF-8, and both outputs take bytes as they stand. The console is left as it
-/// was found.
+/// From now on the console shows UTF-8, and both outputs accept bytes unchanged. The console is restored at
+/// the end.
 void useUtf8Console();
 
-/// From here on the wish of the person or the system that the program end (Ctrl-C, a terminated or hung up
-/// session unless that was turned off before, a closed console, logging off) only calls this, from a signal
-/// or from another thread: the program is to end soon by itself. What writes to a closed pipe or beyond the
-/// largest file fails, and does not end the program.
+/// From now on a request to end the program (Ctrl-C, a terminated or hung-up session unless that is ignored,
+/// a closed console, logging off) only calls this function, from a signal handler or another thread; the
+/// program must then end soon by itself. Writing to a closed pipe or beyond the file size limit fails without
+/// ending the program.
 void catchStops(void (*note)());
 
-/// The bytes by which a batch file gives that text to the system's command shell; nothing if it cannot hold
-/// the text.
+/// The bytes of that text in a batch file for the system's command shell; nothing if the shell cannot
+/// represent it.
 std::optional<std::string> batchText(std::string_view text);
 
-/// A second, plainer name of a file or directory that exists, for programs that cannot take the first; the
-/// same name if there is no other.
+/// An alternative plain name of an existing file or directory, for programs that cannot handle the first; the
+/// same name if there is none.
 std::string plainerName(const std::string& path);
 
-/// A person looks at what is written there.
+/// Whether the output goes to a terminal.
 bool isTerminal(std::FILE* file);
 
 }  // namespace zg

@@ -27,14 +27,14 @@ void useUtf8Console() {}
 void catchStops(void (*note)()) {
     noteStop = note;
     struct sigaction action = {};
-    action.sa_handler = stopSignal;  // without SA_RESTART: a read that waits for a pipe returns
+    action.sa_handler = stopSignal;  // without SA_RESTART, so that a read that waits for a pipe returns
     sigaction(SIGINT, &action, nullptr);
     sigaction(SIGTERM, &action, nullptr);
     struct sigaction former = {};
     if (sigaction(SIGHUP, nullptr, &former) == 0 && former.sa_handler != SIG_IGN)  // nohup ignores it
         sigaction(SIGHUP, &action, nullptr);
     std::signal(SIGPIPE, SIG_IGN);
-    std::signal(SIGXFSZ, SIG_IGN);  // a file at its limit is an error of the write, not the end
+    std::signal(SIGXFSZ, SIG_IGN);  // exceeding the file size limit becomes a write error
 }
 
 std::optional<std::string> batchText(std::string_view text) { return std::string(text); }

@@ -7,7 +7,7 @@
 #include "base/Paths.h"
 #include "base/WindowsNames.h"
 
-// After it: it needs the types of the system.
+// Must come after it, since it needs the system's types.
 #include <shellapi.h>
 
 namespace zg {
@@ -16,8 +16,8 @@ namespace {
 
 void (*noteStop)() = nullptr;
 
-/// Runs in a thread of its own. When it returns from a closed console or a session that ends, the system ends
-/// the process at once: so it waits until the program has ended by itself.
+/// Runs in a thread of its own. For a closed console or an ending session the system ends the process as soon
+/// as this returns, so it waits until the program has ended by itself.
 BOOL WINAPI stopEvent(DWORD event) {
     noteStop();
     if (event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT) Sleep(INFINITE);
@@ -40,7 +40,7 @@ std::vector<std::string> programWords(int, char**) {
 }
 
 std::string programDirectory() {
-    constexpr std::size_t longest = 32768;  // no path has more units
+    constexpr std::size_t longest = 32768;  // no longer path exists
     std::wstring path(longest, L'\0');
     const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
     path.resize(length < path.size() ? length : 0);
@@ -61,7 +61,7 @@ void catchStops(void (*note)()) {
     SetConsoleCtrlHandler(stopEvent, TRUE);
 }
 
-/// The shell reads a batch file in the code page that its console begins with.
+/// The shell reads a batch file in the code page with which its console starts.
 std::optional<std::string> batchText(std::string_view text) {
     if (text.empty()) return std::string();
     const std::wstring wide = wideUnits(text);

@@ -1,7 +1,7 @@
 #pragma once
 
-// A file that one process holds at a time. The system lets go of it when the process ends, however it ends;
-// the file itself stays then, and another may take it.
+// A file that one process can hold at a time. The system releases it when the process ends in any way; the
+// file itself then remains, and another process may hold it.
 
 #include <cstdint>
 #include <string>
@@ -13,7 +13,7 @@ class FileLock {
     enum class Of { NewFile, OldFile, AnyFile };
     enum class Outcome {
         Taken,
-        Held,    ///< by another, of this process too; for a new file also where the name is taken
+        Held,    ///< by anybody, including this process; for a new file also if the name is in use
         Failed,  ///< no such file, no right to it, or a file system without locks; errno says why
     };
 
@@ -22,16 +22,16 @@ class FileLock {
     FileLock(const FileLock&) = delete;
     FileLock& operator=(const FileLock&) = delete;
 
-    /// Opens the file of that name, or makes it, and holds it. A file that was given up and removed in the
-    /// meantime is not taken for that of the name.
+    /// Opens or creates the file of that name and holds it. A file that was released and removed meanwhile is
+    /// not mistaken for the one with the name.
     Outcome take(const std::string& name, Of kind);
 
     bool isTaken() const { return handle_ != none; }
 
-    /// Others may take it; the file stays.
+    /// Releases the lock; the file remains.
     void release();
 
-    /// The file goes, and only then may others take the name.
+    /// Removes the file before releasing the lock.
     void removeAndRelease();
 
  private:
@@ -41,7 +41,7 @@ class FileLock {
     Outcome takeOld();
     Outcome takeAny();
 
-    std::intptr_t handle_ = none;  ///< as the system numbers open files
+    std::intptr_t handle_ = none;  ///< the system's number of the open file
     std::string name_;
 };
 

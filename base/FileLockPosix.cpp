@@ -11,7 +11,7 @@ namespace zg {
 
 namespace {
 
-/// Some file systems of a network number an open file otherwise than its name, now and ever.
+/// Some network file systems occasionally number an open file differently from its name.
 constexpr int mostTries = 100;
 
 int fileOf(std::intptr_t handle) { return static_cast<int>(handle); }
@@ -24,7 +24,7 @@ bool isOne(const struct stat& a, const struct stat& b) {
 
 }  // namespace
 
-/// One that looks for files that killed processes left may hold the new file before this process has it.
+/// A run that looks for files of killed processes may lock the new file before this process does.
 FileLock::Outcome FileLock::takeNew() {
     const int file = open(name_.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     if (file < 0) return errno == EEXIST ? Outcome::Held : Outcome::Failed;
@@ -41,8 +41,7 @@ FileLock::Outcome FileLock::takeNew() {
     return isHeld ? Outcome::Held : Outcome::Failed;
 }
 
-/// Between its opening and its locking another process may have removed the file, and a third one made it
-/// again.
+/// Between opening and locking, another process may have removed the file, and a third one created it again.
 FileLock::Outcome FileLock::takeOld() {
     const int file = open(name_.c_str(), O_RDWR | O_CLOEXEC);
     if (file < 0) return Outcome::Failed;
@@ -60,7 +59,7 @@ FileLock::Outcome FileLock::takeAny() {
     constexpr int flags = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
     for (int tries = 0; tries < mostTries; ++tries) {
         int file = open(name_.c_str(), O_RDWR | O_CREAT | flags, 0666);
-        // That of another user can be locked all the same.
+        // A file of another user can still be locked.
         if (file < 0) file = open(name_.c_str(), O_RDONLY | flags);
         if (file < 0) return Outcome::Failed;
         const bool locked = lockNow(file);

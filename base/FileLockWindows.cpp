@@ -7,7 +7,7 @@ namespace zg {
 
 namespace {
 
-/// A file that is shared with nobody is a lock of its own.
+/// Opening a file without sharing it locks it.
 HANDLE openAlone(const std::string& name, DWORD creation) {
     constexpr int mostTries = 3;
     constexpr DWORD pause = 10;  // milliseconds
@@ -15,7 +15,7 @@ HANDLE openAlone(const std::string& name, DWORD creation) {
     for (int tries = 1;; ++tries) {
         const HANDLE file = CreateFileW(wide.c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, 0, nullptr,
                                         creation, FILE_ATTRIBUTE_NORMAL, nullptr);
-        // One that is being removed keeps its name for a moment.
+        // A file that is being removed keeps its name for a moment.
         if (file != INVALID_HANDLE_VALUE || GetLastError() != ERROR_ACCESS_DENIED || tries == mostTries)
             return file;
         Sleep(pause);

@@ -35,7 +35,7 @@ bool makeDirectories(const std::string& name) {
     for (; !missing.empty(); missing.pop_back()) {
         if (makeDirectory(missing.back())) continue;
         const int error = errno;
-        if (isDirectoryNow(missing.back())) continue;  // somebody else has made it
+        if (isDirectoryNow(missing.back())) continue;  // another process has created it
         errno = error == EEXIST ? ENOTDIR : error;
         return false;
     }

@@ -17,7 +17,7 @@ namespace zg {
 
 namespace {
 
-/// No call can be asked for such a name: it would take the part before the NUL.
+/// The system would look up only the part of such a name before the NUL.
 bool holdsNul(const std::string& name) {
     if (name.find('\0') == std::string::npos) return false;
     errno = ENOENT;

@@ -33,7 +33,7 @@ class Handle {
     HANDLE handle_;
 };
 
-/// No call is asked for such a name; errno says why.
+/// Such a name is not passed to the system; errno says why.
 bool isHopeless(const std::string& name) {
     constexpr std::size_t longestPart = 255;  // units
     if (name.find('\0') != std::string::npos) {
@@ -51,7 +51,7 @@ bool isHopeless(const std::string& name) {
     return false;
 }
 
-/// One of the directories on the way is none, but a file.
+/// One of the directories on the way is a file.
 bool leadsThroughFile(std::wstring path) {
     for (;;) {
         const std::size_t at = path.find_last_of(L'\\');
@@ -94,7 +94,7 @@ std::optional<FileState> stateBy(const std::string& name, DWORD flags) {
     return state;
 }
 
-/// Another program, such as one that looks for viruses, may have a new file open for a moment.
+/// Another program, such as a virus scanner, may have a new file open for a moment.
 template <typename Call>
 bool persist(Call call) {
     constexpr int mostTries = 10;
@@ -120,7 +120,7 @@ constexpr std::array<Mode, 4> modes = {{{"rb", GENERIC_READ, OPEN_EXISTING},
                                         {"r+b", GENERIC_READ | GENERIC_WRITE, OPEN_EXISTING},
                                         {"wbx", GENERIC_WRITE, CREATE_NEW}}};
 
-/// Names of devices, which no directory can hold, whatever ending they have.
+/// Device names, which no directory can contain with any extension.
 bool isDevice(std::string_view name) {
     std::string stem(name.substr(0, name.find('.')));
     while (!stem.empty() && stem.back() == ' ') stem.pop_back();
@@ -218,7 +218,7 @@ void removeAtOnce(const char* name) noexcept {
         DeleteFileW(wide.data());
 }
 
-/// They come with the directory.
+/// The permissions come with the directory.
 void copyPermissions(const std::string&, const std::string&) {}
 
 bool removeDirectory(const std::string& name) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// A file, a pipe or a device read by the system's own calls, block by block.
+// Reads a file, a pipe or a device block by block with the system's own calls.
 
 #include <cstddef>
 #include <cstdint>
@@ -15,29 +15,30 @@ class InputFile {
     InputFile(const InputFile&) = delete;
     InputFile& operator=(const InputFile&) = delete;
 
-    /// Opens it, once, and gives 0, or what is wrong as errno has it; a directory is EISDIR. A pipe without a
-    /// writer is waited for; whenever a signal ends the wait, look is called, which may throw.
+    /// Opens it, once, and returns 0 or the errno of the failure; EISDIR for a directory. Waits for the
+    /// writer of a pipe; whenever a signal interrupts the wait, calls `look`, which may throw.
     int open(const std::string& path, void (*look)());
 
-    /// A plain file: its end is where its size says, and no wait for it is of use.
+    /// Whether it is a regular file: its end is determined by its size, and waiting is pointless.
     bool isPlain() const { return plain_; }
 
-    /// Bytes of a plain file when it was opened.
+    /// Size of a regular file when it was opened.
     std::int64_t size() const { return size_; }
 
     enum class Wait { Ready, Nothing, Failed };
 
-    /// Waits for bytes, or for the end, up to so many milliseconds. A signal ends the wait with nothing.
+    /// Waits for bytes, or for the end, for at most this many milliseconds. A signal ends the wait without a
+    /// result.
     Wait waitForBytes(int milliseconds) const;
 
-    /// Reads up to so many bytes and gives their number, 0 at the end; -1 where that fails, with EINTR in
-    /// errno for a signal.
+    /// Reads up to this many bytes and returns their number, 0 at the end; -1 on failure, with EINTR in errno
+    /// for a signal.
     std::ptrdiff_t read(char* place, std::size_t size);
 
  private:
     static constexpr std::intptr_t none = -1;
 
-    std::intptr_t handle_ = none;  ///< as the system numbers open files
+    std::intptr_t handle_ = none;  ///< the system's number of the open file
     bool plain_ = false;
     std::int64_t size_ = 0;
 };

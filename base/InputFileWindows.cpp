@@ -36,7 +36,7 @@ InputFile::~InputFile() {
     if (handle_ != none) CloseHandle(inputOf(handle_));
 }
 
-/// A pipe cannot be waited for, only looked at.
+/// One cannot wait for a pipe, only poll it.
 InputFile::Wait InputFile::waitForBytes(int milliseconds) const {
     constexpr int pause = 10;  // milliseconds
     const HANDLE file = inputOf(handle_);

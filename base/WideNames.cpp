@@ -18,7 +18,7 @@ bool isLow(char16_t unit) { return unit >= lowFirst && unit <= lowLast; }
 
 unsigned byteAt(std::string_view bytes, std::size_t at) { return static_cast<unsigned char>(bytes[at]); }
 
-/// Three bytes that stand for half a pair; no UTF-8 has them.
+/// Three bytes for half a surrogate pair; valid UTF-8 has no such bytes.
 bool beginsWithHalf(std::string_view bytes) {
     return bytes.size() >= 3 && byteAt(bytes, 0) == 0xEDU && byteAt(bytes, 1) >= 0xA0U &&
            byteAt(bytes, 1) <= 0xBFU && (byteAt(bytes, 2) & 0xC0U) == 0x80U;
@@ -29,7 +29,7 @@ char16_t threeBytes(std::string_view bytes) {
                                  (byteAt(bytes, 2) & 0x3FU));
 }
 
-/// Of valid UTF-8.
+/// The code point of valid UTF-8.
 void appendUnits(std::u16string& out, std::string_view utf8) {
     for (std::size_t i = 0; i < utf8.size();) {
         const unsigned first = byteAt(utf8, i);
@@ -53,7 +53,7 @@ void appendUnits(std::u16string& out, std::string_view utf8) {
     }
 }
 
-/// UTF-8 up to the next half of a pair, and that; false where something else is there.
+/// UTF-8 up to the next half of a pair, including it; false if anything else is found.
 bool appendWithHalves(std::u16string& out, std::string_view part) {
     while (!part.empty()) {
         std::size_t end = 0;

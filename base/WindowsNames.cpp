@@ -11,7 +11,7 @@ namespace zg {
 
 namespace {
 
-/// Below the bound of every call; that of making directories is the lowest.
+/// Below the length limit of every call; that for creating directories is the lowest.
 constexpr std::size_t longestPlain = 240;
 
 bool isWholeForm(std::wstring_view name) {

@@ -1,7 +1,7 @@
 #pragma once
 
-// What the sources for Windows share: names as its calls want them, and its errors as the C library numbers
-// them.
+// What the Windows sources share: names in the form for system calls, and errors in the numbers of the C
+// library.
 
 #include <string>
 #include <string_view>
@@ -11,16 +11,16 @@
 
 namespace zg {
 
-/// The name for a call: backslashes, and for a long path its whole form, which no length bounds.
+/// The name for a call: with backslashes, and for a long path in the full form that has no length limit.
 std::wstring systemName(std::string_view name);
 
 std::wstring wideUnits(std::string_view bytes);
 std::string narrowUnits(std::wstring_view units);
 
-/// The number for errno.
+/// The errno for a system error.
 int errnoOf(DWORD error);
 
-/// errno := what the last call left; gives false.
+/// Sets errno from the last call; returns false.
 bool failWithLastError();
 
 }  // namespace zg

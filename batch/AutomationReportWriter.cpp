@@ -4,7 +4,7 @@ namespace zg {
 
 namespace {
 
-// As the applications number them.
+// Constants of the applications.
 constexpr std::int32_t minimised = 2;
 constexpr std::int32_t blankLayout = 12;
 constexpr std::int32_t asPresentation = 1;
@@ -13,7 +13,7 @@ constexpr std::int32_t pageBreak = 7;
 
 }  // namespace
 
-/// What is left of a report that failed is let go first. False where another writer is asked.
+/// First releases the rest of a failed report. False if another writer is to be used.
 bool AutomationReportWriter::begin(const std::string& application) {
     end();
     application_ = create_(application);
@@ -23,7 +23,7 @@ bool AutomationReportWriter::begin(const std::string& application) {
     return true;
 }
 
-/// The inner objects go first.
+/// Releases the inner objects first.
 void AutomationReportWriter::end() {
     slide_.reset();
     slides_.reset();

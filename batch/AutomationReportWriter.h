@@ -9,11 +9,11 @@
 
 namespace zg {
 
-/// Drives the office applications of Windows step by step, where they are installed; each of the two reports
-/// for whose application there is none is handed to another writer.
+/// Drives the office applications of Windows step by step, if installed; a report without such an application
+/// is passed to another writer.
 class AutomationReportWriter : public ReportWriter {
  public:
-    /// Gives the object of an application, or nothing where none of that name is installed.
+    /// Returns the object of an application, or nothing if none of that name is installed.
     using Create = std::function<std::unique_ptr<AutomationObject>(const std::string& application)>;
 
     explicit AutomationReportWriter(std::unique_ptr<ReportWriter> other,
@@ -36,7 +36,7 @@ class AutomationReportWriter : public ReportWriter {
     std::unique_ptr<ReportWriter> other_;
     Create create_;
 
-    std::unique_ptr<AutomationObject> application_;  ///< nothing: the other writer makes this report
+    std::unique_ptr<AutomationObject> application_;  ///< null: the other writer makes this report
     std::unique_ptr<AutomationObject> file_;         ///< the presentation or the document
     std::unique_ptr<AutomationObject> slides_;
     std::unique_ptr<AutomationObject> slide_;

@@ -2,9 +2,9 @@
 
 namespace zg {
 
-/// Libraries below the toolkit take memory for granted and crash without it. From here on, a crash where the
-/// system has no memory to give is told as that, and unfinished pictures are removed; every other crash stays
-/// one.
+/// Libraries below the toolkit do not check their allocations and crash without memory. From now on a crash
+/// while the system has no memory to give is reported as such, and unfinished pictures are removed; every
+/// other crash remains a crash.
 void tellLackOfMemory();
 
 }  // namespace zg

@@ -28,7 +28,7 @@ namespace {
 }  // namespace
 
 void tellLackOfMemory() {
-#ifndef __SANITIZE_ADDRESS__  // which tells of crashes itself
+#ifndef __SANITIZE_ADDRESS__  // which reports crashes itself
     for (const int signal : {SIGSEGV, SIGBUS, SIGABRT}) std::signal(signal, crash);
 #endif
 }

@@ -2,7 +2,7 @@
 
 namespace zg {
 
-/// The system gives memory out before it is used, so that the lack of it is an error of the call.
+/// The system commits memory when it is allocated, so a lack of it is an error of the call.
 void tellLackOfMemory() {}
 
 }  // namespace zg

@@ -9,8 +9,8 @@
 
 namespace zg {
 
-/// A page that can be drawn on any canvas of its size, in pixels or 96ths of an inch, and what it says to
-/// those who do not see it, UTF-8. The words are only made where a canvas keeps them.
+/// A page that can be drawn on any canvas of its size, in pixels or 96ths of an inch, with a description for
+/// readers who cannot see it, UTF-8. The description is only made for a canvas that keeps it.
 struct Drawing {
     int width = 0;
     int height = 0;
@@ -19,14 +19,14 @@ struct Drawing {
     std::function<void(Canvas&)> draw;
 };
 
-/// Writes it as "png", "bmp", "svg" or "pdf"; false where the device or the toolkit refused. Throws
-/// std::bad_alloc for a page that memory cannot hold.
+/// Writes the page as "png", "bmp", "svg" or "pdf"; false if the device or the toolkit refuses. Throws
+/// std::bad_alloc for a page that does not fit in memory.
 bool writeDrawing(const Drawing& drawing, const std::string& format, QIODevice& device);
 
-/// The same as SVG text; the name keeps several of one page apart.
+/// The page as SVG text; the name distinguishes several on one page.
 std::string svgOf(const Drawing& drawing, const std::string& name = "rose");
 
-/// Each on a page of its own, as wide as the paper's longer side without its margins.
+/// Writes each drawing on its own page, as wide as the paper's longer side without its margins.
 bool writePages(const std::vector<Drawing>& drawings, const std::string& title, QIODevice& device);
 
 }  // namespace zg

@@ -98,7 +98,7 @@ std::string roseHtml(const RoseOfFile& rose, const PictureLook& look, int side, 
            "</article>\n";
 }
 
-/// The texts once each, in the order in which they come.
+/// The distinct texts, in order of appearance.
 template <typename Text>
 std::vector<std::string> distinct(const std::vector<RoseOfFile>& roses, Text text) {
     std::vector<std::string> found;

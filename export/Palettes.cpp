@@ -11,7 +11,7 @@ namespace {
 
 constexpr Colour hex(unsigned value) { return rgb(value >> 16U, value >> 8U & 0xFFU, value & 0xFFU); }
 
-/// One digit pair of "#rrggbb".
+/// One pair of hexadecimal digits in "#rrggbb".
 unsigned hexPair(std::string_view text) {
     unsigned value = 0;
     for (const char c : text) {
@@ -39,9 +39,9 @@ Colour colourOf(const std::string& text) {
 }  // namespace
 
 const std::vector<NamedPalette>& palettes() {
-    // Viridis and cividis as published for the R package viridisLite (Garnier and others), six steps; the
-    // colours of Okabe and Ito, "Color Universal Design", 2008, put in an order in which neighbours differ
-    // most; greys of even steps of lightness.
+    // Viridis and cividis as published for the R package viridisLite (Garnier and others), in six steps; the
+    // colours of Okabe and Ito, "Color Universal Design", 2008, ordered so that neighbours differ most; greys
+    // in equal steps of lightness.
     static const std::vector<NamedPalette> all = {
         {"factory",
          {hex(0xff0000), hex(0x00ff00), hex(0x0000ff), hex(0xffff00), hex(0x00ffff), hex(0x000000)}},

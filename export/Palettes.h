@@ -1,6 +1,6 @@
 #pragma once
 
-// Colours of the six speed classes under names, as data.
+// Named colours for the six speed classes, as data.
 
 #include <array>
 #include <optional>
@@ -11,7 +11,7 @@
 
 namespace zg {
 
-/// Of the speed classes 1 to 6.
+/// Colours of the speed classes 1 to 6.
 using Palette = std::array<Colour, 6>;
 
 struct NamedPalette {
@@ -19,15 +19,15 @@ struct NamedPalette {
     Palette colours;
 };
 
-/// All that have names, the factory's first.
+/// The names of all palettes, the factory's first.
 const std::vector<NamedPalette>& palettes();
 
-/// Nothing where there is none of that name.
+/// Nothing if there is no palette of that name.
 std::optional<Palette> paletteNamed(const std::string& name);
 
-/// A palette's file has a colour a line, "#1f77b4" or "31, 119, 180", six in all; empty lines and what
-/// follows a semicolon are left out. Raises 13 with the line where one is no colour, 53 where there is no
-/// such file, and 62 where there are fewer than six.
+/// Reads a palette file: one colour per line, "#1f77b4" or "31, 119, 180", six in all; empty lines and text
+/// after a semicolon are ignored. Raises 13 with the line of an invalid colour, 53 if the file does not
+/// exist, and 62 if there are fewer than six colours.
 Palette readPalette(const std::string& path);
 
 }  // namespace zg

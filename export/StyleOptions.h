@@ -6,7 +6,7 @@
 
 namespace zg {
 
-/// The options of how pictures look, in groups of their own.
+/// The options for the look of pictures, in groups of their own.
 void addStyleOptions(CLI::App& app, StyleRequest& request);
 
 }  // namespace zg

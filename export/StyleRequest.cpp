@@ -38,7 +38,7 @@ double radiusOf(const std::string& asked) {
     return percent;
 }
 
-/// A count of "COLSxROWS", 0 for what is none.
+/// The columns or rows in "COLSxROWS", 0 if invalid.
 int countOf(std::string_view text) {
     try {
         const std::int32_t count = toInt32(text);
@@ -73,7 +73,7 @@ double longestBar(const ModPolarGraph& tables, int rose) {
             share += tables.FrqFraction(fractionRow(rose, direction), c);
         longest = std::max(longest, share * 100);
     }
-    // A sum of decimals may lie a hair above the step that holds it.
+    // A sum of decimals may be slightly above the step that should hold it.
     return roundHalfEven(longest, 6);
 }
 

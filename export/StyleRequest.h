@@ -1,6 +1,6 @@
 #pragma once
 
-// How the pictures of a run are to look, as it was asked for, and what comes of it.
+// The requested look of a run's pictures, and the resulting settings.
 
 #include <array>
 #include <optional>
@@ -12,20 +12,20 @@
 
 namespace zg {
 
-/// The words of the command. Those that are left as they are change nothing.
+/// The options of the command. Those left at their defaults change nothing.
 struct StyleRequest {
     std::string palette = "factory";  ///< a name, or a file of colours
     std::string radius;               ///< percent at the outer ring, "auto", or "" for 25
-    bool sameScale = false;           ///< auto over all pictures of the run
-    int rings = 0;                    ///< number of rings, 0 for what suits the radius
+    bool sameScale = false;           ///< auto, common to all pictures of the run
+    int rings = 0;                    ///< number of rings, 0 for one that suits the radius
     RoseStyle rose;
-    std::string panel;  ///< "COLSxROWS", "auto", or "" for a picture a rose
+    std::string panel;  ///< "COLSxROWS", "auto", or "" for one picture per rose
     bool besideTable = false;
     std::string html;  ///< file of the web report, "" for none
     std::string pdf;   ///< file of the paged report, "" for none
 
     bool scalesItself() const { return sameScale || radius == "auto"; }
-    /// The run has to know all roses before it draws one.
+    /// Whether the run must know all roses before it draws one.
     bool needsAllRoses() const { return sameScale || !panel.empty() || !html.empty() || !pdf.empty(); }
 };
 
@@ -33,32 +33,33 @@ constexpr int mostRings = 20;
 
 /// The rings of a picture.
 struct RingScale {
-    float rings = 5;  ///< the outer ring's radius in rings, which need not be whole
+    float rings = 5;  ///< the outer ring's radius in rings, possibly fractional
     double percentPerRing = percentPerUnit;
 };
 
-/// Rings for an outer ring at so many percent, in steps of 1, 2 or 5 that give three to seven rings; or as
-/// many rings as asked, above 0.
+/// Rings for an outer ring at this many percent, in steps of 1, 2 or 5 that give three to seven rings; or the
+/// requested number of rings, above 0.
 RingScale ringsTo(double percent, int rings);
 
-/// The smallest step of rings (5 where none were asked for) that holds a bar of so many percent.
+/// The smallest step of the rings (5 rings if none were requested) with which a bar of this many percent
+/// fits.
 RingScale ringsAround(double longestPercent, int rings);
 
 /// The longest bar of a rose, in percent.
 double longestBar(const ModPolarGraph& tables, int rose);
 
-/// How the pictures look, ready for drawing.
+/// The look of the pictures, ready for drawing.
 struct PictureLook {
     std::optional<Palette> palette;  ///< nothing for the tables' own colours
     RoseStyle rose;
     RingScale scale;
-    bool scalesItself = false;  ///< each picture by its own longest bar
-    int rings = 0;              ///< as asked, for a picture that scales itself
+    bool scalesItself = false;  ///< each picture according to its own longest bar
+    int rings = 0;              ///< as requested, for a picture that scales itself
     bool besideTable = false;
 };
 
-/// Checks a request and makes a look of it. Throws a text in WrongStyle for words without sense; raises the
-/// errors of a palette's file.
+/// Checks a request and converts it to a look. Throws WrongStyle with a message for invalid values; raises
+/// the errors of a palette file.
 struct WrongStyle {
     std::string text;
 };
@@ -67,7 +68,7 @@ PictureLook lookOf(const StyleRequest& request);
 /// The look of a rose's picture, with its scale.
 PictureLook lookFor(const PictureLook& look, const ModPolarGraph& tables, int rose);
 
-/// Columns and rows of a panel of so many roses; throws WrongStyle.
+/// Columns and rows of a panel for this many roses; throws WrongStyle.
 struct PanelShape {
     int columns = 1;
     int rows = 1;

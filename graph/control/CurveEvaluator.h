@@ -1,6 +1,6 @@
 #pragma once
 
-// A curve r = f(t) by the script engine: its angles, and the equation's value at each.
+// Evaluates a curve r = f(t) with the script engine: its angles, and the equation's value at each.
 
 #include <limits>
 #include <string>
@@ -10,7 +10,7 @@
 
 namespace zg {
 
-/// Prepares an engine for the texts of curves: its language, and the library that they call as MathLib.
+/// Prepares an engine for the texts of curves: its language, and the library that they call MathLib.
 void prepareForCurves(ScriptEngine& engine);
 
 /// The angles of a sweep, accumulated in single precision. With a step of 0 it never ends.
@@ -41,7 +41,7 @@ class SweepAngles {
 /// Evaluates a curve's equation angle by angle. The equation is compiled once; the engine must outlive it.
 class CurveEvaluator {
  public:
-    /// Runs the coefficient's statements as they are and compiles the equation; raises the engine's errors.
+    /// Runs the coefficient's statements unchanged and compiles the equation; raises the engine's errors.
     CurveEvaluator(ScriptEngine& engine, const std::string& statements, const std::string& equation);
 
     /// Sets t to an angle, given in degrees counterclockwise from east. Returns t: the angle in radians.

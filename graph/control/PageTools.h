@@ -1,7 +1,7 @@
 #pragma once
 
-// The tools: the effect of the pointer on the page and on the rulers. They place the shapes that lie over the
-// page and never paint on it.
+// The tools: the effect of the pointer on the page and on the rulers. They position the shapes above the page
+// and never paint on it.
 
 #include <cstdint>
 #include <functional>
@@ -17,7 +17,7 @@ namespace zg {
 
 class PageTools {
  public:
-    /// Parts of the control that the tools belong to, which outlives them.
+    /// Parts of the control that the tools belong to, and which outlives them.
     struct Control {
         ControlWindow& window;
         ChildSurfaces& surfaces;
@@ -41,7 +41,7 @@ class PageTools {
     void move(std::int16_t buttons, float x, float y);
     void release(std::int16_t button);
 
-    /// As the control's functions of similar names.
+    /// Like the control's functions of similar names.
     bool cancel();
     void pointerLeft();
     void pressRuler(float x, float y);

@@ -10,15 +10,15 @@ namespace zg {
 
 namespace {
 
-/// Parallel strokes: their bearing in degrees counterclockwise from east, the distance from one to the next,
-/// and where it is above 0 the distance of the dots that they are cut into.
+/// Parallel strokes: their angle in degrees counterclockwise from east, the distance between them, and the
+/// distance of the dots into which they are cut (0 for none).
 struct Strokes {
     double degrees;
     double distance;
     double dots = 0;
 };
 
-/// From sparse to dense, so that a faster class is darker too.
+/// From sparse to dense, so that a faster class is also darker.
 std::vector<Strokes> patternOf(int speedClass) {
     switch (speedClass) {
         case 1:
@@ -51,7 +51,7 @@ struct Ray {
 
 double dot(Point a, Point b) { return a.x * b.x + a.y * b.y; }
 
-/// The part of the line on the side of an edge that the normal points to.
+/// The part of the line on the side of an edge to which the normal points.
 void cutAtEdge(const Ray& ray, Point edge, Point normal, Interval& part) {
     const double height = (ray.at.x - edge.x) * normal.x + (ray.at.y - edge.y) * normal.y;
     const double rise = dot(ray.along, normal);
@@ -72,7 +72,7 @@ Interval withinCircle(const Ray& ray, Point centre, double radius) {
     return {middle - std::sqrt(square), middle + std::sqrt(square)};
 }
 
-/// A stroke, or the dots of it, which lie at whole distances whatever the part.
+/// A stroke, or its dots, whose positions do not depend on the visible part.
 void addStroke(const Ray& ray, const Interval& part, double dots, std::vector<HatchStroke>& strokes) {
     constexpr double dotLength = 1.2;
     if (part.isEmpty()) return;
@@ -84,7 +84,7 @@ void addStroke(const Ray& ray, const Interval& part, double dots, std::vector<Ha
         strokes.push_back({ray.point(t), ray.point(t + dotLength)});
 }
 
-/// Calls with each line of the pattern that comes near a place.
+/// Calls the function with each line of the pattern that comes near a point.
 template <typename Use>
 void forEachLine(const Strokes& pattern, Point middle, double reach, Use use) {
     const double angle = pattern.degrees * std::numbers::pi / 180;
@@ -99,7 +99,7 @@ void forEachLine(const Strokes& pattern, Point middle, double reach, Use use) {
     }
 }
 
-/// No page shows more, and a radius of no sense must not fill memory.
+/// No page shows more, and a senseless radius must not exhaust memory.
 constexpr double longestReach = 20000;
 
 }  // namespace
@@ -124,7 +124,7 @@ std::vector<HatchStroke> hatchOfRectangle(const Rect& rectangle, int speedClass)
 std::vector<HatchStroke> hatchOfRingPart(const RingPart& ring, int speedClass) {
     std::vector<HatchStroke> strokes;
     if (!(ring.outer > ring.inner) || !(ring.outer < longestReach)) return strokes;
-    // Of both edges the normals point into the part: to the left of the start and to the right of the end.
+    // The normals of both edges point into the part: to the left of the start and to the right of the end.
     const Point afterStart{-std::sin(ring.start), -std::cos(ring.start)};
     const Point beforeEnd{std::sin(ring.end), std::cos(ring.end)};
     for (const Strokes& pattern : patternOf(speedClass))

@@ -1,6 +1,6 @@
 #pragma once
 
-// Patterns of strokes that tell the speed classes apart without colours.
+// Patterns of strokes that distinguish the speed classes without colours.
 
 #include <vector>
 
@@ -14,11 +14,11 @@ struct HatchStroke {
     bool operator==(const HatchStroke&) const = default;
 };
 
-/// The strokes of a class 1 to 6 within a rectangle. Patterns run through: those of two neighbours meet.
+/// The strokes of a class 1 to 6 within a rectangle. Patterns continue across adjacent rectangles.
 std::vector<HatchStroke> hatchOfRectangle(const Rect& rectangle, int speedClass);
 
-/// A ring's part about a centre: radii, and angles in radians counterclockwise from east, less than half a
-/// turn apart; a start above the end crosses east.
+/// A part of a ring around a centre: radii, and angles in radians counterclockwise from east, less than half
+/// a turn apart; a start greater than the end crosses east.
 struct RingPart {
     Point centre;
     double inner = 0;
@@ -28,7 +28,7 @@ struct RingPart {
 };
 std::vector<HatchStroke> hatchOfRingPart(const RingPart& part, int speedClass);
 
-/// Black, or white where black could not be seen on that colour.
+/// Black, or white if black would be invisible on that colour.
 Colour hatchColour(Colour fill);
 
 /// Draws the strokes, one unit wide.

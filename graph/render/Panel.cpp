@@ -12,9 +12,9 @@ namespace zg {
 namespace {
 
 constexpr double roseSide = 300;     // units of a rose's own square
-constexpr double panelRatio = 1.35;  // a cell has no legend, so its rose may be larger than a page's
+constexpr double panelRatio = 1.35;  // a cell has no legend, so its rose can be larger than a page's
 constexpr double lineHeight = 13;
-constexpr double narrowPage = 600;  // below it title and legend shrink with the page
+constexpr double narrowPage = 600;  // below this, title and legend shrink with the page
 constexpr double titleHeight = 30;
 constexpr double legendHeight = 62;
 

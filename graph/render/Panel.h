@@ -12,7 +12,7 @@
 
 namespace zg {
 
-/// A rose of a panel: tables that show it, its rings and style, and its title lines (the first one bold).
+/// A rose of a panel: its tables, its rings and style, and its title lines (the first one bold).
 struct PanelRose {
     ModPolarGraph tables;
     Polar polar;
@@ -20,21 +20,21 @@ struct PanelRose {
     std::vector<std::string> titles;
 };
 
-/// Where things lie on a panel of that width; its height follows from the rows.
+/// Positions on a panel of that width; its height follows from the rows.
 struct PanelLayout {
     double width = 0;
     double height = 0;
-    double scale = 1;         ///< of title and legend
-    double roseScale = 1;     ///< of the roses, which are drawn on squares of 300 units
-    Rect title;               ///< without height where the page has none
+    double scale = 1;         ///< scale of title and legend
+    double roseScale = 1;     ///< scale of the roses, which are drawn on squares of 300 units
+    Rect title;               ///< no height if the page has none
     std::vector<Rect> cells;  ///< row by row
     Rect legend;
 };
 
-/// Each cell has room for so many title lines above its rose.
+/// Each cell has room for this many title lines above its rose.
 PanelLayout panelLayout(double width, int columns, int rows, int titleLines, bool pageTitle);
 
-/// Draws as many of the roses as the layout has cells, in their order; the legend is that of the first.
+/// Draws as many roses as the layout has cells, in their order; the legend is that of the first.
 void drawPanel(Canvas& canvas, const PanelLayout& layout, const std::vector<PanelRose>& roses,
                const std::string& title);
 

@@ -4,8 +4,8 @@
 
 namespace zg {
 
-/// A part of another canvas as a canvas of its own, larger or smaller there: its unit is so many units of the
-/// other, texts too. Clearing fills the part alone.
+/// A part of another canvas as a canvas of its own, scaled: its unit is this many units of the other, also
+/// for texts. Clearing fills only the part.
 class PartCanvas : public Canvas {
  public:
     PartCanvas(Canvas& canvas, Point corner, double width, double height, double scale)

@@ -4,17 +4,17 @@
 
 namespace zg {
 
-/// The unit in which the legend and the words of bars give speeds.
+/// The unit of speeds in the legend and in descriptions of bars.
 enum class SpeedUnit { AsChosen, MetresPerSecond, Knots, KilometresPerHour, MilesPerHour };
 
-/// What a rose can show beyond the window's look, which is that of the values here.
+/// Options of a rose beyond the window's look, which has the values given here.
 struct RoseStyle {
-    double percentPerRing = percentPerUnit;  ///< share of the periods that a polar unit is, above 0
+    double percentPerRing = percentPerUnit;  ///< share of the periods per polar unit, above 0
     double sectorWidth = 7.5;                ///< width of a bar in degrees, above 0 and up to 22.5
-    bool hatch = false;                      ///< a pattern for each speed class over its colour
-    bool numbers = false;     ///< the share of each direction in percent, past the end of its bar
-    bool calmCircle = false;  ///< the calm share as a disc in the middle; bars and rings begin at its edge
-    SpeedUnit unit = SpeedUnit::AsChosen;  ///< AsChosen: what the tables say, metres per second or knots
+    bool hatch = false;                      ///< a pattern for each speed class on top of its colour
+    bool numbers = false;     ///< the share of each direction in percent, beyond the end of its bar
+    bool calmCircle = false;  ///< the calm share as a disc in the middle, where bars and rings start
+    SpeedUnit unit = SpeedUnit::AsChosen;  ///< AsChosen: as in the tables, metres per second or knots
 };
 
 /// Fill of the calm circle and of its mark in the legend.

@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::size_t directionsNamed = 3;
 
-/// The directions of the rose on show, the most frequent first; of equal ones the first clockwise from north.
+/// The directions of the displayed rose, the most frequent first; equal ones clockwise from north.
 std::vector<int> byFrequency(const ModPolarGraph& tables) {
     std::vector<int> directions(freqDirections);
     std::iota(directions.begin(), directions.end(), 1);

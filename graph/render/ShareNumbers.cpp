@@ -14,8 +14,8 @@ namespace zg {
 
 namespace {
 
-constexpr double numberGap = 2;     // between a number and what is beside it
-constexpr double numberStep = 2;    // from one place that is tried to the next
+constexpr double numberGap = 2;     // between a number and its neighbours
+constexpr double numberStep = 2;    // between one position tried and the next
 constexpr double numberReach = 60;  // from the end of a bar that reaches the outer ring
 
 bool overlap(const Rect& a, const Rect& b) {
@@ -27,7 +27,7 @@ Rect boxAt(Point corner, const TextSize& size) {
     return {corner.x, corner.y, corner.x + size.width, corner.y + size.height};
 }
 
-/// Where texts are, and the legend as a whole.
+/// The positions of texts, and of the legend as a whole.
 std::vector<Rect> takenPlaces(const Frame& frame, const CanvasRecord& written) {
     std::vector<Rect> places;
     for (const drawn::Command& command : written.commands())
@@ -37,7 +37,7 @@ std::vector<Rect> takenPlaces(const Frame& frame, const CanvasRecord& written) {
     return places;
 }
 
-/// The bars, for the question whether a place lies on one.
+/// The bars, to test whether a position is on one.
 class Bars {
  public:
     explicit Bars(const Frame& frame) : frame_(frame) {}
@@ -72,7 +72,7 @@ class Placing {
     Placing(const Frame& frame, std::vector<Rect> taken)
         : frame_(frame), bars_(frame), taken_(std::move(taken)) {}
 
-    /// The place of a text of that size on a sector's axis, which is taken from then on.
+    /// Reserves a position for a text of that size on a sector's axis.
     std::optional<Point> placeFor(int sector, const TextSize& size) {
         const double angle = sector * sectorStep * std::numbers::pi / 180;
         const double half =

@@ -5,9 +5,9 @@
 
 namespace zg {
 
-/// Writes the share of each direction past the end of its bar, on its axis, as near as no other text is in
-/// its way; bars are passed over while there is room. One that finds no place on the page is left out. The
-/// record has the texts that are there.
+/// Writes the share of each direction beyond the end of its bar, on its axis, as near as other texts allow;
+/// bars are avoided while there is room. A share for which there is no position on the page is left out. The
+/// record has the texts already on the page.
 void drawShareNumbers(Frame& frame, const CanvasRecord& written);
 
 }  // namespace zg

@@ -60,7 +60,7 @@ std::vector<std::string> tableLines(const ModPolarGraph& tables, const SpeedLimi
     return lines;
 }
 
-/// Where the columns end: the first is for names, the last two are for sums.
+/// The right edges of the columns: the first is for names, the last two are for sums.
 double columnEnd(double width, std::size_t column) {
     constexpr double margin = 0.02;
     constexpr double first = 0.11;

@@ -12,7 +12,7 @@ struct UnitRow {
     double perMetrePerSecond;
 };
 
-/// A knot is 1852 metres an hour, a mile 1609.344 metres.
+/// A knot is 1852 metres per hour, a mile 1609.344 metres.
 UnitRow rowOf(SpeedUnit unit) {
     constexpr double secondsPerHour = 3600;
     switch (unit) {

@@ -12,9 +12,9 @@ namespace zg {
 
 namespace {
 
-constexpr double farthestMeasure = 999999;  // beyond any page, and six digits
+constexpr double farthestMeasure = 999999;  // beyond any page, with six digits
 constexpr double pixelsPerPoint = 96.0 / 72;
-/// Part of a line's height above its baseline in faces such as Arial.
+/// Fraction of a line's height above its baseline in fonts such as Arial.
 constexpr double ascent = 0.81;
 constexpr const char* usualFace = "Arial";
 constexpr const char* usualFaces = "Arial,Helvetica,'Liberation Sans',sans-serif";
@@ -30,7 +30,7 @@ std::string circleText(Point centre, double radius) {
            attribute("r", svgNumber(radius));
 }
 
-/// Dashes and gaps in widths of the line, as the toolkit draws them.
+/// Dashes and gaps in line widths, as the toolkit draws them.
 std::vector<int> dashes(std::int32_t style) {
     switch (style) {
         case 1:
@@ -59,7 +59,7 @@ std::string strokeLook(const LineStyle& style) {
     return look;
 }
 
-/// Blanks at the begin and double ones would be lost.
+/// Leading and double blanks would be lost.
 bool needsItsBlanks(const std::string& text) {
     return !text.empty() &&
            (text.front() == ' ' || text.back() == ' ' || text.find("  ") != std::string::npos);
@@ -92,7 +92,7 @@ std::string svgNumber(double value) {
     const double bounded = std::clamp(value, -farthestMeasure, farthestMeasure);
     const double size = std::fabs(bounded);
     const int decimals = size < 9999.99 ? 2 : (size < 99999.9 ? 1 : 0);
-    return doubleText(roundHalfEven(bounded, decimals) + 0.0);  // no minus before a nought
+    return doubleText(roundHalfEven(bounded, decimals) + 0.0);  // no negative zero
 }
 
 std::string svgColour(Colour colour) {
@@ -137,7 +137,7 @@ void SvgCanvas::shape(const char* element, const std::string& attributes) {
     words_.clear();
 }
 
-/// Lines of one look that follow one another are one path.
+/// Consecutive lines of one look become one path.
 void SvgCanvas::endStrokes() {
     if (strokes_.empty()) return;
     body_ += "<path fill=\"none\"" + strokesLook_ + attribute("d", strokes_) + "/>\n";

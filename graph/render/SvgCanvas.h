@@ -1,8 +1,8 @@
 #pragma once
 
-// A drawing as SVG of our own: groups with the names of the page's parts, shapes that say in words what they
-// show, and texts that stay texts. It reads the same in browsers and in drawing programs, since it uses
-// attributes alone: no styles, scripts, fonts or pictures from elsewhere.
+// Writes a drawing as SVG without the toolkit: groups with the names of the page's parts, shapes with
+// descriptions, and texts that remain texts. It looks the same in browsers and in drawing programs, because
+// it uses only attributes: no styles, scripts, fonts or external pictures.
 
 #include <string>
 #include <vector>
@@ -11,15 +11,15 @@
 
 namespace zg {
 
-/// Collects the drawing. Pictures are left out: the pages that are written so have none.
+/// Collects the drawing. Pictures are left out: pages written this way have none.
 class SvgCanvas : public Canvas {
  public:
-    /// A page of so many 96ths of an inch. Texts are measured as on the other canvas, which has to outlive
-    /// this one.
+    /// A page of this many 96ths of an inch. Texts are measured on the other canvas, which must outlive this
+    /// one.
     SvgCanvas(double width, double height, const Canvas& metrics);
 
-    /// The document with a title and a description for readers who do not see it, both UTF-8. The name (ASCII
-    /// letters and digits) keeps several drawings of one page apart. Call it once, when all is drawn.
+    /// The document with a title and a description for readers who cannot see it, both UTF-8. The name (ASCII
+    /// letters and digits) distinguishes several drawings on one page. Call it once, after drawing.
     std::string document(const std::string& title, const std::string& description,
                          const std::string& name = "rose");
 
@@ -55,19 +55,20 @@ class SvgCanvas : public Canvas {
     const Canvas& metrics_;
     Point position_;
     std::string body_;
-    std::string strokes_;      ///< path of the lines under way, all of one look
+    std::string strokes_;      ///< path of the pending lines, all of one look
     std::string strokesLook_;  ///< its attributes
     std::string kind_;         ///< of the next shape
     std::string words_;
 };
 
-/// Text as the content or a quoted attribute of XML; what XML cannot hold is left out. Takes and gives UTF-8.
+/// Text as the content or a quoted attribute of XML; characters that XML cannot represent are left out. Takes
+/// and returns UTF-8.
 std::string xmlText(const std::string& utf8);
 
-/// A measure with six digits at most, two of them decimals.
+/// A measure with at most six digits, two of them decimals.
 std::string svgNumber(double value);
 
-/// "#ff8000", or "#f80" where that says the same; a colour of the desktop is made solid.
+/// "#ff8000", or "#f80" if that is the same; a colour of the desktop becomes solid.
 std::string svgColour(Colour colour);
 
 }  // namespace zg
