@@ -11,7 +11,7 @@
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
-#include "formats/Kinds.h"
+#include "formats/Grids.h"
 #include "formats/Times.h"
 #include "formats/ZoneKeys.h"
 
@@ -19,13 +19,7 @@ namespace zg {
 
 namespace {
 
-constexpr std::int32_t largestGrid = 100'000;  // cells per side; a larger number is invalid
-constexpr std::int32_t mostLevels = 10'000;
-constexpr std::int32_t mostComments = 1'000'000;
 constexpr int longestName = 20;
-// The models behind 3D.DAT use a sphere of 6370 km.
-constexpr const char* sphereOfModels = "NWS-84";
-constexpr std::array<std::string_view, 7> projections = {"LL", "UTM", "TTM", "LCC", "PS", "EM", "LAZA"};
 
 std::string inQuotes(const std::string& field) { return "\"" + leftN(field, longestName) + "\""; }
 
@@ -149,8 +143,7 @@ class GridHeader {
         source_.readLine("output flags");
         GridFields map = fields("projection");
         r_.PMAP = ucase(map.text("projection"));
-        if (r_.PMAP != "LCC" && r_.PMAP != "PS" && r_.PMAP != "EM" && r_.PMAP != "LL")
-            map.fail("projection", inQuotes(r_.PMAP) + " is not known");
+        if (!hasMap(InputKind::M3d, r_.PMAP)) map.fail("projection", inQuotes(r_.PMAP) + " is not known");
         r_.RLAT0 = map.angle("RLAT0");
         r_.RLON0 = map.angle("RLON0");
         r_.XLAT1 = map.angle("XLAT1");
@@ -175,9 +168,9 @@ class GridHeader {
         const std::int32_t stamp = extract.wholeFrom(100'010'100, 2'147'483'647, "first time");
         r_.first = {stamp / 1'000'000, stamp / 10'000 % 100, stamp / 100 % 100, stamp % 100, 0};
         const std::int32_t hours = extract.wholeFrom(1, 10'000'000, "number of hours");
-        const std::int32_t nx = extract.wholeFrom(1, largestGrid, "nx");
-        const std::int32_t ny = extract.wholeFrom(1, largestGrid, "ny");
-        const std::int32_t nz = extract.wholeFrom(1, largestGrid, "nz");
+        const std::int32_t nx = extract.wholeFrom(1, mostCellsOfSide, "nx");
+        const std::int32_t ny = extract.wholeFrom(1, mostCellsOfSide, "ny");
+        const std::int32_t nz = extract.wholeFrom(1, mostCellsOfSide, "nz");
         const DateTime begin = moment(extract, r_.first);
         // Each record covers the hour that begins at its time.
         setTime(r_.last, addSeconds(begin, std::int64_t{hours} * secondsOfHour));
@@ -194,7 +187,7 @@ class GridHeader {
     void needBounds(std::int32_t nx, std::int32_t ny, std::int32_t nz) {
         GridFields range = fields("range of the extract");
         std::array<std::int32_t, 6> bounds{};  // i1 j1 i2 j2 k1 k2
-        for (std::int32_t& bound : bounds) bound = range.wholeFrom(1, largestGrid, "range");
+        for (std::int32_t& bound : bounds) bound = range.wholeFrom(1, mostCellsOfSide, "range");
         if (bounds[2] - bounds[0] + 1 != nx || bounds[3] - bounds[1] + 1 != ny ||
             bounds[5] - bounds[4] + 1 != nz)
             range.fail("range", "does not agree with nx, ny and nz of the line before");
@@ -210,8 +203,7 @@ class GridHeader {
         const std::int32_t step = times.wholeFrom(1, 366 * 24 * secondsOfHour, "step");
         GridFields map = fields("projection");
         r_.PMAP = ucase(map.text("PMAP"));
-        if (std::find(projections.begin(), projections.end(), r_.PMAP) == projections.end())
-            map.fail("PMAP", inQuotes(r_.PMAP) + " is not known");
+        if (!hasMap(InputKind::Ventos, r_.PMAP)) map.fail("PMAP", inQuotes(r_.PMAP) + " is not known");
         r_.DATUM = map.text("DATUM");
         r_.UTMHEM = map.text("UTMHEM");
         r_.IUTMZN = map.skipUnused() ? 0 : map.whole("IUTMZN");
@@ -225,9 +217,9 @@ class GridHeader {
         r_.XLAT2 = map.angle("XLAT2");
         needPolarParallel(map);
         GridFields grid = fields("grid");
-        grid.wholeFrom(1, largestGrid, "nx");
-        grid.wholeFrom(1, largestGrid, "ny");
-        const std::int32_t nz = grid.wholeFrom(1, mostLevels, "nz");
+        grid.wholeFrom(1, mostCellsOfSide, "nx");
+        grid.wholeFrom(1, mostCellsOfSide, "ny");
+        const std::int32_t nz = grid.wholeFrom(1, mostLevelsOfGrid, "nz");
         grid.cornerAndCellSize();
         readFaces(nz + 1);
         return step;

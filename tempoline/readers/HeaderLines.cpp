@@ -4,13 +4,13 @@
 #include <span>
 
 #include "base/Text.h"
+#include "formats/Grids.h"
 #include "tempoline/Fields.h"
 
 namespace zg::tempoline {
 
 namespace {
 
-constexpr int mostComments = 1'000'000;
 constexpr int daysALeapYear = 366;
 
 /// "not 2.1" or "neither 2.0 nor 2.1".

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "base/Text.h"
+#include "formats/Grids.h"
 #include "tempoline/Fields.h"
 #include "tempoline/Texts.h"
 #include "tempoline/readers/Grid.h"
@@ -17,7 +18,6 @@ namespace zg::tempoline {
 
 namespace {
 
-constexpr int mostCells = 100'000;         // along one side
 constexpr std::size_t surfaceFields = 12;  // up to the 10 m wind
 
 /// The data of one cell for an hour.
@@ -104,10 +104,9 @@ class M3d : public InputReader {
         MapSetting& map = grid_.map;
         map = {};
         map.projection = ucase(fields[0]);
-        if (map.projection != "LCC" && map.projection != "PS" && map.projection != "EM" &&
-            map.projection != "LL")
+        if (!hasMap(InputKind::M3d, map.projection))
             throw lines.failure("projection", "\"" + map.projection + "\" is none of LCC, PS, EM and LL");
-        map.datum = "NWS-84";  // the sphere of the models that write these files
+        map.datum = sphereOfModels;
         map.latitude0 = degreesField(lines, fields[1], "RLAT0");
         map.longitude0 = degreesField(lines, fields[2], "RLON0");
         map.latitude1 = degreesField(lines, fields[3], "XLAT1");
@@ -142,7 +141,7 @@ class M3d : public InputReader {
         std::array<int, 6> bounds{};
         for (std::size_t k = 0; k < bounds.size(); ++k) {
             bounds[k] = wholeField(lines, fields[k], "bounds of the extract");
-            if (bounds[k] < 1 || bounds[k] > mostCells)
+            if (bounds[k] < 1 || bounds[k] > mostCellsOfSide)
                 throw lines.failure("bounds of the extract", std::to_string(bounds[k]) + " is out of range");
         }
         grid_.firstI = bounds[0];

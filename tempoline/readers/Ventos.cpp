@@ -1,9 +1,9 @@
 #include <array>
 #include <cmath>
 #include <map>
-#include <set>
 
 #include "base/Text.h"
+#include "formats/Grids.h"
 #include "tempoline/Fields.h"
 #include "tempoline/Texts.h"
 #include "tempoline/readers/Grid.h"
@@ -16,9 +16,6 @@
 namespace zg::tempoline {
 
 namespace {
-
-constexpr int mostCellsOfSide = 100'000;  // along one side
-constexpr int mostLevels = 10'000;
 
 /// A required row of values in the file, and its required columns.
 struct NeededRow {
@@ -81,8 +78,7 @@ class Ventos : public InputReader {
         MapSetting& map = grid_.map;
         map = {};
         map.projection = ucase(fields[0]);
-        static const std::set<std::string> known = {"LL", "UTM", "TTM", "LCC", "PS", "EM", "LAZA"};
-        if (known.count(map.projection) == 0)
+        if (!hasMap(InputKind::Ventos, map.projection))
             throw lines.failure("PMAP", "\"" + map.projection + "\" is no known projection");
         map.datum = fields[1];
         if (!datumDefinition(map.datum)) throw lines.failure("DATUM", unknownDatum(map.datum));
@@ -106,7 +102,7 @@ class Ventos : public InputReader {
         grid_.firstI = grid_.firstJ = 1;
         grid_.lastI = sizeField(lines, fields[0], "nx", mostCellsOfSide);
         grid_.lastJ = sizeField(lines, fields[1], "ny", mostCellsOfSide);
-        levelCount_ = static_cast<std::size_t>(sizeField(lines, fields[2], "nz", mostLevels));
+        levelCount_ = static_cast<std::size_t>(sizeField(lines, fields[2], "nz", mostLevelsOfGrid));
         grid_.cellSize = numberField(lines, fields[5], "cell size");
         if (!(grid_.cellSize > 0)) throw lines.failure("cell size", "it must be above 0");
         grid_.x1 = numberField(lines, fields[3], "X of the corner") + grid_.cellSize / 2;

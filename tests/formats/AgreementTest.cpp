@@ -8,7 +8,10 @@
 #include <set>
 
 #include "base/Lines.h"
+#include "base/Paths.h"
 #include "base/Text.h"
+#include "formats/ZoneKeys.h"
+#include "headers/Zones.h"
 #include "tests/formats/BothSides.h"
 #include "tests/formats/Differences.h"
 #include "tests/headers/GridFiles.h"
@@ -58,6 +61,28 @@ INSTANTIATE_TEST_SUITE_P(
                     Sample{"valley_model.m3d", InputKind::M3d, {"", 2, 2}},
                     Sample{"valley_ventos.dat", InputKind::Ventos, {"", -74.05, 40.75, "LL"}}),
     [](const auto& row) { return std::string(mdataOf(row.param.kind)) + std::to_string(row.index); });
+
+// ---- zones
+
+/// The dialogs must add the half hour of a zone on the same side of Greenwich everywhere, so that it is on
+/// the wrong one in the east.
+bool isHalfHourEast(const std::string& key) { return key[3] == '+' && key.ends_with("30"); }
+
+TEST(ZonesOfBothSides, AreTheSameHoursButForHalfOnesInTheEast) {
+    timeZones = {};
+    applicationDirectory = ZG_SOURCE_DIR "/data";
+    LoadTimeZones();
+    ASSERT_FALSE(timeZones.gsTimeZoneKeys.empty());
+    for (const std::string& key : timeZones.gsTimeZoneKeys) {
+        const auto dialog = static_cast<std::int64_t>(HoursFromTimeZone(key) * -3600);
+        ASSERT_TRUE(zoneOffset(key)) << key;
+        EXPECT_EQ(dialog, *zoneOffset(key) - (isHalfHourEast(key) ? 3600 : 0)) << key;
+    }
+    EXPECT_EQ(HoursFromTimeZone("UTC+0330"), -2.5F);
+    EXPECT_EQ(*zoneOffset("UTC+0330"), 3 * 3600 + 1800);
+    timeZones = {};
+    applicationDirectory.clear();
+}
 
 // ---- odd headers
 
