@@ -8,11 +8,13 @@
 
 namespace zg {
 
-/// Starts batch files on this platform: by the shell if it supports them, otherwise by executing their lines,
-/// if these are what the program itself writes for that place.
+/// Starts batch files on this platform: by the shell if it supports them. Otherwise it does itself what the
+/// program wrote into them, and refuses a file that has other lines by then.
 class BatchStarter : public ProcessStarter {
  public:
     void start(const std::string& batchFile, WindowStyle style) override;
+    void startRun(const RunBatch& run) override;
+    void startViewer(const std::string& batchFile, const std::string& path) override;
     std::string outcome(const std::string& batchFile) override;
 
  private:

@@ -14,14 +14,12 @@ namespace zg {
 
 namespace {
 
-constexpr std::size_t mostLines = 5;
-
-/// The lines of a small file; one line more than the program writes means that another program wrote it.
-std::vector<std::string> firstLines(const std::string& batchFile) {
-    std::vector<std::string> lines;
-    LineReader reader(batchFile);
-    while (!reader.atEnd() && lines.size() <= mostLines) lines.emplace_back(reader.readLine());
-    return lines;
+/// Other programs may be able to write in the directory too: their lines are not started.
+void needOwnLines(const std::string& batchFile, const std::vector<std::string>& lines) {
+    if (hasOnlyLines(batchFile, lines)) return;
+    throw RunTimeError(
+        static_cast<int>(ErrorNumber::InvalidProcedureCall),
+        "Invalid procedure call or argument: " + batchFile + " holds other lines than this program writes");
 }
 
 /// Path of the desktop's terminal program; "" if there is no desktop or no such program.
@@ -40,12 +38,6 @@ void showText(const std::string& path) {
     if (!startDetached({"xdg-open", plain})) raise(ErrorNumber::InvalidProcedureCall);
 }
 
-/// Others may be able to write in the directory too: run only this program's processor, and only there.
-bool isOwnRun(const RunBatch& run, const std::string& batchFile) {
-    return run.outputDirectory + "run_tempoline.bat" == batchFile &&
-           run.programDirectory == applicationDirectory;
-}
-
 }  // namespace
 
 /// Without a place for the report the run continues and reports nothing.
@@ -57,18 +49,18 @@ std::string BatchStarter::newReport(const std::string& batchFile) {
     return report;
 }
 
-void BatchStarter::start(const std::string& batchFile, WindowStyle style) {
-    static_cast<void>(style);  // here only the viewer opens a window of its own
-    const std::vector<std::string> lines = firstLines(batchFile);
-    if (const std::string path = lines.size() == 1 ? viewedFile(lines[0]) : std::string(); !path.empty())
-        return showText(path);
-    const auto run = readRunBatch(lines);
-    if (!run || !isOwnRun(*run, batchFile))
-        throw RunTimeError(static_cast<int>(ErrorNumber::InvalidProcedureCall),
-                           "Invalid procedure call or argument: " + batchFile +
-                               " holds other lines than this program writes");
-    if (!startDetached(scriptCommand(asShellScript(*run, newReport(batchFile)), terminalProgram())))
+/// The shell of this platform does not support batch files.
+void BatchStarter::start(const std::string&, WindowStyle) { raise(ErrorNumber::InvalidProcedureCall); }
+
+void BatchStarter::startRun(const RunBatch& run) {
+    needOwnLines(run.path(), batchLines(run));
+    if (!startDetached(scriptCommand(asShellScript(run, newReport(run.path())), terminalProgram())))
         raise(ErrorNumber::InvalidProcedureCall);
+}
+
+void BatchStarter::startViewer(const std::string& batchFile, const std::string& path) {
+    needOwnLines(batchFile, {viewerLine(path)});
+    showText(path);
 }
 
 std::string BatchStarter::outcome(const std::string& batchFile) {

@@ -22,6 +22,12 @@ void BatchStarter::start(const std::string& batchFile, WindowStyle style) {
     if (!shell.startDetached()) raise(ErrorNumber::InvalidProcedureCall);
 }
 
+void BatchStarter::startRun(const RunBatch& run) { ProcessStarter::startRun(run); }
+
+void BatchStarter::startViewer(const std::string& batchFile, const std::string& path) {
+    ProcessStarter::startViewer(batchFile, path);
+}
+
 /// The console itself tells the person.
 std::string BatchStarter::outcome(const std::string&) { return {}; }
 

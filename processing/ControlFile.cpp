@@ -245,6 +245,21 @@ class Builder {
 
 }  // namespace
 
+void setPeriod(ControlFile& values, DateTime begin, DateTime end) {
+    const auto take = [](DateTime moment, std::string& year, std::string& month, std::string& day,
+                         std::string& hour, std::string& seconds) {
+        const CalendarDate date = dateOf(moment);
+        const TimeOfDay time = timeOf(moment);
+        year = std::to_string(date.year);
+        month = std::to_string(date.month);
+        day = std::to_string(date.day);
+        hour = std::to_string(time.hour);
+        seconds = std::to_string(60 * time.minute + time.second);
+    };
+    take(begin, values.IBYR, values.IBMO, values.IBDY, values.IBHR, values.IBSEC);
+    take(end, values.IEYR, values.IEMO, values.IEDY, values.IEHR, values.IESEC);
+}
+
 std::string controlFileBytes(const ControlFile& values) { return Builder(values).bytes(); }
 
 void WriteControlFile(const std::string& directory, const ControlFile& values) {

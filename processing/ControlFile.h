@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Dates.h"
 #include "formats/Kinds.h"
 
 namespace zg {
@@ -51,7 +52,7 @@ struct ControlFile {
     std::string roseName;                 ///< of TSF input
     std::vector<ControlOutput> outputs;   ///< not written for TSF input
 
-    std::string IBYR, IBMO, IBDY, IBHR, IBSEC;
+    std::string IBYR, IBMO, IBDY, IBHR, IBSEC;  ///< IBSEC within the hour, as IESEC
     std::string IEYR, IEMO, IEDY, IEHR, IESEC;
     std::string ABTZ;
     std::string NSECDT;
@@ -68,6 +69,9 @@ struct ControlFile {
 
     std::vector<ControlKey> tableKeys;  ///< of Csv input
 };
+
+/// Sets the begin and end of the period, in the zone of ABTZ.
+void setPeriod(ControlFile& values, DateTime begin, DateTime end);
 
 /// The bytes of the file, each line ended by CR LF.
 std::string controlFileBytes(const ControlFile& values);

@@ -1,14 +1,8 @@
 #include "processing/ProcessorRun.h"
 
 #include <algorithm>
-#include <cerrno>
 
-#include "base/Files.h"
-#include "base/Lines.h"
-#include "base/Paths.h"
 #include "base/RunTimeError.h"
-#include "base/Text.h"
-#include "processing/BatchFile.h"
 #include "processing/RunLock.h"
 #include "processing/RunReasons.h"
 #include "processing/Wait.h"
@@ -17,8 +11,6 @@ namespace zg {
 
 namespace {
 
-constexpr const char* batchName = "run_tempoline.bat";
-constexpr const char* markerName = "finished.txt";
 constexpr std::int64_t animationMs = 300;
 constexpr std::int64_t sliceMs = 50;  // between checks whether the program is being closed
 
@@ -27,13 +19,13 @@ struct RunEnded {};
 
 class Run {
  public:
-    Run(Host& host, ProcessStarter& starter, RunForm form, const RunHooks& hooks)
-        : host_(host), starter_(starter), form_(form), hooks_(hooks) {}
+    Run(Host& host, ProcessStarter& starter, const RunForm& form, RunHooks hooks)
+        : host_(host), starter_(starter), form_(form), hooks_(std::move(hooks)) {}
 
     void all() {
         try {
             prepare();
-            for (const RunOutput& output : outputs_) await(output);
+            for (const RunOutput& output : plan_.outputs) await(output);
             finish();
         } catch (const RunEnded&) {
             end();
@@ -64,63 +56,46 @@ class Run {
         tell(hooks_.setTip, "");
         tell(hooks_.setReason, "");
         begin();
-        readValues();
-        while ((lock_ = RunLock::take(directory_)) == nullptr) {
+        takePlan();
+        while ((lock_ = RunLock::take(plan_.directory)) == nullptr) {
             hooks_.setBusy(false);
             hooks_.setStatus("");
             if (!goesElsewhere()) throw RunEnded{};
             begin();
-            readValues();
+            takePlan();
         }
-        hooks_.showName(hooks_.firstName());
-        step([this] { hooks_.writeControlFile(); });
-        step([this] { writeBatchFile(); });
-        step([this] { removeMarker(); });
-        step([this] { starter_.start(directory_ + batchName, WindowStyle::NormalFocus); });
+        hooks_.showName(plan_.firstName);
+        step([this] { writeControlFile(plan_); });
+        step([this] { writeBatchFile(plan_); });
+        step([this] { removeMarker(plan_); });
+        step([this] { starter_.startRun(plan_.batch()); });
     }
 
     void begin() {
-        if (form_ == RunForm::Stations) return;
+        if (!form_.showsItsStart) return;
         hooks_.setBusy(true);
         hooks_.setStatus("Running...");
     }
 
-    /// A name that the batch file cannot contain is refused before anything is written.
-    void readValues() {
+    void takePlan() {
         step([this] {
-            hooks_.readValues();
-            directory_ = hooks_.outputDirectory();
-            base_ = hooks_.base();
-            outputs_ = hooks_.outputs();
-            batch_ = batchLines(batchDirectory(directory_), base_, batchDirectory(applicationDirectory));
-            for (std::string& line : batch_) line = batchBytes(line);
+            plan_ = hooks_.plan();
+            needBatchNames(plan_);
         });
     }
 
     /// Otherwise the run of another window would end with this one's marker, or this one with the other's.
     bool goesElsewhere() {
         const MessageBox box{
-            "Another window waits for a run in " + directory_ +
+            "Another window waits for a run in " + plan_.directory +
                 ". A second run there would take its files away.\n\nWould you like to choose "
                 "another output directory?",
             "", BoxIcon::Question, BoxButtons::YesNo};
         return host_.showBox(box) == BoxAnswer::Yes && hooks_.chooseDirectory && hooks_.chooseDirectory();
     }
 
-    void writeBatchFile() {
-        LineWriter file(directory_ + batchName);
-        for (const std::string& line : batch_) file.writeLine(line);
-        file.close();
-    }
-
-    /// In every letter case: each of them would end the wait.
-    void removeMarker() {
-        for (std::string marker; !(marker = existingFile(directory_ + markerName)).empty();)
-            if (!removeFile(marker)) raiseFileError(errno);
-    }
-
     void awaitMarker() {
-        while (!fileExists(directory_ + markerName)) {
+        while (!hasMarker(plan_)) {
             animate();
             tell(hooks_.setReason, whyNoMarker());
         }
@@ -129,32 +104,34 @@ class Run {
 
     /// The wait has no time limit, but the user should know what it waits for.
     std::string whyNoMarker() {
-        const std::string reason = foreseenTrouble(base_, applicationDirectory);
-        return reason.empty() ? starter_.outcome(directory_ + batchName) : reason;
+        const std::string reason = foreseenTrouble(plan_.control.base, plan_.programDirectory);
+        return reason.empty() ? starter_.outcome(plan_.batch().path()) : reason;
     }
 
     void await(const RunOutput& output) {
         awaitMarker();
         hooks_.showName(output.name);
-        // Blanks around a value in the control file are not part of it.
-        const std::string result = existingFile(directory_ + trim(output.name) + ".frq");
-        made_ = !result.empty();
-        anyMade_ = anyMade_ || made_;
         tell(hooks_.setTip, "");
-        if (made_) {
-            step([&] { hooks_.load(result); });
-            if (form_ != RunForm::Locations) animate();
-            if (form_ == RunForm::Heights || form_ == RunForm::Locations) hooks_.setStatus("Finished");
-        } else {
-            hooks_.setStatus(form_ == RunForm::Stations ? "Error processing Station " + output.station
-                                                        : "Error has occurred.");
-            tell(hooks_.setTip, listingsEnd());
-            missing_ += (missing_.empty() ? "" : ", ") + output.name;
-        }
+        const std::string result = resultOf(plan_, output);
+        if (result.empty())
+            missed(output);
+        else
+            made(result);
     }
 
-    std::string listing() const { return directory_ + base_ + "_tempoline.lst"; }
-    std::string listingsEnd() const { return lastLineOfListing(listing()); }
+    void made(const std::string& result) {
+        anyMade_ = true;
+        step([&] { hooks_.load(result); });
+        if (form_.restsAfterEach) animate();
+        if (form_.tellsEachResult) hooks_.setStatus("Finished");
+    }
+
+    void missed(const RunOutput& output) {
+        hooks_.setStatus(form_.tellsEachResult ? "Error has occurred."
+                                               : "Error processing Station " + output.station);
+        tell(hooks_.setTip, lastLineOfListing(plan_.listingPath()));
+        missing_ += (missing_.empty() ? "" : ", ") + output.name;
+    }
 
     void animate() {
         if (hooks_.abandoned()) throw RunEnded{};
@@ -163,12 +140,14 @@ class Run {
     }
 
     void finish() {
-        if (form_ == RunForm::Locations) awaitMarker();  // a run without locations has not waited yet
-        if (form_ == RunForm::Stations || (form_ == RunForm::Single && made_)) hooks_.setStatus("Finished");
-        // The label reports only the last output, or none.
-        if (form_ != RunForm::Single && !missing_.empty())
-            tell(hooks_.setTip, "No FRQ file for " + missing_ + ": " + listingsEnd());
-        if (anyMade_) tell(hooks_.setReason, warningsOfListing(listing()));
+        if (form_.waitsOnceMore) awaitMarker();
+        if (!form_.tellsEachResult) hooks_.setStatus("Finished");
+        // The label tells of the last output alone, or of none.
+        if (form_.namesMissing && !missing_.empty())
+            tell(hooks_.setTip,
+                 "No FRQ file for " + missing_ + ": " + lastLineOfListing(plan_.listingPath()));
+        if (anyMade_) tell(hooks_.setReason, warningsOfListing(plan_.listingPath()));
+        if (!plan_.lastName.empty()) hooks_.showName(plan_.lastName);
         hooks_.showExit();
         hooks_.setBusy(false);
         step([this] { hooks_.keepTimeZone(); });
@@ -185,15 +164,11 @@ class Run {
 
     Host& host_;
     ProcessStarter& starter_;
-    RunForm form_;
-    const RunHooks& hooks_;
-    std::string directory_;
-    std::string base_;
-    std::vector<RunOutput> outputs_;
-    std::vector<std::string> batch_;
+    const RunForm& form_;
+    const RunHooks hooks_;
+    RunPlan plan_;
     std::shared_ptr<RunLock> lock_;
     std::string missing_;  ///< names of the outputs without a result
-    bool made_ = false;    ///< of the last output
     bool anyMade_ = false;
 };
 
@@ -209,8 +184,8 @@ void AnimateRunning(Host& host, const std::function<void(const std::string&)>& s
     }
 }
 
-void runProcessor(Host& host, ProcessStarter& starter, RunForm form, const RunHooks& hooks) {
-    Run(host, starter, form, hooks).all();
+void runProcessor(Host& host, ProcessStarter& starter, const RunForm& form, RunHooks hooks) {
+    Run(host, starter, form, std::move(hooks)).all();
 }
 
 }  // namespace zg

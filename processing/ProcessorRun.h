@@ -1,39 +1,57 @@
 #pragma once
 
-// One run of the external processor: control file, batch file, start, the wait for its marker, and the
-// treatment of each result. It is a list of small steps, so that a failed step can be retried.
+// One run of the external processor for a window: control file, batch file, start, the wait for its marker,
+// and the treatment of each result. It is a list of small steps, so that a failed step can be retried.
 
 #include <functional>
 #include <string>
-#include <vector>
 
 #include "base/Host.h"
 #include "processing/ProcessStarter.h"
+#include "processing/RunPlan.h"
 
 namespace zg {
 
-/// How a run reports the results of its outputs.
-enum class RunForm {
-    Stations,  ///< "Finished" at the end in any case; no hourglass at the start
-    Heights,   ///< the last result remains
-    Single,
-    Locations  ///< like Heights, with one more wait at the end; a result is reported as soon as it is plotted
+/// How a run reports its results: everything that differs between the dialogs.
+struct RunForm {
+    bool showsItsStart;    ///< the hourglass and "Running..." before the fields are read
+    bool tellsEachResult;  ///< if not: the stations that failed, and "Finished" at the end in any case
+    bool restsAfterEach;   ///< one more step of the animation after a rose was plotted
+    bool waitsOnceMore;    ///< for the marker, after the last result
+    bool namesMissing;     ///< the tip of the status names all missing outputs
+
+    static const RunForm Stations;
+    static const RunForm Heights;
+    static const RunForm Single;
+    static const RunForm Locations;
 };
 
-struct RunOutput {
-    std::string name;     ///< of the .frq file, without extension
-    std::string station;  ///< as the list shows it
-};
+inline constexpr RunForm RunForm::Stations{.showsItsStart = false,
+                                           .tellsEachResult = false,
+                                           .restsAfterEach = true,
+                                           .waitsOnceMore = false,
+                                           .namesMissing = true};
+inline constexpr RunForm RunForm::Heights{.showsItsStart = true,
+                                          .tellsEachResult = true,
+                                          .restsAfterEach = true,
+                                          .waitsOnceMore = false,
+                                          .namesMissing = true};
+inline constexpr RunForm RunForm::Single{.showsItsStart = true,
+                                         .tellsEachResult = true,
+                                         .restsAfterEach = true,
+                                         .waitsOnceMore = false,
+                                         .namesMissing = false};
+/// Without its last wait a run of no location would not wait at all.
+inline constexpr RunForm RunForm::Locations{.showsItsStart = true,
+                                            .tellsEachResult = true,
+                                            .restsAfterEach = false,
+                                            .waitsOnceMore = true,
+                                            .namesMissing = true};
 
 /// What the dialog does for a run. Each function raises a RunTimeError on failure, and is then retried if the
 /// user wishes.
 struct RunHooks {
-    std::function<void()> readValues;                 ///< takes the run's values and names from the fields
-    std::function<std::string()> base;                ///< of the run's files
-    std::function<std::string()> outputDirectory;     ///< trimmed, with its final separator
-    std::function<std::vector<RunOutput>()> outputs;  ///< those requested, in order
-    std::function<std::string()> firstName;           ///< shown before the run
-    std::function<void()> writeControlFile;
+    std::function<RunPlan()> plan;                      ///< what the fields say now
     std::function<void(const std::string&)> showName;   ///< of the current output
     std::function<void(const std::string&)> setStatus;  ///< lblStatus
     std::function<void(bool)> setBusy;                  ///< the hourglass; off at every end of a run
@@ -53,7 +71,8 @@ struct RunHooks {
 void AnimateRunning(Host& host, const std::function<void(const std::string&)>& setStatus,
                     const std::function<bool()>& abandoned);
 
-/// Runs to the end, to a Cancel, or until it is abandoned. The wait for the marker has no time limit.
-void runProcessor(Host& host, ProcessStarter& starter, RunForm form, const RunHooks& hooks);
+/// Runs to the end, to a Cancel, or until it is abandoned. The wait for the marker has no time limit. Another
+/// run may be started meanwhile: each has its own plan and hooks.
+void runProcessor(Host& host, ProcessStarter& starter, const RunForm& form, RunHooks hooks);
 
 }  // namespace zg

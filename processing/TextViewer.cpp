@@ -30,7 +30,7 @@ void ViewTextFile(Host& host, ProcessStarter& starter, const std::string& path, 
     writeBatchFile(batchFile, batchBytes(viewerLine(batchDirectory(path), separator)));
     try {
         WaitMs(host, pauseMs);
-        starter.start(batchFile, WindowStyle::Hidden);
+        starter.startViewer(batchFile, path);
         WaitMs(host, pauseMs);
     } catch (...) {
         removeFile(batchFile);

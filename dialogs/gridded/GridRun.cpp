@@ -7,15 +7,12 @@
 #include "headers/Stations.h"
 #include "headers/Zones.h"
 #include "processing/Directories.h"
-#include "processing/RunNames.h"
 #include "settings/CfgFile.h"
 #include "settings/Settings.h"
 
 namespace zg {
 
 namespace {
-
-std::string number(int value) { return std::to_string(value); }
 
 /// The coordinate as a plain number, negative for its letter; raises 13 for text that is not a number.
 std::string signedNumber(const std::string& text, const std::string& letter, const char* negative) {
@@ -42,13 +39,7 @@ void GridWizard::cmdPROCESS_Click() {
 
 RunHooks GridWizard::hooks() {
     RunHooks hooks;
-    hooks.readValues = [this] { readValues(); };
-    hooks.base = [this] { return RunRoot; };
-    hooks.outputDirectory = [this] { return RunDirectory; };
-    // A second start meanwhile has its own values: each run continues with those it began with.
-    hooks.outputs = [this] { return outputs_; };
-    hooks.firstName = [] { return std::string(); };
-    hooks.writeControlFile = [this] { WriteControlFile(RunDirectory, values_); };
+    hooks.plan = [this] { return plan(); };
     hooks.showName = [](const std::string&) {};
     hooks.setStatus = [this](const std::string& text) { view_.setText("lblStatus", text); };
     hooks.setBusy = [this](bool busy) { view_.setBusy(busy); };
@@ -65,28 +56,28 @@ RunHooks GridWizard::hooks() {
     return hooks;
 }
 
-void GridWizard::readValues() {
-    RunDirectory = withSeparator(trim(view_.text("txtOutputDirectory")));
+RunPlan GridWizard::plan() {
+    ControlFile v = valuesOfRun();
+    if (byStation())
+        takeStations(v);
+    else
+        takeLocations(v);
+    const std::string height = view_.text("txtExtractionHeight2");
+    for (std::int32_t i = 1; i <= NumberOfLocations; ++i)
+        v.outputs.push_back({std::to_string(i), slot(LocationFRQName, i),
+                             byStation() ? slot(LocationID, i) : trim(v.title), placeOf(i),
+                             byStation() ? height : slot(LocationHeight, i), byStation()});
+    return planOf(withSeparator(trim(view_.text("txtOutputDirectory"))), std::move(v));
+}
+
+ControlFile GridWizard::valuesOfRun() const {
     ControlFile v;
     v.type = variation_.kind;
     v.title = view_.text("txtTitleLine");
     v.inputFiles = view_.rows(variation_.fileList);
-    const CalendarDate begin = dateOf(view_.begin());
-    const TimeOfDay beginTime = timeOf(view_.begin());
-    const CalendarDate end = dateOf(view_.end());
-    const TimeOfDay endTime = timeOf(view_.end());
-    v.IBYR = number(begin.year);
-    v.IBMO = number(begin.month);
-    v.IBDY = number(begin.day);
-    v.IBHR = number(beginTime.hour);
-    v.IBSEC = number(60 * beginTime.minute + beginTime.second);
-    v.IEYR = number(end.year);
-    v.IEMO = number(end.month);
-    v.IEDY = number(end.day);
-    v.IEHR = number(endTime.hour);
-    v.IESEC = number(60 * endTime.minute + endTime.second);
+    setPeriod(v, view_.begin(), view_.end());
     v.ABTZ = timeZones.gsTimeZoneKeys.at(static_cast<std::size_t>(view_.row("cboTimeZone")));
-    v.NSECDT = number(stepSeconds());
+    v.NSECDT = std::to_string(stepSeconds());
     v.METSIM = view_.text("cboSpatialInterpolationMethod") == "BILINEAR" ? "1" : "2";
     v.WSBIN = settings.WindClassString;
     v.seasonNames.assign(settings.SeasonNames.begin(), settings.SeasonNames.begin() + settings.SeasonCount);
@@ -94,35 +85,16 @@ void GridWizard::readValues() {
     if (variation_.asksProfiling) v.MPROF = profilingNumber(view_.text("cboVertProfilingMethod"));
     // For stations the question about cells is not repeated: the last answer applies to them too.
     if (variation_.offersCells) v.MCELL = UseCellCoordinates ? "1" : "0";
-    RunRoot = variation_.rootPrefix + fileBaseOf(v.inputFiles.at(0)) +
-              periodInName(v.IBYR, v.IBMO, v.IBDY, v.IEYR, v.IEMO, v.IEDY);
-    v.base = RunRoot;
-    values_ = std::move(v);
-    if (byStation())
-        takeStations();
-    else if (usesLatitudes() && variation_.oneCoordinatePair)
-        takeCoordinatesOnShow();
-    if (!byStation()) values_.projection = projection;
-    if (!byStation() && UseCellCoordinates) values_.projection.PMAP = "NONE";
-    outputs_.clear();
-    const std::string height = view_.text("txtExtractionHeight2");
-    for (std::int32_t i = 1; i <= NumberOfLocations; ++i) {
-        const std::string& name = slot(LocationFRQName, i);
-        outputs_.push_back({name, {}});
-        values_.outputs.push_back({std::to_string(i), name,
-                                   byStation() ? slot(LocationID, i) : trim(values_.title), placeOf(i),
-                                   byStation() ? height : slot(LocationHeight, i), byStation()});
-    }
+    v.base = variation_.rootPrefix + fileBaseOf(v.inputFiles.at(0)) + periodInName(v);
+    return v;
 }
 
 /// The selected rows become the locations; all use the datum of the table's first row.
-void GridWizard::takeStations() {
+void GridWizard::takeStations(ControlFile& v) {
     const std::vector<bool> selected = view_.selectedRows("lstStations");
-    const std::string period =
-        periodInName(values_.IBYR, values_.IBMO, values_.IBDY, values_.IEYR, values_.IEMO, values_.IEDY);
     const std::string height = trim(view_.text("txtExtractionHeight2"));
     NumberOfLocations = 0;
-    const std::string ending = variation_.tag + period + "_" + height + "m";
+    const std::string ending = variation_.tag + periodInName(v) + "_" + height + "m";
     for (std::size_t row = 0; row < selected.size(); ++row) {
         if (!selected[row]) continue;
         const std::int32_t i = ++NumberOfLocations;
@@ -131,8 +103,14 @@ void GridWizard::takeStations() {
         slot(LocationID, i) = stations.gsStationCol0.at(row);
         slot(LocationFRQName, i) = trim(stations.gsStationCol0.at(row)).append(ending);
     }
-    values_.projection.PMAP = "LL";
-    values_.projection.DATUM = stations.gsStationCol9.at(0);
+    v.projection.PMAP = "LL";
+    v.projection.DATUM = stations.gsStationCol9.at(0);
+}
+
+void GridWizard::takeLocations(ControlFile& v) {
+    if (usesLatitudes() && variation_.oneCoordinatePair) takeCoordinatesOnShow();
+    v.projection = projection;
+    if (UseCellCoordinates) v.projection.PMAP = "NONE";
 }
 
 /// Every location uses the coordinates on display; heights and names remain separate.

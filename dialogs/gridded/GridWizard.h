@@ -78,8 +78,9 @@ class GridWizard : public ProjectionCaller {
     float TimeZoneShiftHours = 0;
     std::vector<std::string> LocationX, LocationY, LocationLat, LocationLon, LocationNS, LocationWE,
         LocationHeight, LocationFRQName, LocationID, LocationI, LocationJ;
-    std::string RunRoot;
-    std::string RunDirectory;
+
+    /// What the fields ask for now. Stations that are selected become the locations.
+    RunPlan plan();
 
  private:
     bool refuse(const char* control, const std::string& text);
@@ -116,8 +117,9 @@ class GridWizard : public ProjectionCaller {
     void ShowLocation(std::int32_t location);
 
     // The run.
-    void readValues();
-    void takeStations();
+    ControlFile valuesOfRun() const;
+    void takeStations(ControlFile& v);
+    void takeLocations(ControlFile& v);
     void takeCoordinatesOnShow();
     std::string placeOf(std::int32_t location);
     RunHooks hooks();
@@ -127,8 +129,6 @@ class GridWizard : public ProjectionCaller {
     Host& host_;
     ProcessStarter& starter_;
     ProcessingWindow window_;
-    ControlFile values_;
-    std::vector<RunOutput> outputs_;
 };
 
 }  // namespace zg

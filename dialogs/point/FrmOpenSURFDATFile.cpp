@@ -11,7 +11,6 @@
 #include "platform/KeyFilter.h"
 #include "platform/QtText.h"
 #include "platform/ReadText.h"
-#include "processing/RunNames.h"
 
 namespace zg {
 
@@ -44,7 +43,6 @@ frmOpenSURFDATFile::frmOpenSURFDATFile(Host& host, ProcessStarter& starter, Proc
     layout->addWidget(makePeriod());
     layout->addWidget(makeOutput());
     layout->addLayout(makeButtons());
-    connect(cmdView, &QPushButton::clicked, this, guarded(host_, [this] { cmdView_Click(); }));
     folderPrompt_ = "Select a Working Directory:";
     Form_Load();
     resize(windowSize(*this, 75));
@@ -144,41 +142,30 @@ bool frmOpenSURFDATFile::checkFields() {
            checkOutputDirectory() && checkOutputName();
 }
 
-void frmOpenSURFDATFile::readValues() {
+RunPlan frmOpenSURFDATFile::plan() {
     const std::string path = pathIn(*txtSURFDATFile);
     const std::string height = typed(txtAnemometerHeight->text());
     const std::string title = trim(typed(txtTitleLine->text()));
     const std::string base = fileBaseOf(path);
-    values_ = sharedValues(InputKind::Surf);
-    values_.inputFiles = {path};
-    values_.base = base + "_SURF_" + periodText();
-    rows_.clear();
-    OutputNames_.clear();
-    outputs_.clear();
+    ControlFile values = sharedValues(InputKind::Surf);
+    const std::string period = periodInName(values);
+    values.inputFiles = {path};
+    values.base = base + "_SURF_" + period;
+    std::vector<std::string> selected;
     for (int row = 0; row < lstSURFDATStationIDs->count(); ++row) {
         const QListWidgetItem& item = *lstSURFDATStationIDs->item(row);
-        rows_.push_back(readIn(item));
-        OutputNames_.emplace_back();
         if (!item.isSelected()) continue;
-        const std::string station = stationNameOf(rowText(row));
-        OutputNames_.back() = surfOutputName(base, rowText(row), station, periodText(), height);
-        outputs_.push_back({OutputNames_.back(), rowText(row)});
-        values_.outputs.push_back(
-            {std::to_string(row + 1), OutputNames_.back(), title + station, rowText(row) + ", 0, 0", height});
+        selected.push_back(readIn(item));
+        const std::string& id = selected.back();
+        const std::string station = stationNameOf(id);
+        values.outputs.push_back({std::to_string(row + 1), surfOutputName(base, id, station, period, height),
+                                  title + station, id + ", 0, 0", height});
     }
-}
-
-void frmOpenSURFDATFile::cmdView_Click() {
-    leftOutputDirectory();
-    if (!checkFields()) return;
-    RunHooks hooks = sharedHooks();
-    hooks.readValues = [this] { readValues(); };
-    hooks.base = [this] { return values_.base; };
-    // A second start meanwhile has its own values: each run continues with those it began with.
-    hooks.outputs = [this] { return outputs_; };
-    hooks.firstName = [this] { return OutputNames_.empty() ? std::string() : OutputNames_.front(); };
-    hooks.writeControlFile = [this] { WriteControlFile(outputDirectory(), values_); };
-    runProcessor(host_, starter_, RunForm::Stations, hooks);
+    RunPlan plan = planOf(outputDirectory(), std::move(values));
+    for (std::size_t i = 0; i < selected.size(); ++i) plan.outputs[i].station = selected[i];
+    // It is the name of the first row, which may have none.
+    if (!selected.empty() && !lstSURFDATStationIDs->item(0)->isSelected()) plan.firstName.clear();
+    return plan;
 }
 
 }  // namespace zg

@@ -23,10 +23,9 @@ class frmOpenSURFDATFile : public PointDialog {
     void showStations(const SurfHeader& header);
     void cmdBrowseFile_Click();
     void selectAll(bool selected);
-    bool checkFields();
-    void cmdView_Click();
-    void readValues();
-    std::string rowText(int row) const { return rows_.at(static_cast<std::size_t>(row)); }
+    const RunForm& runForm() const override { return RunForm::Stations; }
+    bool checkFields() override;
+    RunPlan plan() override;
 
     QLineEdit* txtSURFDATFile;
     QPushButton* cmdBrowseFile;
@@ -34,12 +33,6 @@ class frmOpenSURFDATFile : public PointDialog {
     QPushButton* cmdSelectAll;
     QPushButton* cmdDeselectAll;
     QLineEdit* txtAnemometerHeight;
-
-    // Of a run:
-    ControlFile values_;
-    std::vector<std::string> rows_;         ///< texts in the list
-    std::vector<std::string> OutputNames_;  ///< by row; "" if it is not selected
-    std::vector<RunOutput> outputs_;
 };
 
 }  // namespace zg

@@ -16,7 +16,6 @@
 #include "platform/ReadText.h"
 #include "processing/Directories.h"
 #include "processing/KeyFilters.h"
-#include "processing/RunNames.h"
 
 namespace zg {
 
@@ -41,7 +40,6 @@ frmOpenUPDATFile::frmOpenUPDATFile(Host& host, ProcessStarter& starter, Processi
     layout->addWidget(makeOutput());
     layout->addStretch();
     layout->addLayout(makeButtons());
-    connect(cmdView, &QPushButton::clicked, this, guarded(host_, [this] { cmdView_Click(); }));
     connect(cboTimeZone, &QComboBox::activated, this, guarded(host_, [this] { cboTimeZone_Click(); }));
     Form_Load();
     resize(windowSize(*this, 75));
@@ -163,15 +161,13 @@ bool frmOpenUPDATFile::checkFields() {
                  "Selected Directory For Output does not exist.");
 }
 
-void frmOpenUPDATFile::readValues() {
+RunPlan frmOpenUPDATFile::plan() {
     const std::string path = pathIn(*txtUPDATFile);
     const std::string station = readOrTyped(*txtStationID);
     const std::string name = trim(station).empty() ? std::string() : stationNameOf(station);
-    runName_ = (name.empty() ? fileBaseOf(path) : name) + "_UP_" + periodText();
-    values_ = sharedValues(InputKind::Up);
-    values_.inputFiles = {path};
-    values_.base = runName_;
-    outputs_.clear();
+    ControlFile values = sharedValues(InputKind::Up);
+    values.base = (name.empty() ? fileBaseOf(path) : name) + "_UP_" + periodInName(values);
+    values.inputFiles = {path};
     const std::string text = typed(txtExtractionHeights->text());
     const Pieces heights = split(text, ",");
     // Each empty item reduces the number of outputs by one but keeps its position, so the last heights are
@@ -181,27 +177,12 @@ void frmOpenUPDATFile::readValues() {
         if (heights[i].empty()) --count;
     for (std::size_t i = 0; i < count; ++i) {
         const std::string height(heights[i]);
-        outputs_.push_back({runName_ + "_" + height + "m", {}});
-        values_.outputs.push_back(
-            {std::to_string(i + 1), outputs_.back().name, trim(values_.title), station + ", 0, 0", height});
+        values.outputs.push_back({std::to_string(i + 1), values.base + "_" + height + "m", trim(values.title),
+                                  station + ", 0, 0", height});
     }
-}
-
-void frmOpenUPDATFile::cmdView_Click() {
-    leftOutputDirectory();
-    if (!checkFields()) return;
-    RunHooks hooks = sharedHooks();
-    hooks.readValues = [this] { readValues(); };
-    hooks.base = [this] { return values_.base; };
-    hooks.outputs = [this] { return outputs_; };
-    hooks.firstName = [this] { return outputs_.empty() ? std::string() : outputs_.front().name; };
-    hooks.writeControlFile = [this] { WriteControlFile(outputDirectory(), values_); };
-    const auto showExit = hooks.showExit;
-    hooks.showExit = [this, showExit] {
-        txtFRQOutputFilename->setText(shown(runName_));
-        showExit();
-    };
-    runProcessor(host_, starter_, RunForm::Heights, hooks);
+    RunPlan plan = planOf(outputDirectory(), std::move(values));
+    plan.lastName = plan.control.base;
+    return plan;
 }
 
 }  // namespace zg

@@ -19,9 +19,9 @@ class frmOpenUPDATFile : public PointDialog {
     void cboTimeZone_Click();
     float comboHours() const;
     void showShifted(DateTime moment, QDateEdit& date, QTimeEdit& time, int minute, int second);
-    bool checkFields();
-    void cmdView_Click();
-    void readValues();
+    const RunForm& runForm() const override { return RunForm::Heights; }
+    bool checkFields() override;
+    RunPlan plan() override;
 
     QLineEdit* txtUPDATFile;
     QPushButton* cmdBrowseFile;
@@ -32,10 +32,6 @@ class frmOpenUPDATFile : public PointDialog {
     std::optional<DateTime> mdBeginInFile;
     std::optional<DateTime> mdEndInFile;
     float mfComboHours = 0;
-
-    ControlFile values_;
-    std::string runName_;
-    std::vector<RunOutput> outputs_;
 };
 
 }  // namespace zg

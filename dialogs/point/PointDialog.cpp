@@ -18,7 +18,6 @@
 #include "platform/QtText.h"
 #include "platform/ReadText.h"
 #include "processing/Directories.h"
-#include "processing/RunNames.h"
 #include "settings/CfgFile.h"
 #include "settings/Settings.h"
 
@@ -122,6 +121,7 @@ QLayout* PointDialog::makeButtons() {
     cmdSetWindSpeedClasses = button("Set &Wind Speed Classes", "cmdSetWindSpeedClasses");
     cmdView = button("RUN", "cmdView");
     cmdView->setDefault(true);
+    connect(cmdView, &QPushButton::clicked, this, guarded(host_, [this] { cmdView_Click(); }));
     cmdExit = button("Cancel", "cmdExit");
     lblStatus = named(new QLabel, "lblStatus");
     lblStatus->setTextFormat(Qt::PlainText);
@@ -265,11 +265,6 @@ ControlFile PointDialog::sharedValues(InputKind type) const {
     return v;
 }
 
-std::string PointDialog::periodText() const {
-    const ControlFile v = sharedValues(InputKind::Surf);
-    return periodInName(v.IBYR, v.IBMO, v.IBDY, v.IEYR, v.IEMO, v.IEDY);
-}
-
 bool PointDialog::browseInput(QLineEdit& box, const char* filter) {
     const std::string path = ShowFileOpen(host_, filter, 1, remembered_);
     if (path.empty()) return false;
@@ -316,9 +311,14 @@ void PointDialog::readLargeFile(const std::function<void(const std::function<voi
     done();
 }
 
-RunHooks PointDialog::sharedHooks() {
+void PointDialog::cmdView_Click() {
+    leftOutputDirectory();
+    if (checkFields()) runProcessor(host_, starter_, runForm(), hooks());
+}
+
+RunHooks PointDialog::hooks() {
     RunHooks hooks;
-    hooks.outputDirectory = [this] { return outputDirectory(); };
+    hooks.plan = [this] { return plan(); };
     hooks.showName = [this](const std::string& name) { txtFRQOutputFilename->setText(shown(name)); };
     hooks.setStatus = [this](const std::string& text) { lblStatus->setText(shown(text)); };
     hooks.setBusy = [](bool busy) {

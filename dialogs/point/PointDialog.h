@@ -30,6 +30,11 @@ class PointDialog : public QDialog {
                 const char* title, QWidget* parent);
 
  protected:
+    /// What its runs report, the checks before a run, and the plan of the fields after these have passed.
+    virtual const RunForm& runForm() const = 0;
+    virtual bool checkFields() = 0;
+    virtual RunPlan plan() = 0;
+
     /// Rows of the shared frames, which the dialog lays out.
     QGroupBox* makePeriod(bool withHeadings = false);
     QGroupBox* makeOutput();
@@ -65,11 +70,7 @@ class PointDialog : public QDialog {
 
     /// The values of the shared fields, as texts.
     ControlFile sharedValues(InputKind type) const;
-    std::string periodText() const;
     std::string outputDirectory() const;
-
-    /// The hooks that all dialogs have in common.
-    RunHooks sharedHooks();
 
     /// Asks for the input file; takes it, and its directory for the output. False if cancelled.
     bool browseInput(QLineEdit& box, const char* filter);
@@ -107,6 +108,9 @@ class PointDialog : public QDialog {
     ReasonLabel* lblReason = nullptr;  ///< why a run does not end
 
  private:
+    void cmdView_Click();
+    RunHooks hooks();
+
     LeaveWatch leaving_{host_};
 };
 

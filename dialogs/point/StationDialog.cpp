@@ -12,7 +12,6 @@
 #include "platform/QtText.h"
 #include "platform/ReadText.h"
 #include "processing/KeyFilters.h"
-#include "processing/RunNames.h"
 
 namespace zg {
 
@@ -24,7 +23,6 @@ void StationDialog::build(const Words& words, QWidget& station) {
     layout->addWidget(makeOutput());
     layout->addStretch();
     layout->addLayout(makeButtons());
-    connect(cmdView, &QPushButton::clicked, this, guarded(host_, [this] { cmdView_Click(); }));
     Form_Load();
     resize(windowSize(*this, 75));
     cmdBrowseFile->setFocus();
@@ -106,31 +104,21 @@ bool StationDialog::checkFields() {
            checkPlace() && checkOutputDirectory();
 }
 
-void StationDialog::readValues() {
+RunPlan StationDialog::plan() {
     const std::string path = inputPath();
     const std::string wanted = stationToLookUp();
     const std::string name = trim(wanted).empty() ? std::string() : stationNameOf(wanted);
     const std::string height = typed(txtAnemometerHeight->text());
-    outName_ = (name.empty() ? fileBaseOf(path) : name) + words_.tag + periodText();
-    if (hasHeightInName()) outName_ += "_" + height + "m";
-    values_ = sharedValues(inputType());
-    values_.inputFiles = {path};
-    values_.base = outName_;
-    values_.roseName = outName_;
-    if (inputType() != InputKind::Tsf)
-        values_.outputs = {{"1", outName_, trim(values_.title), stationText() + ", 0, 0", height}};
-}
-
-void StationDialog::cmdView_Click() {
-    leftOutputDirectory();
-    if (!checkFields()) return;
-    RunHooks hooks = sharedHooks();
-    hooks.readValues = [this] { readValues(); };
-    hooks.base = [this] { return values_.base; };
-    hooks.outputs = [this] { return std::vector<RunOutput>{{outName_, {}}}; };
-    hooks.firstName = [this] { return outName_; };
-    hooks.writeControlFile = [this] { WriteControlFile(outputDirectory(), values_); };
-    runProcessor(host_, starter_, RunForm::Single, hooks);
+    ControlFile values = sharedValues(inputType());
+    std::string outName = (name.empty() ? fileBaseOf(path) : name) + words_.tag + periodInName(values);
+    if (hasHeightInName()) outName += "_" + height + "m";
+    values.inputFiles = {path};
+    values.base = outName;
+    if (inputType() == InputKind::Tsf)
+        values.roseName = outName;
+    else
+        values.outputs = {{"1", outName, trim(values.title), stationText() + ", 0, 0", height}};
+    return planOf(outputDirectory(), std::move(values));
 }
 
 }  // namespace zg

@@ -49,12 +49,9 @@ class StationDialog : public PointDialog {
 
  private:
     QGroupBox* makeInput(QWidget& station);
-    bool checkFields();
-    void cmdView_Click();
-    void readValues();
-
-    ControlFile values_;
-    std::string outName_;
+    const RunForm& runForm() const override { return RunForm::Single; }
+    bool checkFields() override;
+    RunPlan plan() override;
 };
 
 }  // namespace zg

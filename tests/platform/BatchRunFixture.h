@@ -40,8 +40,8 @@ class BatchRun : public ::testing::Test {
         file.close();
     }
     void start(const std::string& base = "B") {
-        writeBatchFile(batchLines(out_ + "/", base, programs_));
-        starter_.start(batchFile(), WindowStyle::NormalFocus);
+        writeBatchFile(batchLines({out_ + "/", base, programs_}));
+        starter_.startRun({out_ + "/", base, programs_});
     }
     /// Runs the lines to their end; returns the text that the terminal shows.
     std::string carryOut(const std::string& base = "B", const std::string& report = "") {

@@ -119,12 +119,13 @@ TEST_F(BatchRun, TheWholeRunPlotsTheOutputsThatWereMade) {
     TestHost host;
     host.onPump = [] { QTest::qWait(1); };
     RunHooks hooks;
-    hooks.readValues = [] {};
-    hooks.base = [] { return std::string("B"); };
-    hooks.outputDirectory = [this] { return out_ + "/"; };
-    hooks.outputs = [] { return std::vector<RunOutput>{{"one", "1"}, {"two", "2"}, {"three", "3"}}; };
-    hooks.firstName = [] { return std::string("one"); };
-    hooks.writeControlFile = [] {};
+    hooks.plan = [this] {
+        RunPlan plan;
+        plan.directory = out_ + "/";
+        plan.control.base = "B";
+        plan.outputs = {{"one", "1"}, {"two", "2"}, {"three", "3"}};
+        return plan;
+    };
     hooks.showName = [](const std::string&) {};
     hooks.setStatus = [&](const std::string& text) {
         if (!text.starts_with("Running.")) statuses.push_back(text);

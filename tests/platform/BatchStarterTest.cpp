@@ -60,8 +60,7 @@ TEST_F(BatchStarterTest, ShowsTheFileOfTheLineInTheDesktopsViewer) {
                                    "al.frq",
                                    "/-dash.frq", "/%&^!.frq"}) {
         std::filesystem::remove(directory_.file("viewed"));
-        starter_.start(directory_.write("open_file.bat", "notepad \"" + path + "\"\r\n"),
-                       WindowStyle::Hidden);
+        starter_.startViewer(directory_.write("open_file.bat", "notepad \"" + path + "\"\r\n"), path);
         ASSERT_TRUE(
             QTest::qWaitFor([&] { return std::filesystem::exists(directory_.file("viewed")); }, 20000));
         EXPECT_EQ(directory_.read("viewed"), "1:" + path + "\n") << "one argument, and no shell reads it";
@@ -70,7 +69,7 @@ TEST_F(BatchStarterTest, ShowsTheFileOfTheLineInTheDesktopsViewer) {
 
 TEST_F(BatchStarterTest, ANameIsNeverAnOptionOfTheViewer) {
     addViewer();
-    starter_.start(directory_.write("open_file.bat", "notepad \"--help\"\r\n"), WindowStyle::Hidden);
+    starter_.startViewer(directory_.write("open_file.bat", "notepad \"--help\"\r\n"), "--help");
     ASSERT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(directory_.file("viewed")); }, 20000));
     EXPECT_EQ(directory_.read("viewed"), "1:./--help\n");
 }
@@ -79,8 +78,7 @@ TEST_F(BatchStarterTest, AViewerThatCannotStartIsAnError) {
     std::filesystem::permissions(directory_.write("xdg-open", "#!/no/such/shell\n"),
                                  std::filesystem::perms::owner_all);
     const std::string batchFile = directory_.write("open_file.bat", "notepad \"/a.frq\"\r\n");
-    EXPECT_RAISES(5, "Invalid procedure call or argument",
-                  (starter_.start(batchFile, WindowStyle::Hidden), 0));
+    EXPECT_RAISES(5, "Invalid procedure call or argument", (starter_.startViewer(batchFile, "/a.frq"), 0));
 }
 
 TEST_F(BatchStarterTest, AViewerForWhichThereIsNoProcessIsAnError) {
@@ -89,7 +87,7 @@ TEST_F(BatchStarterTest, AViewerForWhichThereIsNoProcessIsAnError) {
     for (const int forks : {0, 1}) {
         forksThatSucceed = forks;
         EXPECT_RAISES(5, "Invalid procedure call or argument",
-                      (starter_.start(batchFile, WindowStyle::Hidden), 0));
+                      (starter_.startViewer(batchFile, "/a.frq"), 0));
         forksThatSucceed = -1;
     }
 }
@@ -97,12 +95,29 @@ TEST_F(BatchStarterTest, AViewerForWhichThereIsNoProcessIsAnError) {
 TEST_F(BatchStarterTest, TellsThatTheDesktopHasNoViewer) {
     const std::string batchFile = directory_.write("open_file.bat", "notepad \"/a.frq\"\r\n");
     EXPECT_RAISES(53, "File not found: xdg-open, which shows text files on this desktop",
-                  (starter_.start(batchFile, WindowStyle::Hidden), 0));
+                  (starter_.startViewer(batchFile, "/a.frq"), 0));
 }
 
 TEST_F(BatchStarterTest, RaisesTheErrorOfABatchFileThatIsMissing) {
-    EXPECT_RAISES(53, "File not found",
-                  (starter_.start(directory_.file("none.bat"), WindowStyle::Hidden), 0));
+    EXPECT_RAISES(53, "File not found", (starter_.startViewer(directory_.file("none.bat"), "/a.frq"), 0));
+}
+
+TEST_F(BatchStarterTest, ShowsNothingWhereAnotherHasChangedTheLine) {
+    addViewer();
+    for (const char* lines : {"notepad \"/b.frq\"\r\n", "", "notepad \"/a.frq\"\r\nnotepad \"/b.frq\"\r\n"}) {
+        const std::string batchFile = directory_.write("open_file.bat", lines);
+        EXPECT_RAISES(5,
+                      "Invalid procedure call or argument: " + batchFile +
+                          " holds other lines than this program writes",
+                      (starter_.startViewer(batchFile, "/a.frq"), 0));
+    }
+    EXPECT_FALSE(std::filesystem::exists(directory_.file("viewed")));
+}
+
+TEST_F(BatchStarterTest, HasNoShellForBatchFilesOfOthers) {
+    const std::string batchFile = directory_.write("other.bat", "echo x\r\n");
+    EXPECT_RAISES(5, "Invalid procedure call or argument",
+                  (starter_.start(batchFile, WindowStyle::NormalFocus), 0));
 }
 
 }  // namespace

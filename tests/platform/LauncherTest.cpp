@@ -14,11 +14,11 @@ namespace {
 
 class Launcher : public BatchRun {
  protected:
-    /// The error of starting these lines, which must not run anything.
+    /// The error of starting a run whose batch file has these lines by then, which must not run anything.
     std::string refusal(const std::vector<std::string>& lines) {
         processor("touch \"$0.ran\"\n");
         writeBatchFile(lines);
-        return raisedBy([this] { starter_.start(batchFile(), WindowStyle::NormalFocus); });
+        return raisedBy([this] { starter_.startRun({out_ + "/", "B", programs_}); });
     }
     std::string othersLines() const {
         return "5: Invalid procedure call or argument: " + batchFile() +
@@ -27,7 +27,7 @@ class Launcher : public BatchRun {
 };
 
 TEST_F(Launcher, RunsNoLinesOfAnother) {
-    const std::vector<std::string> good = batchLines(out_ + "/", "B", programs_);
+    const std::vector<std::string> good = batchLines({out_ + "/", "B", programs_});
     const std::string touch = "\"" + directory_.file("touch") + "\" " + directory_.file("PWNED");
     executable("touch", "#!/bin/sh\n: > '" + directory_.file("PWNED") + "'\n");
     EXPECT_EQ(refusal({touch}), othersLines());
@@ -45,8 +45,8 @@ TEST_F(Launcher, RunsNoLinesOfAnother) {
 TEST_F(Launcher, RunsOnlyThisProgramsProcessorAndOnlyWhereTheBatchFileLies) {
     std::filesystem::create_directory(directory_.file("other"));
     executable("other/tempoline.exe", "#!/bin/sh\n: > '" + directory_.file("PWNED") + "'\n");
-    EXPECT_EQ(refusal(batchLines(out_ + "/", "B", directory_.file("other"))), othersLines());
-    EXPECT_EQ(refusal(batchLines(directory_.file("other/"), "B", programs_)), othersLines());
+    EXPECT_EQ(refusal(batchLines({out_ + "/", "B", directory_.file("other")})), othersLines());
+    EXPECT_EQ(refusal(batchLines({directory_.file("other/"), "B", programs_})), othersLines());
     EXPECT_FALSE(std::filesystem::exists(directory_.file("PWNED")));
     EXPECT_FALSE(std::filesystem::exists(programs_ + "/tempoline.exe.ran"));
 }
@@ -199,8 +199,8 @@ TEST_F(Launcher, GoesOnWithoutAWindowToTell) {
     processor("touch ran; while [ ! -e go ]; do sleep 0.05; done; echo x > B_tempoline.lst\n");
     {
         BatchStarter ended;
-        writeBatchFile(batchLines(out_ + "/", "B", programs_));
-        ended.start(batchFile(), WindowStyle::NormalFocus);
+        writeBatchFile(batchLines({out_ + "/", "B", programs_}));
+        ended.startRun({out_ + "/", "B", programs_});
         ASSERT_TRUE(comes("ran"));
     }
     directory_.write("out dir/go", "");

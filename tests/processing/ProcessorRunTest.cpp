@@ -8,6 +8,7 @@
 #include <csignal>
 #include <cstdio>
 #include <filesystem>
+#include <utility>
 
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
@@ -39,12 +40,10 @@ class ProcessorRun : public ::testing::Test {
  protected:
     void SetUp() override {
         applicationDirectory = "/opt/my programs";
-        hooks_.readValues = [this] { log("values"); };
-        hooks_.base = [] { return std::string("BASE"); };
-        hooks_.outputDirectory = [this] { return directory_.path() + "/"; };
-        hooks_.outputs = [this] { return outputs_; };
-        hooks_.firstName = [this] { return outputs_.empty() ? std::string() : outputs_[0].name; };
-        hooks_.writeControlFile = [this] { log("control"); };
+        hooks_.plan = [this] {
+            log("plan");
+            return plan();
+        };
         hooks_.showName = [this](const std::string& name) { log("name " + name); };
         hooks_.setStatus = [this](const std::string& text) {
             status_ = text;
@@ -63,12 +62,21 @@ class ProcessorRun : public ::testing::Test {
         hooks_.abandoned = [this] { return abandoned_ || host_.pumps >= pumpLimit; };
     }
     void TearDown() override { EXPECT_LT(host_.pumps, pumpLimit) << "the wait did not end"; }
+    /// What the fields say now.
+    RunPlan plan() const {
+        RunPlan plan;
+        plan.directory = out_;
+        plan.control.base = base_;
+        plan.outputs = outputs_;
+        if (!outputs_.empty()) plan.firstName = outputs_[0].name;
+        return plan;
+    }
     void log(const std::string& text) { log_.push_back(text); }
     void finish(const Texts& made) {
         for (const std::string& name : made) directory_.write(name + ".frq", "");
         directory_.write("finished.txt", "");
     }
-    void run(RunForm form) { runProcessor(host_, starter_, form, hooks_); }
+    void run(const RunForm& form) { runProcessor(host_, starter_, form, hooks_); }
 
     static constexpr int pumpLimit = 10'000;
 
@@ -76,6 +84,8 @@ class ProcessorRun : public ::testing::Test {
     TestHost host_;
     FakeStarter starter_;
     RunHooks hooks_;
+    std::string out_ = directory_.path() + "/";
+    std::string base_ = "BASE";
     std::vector<RunOutput> outputs_ = {{"one", "1001"}, {"two", "1002"}, {"three", "1003"}};
     Texts log_;
     std::string status_;
@@ -99,7 +109,7 @@ TEST_F(ProcessorRun, TheBatchFileHasItsFiveLines) {
 TEST_F(ProcessorRun, StationsArePlottedInOrderAndEndFinishedWhateverHappened) {
     starter_.onStart = [this] { finish({"one", "three"}); };
     run(RunForm::Stations);
-    EXPECT_EQ(log_, (Texts{"values", "name one", "control", "name one", "load one.frq", "name two",
+    EXPECT_EQ(log_, (Texts{"plan", "name one", "name one", "load one.frq", "name two",
                            "status Error processing Station 1002", "name three", "load three.frq",
                            "status Finished", "exit", "idle", "zone"}));
 }
@@ -143,20 +153,21 @@ TEST_F(ProcessorRun, AStaleMarkerIsRemovedAndTheWaitLooksEvery900Milliseconds) {
 }
 
 TEST_F(ProcessorRun, AnErrorIsToldAndRetryResumesAtTheStep) {
-    int attempts = 0;
-    hooks_.writeControlFile = [&] {
-        log("control");
-        if (++attempts < 3) throw RunTimeError(70, "Permission denied");
+    const std::string inTheWay = directory_.file("BASE_tempoline.inp");
+    std::filesystem::create_directory(inTheWay);
+    host_.onBox = [&] {
+        if (host_.boxes.size() == 2) std::filesystem::remove(inTheWay);
     };
     starter_.onStart = [this] { finish({"one", "two", "three"}); };
     host_.boxAnswers = {BoxAnswer::Retry, BoxAnswer::Retry};
     run(RunForm::Stations);
+    ASSERT_EQ(host_.boxes.size(), 2U);
     EXPECT_EQ(host_.boxes[0].title, "ERROR:");
     EXPECT_EQ(host_.boxes[0].text,
-              "The following error has occurred: \"Permission denied\".  (Error Number = 70)");
+              "The following error has occurred: \"Path/File access error\".  (Error Number = 75)");
     EXPECT_EQ(host_.boxes[0].buttons, BoxButtons::RetryCancel);
-    EXPECT_EQ(std::count(log_.begin(), log_.end(), "values"), 1);
-    EXPECT_EQ(std::count(log_.begin(), log_.end(), "control"), 3);
+    EXPECT_EQ(std::count(log_.begin(), log_.end(), "plan"), 1) << "the fields are not read again";
+    EXPECT_TRUE(std::filesystem::is_regular_file(inTheWay));
     EXPECT_EQ(status_, "Finished");
 }
 
@@ -169,27 +180,33 @@ TEST_F(ProcessorRun, EveryStepCanBeTriedAgainWithoutTheStepsBeforeIt) {
             then();
         };
     };
-    std::filesystem::create_directory(directory_.file("run_tempoline.bat"));
-    hooks_.readValues = failingOnce("values", [] {});
-    hooks_.writeControlFile = failingOnce("control", [] {});
+    const std::vector<std::string> inTheWay = {directory_.file("BASE_tempoline.inp"),
+                                               directory_.file("run_tempoline.bat")};
+    for (const std::string& path : inTheWay) std::filesystem::create_directory(path);
+    hooks_.plan = [this, failed = false]() mutable {
+        log("plan");
+        if (!std::exchange(failed, true)) throw RunTimeError(70, "Permission denied: plan");
+        return plan();
+    };
     starter_.onStart = failingOnce("start", [this] { finish({"one"}); });
     hooks_.load = failingOnce("load", [] {});
     hooks_.keepTimeZone = failingOnce("zone", [] {});
-    host_.onBox = [this] {
-        if (host_.boxes.back().text.find("= 75)") != std::string::npos)
-            std::filesystem::remove(directory_.file("run_tempoline.bat"));
+    host_.onBox = [&] {
+        const std::size_t box = host_.boxes.size();
+        if (box == 2 || box == 3) std::filesystem::remove(inTheWay[box - 2]);
     };
     host_.boxAnswers.assign(6, BoxAnswer::Retry);
     run(RunForm::Single);
-    EXPECT_EQ(log_, (Texts{"busy", "values", "values", "name one", "control", "control", "start", "start",
-                           "name one", "load", "load", "status Finished", "exit", "idle", "zone", "zone"}));
+    EXPECT_EQ(log_, (Texts{"busy", "plan", "plan", "name one", "start", "start", "name one", "load", "load",
+                           "status Finished", "exit", "idle", "zone", "zone"}));
     ASSERT_EQ(host_.boxes.size(), 6U);
-    EXPECT_EQ(host_.boxes[2].text,
-              "The following error has occurred: \"Path/File access error\".  (Error Number = 75)");
+    for (const std::size_t box : {1U, 2U})
+        EXPECT_EQ(host_.boxes[box].text,
+                  "The following error has occurred: \"Path/File access error\".  (Error Number = 75)");
 }
 
 TEST_F(ProcessorRun, ANameOfTwoLinesAddsNoCommandsToTheBatchFile) {
-    hooks_.base = [] { return std::string("x\n\"/bin/sh\" -c evil"); };
+    base_ = "x\n\"/bin/sh\" -c evil";
     host_.boxAnswers = {BoxAnswer::Cancel};
     run(RunForm::Single);
     ASSERT_EQ(host_.boxes.size(), 1U);
@@ -197,9 +214,8 @@ TEST_F(ProcessorRun, ANameOfTwoLinesAddsNoCommandsToTheBatchFile) {
         host_.boxes[0].text,
         "The following error has occurred: \"Bad file name or number: \"x<LF>\"/bin/sh\" -c evil\" has a "
         "line end in it\".  (Error Number = 52)");
-    EXPECT_FALSE(std::filesystem::exists(directory_.file("run_tempoline.bat")));
     EXPECT_TRUE(starter_.started.empty());
-    EXPECT_EQ(std::count(log_.begin(), log_.end(), "control"), 0) << "nothing is written under such a name";
+    EXPECT_TRUE(std::filesystem::is_empty(directory_.path())) << "nothing is written under such a name";
 }
 
 TEST_F(ProcessorRun, ADirectoryOfTwoLinesAddsNoCommandsToTheBatchFile) {
@@ -208,7 +224,7 @@ TEST_F(ProcessorRun, ADirectoryOfTwoLinesAddsNoCommandsToTheBatchFile) {
         if (ofTheProgram)
             applicationDirectory = evil;
         else
-            hooks_.outputDirectory = [evil] { return evil + "/"; };
+            out_ = evil + "/";
         std::filesystem::create_directory(evil);
         host_.boxAnswers = {BoxAnswer::Cancel};
         run(RunForm::Single);
@@ -216,7 +232,7 @@ TEST_F(ProcessorRun, ADirectoryOfTwoLinesAddsNoCommandsToTheBatchFile) {
         EXPECT_NE(host_.boxes[0].text.find("x<LF>\"touch\" PWNED"), std::string::npos) << host_.boxes[0].text;
         EXPECT_TRUE(starter_.started.empty());
         std::filesystem::remove_all(evil);
-        hooks_.outputDirectory = [this] { return directory_.path() + "/"; };
+        out_ = directory_.path() + "/";
         host_.boxes.clear();
     }
 }
@@ -254,17 +270,16 @@ TEST_F(ProcessorRun, BlanksAroundANameAreNoPartOfIt) {
     outputs_ = {{"one ", "1001"}, {" two  ", "1002"}};
     starter_.onStart = [this] { finish({"one", "two"}); };
     run(RunForm::Heights);
-    EXPECT_EQ(log_,
-              (Texts{"busy", "values", "name one ", "control", "name one ", "load one.frq", "status Finished",
-                     "name  two  ", "load two.frq", "status Finished", "exit", "idle", "zone"}));
+    EXPECT_EQ(log_, (Texts{"busy", "plan", "name one ", "name one ", "load one.frq", "status Finished",
+                           "name  two  ", "load two.frq", "status Finished", "exit", "idle", "zone"}));
 }
 
 TEST_F(ProcessorRun, HeightsTellEachResultAndNoHeightLeavesTheLabel) {
     starter_.onStart = [this] { finish({"one", "three"}); };
     run(RunForm::Heights);
-    EXPECT_EQ(log_, (Texts{"busy", "values", "name one", "control", "name one", "load one.frq",
-                           "status Finished", "name two", "status Error has occurred.", "name three",
-                           "load three.frq", "status Finished", "exit", "idle", "zone"}));
+    EXPECT_EQ(log_, (Texts{"busy", "plan", "name one", "name one", "load one.frq", "status Finished",
+                           "name two", "status Error has occurred.", "name three", "load three.frq",
+                           "status Finished", "exit", "idle", "zone"}));
     outputs_.clear();
     run(RunForm::Heights);
     EXPECT_EQ(status_, "Running...") << "nothing is waited for";
@@ -272,7 +287,7 @@ TEST_F(ProcessorRun, HeightsTellEachResultAndNoHeightLeavesTheLabel) {
 
 TEST_F(ProcessorRun, ADirectoryRemovedDuringTheWaitOnlyMeansThatNoMarkerComes) {
     std::filesystem::create_directory(directory_.file("out"));
-    hooks_.outputDirectory = [this] { return directory_.file("out/"); };
+    out_ = directory_.file("out/");
     host_.onPump = [this] {
         if (host_.pumps == 10) std::filesystem::remove_all(directory_.file("out"));
         abandoned_ = host_.pumps >= 100;
@@ -305,7 +320,7 @@ TEST_F(ProcessorRun, CancelEndsTheRunWithAnEmptyStatus) {
 }
 
 TEST_F(ProcessorRun, ADirectoryRemovedMeanwhileIsToldByNumber) {
-    hooks_.outputDirectory = [this] { return directory_.file("gone/"); };
+    out_ = directory_.file("gone/");
     host_.boxAnswers = {BoxAnswer::Cancel};
     run(RunForm::Single);
     EXPECT_EQ(host_.boxes[0].text,
@@ -325,7 +340,7 @@ TEST_F(ProcessorRun, AWaitThatIsAbandonedEndsQuietly) {
 }
 
 TEST_F(ProcessorRun, ABlankInTheNameIsTheReasonOfAWaitThatDoesNotEnd) {
-    hooks_.base = [] { return std::string("my BASE"); };
+    base_ = "my BASE";
     host_.onPump = [this] { abandoned_ = host_.now > 5000; };
     run(RunForm::Single);
     EXPECT_EQ(
@@ -456,17 +471,15 @@ TEST_F(ProcessorRun, WhereAnotherWindowWaitsNothingIsTouched) {
     EXPECT_EQ(host_.boxes[0].buttons, BoxButtons::YesNo);
     EXPECT_EQ(directory_.read("finished.txt"), "the other's");
     EXPECT_EQ(directory_.read("run_tempoline.bat"), "the other's");
-    EXPECT_EQ(log_, (Texts{"busy", "values", "idle", "status ", "idle"}));
+    EXPECT_EQ(log_, (Texts{"busy", "plan", "idle", "status ", "idle"}));
     EXPECT_TRUE(starter_.started.empty());
 }
 
 TEST_F(ProcessorRun, AnotherDirectoryMayBeChosenWhereAnotherWindowWaits) {
     const OtherWindow other(directory_.path() + "/");
     const TempDirectory elsewhere;
-    std::string chosen = directory_.path() + "/";
-    hooks_.outputDirectory = [&] { return chosen; };
     hooks_.chooseDirectory = [&] {
-        chosen = elsewhere.path() + "/";
+        out_ = elsewhere.path() + "/";
         return true;
     };
     host_.boxAnswers = {BoxAnswer::Yes};
@@ -501,6 +514,47 @@ TEST_F(ProcessorRun, ASecondRunOfTheSameWindowStartsAsItAlwaysDid) {
     run(RunForm::Single);
     EXPECT_EQ(starter_.started.size(), 2U);
     EXPECT_EQ(status_, "Finished");
+}
+
+TEST_F(ProcessorRun, TheNameOfTheWholeRunIsOnShowAtTheEndWhereThereIsOne) {
+    hooks_.plan = [this] {
+        RunPlan named = plan();
+        named.lastName = "all";
+        return named;
+    };
+    starter_.onStart = [this] { finish({"one", "two", "three"}); };
+    run(RunForm::Heights);
+    EXPECT_EQ(*(std::find(log_.begin(), log_.end(), "exit") - 1), "name all");
+}
+
+TEST_F(ProcessorRun, ARunGoesOnWithItsOwnValuesWhateverAnotherBeginsWithMeanwhile) {
+    std::filesystem::create_directory(directory_.file("second"));
+    const auto second = [this] {
+        out_ = directory_.file("second/");
+        base_ = "SECOND";
+        outputs_ = {{"four", "1004"}};
+        run(RunForm::Single);
+    };
+    starter_.onStart = [&] {
+        if (starter_.started.size() == 1) return;
+        directory_.write("second/four.frq", "");
+        directory_.write("second/finished.txt", "");
+    };
+    bool begun = false;
+    host_.onPump = [&] {
+        if (host_.pumps < 5 || std::exchange(begun, true)) return;
+        second();
+        finish({"one", "three"});
+        directory_.write("BASE_tempoline.lst", "of the first\r\n");
+    };
+    run(RunForm::Stations);
+    std::erase_if(log_, [](const std::string& text) { return !text.starts_with("load "); });
+    EXPECT_EQ(log_, (Texts{"load second/four.frq", "load one.frq", "load three.frq"}));
+    EXPECT_EQ(tip_, "No FRQ file for two: of the first");
+    EXPECT_EQ(starter_.started,
+              (Texts{directory_.file("run_tempoline.bat"), directory_.file("second/run_tempoline.bat")}));
+    EXPECT_TRUE(std::filesystem::exists(directory_.file("BASE_tempoline.inp")));
+    EXPECT_TRUE(std::filesystem::exists(directory_.file("second/SECOND_tempoline.inp")));
 }
 
 }  // namespace

@@ -15,11 +15,17 @@ class FakeStarter : public zg::ProcessStarter {
         lastStyle = style;
         if (onStart) onStart(zg::DirOf(batchFile));
     }
+    void startRun(const zg::RunBatch& run) override {
+        if (!onRun) return ProcessStarter::startRun(run);
+        ++starts;
+        onRun(run);
+    }
     std::string outcome(const std::string& batchFile) override {
         return batchFile == lastFile ? told : "of another run";
     }
 
     std::function<void(const std::string& directory)> onStart;
+    std::function<void(const zg::RunBatch& run)> onRun;  ///< called instead of onStart
     int starts = 0;
     std::string lastFile;
     zg::WindowStyle lastStyle = zg::WindowStyle::NormalFocus;

@@ -89,7 +89,8 @@ class GridWizardTest : public ::testing::Test {
     }
     bool enabled(const char* control) { return view_.enabledControls[control]; }
     std::string caption() { return view_.texts["Frame_Step3"]; }
-    std::string controlFile() { return directory_.read("out/" + wizard_->RunRoot + "_tempoline.inp"); }
+    std::string runRoot() { return wizard_->plan().control.base; }
+    std::string controlFile() { return directory_.read("out/" + runRoot() + "_tempoline.inp"); }
     /// The file made by the script, given this test's input.
     std::string expected(const std::string& name) {
         std::string text = readWholeFile(ZG_SOURCE_DIR "/tests/processing/control/" + name);
@@ -468,7 +469,7 @@ TEST_P(ByProjection, TheControlFileIsExact) {
     wizard_->cmdNext3_Click();
     made_ = {"My rose"};
     wizard_->cmdPROCESS_Click();
-    EXPECT_EQ(wizard_->RunRoot, "VENTOS_wind20050307-20051231");
+    EXPECT_EQ(runRoot(), "VENTOS_wind20050307-20051231");
     EXPECT_EQ(controlFile(), expected(std::string("wizard_ventos_") + name + ".inp"));
     EXPECT_EQ(plotted_, (std::vector<std::string>{"My rose.frq"}));
     EXPECT_EQ(status(), "Finished");
@@ -536,7 +537,7 @@ TEST_F(VentosWizard, TheFilesAreReadInTheOrderOfTheList) {
     fillLocation("1", "2", "a");
     wizard_->cmdNext3_Click();
     wizard_->cmdPROCESS_Click();
-    EXPECT_EQ(wizard_->RunRoot, "VENTOS_z_first20050307-20051231");
+    EXPECT_EQ(runRoot(), "VENTOS_z_first20050307-20051231");
     const std::string file = controlFile();
     EXPECT_NE(file.find("! NMETINP = 2 !"), std::string::npos);
     EXPECT_LT(file.find(first), file.find(second));

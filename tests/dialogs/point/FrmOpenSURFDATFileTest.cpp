@@ -253,6 +253,35 @@ TEST_F(FrmOpenSURFDATFile, ASecondStartDuringTheWaitRunsWithoutACrash) {
     EXPECT_EQ(status(), "Finished");
 }
 
+TEST_F(FrmOpenSURFDATFile, WhatIsChosenForASecondStartDoesNotChangeTheFirst) {
+    browse();
+    std::filesystem::create_directory(directory_.file("other"));
+    const auto make = [this](const std::string& directory, const char* station) {
+        directory_.write(directory + "/my data-" + station + "_SURF_19900108-19900115_10m.frq", "");
+    };
+    starter_.onStart = [&](const std::string&) {
+        if (starter_.starts == 1) return;
+        make("other", "1003");
+        directory_.write("other/finished.txt", "");
+    };
+    int pumps = 0;
+    host_.onPump = [&] {
+        if (++pumps != 5) return;
+        for (const int row : {0, 1})
+            child<QListWidget>("lstSURFDATStationIDs")->item(row)->setSelected(false);
+        box("txtOutputDirectory").setText(QString::fromStdString(directory_.file("other/")));
+        click("cmdView");
+        make("out", "1001");
+        make("out", "1002");
+        directory_.write("out/finished.txt", "");
+    };
+    click("cmdView");
+    EXPECT_EQ(plotted_, (std::vector<std::string>{"my data-1003_SURF_19900108-19900115_10m.frq",
+                                                  "my data-1001_SURF_19900108-19900115_10m.frq",
+                                                  "my data-1002_SURF_19900108-19900115_10m.frq"}));
+    EXPECT_EQ(status(), "Finished");
+}
+
 TEST_F(FrmOpenSURFDATFile, TheEndOfTheProgramEndsTheWaitAtOnce) {
     browse();
     int pumps = 0;

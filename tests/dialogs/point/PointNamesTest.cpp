@@ -37,9 +37,7 @@ class PointNames : public PointDialogs {
                              "\\(.*\\) !.*/\\1/p' "
                              "\"$1\"); do\n: > \"$name.FRQ\"; done\necho done > \"${1%.inp}.lst\"\n");
         std::filesystem::permissions(processor, std::filesystem::perms::owner_all);
-        starter_.onStart = [](const std::string& out) {
-            BatchStarter().start(out + "/run_tempoline.bat", WindowStyle::NormalFocus);
-        };
+        starter_.onRun = [](const RunBatch& run) { BatchStarter().startRun(run); };
         host_.onPump = [this] {
             QTest::qWait(2);
             ending_ = host_.pumps >= mostPumps;
