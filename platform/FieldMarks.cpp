@@ -77,6 +77,12 @@ bool leavesField(const QEvent& event) {
     return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
 }
 
+bool clearFilledMark(QWidget& field, bool filled) {
+    if (fieldMark(field) != yellowMark || !filled) return false;
+    ClearInvalid(field);
+    return true;
+}
+
 void ClearInvalidIfFilled(QWidget& field) {
     const std::string text = typed(textOf(field));
     setFieldMark(field, filledMark(fieldMark(field), text));

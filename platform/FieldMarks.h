@@ -23,6 +23,9 @@ void ClearInvalid(QWidget& field);
 /// program is in front.
 bool leavesField(const QEvent& event);
 
+/// A marked field that is filled becomes clean; returns whether it did.
+bool clearFilledMark(QWidget& field, bool filled);
+
 /// A marked field with text becomes clean; then its text is trimmed.
 void ClearInvalidIfFilled(QWidget& field);
 

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <string>
 
+#include "platform/KeyFilter.h"
 #include "platform/QtText.h"
 
 namespace zg {
@@ -15,6 +16,13 @@ namespace zg {
 template <typename Control>
 Control* named(Control* control, const char* name) {
     control->setObjectName(QString::fromLatin1(name));
+    return control;
+}
+
+/// The same for a name that is put together.
+template <typename Control>
+Control* named(Control* control, const QString& name) {
+    control->setObjectName(name);
     return control;
 }
 
@@ -27,6 +35,14 @@ inline QPushButton* browseButton(const char* caption, const char* name, const ch
     QPushButton* button = namedButton(caption, name);
     button->setAccessibleName(QString::fromLatin1(what));
     return button;
+}
+
+/// A text box in which Enter is Tab, and whose keys are filtered if there is a function for it.
+inline QLineEdit* enteredBox(const char* name, KeyFunction keys = nullptr) {
+    auto* box = named(new QLineEdit, name);
+    if (keys) filterKeys(*box, std::move(keys));
+    enterIsTab(*box);
+    return box;
 }
 
 /// The label of a control; its accelerator moves the focus there.

@@ -11,9 +11,12 @@
 #include "dialogs/gridded/FrmProjectionInfo.h"
 #include "headers/Stations.h"
 #include "platform/Combos.h"
+#include "platform/DirectoryBox.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
+#include "platform/FormParts.h"
 #include "platform/ListMoves.h"
+#include "platform/Moments.h"
 #include "platform/Pickers.h"
 #include "platform/QtText.h"
 #include "platform/ReadText.h"
@@ -23,19 +26,7 @@ namespace zg {
 
 namespace {
 
-DateTime momentIn(const QDateEdit& date, const QTimeEdit& time) {
-    const QDate day = date.date();
-    const QTime clock = time.time();
-    return addSeconds(makeDate(day.year(), day.month(), day.day()),
-                      timeSerial(clock.hour(), clock.minute(), clock.second()));
-}
-
-void showMoment(DateTime moment, QDateEdit& date, QTimeEdit& time) {
-    const CalendarDate day = dateOf(moment);
-    const TimeOfDay clock = timeOf(moment);
-    date.setDate(QDate(day.year, day.month, day.day));
-    time.setTime(QTime(clock.hour, clock.minute, clock.second));
-}
+constexpr const char* folderPrompt = "Select a Working Directory:";
 
 /// Such a text has the encoding of the file system.
 bool namesFile(const QLineEdit& box) {
@@ -64,15 +55,13 @@ GridForm::GridForm(const GridVariation& variation, Host& host, ProcessStarter& s
       wizard_(variation, *this, host, starter, window_) {
     setObjectName(QString::fromLatin1(variation.form));
     setWindowTitle(QString::fromLatin1(variation.title));
-    auto* cmdCancel = new QPushButton(QStringLiteral("Cancel"));
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
     auto* grid = new QGridLayout(this);
     grid->addWidget(makeStep1(), 0, 0);
     grid->addWidget(makeStep2(), 1, 0);
     auto* right = new QVBoxLayout;
     right->addWidget(makeStep3(), 1);
     right->addWidget(makeStep4());
-    right->addWidget(cmdCancel, 0, Qt::AlignRight);
+    right->addWidget(namedButton("Cancel", "cmdCancel"), 0, Qt::AlignRight);
     grid->addLayout(right, 0, 1, 2, 1);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
@@ -100,7 +89,7 @@ void GridForm::fillLists() {
         addRead(as<QListWidget>("lstStations"), stations.gsStationCol0[i]);
     for (const char* picker : {"DTPicker_BeginDate", "DTPicker_EndDate"})
         as<QDateEdit>(picker).setDate(QDate::currentDate());
-    as<QTimeEdit>("DTPicker_TimeStep").setTime(QTime(1, 0));
+    showTime({1, 0, 0}, as<QTimeEdit>("DTPicker_TimeStep"));
 }
 
 void GridForm::onClick(const char* name, std::function<void()> action) {
@@ -129,7 +118,7 @@ void GridForm::connectControls() {
     onClick("cmdBrowseDirectory", [this] { browseDirectory(); });
     onClick("cmdPrevious4", [this] { wizard_.cmdPrevious4_Click(); });
     onClick("cmdPROCESS", [this] {
-        leftOutputDirectory();
+        completeDirectory(as<QLineEdit>("txtOutputDirectory"));
         wizard_.cmdPROCESS_Click();
     });
     onClick("cmdCancel", [this] { reject(); });
@@ -151,32 +140,32 @@ bool GridForm::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void GridForm::left(QWidget& field) {
-    if (&field == &control("txtOutputDirectory")) leftOutputDirectory();
+    if (&field == &control("txtOutputDirectory")) completeDirectory(as<QLineEdit>("txtOutputDirectory"));
     if (&field == &control("cmdPROCESS")) {
         as<QLabel>("lblStatus").clear();
         setReason("");
         setTipOfStatus("");
     }
-    if (fieldMark(field) == yellowMark && isFilled(field)) ClearInvalid(field);
-}
-
-void GridForm::leftOutputDirectory() {
-    QLineEdit& box = as<QLineEdit>("txtOutputDirectory");
-    const std::string path = pathIn(box);
-    if (!path.empty()) showPath(box, withSeparator(path));
+    clearFilledMark(field, isFilled(field));
 }
 
 void GridForm::browseFiles() {
     QListWidget& files = as<QListWidget>(variation_.fileList);
     SelectFiles(host_, files, directory_, variation_.filter);
-    if (fieldMark(files) == yellowMark && files.count() > 0) ClearInvalid(files);
+    clearFilledMark(files, files.count() > 0);
 }
 
 void GridForm::browseDirectory() {
     QLineEdit& box = as<QLineEdit>("txtOutputDirectory");
-    const std::string start = trim(pathIn(box));
-    showPath(box, BrowseForFolder(host_, start, "Select a Working Directory:", -1));
+    zg::browseDirectory(host_, box, folderPrompt);
     left(box);
+}
+
+bool GridForm::chooseOtherDirectory() {
+    QLineEdit& box = as<QLineEdit>("txtOutputDirectory");
+    const bool isOther = browseOtherDirectory(host_, box, folderPrompt);
+    left(box);
+    return isOther;
 }
 
 std::string GridForm::text(const char* name) const {
@@ -237,10 +226,7 @@ void GridForm::setEnd(DateTime moment) {
     showMoment(moment, as<QDateEdit>("DTPicker_EndDate"), as<QTimeEdit>("DTPicker_EndTime"));
 }
 
-TimeOfDay GridForm::timeStep() const {
-    const QTime step = as<QTimeEdit>("DTPicker_TimeStep").time();
-    return {step.hour(), step.minute(), step.second()};
-}
+TimeOfDay GridForm::timeStep() const { return timeIn(as<QTimeEdit>("DTPicker_TimeStep")); }
 
 void GridForm::mark(const char* name, bool invalid) {
     if (invalid)
@@ -290,12 +276,6 @@ void GridForm::setBusy(bool busy) {
 void GridForm::setReason(const std::string& text) { as<ReasonLabel>("lblReason").setReason(text); }
 
 void GridForm::setTipOfStatus(const std::string& text) { setPlainTip(control("lblStatus"), text); }
-
-bool GridForm::chooseOtherDirectory() {
-    const std::string before = text("txtOutputDirectory");
-    browseDirectory();
-    return text("txtOutputDirectory") != before && IsDirectory(trim(text("txtOutputDirectory")));
-}
 
 void GridForm::askProjection() { frmProjectionInfo(host_, this).exec(); }
 

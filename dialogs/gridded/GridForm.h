@@ -76,7 +76,6 @@ class GridForm : public QDialog, public GridView {
     void browseFiles();
     void browseDirectory();
     void left(QWidget& field);
-    void leftOutputDirectory();
     void labelsFollow();
     QWidget& control(const char* name) const;
     template <typename Control>

@@ -4,20 +4,13 @@
 
 #include "dialogs/gridded/GridForm.h"
 #include "platform/FormParts.h"
-#include "platform/KeyFilter.h"
+#include "platform/Moments.h"
 #include "platform/ReasonLabel.h"
 #include "processing/KeyFilters.h"
 
 namespace zg {
 
 namespace {
-
-QLineEdit* box(const char* name, KeyFunction keys = nullptr) {
-    auto* made = named(new QLineEdit, name);
-    if (keys) filterKeys(*made, std::move(keys));
-    enterIsTab(*made);
-    return made;
-}
 
 QComboBox* combo(const char* name, const QStringList& entries, const char* spoken) {
     auto* made = named(new QComboBox, name);
@@ -77,17 +70,6 @@ QGroupBox* GridForm::makeStep1() {
 }
 
 void GridForm::addPeriod(QGridLayout& grid) {
-    const auto date = [](const char* name) {
-        auto* picker = named(new QDateEdit, name);
-        picker->setCalendarPopup(true);
-        picker->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
-        return picker;
-    };
-    const auto time = [](const char* name) {
-        auto* picker = named(new QTimeEdit, name);
-        picker->setDisplayFormat(QStringLiteral("HH:mm:ss"));
-        return picker;
-    };
     auto* zone = combo("cboTimeZone", {}, "Base time zone");
     zone->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     grid.addWidget(labelFor("Base Time &Zone:", zone), 0, 0, 1, 5);
@@ -95,8 +77,8 @@ void GridForm::addPeriod(QGridLayout& grid) {
     int row = 2;
     for (const char* which : {"Begin", "End"}) {
         const std::string name(which);
-        auto* dates = date(("DTPicker_" + name + "Date").c_str());
-        auto* times = time(("DTPicker_" + name + "Time").c_str());
+        auto* dates = datePicker(("DTPicker_" + name + "Date").c_str());
+        auto* times = timePicker(("DTPicker_" + name + "Time").c_str());
         auto* dateLabel = labelFor(row == 2 ? "Startin&g Date:" : "&Ending Date:", dates);
         auto* timeLabel = labelFor("Time:", times);
         times->setAccessibleName(row == 2 ? QStringLiteral("Starting time") : QStringLiteral("Ending time"));
@@ -106,7 +88,7 @@ void GridForm::addPeriod(QGridLayout& grid) {
         grid.addWidget(times, row++, 3);
     }
     auto* stepFrame = frame("Ti&me Step:", "Frame_TimeStep");
-    auto* step = time("DTPicker_TimeStep");
+    auto* step = timePicker("DTPicker_TimeStep");
     step->setAccessibleName(QStringLiteral("Time step"));
     step->setToolTip(QStringLiteral("Hours, minutes and seconds; 9 hours, 6 minutes and 7 seconds at most"));
     (new QVBoxLayout(stepFrame))->addWidget(step);
@@ -131,13 +113,13 @@ void GridForm::addMethods(QGridLayout& grid) {
     auto* stationsOption = named(new QRadioButton(QStringLiteral("By &Station")), "optByStation");
     auto* locationsOption = named(new QRadioButton(QStringLiteral("By &Location")), "optByLocation");
     locationsOption->setChecked(true);
-    auto* number = box("txtNumberOfLocations", KeyNumericInteger);
+    auto* number = enteredBox("txtNumberOfLocations", KeyNumericInteger);
     number->setMaximumWidth(80);
     grid.addWidget(stationsOption, row, 0);
     grid.addWidget(locationsOption, row, 1);
     grid.addWidget(labelFor("Number &of Locations:", number), row, 2, 1, 2);
     grid.addWidget(number, row++, 4);
-    auto* title = box("txtTitleLine");
+    auto* title = enteredBox("txtTitleLine");
     grid.addWidget(labelFor("&Title Line (Optional):", title), row, 0);
     grid.addWidget(title, row++, 1, 1, 4);
     auto* settingsRow = new QHBoxLayout;
@@ -176,7 +158,7 @@ QGroupBox* GridForm::makeStations() {
 
 QWidget* GridForm::makeHeight(const char* frameName, const char* boxName) {
     auto* holder = named(new QWidget, frameName);
-    auto* height = box(boxName, KeyNumericSigned);
+    auto* height = enteredBox(boxName, KeyNumericSigned);
     height->setMaximumWidth(100);
     auto* row = new QHBoxLayout(holder);
     row->setContentsMargins(0, 0, 0, 0);
@@ -202,7 +184,7 @@ QGroupBox* GridForm::makeCoordinates() {
         grid->setContentsMargins(0, 0, 0, 0);
         int at = 0;
         for (const Row& row : rows) {
-            auto* field = box(row.box, row.keys);
+            auto* field = enteredBox(row.box, row.keys);
             grid->addWidget(labelFor(row.label, field), at, 0);
             grid->addWidget(field, at, 1);
             if (row.beside != nullptr) grid->addWidget(row.beside, at, 2);
@@ -223,7 +205,7 @@ QGroupBox* GridForm::makeCoordinates() {
 
 QGroupBox* GridForm::makeOutputName() {
     auto* output = frame("Output FRQ Filename:", "Frame_OutputFRQName");
-    auto* name = box("txtFRQOutputFilename");
+    auto* name = enteredBox("txtFRQOutputFilename");
     auto* row = new QHBoxLayout(output);
     row->addWidget(labelFor("Filen&ame:", name));
     row->addWidget(name);
@@ -250,7 +232,7 @@ QGroupBox* GridForm::makeStep3() {
 
 QGroupBox* GridForm::makeStep4() {
     auto* step = frame("DIRECTORY FOR OUTPUT", "Frame_Step4");
-    auto* directory = box("txtOutputDirectory");
+    auto* directory = enteredBox("txtOutputDirectory");
     auto* status = named(new QLabel, "lblStatus");
     status->setTextFormat(Qt::PlainText);
     auto* grid = new QGridLayout(step);

@@ -1,6 +1,6 @@
 #include "dialogs/point/FrmOpenAERMETFile.h"
 
-#include "platform/KeyFilter.h"
+#include "platform/FormParts.h"
 #include "platform/ReadText.h"
 #include "processing/KeyFilters.h"
 
@@ -20,10 +20,7 @@ frmOpenAERMETFile::frmOpenAERMETFile(Host& host, ProcessStarter& starter, Proces
                                     : "Generate Wind Rose Plots from AERMET Profile Data",
                     parent),
       kind_(kind) {
-    txtStationID = new QLineEdit;
-    txtStationID->setObjectName(QStringLiteral("txtStationID"));
-    filterKeys(*txtStationID, KeyNumericInteger);
-    enterIsTab(*txtStationID);
+    txtStationID = enteredBox("txtStationID", KeyNumericInteger);
     build({"txtAERMETDataFile", isSurface(kind) ? "AERMET Surface Data &File:" : "AERMET Profile Data &File:",
            isSurface(kind) ? "AERMET Data Files (*.sfc) | *.sfc|All Files (*.*) | *.*; |"
                            : "AERMET Profile Data Files (*.pfl) | *.pfl|All Files (*.*) | *.*; |",

@@ -7,6 +7,8 @@
 #include "headers/Stations.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
+#include "platform/FormParts.h"
+#include "platform/Moments.h"
 #include "platform/QtText.h"
 #include "platform/ReadText.h"
 
@@ -16,8 +18,7 @@ frmOpenAMMNETDataFile::frmOpenAMMNETDataFile(Host& host, ProcessStarter& starter
                                              QWidget* parent)
     : StationDialog(host, starter, std::move(window), "frmOpenAMMNETDataFile",
                     "  Generate Wind Rose Plots from Monitor Meteorological Data", parent) {
-    cboStationID = new QComboBox;
-    cboStationID->setObjectName(QStringLiteral("cboStationID"));
+    cboStationID = named(new QComboBox, "cboStationID");
     cboStationID->setEditable(true);
     cboStationID->setInsertPolicy(QComboBox::NoInsert);
     build({"txtAMMNETDataFile", "Monitor Meteorological Data &File:",
@@ -55,7 +56,7 @@ void frmOpenAMMNETDataFile::ReadMonitorHeader(const std::string& path) {
     ClearInvalid(*fileBox_);
     cboStationID->setCurrentIndex(0);
     showPeriod(header.begin, header.end);
-    DTPicker_TimeStep->setTime(QTime(0, 0).addSecs(60 * header.averagingMinutes));
+    showStep(60 * header.averagingMinutes, *DTPicker_TimeStep);
     cboStationID_Click();
 }
 

@@ -8,23 +8,14 @@
 #include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
-#include "platform/KeyFilter.h"
+#include "platform/FormParts.h"
+#include "platform/Moments.h"
 #include "platform/QtText.h"
 #include "platform/ReadText.h"
 
 namespace zg {
 
 namespace {
-
-QDate toQDate(DateTime moment) {
-    const CalendarDate date = dateOf(moment);
-    return {date.year, date.month, date.day};
-}
-
-QTime toQTime(DateTime moment) {
-    const TimeOfDay time = timeOf(moment);
-    return {time.hour, time.minute, time.second};
-}
 
 /// Whole metres: the point is dropped too.
 std::int16_t KeyNumericReal(std::int16_t key) {
@@ -51,23 +42,18 @@ frmOpenSURFDATFile::frmOpenSURFDATFile(Host& host, ProcessStarter& starter, Proc
 
 QGroupBox* frmOpenSURFDATFile::makeInput() {
     auto* frame = new QGroupBox(QStringLiteral("SURF.DAT &File:"));
-    txtSURFDATFile = new QLineEdit;
-    txtSURFDATFile->setObjectName(QStringLiteral("txtSURFDATFile"));
+    txtSURFDATFile = named(new QLineEdit, "txtSURFDATFile");
     txtSURFDATFile->setAccessibleName(spoken(frame->title()));
-    cmdBrowseFile = button("&Browse", "cmdBrowseFile");
-    cmdBrowseFile->setAccessibleName(QStringLiteral("Browse for a SURF.DAT file"));
-    lstSURFDATStationIDs = new QListWidget;
-    lstSURFDATStationIDs->setObjectName(QStringLiteral("lstSURFDATStationIDs"));
+    cmdBrowseFile = browseButton("&Browse", "cmdBrowseFile", "Browse for a SURF.DAT file");
+    lstSURFDATStationIDs = named(new QListWidget, "lstSURFDATStationIDs");
     lstSURFDATStationIDs->setAccessibleName(QStringLiteral("Station IDs"));
     lstSURFDATStationIDs->setSelectionMode(QAbstractItemView::MultiSelection);
     lstSURFDATStationIDs->setMinimumHeight(90);
-    cmdSelectAll = button("Select &All", "cmdSelectAll");
-    cmdDeselectAll = button("&Deselect All", "cmdDeselectAll");
-    txtAnemometerHeight = new QLineEdit(QStringLiteral("10"));
-    txtAnemometerHeight->setObjectName(QStringLiteral("txtAnemometerHeight"));
+    cmdSelectAll = namedButton("Select &All", "cmdSelectAll");
+    cmdDeselectAll = namedButton("&Deselect All", "cmdDeselectAll");
+    txtAnemometerHeight = enteredBox("txtAnemometerHeight", KeyNumericReal);
+    txtAnemometerHeight->setText(QStringLiteral("10"));
     txtAnemometerHeight->setMaximumWidth(digitsWide(*txtAnemometerHeight, 8));
-    filterKeys(*txtAnemometerHeight, KeyNumericReal);
-    enterIsTab(*txtAnemometerHeight);
     auto* grid = new QGridLayout(frame);
     grid->addWidget(txtSURFDATFile, 0, 0, 1, 3);
     grid->addWidget(cmdBrowseFile, 0, 3);
@@ -122,11 +108,8 @@ void frmOpenSURFDATFile::ReadSURFDATHeader(const std::string& path) {
     }
     showStations(header);
     if (header.outcome == SurfOutcome::UnknownVersion) return;
-    DTPicker_BeginDate->setDate(toQDate(header.begin));
-    DTPicker_BeginTime->setTime(toQTime(header.begin));
-    DTPicker_EndDate->setDate(toQDate(header.end));
-    DTPicker_EndTime->setTime(toQTime(header.end));
-    DTPicker_TimeStep->setTime(QTime(1, 0));
+    showPeriod(header.begin, header.end);
+    showTime({1, 0, 0}, *DTPicker_TimeStep);
     chooseTimeZone(header.timeZone);
 }
 

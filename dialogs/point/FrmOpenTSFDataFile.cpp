@@ -3,22 +3,17 @@
 #include "headers/TsfHeader.h"
 #include "headers/Zones.h"
 #include "platform/FieldMarks.h"
+#include "platform/FormParts.h"
+#include "platform/Moments.h"
 #include "platform/ReadText.h"
 
 namespace zg {
-
-namespace {
-
-constexpr std::int32_t secondsADay = 86400;
-
-}  // namespace
 
 frmOpenTSFDataFile::frmOpenTSFDataFile(Host& host, ProcessStarter& starter, ProcessingWindow window,
                                        QWidget* parent)
     : StationDialog(host, starter, std::move(window), "frmOpenTSFDataFile",
                     "Generate Wind Rose Plots from Time Series File (TSF)", parent) {
-    txtStationID = new QLineEdit;
-    txtStationID->setObjectName(QStringLiteral("txtStationID"));
+    txtStationID = named(new QLineEdit, "txtStationID");
     build({"txtTSFDataFile",
            "Time Series &File (TSF):", "TSF Data Files (*.tsf) | *.tsf|All Files (*.*) | *.*; |",
            "Please select a TSF Data file.", "The selected TSF Data file does not exist.", "_TSFMET_"},
@@ -46,8 +41,7 @@ void frmOpenTSFDataFile::ReadTSFHeader(const std::string& path) {
     stationInFile_ = header.station;
     showRead(*txtStationID, header.station);
     showPeriod(header.begin, header.end);
-    // A picker holds a time of day: whole days of the step are dropped.
-    DTPicker_TimeStep->setTime(QTime(0, 0).addSecs(header.stepSeconds % secondsADay));
+    showStep(header.stepSeconds, *DTPicker_TimeStep);
     int row = 0;
     for (std::size_t i = 0; i < timeZones.gsTimeZoneKeys.size(); ++i)
         if (timeZones.gsTimeZoneKeys[i] == header.timeZone) row = static_cast<int>(i);

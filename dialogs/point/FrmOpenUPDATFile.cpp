@@ -11,24 +11,14 @@
 #include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
-#include "platform/KeyFilter.h"
+#include "platform/FormParts.h"
+#include "platform/Moments.h"
 #include "platform/QtText.h"
 #include "platform/ReadText.h"
 #include "processing/Directories.h"
 #include "processing/KeyFilters.h"
 
 namespace zg {
-
-namespace {
-
-DateTime momentIn(const QDateEdit& date, const QTimeEdit& time) {
-    const QDate day = date.date();
-    const QTime clock = time.time();
-    return addSeconds(makeDate(day.year(), day.month(), day.day()),
-                      timeSerial(clock.hour(), clock.minute(), clock.second()));
-}
-
-}  // namespace
 
 frmOpenUPDATFile::frmOpenUPDATFile(Host& host, ProcessStarter& starter, ProcessingWindow window,
                                    QWidget* parent)
@@ -48,22 +38,12 @@ frmOpenUPDATFile::frmOpenUPDATFile(Host& host, ProcessStarter& starter, Processi
 
 QGroupBox* frmOpenUPDATFile::makeInput() {
     auto* frame = new QGroupBox(QStringLiteral("UP.DAT &File:"));
-    const auto box = [](const char* name) {
-        auto* made = new QLineEdit;
-        made->setObjectName(QString::fromLatin1(name));
-        return made;
-    };
-    txtUPDATFile = box("txtUPDATFile");
+    txtUPDATFile = named(new QLineEdit, "txtUPDATFile");
     txtUPDATFile->setAccessibleName(spoken(frame->title()));
-    cmdBrowseFile = button("&Browse", "cmdBrowseFile");
-    cmdBrowseFile->setAccessibleName(QStringLiteral("Browse for an UP.DAT file"));
-    txtStationID = box("txtStationID");
-    txtExtractionHeights = box("txtExtractionHeights");
+    cmdBrowseFile = browseButton("&Browse", "cmdBrowseFile", "Browse for an UP.DAT file");
+    txtStationID = enteredBox("txtStationID", KeyNumericInteger);
+    txtExtractionHeights = enteredBox("txtExtractionHeights", KeyNumericHeights);
     txtExtractionHeights->setText(QStringLiteral("10"));
-    filterKeys(*txtStationID, KeyNumericInteger);
-    filterKeys(*txtExtractionHeights, KeyNumericHeights);
-    enterIsTab(*txtStationID);
-    enterIsTab(*txtExtractionHeights);
     auto* grid = new QGridLayout(frame);
     grid->addWidget(txtUPDATFile, 0, 0, 1, 2);
     grid->addWidget(cmdBrowseFile, 0, 2);
@@ -92,9 +72,8 @@ float frmOpenUPDATFile::comboHours() const {
 /// Only the date and the hour of a shifted moment are shown.
 void frmOpenUPDATFile::showShifted(DateTime moment, QDateEdit& date, QTimeEdit& time, int minute,
                                    int second) {
-    const CalendarDate day = dateOf(moment);
-    date.setDate(QDate(day.year, day.month, day.day));
-    time.setTime(QTime(timeOf(moment).hour, minute, second));
+    showDate(dateOf(moment), date);
+    showTime({timeOf(moment).hour, minute, second}, time);
 }
 
 void frmOpenUPDATFile::ReadUPDATHeader(const std::string& path) {
@@ -142,7 +121,8 @@ void frmOpenUPDATFile::cboTimeZone_Click() {
     mfComboHours = comboHours();
     const auto difference = static_cast<double>(HoursFromTimeZone(msFileTimeZone) - mfComboHours);
     const auto show = [&](DateTime moment, QDateEdit& date, QTimeEdit& time) {
-        showShifted(addHours(moment, difference), date, time, time.time().minute(), time.time().second());
+        const TimeOfDay before = timeIn(time);
+        showShifted(addHours(moment, difference), date, time, before.minute, before.second);
     };
     show(begin, *DTPicker_BeginDate, *DTPicker_BeginTime);
     show(end, *DTPicker_EndDate, *DTPicker_EndTime);

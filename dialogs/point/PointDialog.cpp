@@ -10,10 +10,11 @@
 #include "headers/Zones.h"
 #include "platform/Captions.h"
 #include "platform/Combos.h"
+#include "platform/DirectoryBox.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
 #include "platform/FormParts.h"
-#include "platform/KeyFilter.h"
+#include "platform/Moments.h"
 #include "platform/Pickers.h"
 #include "platform/QtText.h"
 #include "platform/ReadText.h"
@@ -23,41 +24,11 @@
 
 namespace zg {
 
-namespace {
-
-QDateEdit* datePicker(const char* name) {
-    auto* picker = named(new QDateEdit, name);
-    picker->setCalendarPopup(true);
-    picker->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
-    return picker;
-}
-
-QTimeEdit* timePicker(const char* name) {
-    auto* picker = named(new QTimeEdit, name);
-    picker->setDisplayFormat(QStringLiteral("HH:mm:ss"));
-    return picker;
-}
-
-std::string number(int value) { return std::to_string(value); }
-
-}  // namespace
-
 PointDialog::PointDialog(Host& host, ProcessStarter& starter, ProcessingWindow window, const char* name,
                          const char* title, QWidget* parent)
     : QDialog(parent), host_(host), starter_(starter), window_(std::move(window)) {
     setObjectName(QString::fromLatin1(name));
     setWindowTitle(QString::fromLatin1(title));
-}
-
-QPushButton* PointDialog::button(const char* caption, const char* name) {
-    auto* made = named(new QPushButton(QString::fromLatin1(caption)), name);
-    return made;
-}
-
-QLabel* PointDialog::labelFor(const char* text, QWidget* buddy) {
-    auto* label = new QLabel(QString::fromLatin1(text));
-    label->setBuddy(buddy);
-    return label;
 }
 
 QGroupBox* PointDialog::makePeriod(bool withHeadings) {
@@ -97,8 +68,7 @@ QGroupBox* PointDialog::makeOutput() {
     txtTitleLine = named(new QLineEdit, "txtTitleLine");
     txtFRQOutputFilename = named(new QLineEdit, "txtFRQOutputFilename");
     txtOutputDirectory = named(new QLineEdit, "txtOutputDirectory");
-    cmdBrowseDirectory = button("B&rowse", "cmdBrowseDirectory");
-    cmdBrowseDirectory->setAccessibleName(QStringLiteral("Browse for the output directory"));
+    cmdBrowseDirectory = browseButton("B&rowse", "cmdBrowseDirectory", "Browse for the output directory");
     auto* grid = new QGridLayout(frame);
     grid->addWidget(labelFor("Title &Line (Optional):", txtTitleLine), 0, 0);
     grid->addWidget(txtTitleLine, 0, 1, 1, 2);
@@ -117,12 +87,12 @@ QGroupBox* PointDialog::makeOutput() {
 }
 
 QLayout* PointDialog::makeButtons() {
-    cmdSetSeasons = button("Set Seaso&ns", "cmdSetSeasons");
-    cmdSetWindSpeedClasses = button("Set &Wind Speed Classes", "cmdSetWindSpeedClasses");
-    cmdView = button("RUN", "cmdView");
+    cmdSetSeasons = namedButton("Set Seaso&ns", "cmdSetSeasons");
+    cmdSetWindSpeedClasses = namedButton("Set &Wind Speed Classes", "cmdSetWindSpeedClasses");
+    cmdView = namedButton("RUN", "cmdView");
     cmdView->setDefault(true);
     connect(cmdView, &QPushButton::clicked, this, guarded(host_, [this] { cmdView_Click(); }));
-    cmdExit = button("Cancel", "cmdExit");
+    cmdExit = namedButton("Cancel", "cmdExit");
     lblStatus = named(new QLabel, "lblStatus");
     lblStatus->setTextFormat(Qt::PlainText);
     connect(cmdSetSeasons, &QPushButton::clicked, this, guarded(host_, [this] { window_.setSeasons(); }));
@@ -149,7 +119,7 @@ void PointDialog::Form_Load() {
     showToday();
     ReadCfgFile(settings.CfgFilePath);
     cboTimeZone->setCurrentIndex(cboTimeZone->findText(shown(settings.DefaultTimeZone)));
-    DTPicker_TimeStep->setTime(QTime(1, 0));
+    showTime({1, 0, 0}, *DTPicker_TimeStep);
 }
 
 void PointDialog::showToday() {
@@ -200,9 +170,7 @@ bool PointDialog::checkOutputName() {
 }
 
 void PointDialog::clearMark(QWidget& field, bool filled) {
-    if (fieldMark(field) != yellowMark || !filled) return;
-    ClearInvalid(field);
-    clearStatus();
+    if (clearFilledMark(field, filled)) clearStatus();
 }
 
 void PointDialog::clearStatus() {
@@ -212,21 +180,19 @@ void PointDialog::clearStatus() {
 }
 
 void PointDialog::leftOutputDirectory() {
-    const std::string path = pathIn(*txtOutputDirectory);
-    if (!path.empty()) showPath(*txtOutputDirectory, withSeparator(path));
-    clearMark(*txtOutputDirectory, !path.empty());
+    completeDirectory(*txtOutputDirectory);
+    clearMark(*txtOutputDirectory, !txtOutputDirectory->text().isEmpty());
 }
 
 void PointDialog::browseOutputDirectory() {
-    const std::string start = trim(pathIn(*txtOutputDirectory));
-    showPath(*txtOutputDirectory, BrowseForFolder(host_, start, folderPrompt_, -1));
+    browseDirectory(host_, *txtOutputDirectory, folderPrompt_);
     leftOutputDirectory();
 }
 
 bool PointDialog::chooseOtherDirectory() {
-    const std::string before = outputDirectory();
-    browseOutputDirectory();
-    return outputDirectory() != before && IsDirectory(outputDirectory());
+    const bool isOther = browseOtherDirectory(host_, *txtOutputDirectory, folderPrompt_);
+    leftOutputDirectory();
+    return isOther;
 }
 
 /// Of several rows with one key the last is shown; an unknown key changes nothing.
@@ -236,29 +202,22 @@ void PointDialog::chooseTimeZone(const std::string& key) {
         if (timeZones.gsTimeZoneKeys[i] == wanted) cboTimeZone->setCurrentIndex(static_cast<int>(i));
 }
 
+void PointDialog::showPeriod(DateTime begin, DateTime end) {
+    showMoment(begin, *DTPicker_BeginDate, *DTPicker_BeginTime);
+    showMoment(end, *DTPicker_EndDate, *DTPicker_EndTime);
+}
+
 std::string PointDialog::outputDirectory() const { return trim(pathIn(*txtOutputDirectory)); }
 
 ControlFile PointDialog::sharedValues(InputKind type) const {
     ControlFile v;
     v.type = type;
     v.title = typed(txtTitleLine->text());
-    const QDate begin = DTPicker_BeginDate->date();
-    const QTime beginTime = DTPicker_BeginTime->time();
-    const QDate end = DTPicker_EndDate->date();
-    const QTime endTime = DTPicker_EndTime->time();
-    const QTime step = DTPicker_TimeStep->time();
-    v.IBYR = number(begin.year());
-    v.IBMO = number(begin.month());
-    v.IBDY = number(begin.day());
-    v.IBHR = number(beginTime.hour());
-    v.IBSEC = number(60 * beginTime.minute() + beginTime.second());
-    v.IEYR = number(end.year());
-    v.IEMO = number(end.month());
-    v.IEDY = number(end.day());
-    v.IEHR = number(endTime.hour());
-    v.IESEC = number(60 * endTime.minute() + endTime.second());
+    setPeriod(v, momentIn(*DTPicker_BeginDate, *DTPicker_BeginTime),
+              momentIn(*DTPicker_EndDate, *DTPicker_EndTime));
     v.ABTZ = timeZones.gsTimeZoneKeys.at(static_cast<std::size_t>(cboTimeZone->currentIndex()));
-    v.NSECDT = number(3600 * step.hour() + 60 * step.minute() + step.second());
+    const TimeOfDay step = timeIn(*DTPicker_TimeStep);
+    v.NSECDT = std::to_string(timeSerial(step.hour, step.minute, step.second));
     v.WSBIN = settings.WindClassString;
     v.seasonNames.assign(settings.SeasonNames.begin(), settings.SeasonNames.begin() + settings.SeasonCount);
     v.MSN = settings.MonthSeasonString;

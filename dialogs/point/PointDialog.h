@@ -39,14 +39,13 @@ class PointDialog : public QDialog {
     QGroupBox* makePeriod(bool withHeadings = false);
     QGroupBox* makeOutput();
     QLayout* makeButtons();
-    static QPushButton* button(const char* caption, const char* name);
-    static QLabel* labelFor(const char* text, QWidget* buddy);
 
     /// Today, the settings, the base time zone, one hour.
     void Form_Load();
 
     /// The period before a file is read: today, from its start to its start.
     void showToday();
+    void showPeriod(DateTime begin, DateTime end);
 
     /// Shows an "Error" box and marks the field; returns false, for the failed check.
     bool refuse(QWidget& field, const char* text);

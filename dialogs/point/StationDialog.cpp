@@ -8,7 +8,7 @@
 #include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
-#include "platform/KeyFilter.h"
+#include "platform/FormParts.h"
 #include "platform/QtText.h"
 #include "platform/ReadText.h"
 #include "processing/KeyFilters.h"
@@ -29,29 +29,19 @@ void StationDialog::build(const Words& words, QWidget& station) {
 }
 
 QGroupBox* StationDialog::makeInput(QWidget& station) {
-    auto* frame = new QGroupBox(QString::fromLatin1(words_.caption));
-    frame->setObjectName(QStringLiteral("frameFile"));
-    const auto box = [](const char* name, int digits) {
-        auto* made = new QLineEdit;
-        made->setObjectName(QString::fromLatin1(name));
-        if (digits > 0) made->setMaximumWidth(digitsWide(*made, digits));
-        return made;
-    };
-    fileBox_ = box(words_.fileBox, 0);
+    auto* frame = named(new QGroupBox(QString::fromLatin1(words_.caption)), "frameFile");
+    fileBox_ = named(new QLineEdit, words_.fileBox);
     fileBox_->setAccessibleName(spoken(frame->title()));
-    cmdBrowseFile = button("&Browse", "cmdBrowseFile");
-    cmdBrowseFile->setAccessibleName(QStringLiteral("Browse for the input file"));
-    txtXLoc = box("txtXLoc", 11);
-    txtYLoc = box("txtYLoc", 11);
+    cmdBrowseFile = browseButton("&Browse", "cmdBrowseFile", "Browse for the input file");
+    txtXLoc = enteredBox("txtXLoc", KeyNumericSigned);
+    txtYLoc = enteredBox("txtYLoc", KeyNumericSigned);
     txtXLoc->setAccessibleName(QStringLiteral("X location of the station"));
     txtYLoc->setAccessibleName(QStringLiteral("Y location of the station"));
     for (QLineEdit* place : {txtXLoc, txtYLoc}) place->setToolTip(place->accessibleName());
-    txtAnemometerHeight = box("txtAnemometerHeight", 11);
+    txtAnemometerHeight = enteredBox("txtAnemometerHeight", KeyNumericPositive);
     txtAnemometerHeight->setText(QStringLiteral("10"));
-    filterKeys(*txtAnemometerHeight, KeyNumericPositive);
-    for (QLineEdit* place : {txtXLoc, txtYLoc}) filterKeys(*place, KeyNumericSigned);
-    for (QWidget* each : std::initializer_list<QWidget*>{txtXLoc, txtYLoc, txtAnemometerHeight})
-        enterIsTab(*each);
+    for (QLineEdit* narrow : {txtXLoc, txtYLoc, txtAnemometerHeight})
+        narrow->setMaximumWidth(digitsWide(*narrow, 11));
     auto* grid = new QGridLayout(frame);
     grid->addWidget(fileBox_, 0, 0, 1, 4);
     grid->addWidget(cmdBrowseFile, 0, 4);
@@ -71,17 +61,6 @@ QGroupBox* StationDialog::makeInput(QWidget& station) {
 }
 
 std::string StationDialog::inputPath() const { return pathIn(*fileBox_); }
-
-void StationDialog::showPeriod(DateTime begin, DateTime end) {
-    const auto show = [](DateTime moment, QDateEdit& date, QTimeEdit& time) {
-        const CalendarDate day = dateOf(moment);
-        const TimeOfDay clock = timeOf(moment);
-        date.setDate(QDate(day.year, day.month, day.day));
-        time.setTime(QTime(clock.hour, clock.minute, clock.second));
-    };
-    show(begin, *DTPicker_BeginDate, *DTPicker_BeginTime);
-    show(end, *DTPicker_EndDate, *DTPicker_EndTime);
-}
 
 void StationDialog::fillEmptyPlace() {
     if (!txtXLoc->text().isEmpty() || !txtYLoc->text().isEmpty()) return;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "base/Dates.h"
 #include "dialogs/point/PointDialog.h"
 
 namespace zg {
@@ -36,7 +35,6 @@ class StationDialog : public PointDialog {
     virtual bool checkPlace();
     virtual bool hasHeightInName() const { return true; }
 
-    void showPeriod(DateTime begin, DateTime end);
     std::string inputPath() const;
     void fillEmptyPlace();
 

@@ -219,6 +219,23 @@ TEST_F(PointFields, HalfHourZonesMoveTheHoursOfUpByTheirOwnRule) {
     EXPECT_EQ(end(), "1990-01-15 08:00:00");
 }
 
+TEST_F(PointFields, AFileOlderThanTheCalendarOfTodayShowsItsOwnPeriod) {
+    open<frmOpenSURFDATFile>();
+    std::string text = surfText;
+    for (std::size_t at = 0; (at = text.find("1990", at)) != std::string::npos;) text.replace(at, 4, "1701");
+    browse("s.dat", text);
+    EXPECT_EQ(begin(), "1701-01-08 06:30:15");
+    EXPECT_EQ(end(), "1701-01-15 23:00:00");
+}
+
+TEST_F(PointFields, AnAverageOfLessThanNoTimeIsNoStep) {
+    open<frmOpenAMMNETDataFile>();
+    host_.boxAnswers = {BoxAnswer::Ok};
+    browse("m.csv", "DATETIME,DATAAVID,STNCODE\n3/15/2005 1:00:00,-60,A1\n3/15/2005 2:00:00,-60,A1\n");
+    ASSERT_EQ(host_.boxes.size(), 1U) << "it is told, and no other step is shown in its place";
+    EXPECT_EQ(child<QTimeEdit>("DTPicker_TimeStep")->time(), QTime(1, 0));
+}
+
 TEST_F(PointFields, TheFirstVersionOfUpHasWholeHours) {
     open<frmOpenUPDATFile>();
     child<QTimeEdit>("DTPicker_BeginTime")->setTime(QTime(5, 45, 30));
