@@ -322,7 +322,7 @@ bool frmProjectionInfo::eventFilter(QObject* watched, QEvent* event) {
     }
     if (leavesField(*event) && cboCode != nullptr && (watched == cboCode || watched == cboCode->lineEdit())) {
         codeChanged();
-        if (fieldMark(*cboCode) == yellowMark && !cboCode->currentText().isEmpty()) ClearInvalid(*cboCode);
+        clearFilledMark(*cboCode, !cboCode->currentText().isEmpty());
     }
     return QDialog::eventFilter(watched, event);
 }
@@ -357,7 +357,6 @@ void frmProjectionInfo::cmdOK_Click() {
     }
     wrapLatitudes();
     SaveProjection(*choice, [this](const char* name) { return text(name); });
-    if (CallingForm != nullptr) CallingForm->Continue();
     accept();
 }
 

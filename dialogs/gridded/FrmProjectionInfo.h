@@ -14,8 +14,8 @@
 
 namespace zg {
 
-/// Asks for the map projection and datum of the extraction sites. OK fills the projection record and
-/// continues with CallingForm.
+/// Asks for the map projection and datum of the extraction sites. OK fills the projection record, and the
+/// dialog is accepted.
 class frmProjectionInfo : public QDialog {
     Q_OBJECT
 

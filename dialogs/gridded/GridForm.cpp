@@ -277,6 +277,6 @@ void GridForm::setReason(const std::string& text) { as<ReasonLabel>("lblReason")
 
 void GridForm::setTipOfStatus(const std::string& text) { setPlainTip(control("lblStatus"), text); }
 
-void GridForm::askProjection() { frmProjectionInfo(host_, this).exec(); }
+bool GridForm::askProjection() { return frmProjectionInfo(host_, this).exec() == QDialog::Accepted; }
 
 }  // namespace zg

@@ -50,7 +50,7 @@ class GridForm : public QDialog, public GridView {
     void setReason(const std::string& text) override;
     void setTipOfStatus(const std::string& text) override;
     bool chooseOtherDirectory() override;
-    void askProjection() override;
+    bool askProjection() override;
 
     using QDialog::setEnabled;
     using QDialog::setVisible;

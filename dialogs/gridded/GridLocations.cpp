@@ -1,15 +1,11 @@
 // Step 3 of the wizard: which controls are active, and the values of the locations.
 
 #include "base/Numbers.h"
-#include "base/RunTimeError.h"
-#include "base/Text.h"
 #include "dialogs/gridded/GridWizard.h"
 
 namespace zg {
 
 namespace {
-
-constexpr const char* stationsCaption = "SELECT STATION(S) AND EXTRACTION HEIGHT TO PROCESS";
 
 using NameList = std::vector<const char*>;
 
@@ -77,33 +73,21 @@ void GridWizard::setStep(int from, int to) {
                     fieldControls(to, variation_));
 }
 
-std::string& GridWizard::slot(std::vector<std::string>& texts, std::int32_t location) {
-    if (location < 0 || static_cast<std::size_t>(location) >= texts.size())
-        raise(ErrorNumber::SubscriptOutOfRange);
-    return texts[static_cast<std::size_t>(location)];
-}
-
 bool GridWizard::byStation() const { return view_.checked("optByStation"); }
 
 bool GridWizard::usesLatitudes() const { return !UseCellCoordinates && projection.PMAP == "LL"; }
 
-std::string GridWizard::siteCaption() const {
-    return "INPUT INFO FOR EXTRACTION SITE #" + std::to_string(CurrentLocation) + " of " +
-           std::to_string(NumberOfLocations);
+void GridWizard::showCaption(CaptionWord word) {
+    const bool site = word == CaptionWord::Site || variation_.siteWording;
+    onShow_ = {false, CurrentLocation, NumberOfLocations};
+    view_.setText("Frame_Step3",
+                  std::string("INPUT INFO FOR ") + (site ? "EXTRACTION SITE #" : "LOCATION #") +
+                      std::to_string(CurrentLocation) + " of " + std::to_string(NumberOfLocations));
 }
 
-std::string GridWizard::locationCaption() const {
-    if (variation_.siteWording) return siteCaption();
-    return "INPUT INFO FOR LOCATION #" + std::to_string(CurrentLocation) + " of " +
-           std::to_string(NumberOfLocations);
-}
-
-/// The caption stores the current location and the number of locations.
-void GridWizard::parseCaption(std::int32_t& total) {
-    const std::string caption = view_.text("Frame_Step3");
-    const Pieces halves = split(caption, "of");
-    total = toInt32(halves[1]);
-    CurrentLocation = toInt32(split(halves[0], "#")[1]);
+void GridWizard::showStationsCaption() {
+    onShow_.stations = true;
+    view_.setText("Frame_Step3", "SELECT STATION(S) AND EXTRACTION HEIGHT TO PROCESS");
 }
 
 void GridWizard::showFramesOfMode() {
@@ -132,18 +116,17 @@ void GridWizard::disableMoves() {
 void GridWizard::Continue() {
     setStep(2, 3);
     showFramesOfMode();
-    std::int32_t before = 0;
-    if (view_.text("Frame_Step3") == stationsCaption) {
+    if (onShow_.stations) {
         CurrentLocation = NumberOfLocations = 1;
-        view_.setText("Frame_Step3", locationCaption());
+        showCaption(CaptionWord::Location);
     }
     NumberOfLocations = toInt32(view_.text("txtNumberOfLocations"));
-    parseCaption(before);
-    if (before > NumberOfLocations) {
+    CurrentLocation = onShow_.location;
+    if (onShow_.total > NumberOfLocations) {
         CurrentLocation = 1;
         ShowLocation(CurrentLocation);
     } else {
-        view_.setText("Frame_Step3", siteCaption());
+        showCaption(CaptionWord::Site);
     }
     enableMoves();
     view_.focus(UseCellCoordinates ? "txtGridPointI" : usesLatitudes() ? "txtLat" : "txtXCoord");
@@ -165,34 +148,17 @@ bool GridWizard::ValidateLocation() {
            checkFilled("txtFRQOutputFilename", "Please enter a Filename for the Output FRQ file.");
 }
 
-void GridWizard::SaveLocation(std::int32_t location) {
-    slot(LocationX, location) = view_.text("txtXCoord");
-    slot(LocationY, location) = view_.text("txtYCoord");
-    slot(LocationLat, location) = view_.text("txtLat");
-    slot(LocationLon, location) = view_.text("txtLon");
-    slot(LocationNS, location) = view_.text("cboNS");
-    slot(LocationWE, location) = view_.text("cboWE");
-    slot(LocationHeight, location) = view_.text("txtExtractionHeight");
-    slot(LocationFRQName, location) = view_.text("txtFRQOutputFilename");
-    if (!variation_.offersCells) return;
-    slot(LocationI, location) = view_.text("txtGridPointI");
-    slot(LocationJ, location) = view_.text("txtGridPointJ");
+void GridWizard::SaveLocation(std::int32_t number) {
+    Location& location = locations_[number];
+    for (const LocationField& field : locationFields(variation_.offersCells))
+        location.*field.value = view_.text(field.control);
 }
 
-void GridWizard::ShowLocation(std::int32_t location) {
-    slot(LocationX, location);  // raises before anything is shown
-    view_.setText("Frame_Step3", locationCaption());
-    view_.setText("txtXCoord", slot(LocationX, location));
-    view_.setText("txtYCoord", slot(LocationY, location));
-    view_.setText("txtLat", slot(LocationLat, location));
-    view_.setText("txtLon", slot(LocationLon, location));
-    view_.setText("cboNS", slot(LocationNS, location));
-    view_.setText("cboWE", slot(LocationWE, location));
-    view_.setText("txtExtractionHeight", slot(LocationHeight, location));
-    view_.setText("txtFRQOutputFilename", slot(LocationFRQName, location));
-    if (!variation_.offersCells) return;
-    view_.setText("txtGridPointI", slot(LocationI, location));
-    view_.setText("txtGridPointJ", slot(LocationJ, location));
+void GridWizard::ShowLocation(std::int32_t number) {
+    const Location& location = locations_[number];  // raises before anything is shown
+    showCaption(CaptionWord::Location);
+    for (const LocationField& field : locationFields(variation_.offersCells))
+        view_.setText(field.control, location.*field.value);
 }
 
 void GridWizard::cmdNextLocation_Click() {
@@ -250,7 +216,9 @@ void GridWizard::cmdPrevious4_Click() {
     if (byStation()) {
         view_.setEnabled("cmdNext3", true);
     } else {
-        parseCaption(NumberOfLocations);
+        // A run of stations in between has another number of them.
+        CurrentLocation = onShow_.location;
+        NumberOfLocations = onShow_.total;
         enableMoves();
     }
     view_.focus("cmdPrevious3");

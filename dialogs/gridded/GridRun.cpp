@@ -63,10 +63,11 @@ RunPlan GridWizard::plan() {
     else
         takeLocations(v);
     const std::string height = view_.text("txtExtractionHeight2");
-    for (std::int32_t i = 1; i <= NumberOfLocations; ++i)
-        v.outputs.push_back({std::to_string(i), slot(LocationFRQName, i),
-                             byStation() ? slot(LocationID, i) : trim(v.title), placeOf(i),
-                             byStation() ? height : slot(LocationHeight, i), byStation()});
+    for (std::int32_t i = 1; i <= NumberOfLocations; ++i) {
+        const Location& location = locations_[i];
+        v.outputs.push_back({std::to_string(i), location.frqName, byStation() ? location.id : trim(v.title),
+                             placeOf(location), byStation() ? height : location.height, byStation()});
+    }
     return planOf(withSeparator(trim(view_.text("txtOutputDirectory"))), std::move(v));
 }
 
@@ -97,11 +98,11 @@ void GridWizard::takeStations(ControlFile& v) {
     const std::string ending = variation_.tag + periodInName(v) + "_" + height + "m";
     for (std::size_t row = 0; row < selected.size(); ++row) {
         if (!selected[row]) continue;
-        const std::int32_t i = ++NumberOfLocations;
-        slot(LocationX, i) = stations.gsStationCol8.at(row);
-        slot(LocationY, i) = stations.gsStationCol7.at(row);
-        slot(LocationID, i) = stations.gsStationCol0.at(row);
-        slot(LocationFRQName, i) = trim(stations.gsStationCol0.at(row)).append(ending);
+        Location& location = locations_[++NumberOfLocations];
+        location.x = stations.gsStationCol8.at(row);
+        location.y = stations.gsStationCol7.at(row);
+        location.id = stations.gsStationCol0.at(row);
+        location.frqName = trim(location.id).append(ending);
     }
     v.projection.PMAP = "LL";
     v.projection.DATUM = stations.gsStationCol9.at(0);
@@ -118,18 +119,18 @@ void GridWizard::takeCoordinatesOnShow() {
     const std::string x = signedNumber(view_.text("txtLon"), view_.text("cboWE"), "W");
     const std::string y = signedNumber(view_.text("txtLat"), view_.text("cboNS"), "S");
     for (std::int32_t i = 1; i <= NumberOfLocations; ++i) {
-        slot(LocationX, i) = x;
-        slot(LocationY, i) = y;
+        locations_[i].x = x;
+        locations_[i].y = y;
     }
 }
 
-std::string GridWizard::placeOf(std::int32_t location) {
-    if (UseCellCoordinates) return slot(LocationI, location) + ", " + slot(LocationJ, location);
+std::string GridWizard::placeOf(const Location& location) const {
+    if (UseCellCoordinates) return location.i + ", " + location.j;
     if (byStation() || !usesLatitudes() || variation_.oneCoordinatePair)
-        return slot(LocationX, location) + ", " + slot(LocationY, location);
-    const std::string west = slot(LocationWE, location) == "W" ? "-" : "";
-    const std::string south = slot(LocationNS, location) == "S" ? "-" : "";
-    return west + slot(LocationLon, location) + ", " + south + slot(LocationLat, location);
+        return location.x + ", " + location.y;
+    const std::string west = location.we == "W" ? "-" : "";
+    const std::string south = location.ns == "S" ? "-" : "";
+    return west + location.lon + ", " + south + location.lat;
 }
 
 }  // namespace zg

@@ -51,8 +51,8 @@ class GridView {
 
     /// Asks for another output directory; false if none was chosen.
     virtual bool chooseOtherDirectory() = 0;
-    /// Shows the projection dialog until it is closed.
-    virtual void askProjection() = 0;
+    /// Shows the projection dialog until it is closed; whether its OK filled the projection record.
+    virtual bool askProjection() = 0;
 };
 
 }  // namespace zg

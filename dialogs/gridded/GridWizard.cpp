@@ -55,14 +55,12 @@ constexpr const char* paragraph = "\r\r";
 
 GridWizard::GridWizard(const GridVariation& variation, GridView& view, Host& host, ProcessStarter& starter,
                        ProcessingWindow window)
-    : variation_(variation), view_(view), host_(host), starter_(starter), window_(std::move(window)) {
-    const std::size_t slots = variation.mostLocations + 1;
-    for (auto* texts : {&LocationX, &LocationY, &LocationLat, &LocationLon, &LocationHeight, &LocationFRQName,
-                        &LocationID, &LocationI, &LocationJ})
-        texts->resize(slots);
-    LocationNS.resize(slots, "N");
-    LocationWE.resize(slots, "W");
-}
+    : variation_(variation),
+      view_(view),
+      host_(host),
+      starter_(starter),
+      window_(std::move(window)),
+      locations_(variation.mostLocations) {}
 
 void GridWizard::Form_Load() {
     view_.setText("txtExtractionHeight", "10");
@@ -72,7 +70,7 @@ void GridWizard::Form_Load() {
     view_.setText("cboWE", "W");
     ReadCfgFile(settings.CfgFilePath);
     view_.setText("cboTimeZone", settings.DefaultTimeZone);
-    view_.setText("Frame_Step3", locationCaption());
+    showCaption(CaptionWord::Location);
     for (const int step : {2, 3, 4}) setStep(step, 1);
     disableMoves();
     view_.setVisible("Frame_Stations", false);
@@ -239,7 +237,7 @@ void GridWizard::cmdNext2_Click() {
 
 void GridWizard::toStations() {
     setStep(2, 3);
-    view_.setText("Frame_Step3", "SELECT STATION(S) AND EXTRACTION HEIGHT TO PROCESS");
+    showStationsCaption();
     showFramesOfMode();
     view_.setEnabled("cmdNext3", true);
     view_.focus("lstStations");
@@ -253,9 +251,7 @@ void GridWizard::toLocations() {
         UseCellCoordinates = answer == BoxAnswer::Yes;
         if (UseCellCoordinates) return Continue();
     }
-    CallingForm = this;
-    view_.askProjection();
-    CallingForm = nullptr;
+    if (view_.askProjection()) Continue();
 }
 
 }  // namespace zg

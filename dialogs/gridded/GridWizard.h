@@ -11,6 +11,7 @@
 
 #include "base/Host.h"
 #include "dialogs/gridded/GridView.h"
+#include "dialogs/gridded/Location.h"
 #include "dialogs/gridded/Projection.h"
 #include "headers/InfoView.h"
 #include "processing/ControlFile.h"
@@ -43,7 +44,7 @@ struct GridVariation {
 extern const GridVariation ventosVariation;
 extern const GridVariation m3dVariation;
 
-class GridWizard : public ProjectionCaller {
+class GridWizard {
  public:
     GridWizard(const GridVariation& variation, GridView& view, Host& host, ProcessStarter& starter,
                ProcessingWindow window);
@@ -65,19 +66,17 @@ class GridWizard : public ProjectionCaller {
     void cboTimeZone_Click();
 
     /// Continues to step 3 by location, once the projection is known.
-    void Continue() override;
+    void Continue();
 
     const GridVariation& variation() const { return variation_; }
 
-    // State of the form; the arrays are indexed from 1 like the locations.
+    // State of the form.
     DateTime DataStartTime;
     DateTime DataEndTime;
     std::int32_t CurrentLocation = 1;
     std::int32_t NumberOfLocations = 1;
     bool UseCellCoordinates = false;
     float TimeZoneShiftHours = 0;
-    std::vector<std::string> LocationX, LocationY, LocationLat, LocationLon, LocationNS, LocationWE,
-        LocationHeight, LocationFRQName, LocationID, LocationI, LocationJ;
 
     /// What the fields ask for now. Stations that are selected become the locations.
     RunPlan plan();
@@ -101,27 +100,26 @@ class GridWizard : public ProjectionCaller {
 
     // Step 3.
     void setStep(int from, int to);
-    /// Raises 9 for a location outside the arrays.
-    static std::string& slot(std::vector<std::string>& texts, std::int32_t location);
     bool byStation() const;
     bool usesLatitudes() const;
-    std::string siteCaption() const;
-    std::string locationCaption() const;
-    void parseCaption(std::int32_t& total);
+    /// What the caption of step 3 calls a location.
+    enum class CaptionWord { Location, Site };
+    void showCaption(CaptionWord word);
+    void showStationsCaption();
     void showFramesOfMode();
     void enableMoves();
     void disableMoves();
     bool ValidateLocation();
     bool checkStations();
-    void SaveLocation(std::int32_t location);
-    void ShowLocation(std::int32_t location);
+    void SaveLocation(std::int32_t number);
+    void ShowLocation(std::int32_t number);
 
     // The run.
     ControlFile valuesOfRun() const;
     void takeStations(ControlFile& v);
     void takeLocations(ControlFile& v);
     void takeCoordinatesOnShow();
-    std::string placeOf(std::int32_t location);
+    std::string placeOf(const Location& location) const;
     RunHooks hooks();
 
     const GridVariation& variation_;
@@ -129,6 +127,15 @@ class GridWizard : public ProjectionCaller {
     Host& host_;
     ProcessStarter& starter_;
     ProcessingWindow window_;
+    Locations locations_;
+
+    /// What the caption of step 3 says.
+    struct OnShow {
+        bool stations = false;
+        std::int32_t location = 1;
+        std::int32_t total = 1;
+    };
+    OnShow onShow_;
 };
 
 }  // namespace zg

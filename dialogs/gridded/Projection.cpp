@@ -9,7 +9,6 @@
 namespace zg {
 
 ProjectionRecord projection;
-ProjectionCaller* CallingForm = nullptr;
 
 namespace {
 

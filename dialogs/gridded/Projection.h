@@ -13,16 +13,8 @@
 
 namespace zg {
 
-/// What the projection dialog continues with after OK.
-class ProjectionCaller {
- public:
-    virtual ~ProjectionCaller() = default;
-    virtual void Continue() = 0;
-};
-
-/// One record for the whole program, and the wizard that opened the dialog.
+/// One record for the whole program.
 extern ProjectionRecord projection;
-extern ProjectionCaller* CallingForm;
 
 /// The projection in the last answer of modInfoViewDLL, in the form of the record.
 ProjectionRecord nativeProjection();

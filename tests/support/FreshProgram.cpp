@@ -22,7 +22,6 @@ void reset() {
     zg::timeZones = {};
     zg::stations = {};
     zg::projection = {};
-    zg::CallingForm = nullptr;
     zg::fileCounts = {};
     zg::modInfoViewDLL = {zg::readGridFileHeader, {}, {}, {}, {}};
     zg::modDatums = {zg::readDatumRecord, {}};

@@ -54,9 +54,9 @@ class FakeGridView : public GridView {
         texts["txtOutputDirectory"] = otherDirectory;
         return true;
     }
-    void askProjection() override {
+    bool askProjection() override {
         ++projectionAsked;
-        if (onProjection) onProjection();
+        return onProjection && onProjection();
     }
 
     /// The step whose buttons are enabled; 0 if they do not all belong to one step.
@@ -86,8 +86,8 @@ class FakeGridView : public GridView {
     std::string otherDirectory;  ///< the answer when the wizard asks for another directory
     bool isBusy = false;
     int projectionAsked = 0;
-    std::function<void()> onProjection;
-    std::function<void()> onBusy;  ///< called at the start of a run
+    std::function<bool()> onProjection;  ///< what the dialog is answered with; unset is its Cancel
+    std::function<void()> onBusy;        ///< called at the start of a run
 };
 
 }  // namespace zg

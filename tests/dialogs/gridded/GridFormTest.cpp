@@ -208,6 +208,19 @@ TEST_F(GridFormTest, ThreeModelCellsThenTwoThenStations) {
     EXPECT_EQ(FileNameOf(settings.CurrentFrqPath), "Albany_3DDAT_20050307-20050309_10m.frq");
 }
 
+TEST_F(GridFormTest, ANumberOfLocationsBeyondAllNumbersIsToldOnceTheProjectionIsClosed) {
+    open(ventosVariation);
+    browse({directory_.write("wind.dat", ventosText())});
+    click("cmdNext1");
+    pickMethods();
+    type("txtNumberOfLocations", "99999999999");
+    host_.onBox = [] { EXPECT_EQ(QApplication::activeModalWidget(), nullptr); };
+    host_.boxAnswers = {BoxAnswer::Ok};
+    nextThroughProjection("cmdOK");
+    ASSERT_EQ(host_.boxes.size(), 1U);
+    EXPECT_EQ(host_.boxes[0].text, "Run-time error '6':\n\nOverflow");
+}
+
 TEST_F(GridFormTest, StationsStayMarkedUntilOneIsSelected) {
     open(ventosVariation);
     browse({directory_.write("wind.dat", ventosText())});

@@ -65,8 +65,7 @@ class GridWizardTest : public ::testing::Test {
     void acceptProjection(const std::string& datum) {
         view_.onProjection = [this, datum] {
             if (!datum.empty()) projection.DATUM = datum;
-            ASSERT_NE(CallingForm, nullptr);
-            CallingForm->Continue();
+            return true;
         };
     }
     void fillLocation(const std::string& x, const std::string& y, const std::string& name) {
@@ -228,7 +227,6 @@ TEST_F(VentosWizard, StepTwoChecksInItsOrder) {
     wizard_->cmdNext2_Click();
     EXPECT_EQ(view_.projectionAsked, 1);
     EXPECT_EQ(view_.step1to4(), 2) << "the projection dialog was cancelled";
-    EXPECT_EQ(CallingForm, nullptr);
 }
 
 TEST_F(VentosWizard, APeriodBeyondTheDataIsAskedAndEitherAnswerEndsTheClick) {
@@ -378,6 +376,46 @@ TEST_F(VentosWizard, ALoweredNumberFallsBackToTheFirstLocation) {
     view_.texts["txtNumberOfLocations"] = "5";
     wizard_->cmdNext2_Click();
     EXPECT_EQ(caption(), "INPUT INFO FOR EXTRACTION SITE #1 of 5");
+}
+
+TEST_F(VentosWizard, TheCaptionShowsThePositionAndDoesNotHoldIt) {
+    openFile(ventosText());
+    acceptProjection("");
+    view_.texts["txtNumberOfLocations"] = "3";
+    wizard_->cmdNext2_Click();
+    fillLocation("1", "2", "a");
+    wizard_->cmdNextLocation_Click();
+    view_.texts["Frame_Step3"] = "in other words";
+    wizard_->cmdPrevious3_Click();
+    wizard_->cmdNext2_Click();
+    EXPECT_EQ(caption(), "INPUT INFO FOR EXTRACTION SITE #2 of 3");
+    fillLocation("3", "4", "b");
+    wizard_->cmdNextLocation_Click();
+    fillLocation("5", "6", "c");
+    wizard_->cmdNext3_Click();
+    view_.texts["Frame_Step3"] = "";
+    wizard_->cmdPrevious4_Click();
+    EXPECT_EQ(wizard_->CurrentLocation, 3);
+    EXPECT_EQ(wizard_->NumberOfLocations, 3);
+    EXPECT_TRUE(enabled("cmdPrevLocation"));
+    EXPECT_FALSE(enabled("cmdNextLocation"));
+}
+
+TEST_F(VentosWizard, ALocationBeyondTheLastOneIsForgottenOnTheWayBack) {
+    openFile(ventosText());
+    acceptProjection("");
+    view_.texts["txtNumberOfLocations"] = "1001";
+    wizard_->cmdNext2_Click();
+    for (int i = 1; i < 1000; ++i) {
+        fillLocation("1", "2", "a");
+        wizard_->cmdNextLocation_Click();
+    }
+    fillLocation("1", "2", "last");
+    EXPECT_RAISES(9, "Subscript out of range", wizard_->cmdNextLocation_Click());
+    wizard_->cmdPrevious3_Click();
+    wizard_->cmdNext2_Click();
+    EXPECT_EQ(caption(), "INPUT INFO FOR EXTRACTION SITE #1000 of 1001");
+    EXPECT_EQ(view_.texts["txtFRQOutputFilename"], "last");
 }
 
 TEST_F(VentosWizard, StationsAndLocationsHaveFramesOfTheirOwn) {
