@@ -13,7 +13,6 @@
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
 #include "platform/FormParts.h"
-#include "platform/KeyFilter.h"
 #include "platform/Pickers.h"
 #include "platform/QtText.h"
 #include "platform/ReadText.h"
@@ -59,8 +58,8 @@ frmBatchMode::frmBatchMode(Host& host, BatchHooks hooks, QWidget* parent)
     txtWorkDirectory = named(new QLineEdit, "txtWorkDirectory");
     cmdBrowseWorkDirectory =
         browseButton("Br&owse...", "cmdBrowseWorkDirectory", "Browse for a working directory");
-    txtPercentValidLimit = named(new QLineEdit, "txtPercentValidLimit");
-    cmdBeginBatchMode = named(new QPushButton(QStringLiteral("BEGIN")), "cmdBeginBatchMode");
+    txtPercentValidLimit = enteredBox("txtPercentValidLimit", keyOfLimit);
+    cmdBeginBatchMode = namedButton("BEGIN", "cmdBeginBatchMode");
     cmdBeginBatchMode->setDefault(true);
     txtNotes = named(new QPlainTextEdit, "txtNotes");
     layOut();
@@ -84,17 +83,12 @@ void frmBatchMode::layOut() {
 
     auto* to = new QGroupBox(QStringLiteral("to the following:"));
     auto* toGrid = new QGridLayout(to);
-    const auto label = [](const char* text, QWidget* buddy) {
-        auto* made = new QLabel(QString::fromLatin1(text));
-        made->setBuddy(buddy);
-        return made;
-    };
-    toGrid->addWidget(label("&Working Directory", txtWorkDirectory), 0, 0);
+    toGrid->addWidget(labelFor("&Working Directory", txtWorkDirectory), 0, 0);
     toGrid->addWidget(txtWorkDirectory, 0, 1, 1, 2);
     toGrid->addWidget(cmdBrowseWorkDirectory, 0, 3);
-    toGrid->addWidget(label("Root &Filename", txtRootFilename), 1, 0);
+    toGrid->addWidget(labelFor("Root &Filename", txtRootFilename), 1, 0);
     toGrid->addWidget(txtRootFilename, 1, 1, 1, 2);
-    toGrid->addWidget(label("with Percent &Valid Hours Greater Than:", txtPercentValidLimit), 2, 0, 1, 2);
+    toGrid->addWidget(labelFor("with Percent &Valid Hours Greater Than:", txtPercentValidLimit), 2, 0, 1, 2);
     txtPercentValidLimit->setMaximumWidth(digitsWide(*txtPercentValidLimit, 8));
     toGrid->addWidget(txtPercentValidLimit, 2, 2);
     toGrid->addWidget(
@@ -117,8 +111,7 @@ void frmBatchMode::layOut() {
 
 /// What to report about a run besides its status.
 QLayout* frmBatchMode::notesPart() {
-    auto* label = new QLabel(QStringLiteral("&Notes on the run:"));
-    label->setBuddy(txtNotes);
+    QLabel* label = labelFor("&Notes on the run:", txtNotes);
     txtNotes->setAccessibleName(spoken(label->text()));
     txtNotes->setReadOnly(true);
     txtNotes->setTabChangesFocus(true);
@@ -152,8 +145,6 @@ void frmBatchMode::followFields() {
     whenLeft(*cmdBeginBatchMode, [this] {
         if (lblStatus->text() == QLatin1String("Finished")) lblStatus->clear();
     });
-    filterKeys(*txtPercentValidLimit, keyOfLimit);
-    enterIsTab(*txtPercentValidLimit);
 }
 
 void frmBatchMode::optSingleFRQFile_Click() {
@@ -185,16 +176,6 @@ void frmBatchMode::cmdBrowseSingleFRQFile_Click() {
     modPolarGraph.WorkDir = DirOf(path);
     // Only the first character is checked, so nearly every directory gets a final separator here.
     if (modPolarGraph.WorkDir.substr(0, 1) != "\\") modPolarGraph.WorkDir += pathSeparator;
-}
-
-void frmBatchMode::browse(QLineEdit& field, const char* prompt) {
-    showPath(field, BrowseForFolder(host_, trim(pathIn(field)), prompt, -1));
-    leftDirectory(field);
-}
-
-void frmBatchMode::leftDirectory(QLineEdit& field) {
-    if (const std::string path = pathIn(field); !path.empty()) showPath(field, withSeparator(path));
-    clearMark(field, !field.text().isEmpty());
 }
 
 void frmBatchMode::leftLimit() {

@@ -22,8 +22,6 @@ class frmBatchMode : public RunningDialog {
     void optSingleFRQFile_Click();
     void optDirectory_Click();
     void cmdBrowseSingleFRQFile_Click();
-    void browse(QLineEdit& field, const char* prompt);
-    void leftDirectory(QLineEdit& field);
     void leftLimit();
     void cmdBeginBatchMode_Click();
     bool checkInput();

@@ -4,7 +4,6 @@
 #include <QVBoxLayout>
 
 #include "base/Paths.h"
-#include "base/Text.h"
 #include "batch/AutomationReportWriter.h"
 #include "batch/OfficeReportWriter.h"
 #include "graph/frq/ModPolarGraph.h"
@@ -12,7 +11,6 @@
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
 #include "platform/FormParts.h"
-#include "platform/Pickers.h"
 #include "platform/QtText.h"
 #include "platform/ReadText.h"
 #include "processing/Directories.h"
@@ -41,7 +39,7 @@ frmCreateReport::frmCreateReport(Host& host, QWidget* parent, std::unique_ptr<Re
     cmdBrowseWorkDirectory =
         browseButton("B&rowse...", "cmdBrowseWorkDirectory", "Browse for a working directory");
     txtSaveFilename = named(new QLineEdit, "txtSaveFilename");
-    cmdCreateReport = named(new QPushButton(QStringLiteral("CREATE")), "cmdCreateReport");
+    cmdCreateReport = namedButton("CREATE", "cmdCreateReport");
     cmdCreateReport->setDefault(true);
     for (QLineEdit* directory : {txtBMPDirectory, txtWorkDirectory})
         showPath(*directory, modPolarGraph.WorkDir);
@@ -88,16 +86,6 @@ void frmCreateReport::followFields() {
             guarded(host_, [this] { browse(*txtWorkDirectory, "Select a Working Directory:"); }));
     connect(cmdCreateReport, &QPushButton::clicked, this,
             guarded(host_, [this] { cmdCreateReport_Click(); }));
-}
-
-void frmCreateReport::browse(QLineEdit& field, const char* prompt) {
-    showPath(field, BrowseForFolder(host_, trim(pathIn(field)), prompt, -1));
-    leftDirectory(field);
-}
-
-void frmCreateReport::leftDirectory(QLineEdit& field) {
-    if (const std::string path = pathIn(field); !path.empty()) showPath(field, withSeparator(path));
-    clearMark(field, !field.text().isEmpty());
 }
 
 bool frmCreateReport::checkFields() {

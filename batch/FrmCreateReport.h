@@ -20,8 +20,6 @@ class frmCreateReport : public RunningDialog {
  private:
     void layOut();
     void followFields();
-    void browse(QLineEdit& field, const char* prompt);
-    void leftDirectory(QLineEdit& field);
     void cmdCreateReport_Click();
     bool checkFields();
     bool mayOverwrite(const char* extension);

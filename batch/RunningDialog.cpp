@@ -1,23 +1,24 @@
 #include "batch/RunningDialog.h"
 
 #include "base/AtEnd.h"
+#include "platform/DirectoryBox.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
+#include "platform/FormParts.h"
 #include "platform/QtText.h"
 #include "processing/Wait.h"
 
 namespace zg {
 
 RunningDialog::RunningDialog(Host& host, const char* name, const char* title, QWidget* parent)
-    : QDialog(parent), host_(host), lblStatus(new QLabel), cmdCancel(new QPushButton) {
-    setObjectName(QString::fromLatin1(name));
-    setWindowTitle(QString::fromLatin1(title));
-    lblStatus->setObjectName(QStringLiteral("lblStatus"));
+    : QDialog(parent),
+      host_(host),
+      lblStatus(named(new QLabel, "lblStatus")),
+      cmdCancel(namedButton("Cancel", "cmdCancel")) {
+    nameForm(*this, name, title);
     lblStatus->setTextFormat(Qt::PlainText);
     lblStatus->setWordWrap(true);
     lblStatus->setMinimumHeight(2 * lblStatus->fontMetrics().height());
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    cmdCancel->setText(QStringLiteral("Cancel"));
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
@@ -44,9 +45,17 @@ void RunningDialog::refuse(QWidget& field, const char* text) {
 }
 
 void RunningDialog::clearMark(QWidget& field, bool filled) {
-    if (fieldMark(field) != yellowMark || !filled) return;
-    ClearInvalid(field);
-    lblStatus->clear();
+    if (clearFilledMark(field, filled)) lblStatus->clear();
+}
+
+void RunningDialog::leftDirectory(QLineEdit& field) {
+    completeDirectory(field);
+    clearMark(field, !field.text().isEmpty());
+}
+
+void RunningDialog::browse(QLineEdit& field, const char* prompt) {
+    browseDirectory(host_, field, prompt);
+    leftDirectory(field);
 }
 
 void RunningDialog::say(const char* status) {

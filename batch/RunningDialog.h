@@ -37,6 +37,10 @@ class RunningDialog : public QDialog {
     /// A marked box that has been filled becomes clean, and the status line empty.
     void clearMark(QWidget& field, bool filled);
 
+    /// A box for a directory gets its final separator, and is clean once it is filled.
+    void leftDirectory(QLineEdit& field);
+    void browse(QLineEdit& field, const char* prompt);
+
     /// Repaints the status line before the next step.
     void say(const char* status);
 

@@ -26,6 +26,12 @@ Control* named(Control* control, const QString& name) {
     return control;
 }
 
+/// Names a form and gives it its title.
+inline void nameForm(QWidget& form, const char* name, const char* title) {
+    form.setObjectName(QString::fromLatin1(name));
+    form.setWindowTitle(QString::fromLatin1(title));
+}
+
 inline QPushButton* namedButton(const char* caption, const char* name) {
     return named(new QPushButton(QString::fromLatin1(caption)), name);
 }

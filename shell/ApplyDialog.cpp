@@ -3,6 +3,7 @@
 #include <QPushButton>
 
 #include "platform/Errors.h"
+#include "platform/FormParts.h"
 #include "settings/CfgFile.h"
 #include "settings/Settings.h"
 
@@ -10,19 +11,13 @@ namespace zg {
 
 ApplyDialog::ApplyDialog(Host& host, const char* name, const char* title, QWidget* parent)
     : QDialog(parent), host_(host) {
-    setObjectName(QString::fromLatin1(name));
-    setWindowTitle(QString::fromLatin1(title));
+    nameForm(*this, name, title);
 }
 
 void ApplyDialog::addButtons(QBoxLayout& layout, QWidget* atLeft) {
-    const auto button = [](const char* caption, const char* name) {
-        auto* made = new QPushButton(QString::fromLatin1(caption));
-        made->setObjectName(QString::fromLatin1(name));
-        return made;
-    };
-    QPushButton* cmdOk = button("OK", "cmdOk");
-    QPushButton* cmdCancel = button("&Cancel", "cmdCancel");
-    QPushButton* cmdApply = button("&Apply", "cmdApply");
+    QPushButton* cmdOk = namedButton("OK", "cmdOk");
+    QPushButton* cmdCancel = namedButton("&Cancel", "cmdCancel");
+    QPushButton* cmdApply = namedButton("&Apply", "cmdApply");
     cmdOk->setDefault(true);
     connect(cmdOk, &QPushButton::clicked, this, guarded(host_, [this] { cmdOk_Click(); }));
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);

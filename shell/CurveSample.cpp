@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/Text.h"
+#include "platform/FormParts.h"
 #include "platform/MarkerSymbols.h"
 #include "platform/QtCanvas.h"
 #include "platform/QtText.h"
@@ -30,8 +31,7 @@ QIcon lineIcon(const QPalette& palette, const LineStyle& style) {
 }
 
 QComboBox* lineList(const char* name) {
-    auto* list = new QComboBox;
-    list->setObjectName(QString::fromLatin1(name));
+    auto* list = named(new QComboBox, name);
     list->setIconSize(linePicture);
     return list;
 }

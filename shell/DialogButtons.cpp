@@ -1,13 +1,13 @@
 #include "shell/DialogButtons.h"
 
+#include "platform/FormParts.h"
+
 namespace zg {
 
 DialogButtons addOkCancel(QBoxLayout& layout) {
-    auto* ok = new QPushButton(QStringLiteral("OK"));
-    ok->setObjectName(QStringLiteral("cmdOk"));
+    auto* ok = namedButton("OK", "cmdOk");
     ok->setDefault(true);
-    auto* cancel = new QPushButton(QStringLiteral("Cancel"));
-    cancel->setObjectName(QStringLiteral("cmdCancel"));
+    auto* cancel = namedButton("Cancel", "cmdCancel");
     auto* row = new QHBoxLayout;
     row->addStretch();
     row->addWidget(ok);

@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "platform/Captions.h"
+#include "platform/FormParts.h"
 #include "settings/Settings.h"
 #include "shell/Resources.h"
 
@@ -17,17 +18,12 @@ const char* const credits =
     "the Qt "
     "toolkit. The sample of Lovett, New York, holds public data of the US Environmental Protection Agency.";
 
-QLabel* line(const char* name, const QString& text) {
-    auto* label = new QLabel(text);
-    label->setObjectName(QString::fromLatin1(name));
-    return label;
-}
+QLabel* line(const char* name, const QString& text) { return named(new QLabel(text), name); }
 
 }  // namespace
 
 frmAboutZephyrgraph::frmAboutZephyrgraph(QWidget* parent) : QDialog(parent) {
-    setObjectName(QStringLiteral("frmAboutZephyrgraph"));
-    setWindowTitle(QStringLiteral("About Zephyrgraph"));
+    nameForm(*this, "frmAboutZephyrgraph", "About Zephyrgraph");
     auto* picture = new QLabel;
     picture->setPixmap(programIcon("zephyrgraph").pixmap(QSize(72, 72), devicePixelRatioF()));
     QLabel* title = line("lblTitle", QStringLiteral("Zephyrgraph"));
@@ -38,11 +34,9 @@ frmAboutZephyrgraph::frmAboutZephyrgraph(QWidget* parent) : QDialog(parent) {
     QLabel* text = line("lblCredits", QString::fromLatin1(credits));
     text->setWordWrap(true);
     text->setMinimumWidth(digitsWide(*text, 45));
-    chkDebug = new QCheckBox(QStringLiteral("&Debug"));
-    chkDebug->setObjectName(QStringLiteral("chkDebug"));
+    chkDebug = named(new QCheckBox(QStringLiteral("&Debug")), "chkDebug");
     chkDebug->setChecked(settings.DebugFlag);
-    cmdOK = new QPushButton(QStringLiteral("OK"));
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK = namedButton("OK", "cmdOK");
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 

@@ -4,6 +4,7 @@
 
 #include "graph/frq/ModPolarGraph.h"
 #include "platform/Captions.h"
+#include "platform/FormParts.h"
 #include "platform/QtText.h"
 
 namespace zg {
@@ -24,8 +25,7 @@ frmAddLabel::frmAddLabel(Host& host, PolarGraph& graph, QWidget* parent)
     layout->addWidget(prompt);
     const auto lines = labelLines();
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        txtLabelLine[i] = new QLineEdit(shown(*lines[i]));
-        txtLabelLine[i]->setObjectName(QStringLiteral("txtLabelLine%1").arg(i + 1));
+        txtLabelLine[i] = named(new QLineEdit(shown(*lines[i])), QStringLiteral("txtLabelLine%1").arg(i + 1));
         txtLabelLine[i]->setAccessibleName(QStringLiteral("Line %1").arg(i + 1));
         layout->addWidget(txtLabelLine[i]);
     }
@@ -33,8 +33,7 @@ frmAddLabel::frmAddLabel(Host& host, PolarGraph& graph, QWidget* parent)
     font_ = new FontChoice(host, modPolarGraph.LabelFont, factoryLabelFont(), "",
                            {"&Font...", "C&olor...", "&Default"});
     layout->addWidget(font_);
-    auto* cmdClear = new QPushButton(QStringLiteral("C&lear"));
-    cmdClear->setObjectName(QStringLiteral("cmdClear"));
+    auto* cmdClear = namedButton("C&lear", "cmdClear");
     connect(cmdClear, &QPushButton::clicked, this, [this] {
         for (QLineEdit* line : txtLabelLine) line->clear();
         txtLabelLine[0]->setFocus();

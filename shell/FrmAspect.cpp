@@ -6,6 +6,7 @@
 #include "base/Numbers.h"
 #include "platform/Captions.h"
 #include "platform/Errors.h"
+#include "platform/FormParts.h"
 #include "platform/KeyFilter.h"
 #include "platform/QtText.h"
 #include "processing/KeyFilters.h"
@@ -15,15 +16,12 @@ namespace zg {
 
 frmAspect::frmAspect(Host& host, PolarGraph& graph, QWidget* parent)
     : QDialog(parent), host_(host), graph_(graph) {
-    setObjectName(QStringLiteral("frmAspect"));
     // The title is that of the zoom dialog: users know both by it.
-    setWindowTitle(QStringLiteral("Custom Zoom"));
+    nameForm(*this, "frmAspect", "Custom Zoom");
     const QString current = shown(singleText(graph.AspectRatio()));
     auto* frame = new QGroupBox(QStringLiteral("&Set aspect to"));
-    lblLabel = new QLabel(QStringLiteral("Current Aspect: ") + current);
-    lblLabel->setObjectName(QStringLiteral("lblLabel"));
-    txtAspect = new QLineEdit(current);
-    txtAspect->setObjectName(QStringLiteral("txtAspect"));
+    lblLabel = named(new QLabel(QStringLiteral("Current Aspect: ") + current), "lblLabel");
+    txtAspect = named(new QLineEdit(current), "txtAspect");
     txtAspect->setAccessibleName(spoken(frame->title()));
     filterKeys(*txtAspect, [this](std::int16_t key) -> std::int16_t {
         const bool secondPoint = key == '.' && txtAspect->text().contains(QLatin1Char('.')) &&

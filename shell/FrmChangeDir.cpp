@@ -7,6 +7,7 @@
 #include "base/RunTimeError.h"
 #include "platform/Captions.h"
 #include "platform/Errors.h"
+#include "platform/FormParts.h"
 #include "platform/QtText.h"
 
 namespace zg {
@@ -24,43 +25,33 @@ std::string startDirectory(const std::string& asked, const std::string& workDir)
 
 frmChangeDir::frmChangeDir(Host& host, std::string& directory, const std::string& workDir, QWidget* parent)
     : QDialog(parent), host_(host), directory_(directory), start_(startDirectory(directory, workDir)) {
-    setObjectName(QStringLiteral("frmChangeDir"));
-    setWindowTitle(QStringLiteral("Change Directory"));
+    nameForm(*this, "frmChangeDir", "Change Directory");
     model_ = new QFileSystemModel(this);
     model_->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot | QDir::Drives);
     model_->setRootPath(QString());
-    lblCurDir = new QLabel;
-    lblCurDir->setObjectName(QStringLiteral("lblCurDir"));
+    lblCurDir = named(new QLabel, "lblCurDir");
     lblCurDir->setTextInteractionFlags(Qt::TextSelectableByMouse);
     lblCurDir->setTextFormat(Qt::PlainText);
     lblCurDir->setWordWrap(true);  // a deep directory takes more lines, not a wider window
-    Drive1 = new QComboBox;
-    Drive1->setObjectName(QStringLiteral("Drive1"));
+    Drive1 = named(new QComboBox, "Drive1");
     Drive1->setAccessibleName(QStringLiteral("Drive"));
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes())
         if (volume.isValid() && volume.isReady()) Drive1->addItem(volume.rootPath());
-    Dir1 = new QTreeView;
-    Dir1->setObjectName(QStringLiteral("Dir1"));
+    Dir1 = named(new QTreeView, "Dir1");
     Dir1->setAccessibleName(QStringLiteral("Directory"));
     Dir1->setModel(model_);
     Dir1->setHeaderHidden(true);
     Dir1->sortByColumn(0, Qt::AscendingOrder);
     for (int column = 1; column < model_->columnCount(); ++column) Dir1->hideColumn(column);
-    cmdOK = new QPushButton(QStringLiteral("OK"));
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK = namedButton("OK", "cmdOK");
     cmdOK->setDefault(true);
-    cmdCancel = new QPushButton(QStringLiteral("Cancel"));
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    cmdCancel = namedButton("Cancel", "cmdCancel");
 
     auto* layout = new QVBoxLayout(this);
-    auto* directoryLabel = new QLabel(QStringLiteral("&Current Working Directory:"));
-    directoryLabel->setBuddy(Dir1);  // the named directory is selected there
-    auto* driveLabel = new QLabel(QStringLiteral("&Drive:"));
-    driveLabel->setBuddy(Drive1);
     auto* driveRow = new QHBoxLayout;
-    driveRow->addWidget(driveLabel);
+    driveRow->addWidget(labelFor("&Drive:", Drive1));
     driveRow->addWidget(Drive1, 1);
-    layout->addWidget(directoryLabel);
+    layout->addWidget(labelFor("&Current Working Directory:", Dir1));  // the named directory is selected there
     layout->addWidget(lblCurDir);
     layout->addLayout(driveRow);
     layout->addWidget(Dir1, 1);

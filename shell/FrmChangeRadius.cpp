@@ -5,6 +5,7 @@
 
 #include "base/Numbers.h"
 #include "platform/Errors.h"
+#include "platform/FormParts.h"
 #include "platform/QtText.h"
 #include "settings/CfgFile.h"
 #include "settings/Settings.h"
@@ -14,19 +15,15 @@ namespace zg {
 
 frmChangeRadius::frmChangeRadius(Host& host, PolarGraph& graph, QWidget* parent)
     : QDialog(parent), host_(host), graph_(graph), oldRadius_(graph.Polar().Radius) {
-    setObjectName(QStringLiteral("frmChangeRadius"));
-    setWindowTitle(QStringLiteral("Change Radius"));
-    cboRadiusPercent = new QComboBox;
-    cboRadiusPercent->setObjectName(QStringLiteral("cboRadiusPercent"));
+    nameForm(*this, "frmChangeRadius", "Change Radius");
+    cboRadiusPercent = named(new QComboBox, "cboRadiusPercent");
     for (int percent = 5; percent <= 100; percent += 5)
         cboRadiusPercent->addItem(QString::number(percent) + QLatin1Char('%'));
     const double percent = static_cast<double>(oldRadius_) * percentPerUnit;
     oldRow_ = cboRadiusPercent->findText(shown(doubleText(percent)) + QLatin1Char('%'));
     cboRadiusPercent->setCurrentIndex(oldRow_);
-    auto* label = new QLabel(QStringLiteral("&Radius of the outer ring:"));
-    label->setBuddy(cboRadiusPercent);
     auto* row = new QHBoxLayout;
-    row->addWidget(label);
+    row->addWidget(labelFor("&Radius of the outer ring:", cboRadiusPercent));
     row->addWidget(cboRadiusPercent, 1);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(row);

@@ -5,16 +5,15 @@
 #include "base/Text.h"
 #include "platform/Captions.h"
 #include "platform/Errors.h"
+#include "platform/FormParts.h"
 #include "platform/QtText.h"
 #include "shell/DialogButtons.h"
 
 namespace zg {
 
 frmComment::frmComment(Host& host, PolarGraph& graph, QWidget* parent) : QDialog(parent), graph_(graph) {
-    setObjectName(QStringLiteral("frmComment"));
-    setWindowTitle(QStringLiteral("Comment"));
-    txtComment = new QPlainTextEdit(shown(graph.Comment()));
-    txtComment->setObjectName(QStringLiteral("txtComment"));
+    nameForm(*this, "frmComment", "Comment");
+    txtComment = named(new QPlainTextEdit(shown(graph.Comment())), "txtComment");
     txtComment->setAccessibleName(windowTitle());
     txtComment->setTabChangesFocus(true);
     auto* layout = new QVBoxLayout(this);

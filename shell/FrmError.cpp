@@ -4,22 +4,19 @@
 #include <QVBoxLayout>
 
 #include "platform/Captions.h"
+#include "platform/FormParts.h"
 
 namespace zg {
 
 frmError::frmError(QWidget* parent) : QDialog(parent) {
-    setObjectName(QStringLiteral("frmError"));
-    setWindowTitle(QStringLiteral("Error"));
-    lblDescr = new QLabel;
-    lblDescr->setObjectName(QStringLiteral("lblDescr"));
+    nameForm(*this, "frmError", "Error");
+    lblDescr = named(new QLabel, "lblDescr");
     lblDescr->setWordWrap(true);
     lblDescr->setTextFormat(Qt::PlainText);
     lblDescr->setMinimumWidth(digitsWide(*lblDescr, 42));
-    cmdOK = new QPushButton(QStringLiteral("OK"));
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK = namedButton("OK", "cmdOK");
     cmdOK->setDefault(true);
-    cmdDisable = new QPushButton(QStringLiteral("&Disable Error Checking"));
-    cmdDisable->setObjectName(QStringLiteral("cmdDisable"));
+    cmdDisable = namedButton("&Disable Error Checking", "cmdDisable");
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     connect(cmdDisable, &QPushButton::clicked, this, &frmError::cmdDisable_Click);
     auto* layout = new QVBoxLayout(this);

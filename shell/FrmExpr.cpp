@@ -25,10 +25,10 @@ constexpr int gapsOfTheTray = 5;
 
 frmExpr::frmExpr(Host& host, QWidget* parent)
     : QDialog(parent), host_(host), ExprFilePath(inApplicationDirectory("expr.dat")) {
-    setObjectName(QStringLiteral("frmExpr"));
-    setWindowTitle(QStringLiteral("Expressions"));
-    lblMsg = new QLabel(QStringLiteral("Select the e&xpression would you like to used, then click OK."));
-    lblMsg->setObjectName(QStringLiteral("lblMsg"));
+    nameForm(*this, "frmExpr", "Expressions");
+    lblMsg =
+        named(new QLabel(QStringLiteral("Select the e&xpression would you like to used, then click OK.")),
+              "lblMsg");
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(gap);
     layout->addWidget(lblMsg);
@@ -43,8 +43,7 @@ frmExpr::frmExpr(Host& host, QWidget* parent)
 }
 
 QLayout* frmExpr::makeList() {
-    lstExpr = new QListWidget;
-    lstExpr->setObjectName(QStringLiteral("lstExpr"));
+    lstExpr = named(new QListWidget, "lstExpr");
     lstExpr->setAccessibleName(QStringLiteral("Expressions"));
     lblMsg->setBuddy(lstExpr);
     cmdOk = namedButton("OK", "cmdOk");
@@ -76,12 +75,9 @@ QLayout* frmExpr::makeList() {
 }
 
 void frmExpr::makeTray() {
-    fraTray = new QGroupBox;
-    fraTray->setObjectName(QStringLiteral("fraTray"));
-    lblPrompt = new QLabel;
-    lblPrompt->setObjectName(QStringLiteral("lblPrompt"));
-    txtExpr = new QLineEdit;
-    txtExpr->setObjectName(QStringLiteral("txtExpr"));
+    fraTray = named(new QGroupBox, "fraTray");
+    lblPrompt = named(new QLabel, "lblPrompt");
+    txtExpr = named(new QLineEdit, "txtExpr");
     lblPrompt->setBuddy(txtExpr);
     cmdOkExpr = namedButton("OK", "cmdOkExpr");
     cmdOkExpr->setEnabled(false);

@@ -5,6 +5,7 @@
 #include "graph/frq/ModPolarGraph.h"
 #include "platform/Captions.h"
 #include "platform/Errors.h"
+#include "platform/FormParts.h"
 
 namespace zg {
 
@@ -40,24 +41,17 @@ frmGridFonts::frmGridFonts(Host& host, PolarGraph& graph, QWidget* parent)
 
 QGroupBox* frmGridFonts::makeGridColour() {
     auto* frame = new QGroupBox(QStringLiteral("&Grid Color"));
-    picGridColor = new ColourBox(paintedColour(gridColour_));
-    picGridColor->setObjectName(QStringLiteral("picGridColor"));
+    picGridColor = named(new ColourBox(paintedColour(gridColour_)), "picGridColor");
     picGridColor->setAccessibleName(spoken(frame->title()));
-    auto* cmdSelectColor = new QPushButton(QStringLiteral("Color..."));
-    cmdSelectColor->setObjectName(QStringLiteral("cmdSelectColor_GridLines"));
-    auto* cmdReset = new QPushButton(QStringLiteral("Default"));
-    cmdReset->setObjectName(QStringLiteral("cmdResetToDefaults_GridLines"));
+    auto* cmdSelectColor = namedButton("Color...", "cmdSelectColor_GridLines");
+    auto* cmdReset = namedButton("Default", "cmdResetToDefaults_GridLines");
     auto* row = new QHBoxLayout(frame);
     for (QPushButton* each : {cmdSelectColor, cmdReset, static_cast<QPushButton*>(picGridColor)}) {
         row->addWidget(each);
     }
     row->addStretch();
-    const auto pick = guarded(host_, [this] {
-        if (const auto colour = host_.pickColour(paintedColour(gridColour_)))
-            setGridColour(static_cast<float>(*colour));
-    });
-    connect(cmdSelectColor, &QPushButton::clicked, this, pick);
-    connect(picGridColor, &QPushButton::clicked, this, pick);
+    picGridColor->asks(host_, cmdSelectColor,
+                       [this](Colour colour) { setGridColour(static_cast<float>(colour)); });
     connect(cmdReset, &QPushButton::clicked, this, [this] { setGridColour(factoryGridLineColor); });
     return frame;
 }

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "graph/control/PolarGraph.h"
+#include "platform/ColourBox.h"
 #include "shell/ApplyDialog.h"
 #include "shell/FontChoice.h"
-#include "shell/FrmMainControls.h"
 
 namespace zg {
 

@@ -6,8 +6,6 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
-#include <QStyleOptionFocusRect>
 
 #include "platform/FormParts.h"
 #include "platform/QtText.h"
@@ -217,28 +215,6 @@ void ChoiceList::mouseReleaseEvent(QMouseEvent* event) {
     const bool chosen = pressed_ && itemAt(event->position().toPoint()) != nullptr;
     pressed_ = false;
     if (chosen && onChoice) onChoice(currentRow());
-}
-
-ColourBox::ColourBox(Colour colour, QWidget* parent) : QPushButton(parent), colour_(colour) {
-    setFixedSize(40, 22);
-    setToolTip(QStringLiteral("Click to choose another color"));
-}
-
-void ColourBox::setColour(Colour colour) {
-    colour_ = colour;
-    update();
-}
-
-void ColourBox::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.setBrush(toQColor(colour_));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    if (!hasFocus()) return;
-    QStyleOptionFocusRect focus;
-    focus.initFrom(this);
-    focus.rect = rect().adjusted(2, 2, -2, -2);
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
 }
 
 FrmMainControls makeFrmMainControls(QMainWindow& window, Host& host, ModPolarGraph& tables) {

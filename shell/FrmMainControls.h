@@ -16,27 +16,13 @@
 #include <map>
 #include <string>
 
+#include "platform/ColourBox.h"
 #include "platform/PolarGraphWidget.h"
 
 namespace zg {
 
 /// The tools of tblToolbox by their index.
 enum class Tool { Arrow = 1, Select, Cross, Circular, Pan, Aspect, Zoom };
-
-/// A box that shows a colour and can be clicked to choose another.
-class ColourBox : public QPushButton {
- public:
-    explicit ColourBox(Colour colour, QWidget* parent = nullptr);
-
-    Colour colour() const { return colour_; }
-    void setColour(Colour colour);
-
- protected:
-    void paintEvent(QPaintEvent* event) override;
-
- private:
-    Colour colour_;
-};
 
 /// A list whose rows act when they are chosen: by a click, even on the current row, by the arrow keys, or by
 /// code.

@@ -29,9 +29,7 @@ QLineEdit* box(const char* name, bool readOnly = false) {
 
 void addRow(QGridLayout& grid, const char* caption, QWidget* field) {
     const int row = grid.rowCount();
-    auto* label = new QLabel(QString::fromLatin1(caption));
-    label->setBuddy(field);
-    grid.addWidget(label, row, 0);
+    grid.addWidget(labelFor(caption, field), row, 0);
     grid.addWidget(field, row, 1);
 }
 
@@ -145,18 +143,13 @@ QLayout* frmOptions::colourRow(const char* caption, const char* name, Colour Pol
     swatch->setObjectName(QString::fromLatin1(name).replace(QLatin1String("cmd"), QLatin1String("pic")));
     QPushButton* button = namedButton(caption, name);
     colours_.emplace_back(swatch, colour);
-    const auto pick = guarded(host_, [this, swatch, colour] {
-        const auto picked = host_.pickColour(swatch->colour());
-        if (!picked) return;
-        swatch->setColour(*picked);
-        preview().Polar().*colour = *picked;
+    swatch->asks(host_, button, [this, colour](Colour picked) {
+        preview().Polar().*colour = picked;
         preview().Refresh();
     });
     auto* row = new QHBoxLayout;
-    for (QPushButton* each : {static_cast<QPushButton*>(swatch), button}) {
-        row->addWidget(each);
-        connect(each, &QPushButton::clicked, this, pick);
-    }
+    row->addWidget(swatch);
+    row->addWidget(button);
     row->addStretch();
     return row;
 }
@@ -180,14 +173,7 @@ QWidget* frmOptions::makeBackground() {
         column->addWidget(option);
     }
     column->addStretch();
-    const auto pick = guarded(host_, [this] {
-        const auto picked = host_.pickColour(preview().BackColor());
-        if (!picked) return;
-        picBkColor->setColour(*picked);
-        preview().BackColor(*picked);
-    });
-    connect(picBkColor, &QPushButton::clicked, this, pick);
-    connect(cmdBkColor, &QPushButton::clicked, this, pick);
+    picBkColor->asks(host_, cmdBkColor, [this](Colour picked) { preview().BackColor(picked); });
     connect(cmdBitmap, &QPushButton::clicked, this, guarded(host_, [this] { cmdBitmap_Click(); }));
     connect(cmdClear, &QPushButton::clicked, this, guarded(host_, [this] {
                 preview().Picture(nullptr);

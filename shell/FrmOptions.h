@@ -6,9 +6,9 @@
 #include <QTabWidget>
 #include <memory>
 
+#include "platform/ColourBox.h"
 #include "platform/PolarGraphWidget.h"
 #include "shell/ApplyDialog.h"
-#include "shell/FrmMainControls.h"
 
 namespace zg {
 

@@ -7,6 +7,7 @@
 #include "graph/frq/ModPolarGraph.h"
 #include "platform/Captions.h"
 #include "platform/Errors.h"
+#include "platform/FormParts.h"
 #include "platform/QtText.h"
 
 namespace zg {
@@ -21,8 +22,7 @@ frmOptionsLegend::frmOptionsLegend(Host& host, PolarGraph& graph, QWidget* paren
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(grid);
     layout->addWidget(makeUnits());
-    auto* cmdDefault = new QPushButton(QStringLiteral("&Default"));
-    cmdDefault->setObjectName(QStringLiteral("cmdDefault"));
+    auto* cmdDefault = namedButton("&Default", "cmdDefault");
     connect(cmdDefault, &QPushButton::clicked, this, [this] {
         const auto factory = factoryWindClassColor();
         for (std::size_t i = 0; i < classCount; ++i) setColour(i, factory[i]);
@@ -35,17 +35,15 @@ frmOptionsLegend::frmOptionsLegend(Host& host, PolarGraph& graph, QWidget* paren
 QGroupBox* frmOptionsLegend::makeClass(std::size_t i) {
     auto* frame = new QGroupBox(QStringLiteral("Wind Speed Class &%1:").arg(i + 1));
     const auto label = [i](const char* end) {
-        auto* made = new QLabel;
-        made->setObjectName(QStringLiteral("lblClass%1_").arg(i + 1) + QLatin1String(end));
-        return made;
+        return named(new QLabel, QStringLiteral("lblClass%1_").arg(i + 1) + QLatin1String(end));
     };
     minimum_[i] = label("Min");
     maximum_[i] = label("Max");
-    picClassColor[i] = new ColourBox(paintedColour(colours_[i]));
-    picClassColor[i]->setObjectName(QStringLiteral("picClassColor_%1").arg(i));
+    picClassColor[i] =
+        named(new ColourBox(paintedColour(colours_[i])), QStringLiteral("picClassColor_%1").arg(i));
     picClassColor[i]->setAccessibleName(spoken(frame->title()) + QStringLiteral(" color"));
-    auto* cmdClassColor = new QPushButton(QStringLiteral("Color..."));
-    cmdClassColor->setObjectName(QStringLiteral("cmdClassColor_%1").arg(i));
+    auto* cmdClassColor =
+        named(new QPushButton(QStringLiteral("Color...")), QStringLiteral("cmdClassColor_%1").arg(i));
     auto* row = new QHBoxLayout(frame);
     row->addWidget(minimum_[i]);
     if (i + 1 < classCount) {
@@ -56,23 +54,17 @@ QGroupBox* frmOptionsLegend::makeClass(std::size_t i) {
         row->addWidget(maximum_[i]);
     }
     row->addStretch();
-    const auto pick = guarded(host_, [this, i] {
-        if (const auto colour = host_.pickColour(paintedColour(colours_[i])))
-            setColour(i, static_cast<float>(*colour));
-    });
-    for (QPushButton* each : {static_cast<QPushButton*>(picClassColor[i]), cmdClassColor}) {
-        row->addWidget(each);
-        connect(each, &QPushButton::clicked, this, pick);
-    }
+    picClassColor[i]->asks(host_, cmdClassColor,
+                           [this, i](Colour colour) { setColour(i, static_cast<float>(colour)); });
+    row->addWidget(picClassColor[i]);
+    row->addWidget(cmdClassColor);
     return frame;
 }
 
 QGroupBox* frmOptionsLegend::makeUnits() {
     auto* frame = new QGroupBox(QStringLiteral("Units for Wind Speed:"));
-    optMetersPerSecond = new QRadioButton(QStringLiteral("&meters per second"));
-    optMetersPerSecond->setObjectName(QStringLiteral("optMetersPerSecond"));
-    optKnots = new QRadioButton(QStringLiteral("&knots"));
-    optKnots->setObjectName(QStringLiteral("optKnots"));
+    optMetersPerSecond = named(new QRadioButton(QStringLiteral("&meters per second")), "optMetersPerSecond");
+    optKnots = named(new QRadioButton(QStringLiteral("&knots")), "optKnots");
     optMetersPerSecond->setChecked(modPolarGraph.ClassesFromFile);
     optKnots->setChecked(modPolarGraph.ClassesInKnots && !modPolarGraph.ClassesFromFile);
     auto* row = new QHBoxLayout(frame);

@@ -6,8 +6,8 @@
 #include <array>
 
 #include "graph/control/PolarGraph.h"
+#include "platform/ColourBox.h"
 #include "shell/ApplyDialog.h"
-#include "shell/FrmMainControls.h"
 
 namespace zg {
 

@@ -10,6 +10,7 @@
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "platform/Errors.h"
+#include "platform/FormParts.h"
 #include "platform/Pickers.h"
 #include "platform/QtPicture.h"
 #include "platform/QtText.h"
@@ -48,10 +49,8 @@ std::optional<std::int32_t> sizeIn(const QLineEdit& box) {
 
 frmProperties::frmProperties(Host& host, GrapInfo& graph, std::function<void()> applied, QWidget* parent)
     : QDialog(parent), host_(host), graph_(graph), applied_(std::move(applied)) {
-    setObjectName(QStringLiteral("frmProperties"));
-    setWindowTitle(QStringLiteral("Properties"));
-    tbsProp = new QTabWidget;
-    tbsProp->setObjectName(QStringLiteral("tbsProp"));
+    nameForm(*this, "frmProperties", "Properties");
+    tbsProp = named(new QTabWidget, "tbsProp");
     tbsProp->addTab(makePatterns(), QStringLiteral("Patterns"));
     tbsProp->addTab(makeOptions(), QStringLiteral("Options"));
     auto* layout = new QVBoxLayout(this);
@@ -106,10 +105,8 @@ void frmProperties::followChanges() {
     for (QLineEdit* box : {txtMsize[0], txtMsize[1], txtMpicloc[0], txtMpicloc[1], txtAngle[0], txtAngle[1],
                            txtStep, txtDelay})
         connect(box, &QLineEdit::textChanged, this, follow);
-    for (QPushButton* button : {static_cast<QPushButton*>(picLcolor), cmdLcolor})
-        connect(button, &QPushButton::clicked, this, guarded(host_, [this] { pickColour(*picLcolor); }));
-    for (QPushButton* button : {static_cast<QPushButton*>(picMcolor), cmdMcolor})
-        connect(button, &QPushButton::clicked, this, guarded(host_, [this] { pickColour(*picMcolor); }));
+    picLcolor->asks(host_, cmdLcolor, [this](Colour) { changed(); });
+    picMcolor->asks(host_, cmdMcolor, [this](Colour) { changed(); });
     connect(cmdMfont, &QPushButton::clicked, this, guarded(host_, [this] { cmdMfont_Click(); }));
     for (std::size_t i = 0; i < 2; ++i)
         connect(cmdMpicloc[i], &QPushButton::clicked, this,
@@ -238,13 +235,6 @@ void frmProperties::checkAll() {
     }
     checkStep();
     checkDelay();
-}
-
-void frmProperties::pickColour(ColourBox& box) {
-    const auto colour = host_.pickColour(box.colour());
-    if (!colour) return;
-    box.setColour(*colour);
-    changed();
 }
 
 void frmProperties::cmdMfont_Click() {

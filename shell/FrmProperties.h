@@ -13,8 +13,8 @@
 
 #include "base/Host.h"
 #include "graph/model/Plot.h"
+#include "platform/ColourBox.h"
 #include "shell/CurveSample.h"
-#include "shell/FrmMainControls.h"
 
 namespace zg {
 
@@ -54,7 +54,6 @@ class frmProperties : public QDialog {
     void showStoredSize(std::size_t index);
     void checkAll();
 
-    void pickColour(ColourBox& box);
     void cmdMfont_Click();
     void cmdMpicloc_Click(std::size_t index);
     void cmdApply_Click();

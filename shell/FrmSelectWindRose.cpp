@@ -8,6 +8,7 @@
 #include "graph/frq/ModPolarGraph.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
+#include "platform/FormParts.h"
 #include "platform/QtText.h"
 #include "shell/DialogButtons.h"
 
@@ -23,18 +24,14 @@ QString entryOf(int rose) {
 
 frmSelectWindRose::frmSelectWindRose(Host& host, PolarGraph& graph, QWidget* parent)
     : QDialog(parent), graph_(graph) {
-    setObjectName(QStringLiteral("frmSelectWindRose"));
-    setWindowTitle(QStringLiteral("Select Wind Rose to Plot"));
-    cboWindRoseNumber = new QComboBox;
-    cboWindRoseNumber->setObjectName(QStringLiteral("cboWindRoseNumber"));
+    nameForm(*this, "frmSelectWindRose", "Select Wind Rose to Plot");
+    cboWindRoseNumber = named(new QComboBox, "cboWindRoseNumber");
     cboWindRoseNumber->setAccessibleName(windowTitle());
     cboWindRoseNumber->setMinimumContentsLength(28);
     cboWindRoseNumber->setMaxVisibleItems(20);
     auto* layout = new QVBoxLayout(this);
-    auto* label = new QLabel(QStringLiteral("&Wind Rose:"));
-    label->setBuddy(cboWindRoseNumber);
     auto* row = new QHBoxLayout;
-    row->addWidget(label);
+    row->addWidget(labelFor("&Wind Rose:", cboWindRoseNumber));
     row->addWidget(cboWindRoseNumber, 1);
     layout->addLayout(row);
     const DialogButtons buttons = addOkCancel(*layout);

@@ -6,6 +6,7 @@
 #include "platform/Captions.h"
 #include "platform/Errors.h"
 #include "platform/FieldMarks.h"
+#include "platform/FormParts.h"
 #include "platform/QtText.h"
 
 namespace zg {
@@ -28,8 +29,7 @@ void select(QComboBox& list, const std::string& season) {
 }  // namespace
 
 frmSetSeasons::frmSetSeasons(Host& host, QWidget* parent) : QDialog(parent), host_(host) {
-    setObjectName(QStringLiteral("frmSetSeasons"));
-    setWindowTitle(QStringLiteral(" Set Seasons for Generating Wind Roses from Meteorological Data"));
+    nameForm(*this, "frmSetSeasons", " Set Seasons for Generating Wind Roses from Meteorological Data");
     layOut();
     for (std::size_t month = 0; month < cboSeason.size(); ++month) {
         const auto click = guarded(host_, [this, month] { cboSeason_Click(month); });
@@ -48,31 +48,25 @@ void frmSetSeasons::layOut() {
     grid->setHorizontalSpacing(12);
     grid->setVerticalSpacing(6);
     for (std::size_t month = 0; month < cboSeason.size(); ++month) {
-        cboSeason[month] = new QComboBox;
-        cboSeason[month]->setObjectName(monthName("cboSeason", month));
+        cboSeason[month] = named(new QComboBox, monthName("cboSeason", month));
         cboSeason[month]->setAccessibleName(spoken(QString::fromLatin1(monthLabels[month])));
         for (const std::string_view season : seasonChoices) cboSeason[month]->addItem(shown(season));
-        txtCustomSeason[month] = new QLineEdit;
-        txtCustomSeason[month]->setObjectName(monthName("txtCustomSeason", month));
+        txtCustomSeason[month] = named(new QLineEdit, monthName("txtCustomSeason", month));
         txtCustomSeason[month]->setAccessibleName(spoken(QString::fromLatin1(monthLabels[month])) +
                                                   QStringLiteral(" name of a custom season"));
         txtCustomSeason[month]->setMinimumWidth(digitsWide(*txtCustomSeason[month], 18));
-        auto* lblMonth = new QLabel(QString::fromLatin1(monthLabels[month]));
-        lblMonth->setObjectName(monthName("lblMonth", month));
-        lblMonth->setBuddy(cboSeason[month]);
+        QLabel* lblMonth =
+            named(labelFor(monthLabels[month], cboSeason[month]), monthName("lblMonth", month));
         const int row = static_cast<int>(month);
         grid->addWidget(lblMonth, row, 0, Qt::AlignRight | Qt::AlignVCenter);
         grid->addWidget(cboSeason[month], row, 1);
         grid->addWidget(txtCustomSeason[month], row, 2);
         setCustom(month, false);
     }
-    cmdDefaults = new QPushButton(QStringLiteral("D&efaults"));
-    cmdDefaults->setObjectName(QStringLiteral("cmdDefaults"));
-    cmdOk = new QPushButton(QStringLiteral("OK"));
-    cmdOk->setObjectName(QStringLiteral("cmdOk"));
+    cmdDefaults = namedButton("D&efaults", "cmdDefaults");
+    cmdOk = namedButton("OK", "cmdOk");
     cmdOk->setDefault(true);
-    cmdCancel = new QPushButton(QStringLiteral("Cancel"));
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    cmdCancel = namedButton("Cancel", "cmdCancel");
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(6);
     buttons->setContentsMargins(0, 8, 0, 0);

@@ -22,8 +22,7 @@ QString rowName(const char* name, std::size_t index) {
 }  // namespace
 
 frmSetWindSpeedClasses::frmSetWindSpeedClasses(Host& host, QWidget* parent) : QDialog(parent), host_(host) {
-    setObjectName(QStringLiteral("frmSetWindSpeedClasses"));
-    setWindowTitle(QStringLiteral(" Set Wind Speed Class Range Limits"));
+    nameForm(*this, "frmSetWindSpeedClasses", " Set Wind Speed Class Range Limits");
     layOut();
     for (std::size_t row = 0; row < txtWindSpeedClassMin.size(); ++row) {
         QLineEdit* box = txtWindSpeedClassMin[row];
@@ -41,11 +40,9 @@ frmSetWindSpeedClasses::frmSetWindSpeedClasses(Host& host, QWidget* parent) : QD
 
 void frmSetWindSpeedClasses::layOut() {
     for (std::size_t row = 0; row < txtWindSpeedClassMin.size(); ++row) {
-        txtWindSpeedClassMin[row] = new QLineEdit;
-        txtWindSpeedClassMin[row]->setObjectName(rowName("txtWindSpeedClassMin", row));
+        txtWindSpeedClassMin[row] = named(new QLineEdit, rowName("txtWindSpeedClassMin", row));
         txtWindSpeedClassMin[row]->setFixedWidth(digitsWide(*txtWindSpeedClassMin[row], 9));
-        lblWindSpeedClassMax[row] = new QLabel(this);
-        lblWindSpeedClassMax[row]->setObjectName(rowName("lblWindSpeedClassMax", row));
+        lblWindSpeedClassMax[row] = named(new QLabel(this), rowName("lblWindSpeedClassMax", row));
         lblWindSpeedClassMax[row]->setVisible(row > 0);
     }
     auto* rows = new QVBoxLayout(this);

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QScreen>
 
+#include "platform/FormParts.h"
 #include "processing/Wait.h"
 #include "shell/FrmAboutZephyrgraph.h"
 #include "shell/Resources.h"
@@ -17,8 +18,7 @@ const QColor nightBlue(23, 52, 79);
 const QColor paleBlue(200, 216, 230);
 
 QLabel* line(QWidget* parent, const char* name, const char* text, int top) {
-    auto* label = new QLabel(QString::fromLatin1(text), parent);
-    label->setObjectName(QString::fromLatin1(name));
+    auto* label = named(new QLabel(QString::fromLatin1(text), parent), name);
     QPalette palette;
     palette.setColor(QPalette::WindowText, paleBlue);
     label->setPalette(palette);
@@ -33,8 +33,7 @@ frmSplashScreen::frmSplashScreen(Host& host, std::function<void()> showMain)
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint),
       host_(host),
       showMain_(std::move(showMain)) {
-    setObjectName(QStringLiteral("frmSplashScreen"));
-    setWindowTitle(QStringLiteral("Zephyrgraph"));
+    nameForm(*this, "frmSplashScreen", "Zephyrgraph");
     setWindowIcon(programIcon("zephyrgraph"));
     setFixedSize(splashSize);
     QPalette colours;

@@ -12,6 +12,7 @@
 #include "graph/control/CurveTable.h"
 #include "platform/Captions.h"
 #include "platform/Errors.h"
+#include "platform/FormParts.h"
 #include "platform/QtText.h"
 
 namespace zg {
@@ -67,12 +68,9 @@ frmTable::frmTable(Host& host, const GrapInfo& graph, const QPixmap& legend,
       rows_(new CurveTableModel(tabulateCurve(
                                     graph, [&host] { return host.tickCount(); }, onRow, serve),
                                 this)) {
-    setObjectName(QStringLiteral("frmTable"));
-    setWindowTitle(QStringLiteral("Table"));
-    fraTable = new QGroupBox;
-    fraTable->setObjectName(QStringLiteral("fraTable"));
-    lvwData = new QTreeView;
-    lvwData->setObjectName(QStringLiteral("lvwData"));
+    nameForm(*this, "frmTable", "Table");
+    fraTable = named(new QGroupBox, "fraTable");
+    lvwData = named(new QTreeView, "lvwData");
     lvwData->setAccessibleName(windowTitle());
     lvwData->setModel(rows_);
     lvwData->setRootIsDecorated(false);
@@ -100,8 +98,7 @@ frmTable::frmTable(Host& host, const GrapInfo& graph, const QPixmap& legend,
 
 QLayout* frmTable::makeHead(const GrapInfo& graph, const QPixmap& legend) {
     const auto label = [](const QString& text, const char* name) {
-        auto* made = new QLabel(text);
-        made->setObjectName(QString::fromLatin1(name));
+        auto* made = named(new QLabel(text), name);
         made->setTextFormat(Qt::PlainText);
         made->setTextInteractionFlags(Qt::TextSelectableByMouse);
         made->setWordWrap(true);
@@ -126,11 +123,7 @@ QLayout* frmTable::makeHead(const GrapInfo& graph, const QPixmap& legend) {
 }
 
 QLayout* frmTable::makeButtons() {
-    const auto button = [](const char* text, const char* name) {
-        auto* made = new QPushButton(QString::fromLatin1(text));
-        made->setObjectName(QString::fromLatin1(name));
-        return made;
-    };
+    const auto button = [](const char* text, const char* name) { return namedButton(text, name); };
     cmdCopy = button("&Copy", "cmdCopy");
     cmdSelectAll = button("Select &All", "cmdSelectAll");
     cmdExit = button("E&xit", "cmdExit");

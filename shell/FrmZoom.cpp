@@ -7,6 +7,7 @@
 #include "base/Numbers.h"
 #include "platform/Captions.h"
 #include "platform/Errors.h"
+#include "platform/FormParts.h"
 #include "platform/KeyFilter.h"
 #include "platform/QtText.h"
 #include "processing/KeyFilters.h"
@@ -33,13 +34,10 @@ QStringList zoomRows() {
 
 frmZoom::frmZoom(Host& host, PolarGraph& graph, QWidget* parent)
     : QDialog(parent), host_(host), graph_(graph) {
-    setObjectName(QStringLiteral("frmZoom"));
-    setWindowTitle(QStringLiteral("Custom Zoom"));
+    nameForm(*this, "frmZoom", "Custom Zoom");
     auto* frame = new QGroupBox(QStringLiteral("&Zoom to (%)"));
-    lblLabel = new QLabel(QStringLiteral("Current zoom: %1%").arg(graph.Zoom()));
-    lblLabel->setObjectName(QStringLiteral("lblLabel"));
-    cmbZoom = new QComboBox;
-    cmbZoom->setObjectName(QStringLiteral("cmbZoom"));
+    lblLabel = named(new QLabel(QStringLiteral("Current zoom: %1%").arg(graph.Zoom())), "lblLabel");
+    cmbZoom = named(new QComboBox, "cmbZoom");
     cmbZoom->setAccessibleName(spoken(frame->title()));
     cmbZoom->setEditable(true);
     cmbZoom->setInsertPolicy(QComboBox::NoInsert);

@@ -65,10 +65,7 @@ void GraphList::connectBoxes() {
                 if (ui_.lvwTable->topLevelItemCount() > 0) cmdPlot_Click();
             }));
     connect(ui_.txtCoefficient, &QLineEdit::returnPressed, this, [this] { ui_.cmbFunction->setFocus(); });
-    for (ColourBox* box : ui_.picColor)
-        connect(box, &QPushButton::clicked, this, guarded(host_, [this, box] {
-                    if (const auto colour = host_.pickColour(box->colour())) box->setColour(*colour);
-                }));
+    for (ColourBox* box : ui_.picColor) box->asks(host_, nullptr, [](Colour) {});
     connect(ui_.cmdPlot, &QPushButton::clicked, this, guarded(host_, [this] { cmdPlot_Click(); }));
     connect(ui_.cmdReplace, &QPushButton::clicked, this, guarded(host_, [this] { cmdReplace_Click(); }));
     connect(ui_.cmdClear, &QPushButton::clicked, this, [this] {

@@ -39,8 +39,7 @@ void fill(QComboBox& combo, const std::vector<std::string>& entries) {
 }  // namespace
 
 frmProjectionInfo::frmProjectionInfo(Host& host, QWidget* parent) : QDialog(parent), host_(host) {
-    setObjectName(QStringLiteral("frmProjectionInfo"));
-    setWindowTitle(QStringLiteral("Map Projection Information for Extraction Site Coordinates"));
+    nameForm(*this, "frmProjectionInfo", "Map Projection Information for Extraction Site Coordinates");
     // The box may show a caption that is not in the list; nothing can be typed there.
     cboProj = named(new QComboBox, "cboProj");
     cboProj->setEditable(true);

@@ -53,8 +53,7 @@ GridForm::GridForm(const GridVariation& variation, Host& host, ProcessStarter& s
       host_(host),
       window_(std::move(window)),
       wizard_(variation, *this, host, starter, window_) {
-    setObjectName(QString::fromLatin1(variation.form));
-    setWindowTitle(QString::fromLatin1(variation.title));
+    nameForm(*this, variation.form, variation.title);
     auto* grid = new QGridLayout(this);
     grid->addWidget(makeStep1(), 0, 0);
     grid->addWidget(makeStep2(), 1, 0);

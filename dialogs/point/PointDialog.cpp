@@ -27,8 +27,7 @@ namespace zg {
 PointDialog::PointDialog(Host& host, ProcessStarter& starter, ProcessingWindow window, const char* name,
                          const char* title, QWidget* parent)
     : QDialog(parent), host_(host), starter_(starter), window_(std::move(window)) {
-    setObjectName(QString::fromLatin1(name));
-    setWindowTitle(QString::fromLatin1(title));
+    nameForm(*this, name, title);
 }
 
 QGroupBox* PointDialog::makePeriod(bool withHeadings) {
