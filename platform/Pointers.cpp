@@ -30,6 +30,11 @@ QCursor cursorOf(const Picture& pointer) {
     return QCursor(QPixmap::fromImage(picture.image()), picture.hotSpot().x(), picture.hotSpot().y());
 }
 
+void showHourglass(bool busy) {
+    while (QGuiApplication::overrideCursor() != nullptr) QGuiApplication::restoreOverrideCursor();
+    if (busy) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
 QCursor rulerCursor(RulerPart part) {
     loadResources();
     switch (part) {

@@ -12,6 +12,10 @@ PicturePointer pointerPicture(const QString& resource, QPoint hotSpot);
 
 QCursor cursorOf(const Picture& pointer);
 
+/// The hourglass over the whole screen, or the pointers as they are. It is set and not stacked: runs may
+/// overlap.
+void showHourglass(bool busy);
+
 enum class RulerPart { Top, Left, Corner };
 
 /// Each of the rulers' surfaces has its own pointer.

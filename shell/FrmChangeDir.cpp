@@ -51,7 +51,8 @@ frmChangeDir::frmChangeDir(Host& host, std::string& directory, const std::string
     auto* driveRow = new QHBoxLayout;
     driveRow->addWidget(labelFor("&Drive:", Drive1));
     driveRow->addWidget(Drive1, 1);
-    layout->addWidget(labelFor("&Current Working Directory:", Dir1));  // the named directory is selected there
+    layout->addWidget(
+        labelFor("&Current Working Directory:", Dir1));  // the named directory is selected there
     layout->addWidget(lblCurDir);
     layout->addLayout(driveRow);
     layout->addWidget(Dir1, 1);

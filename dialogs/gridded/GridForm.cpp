@@ -3,7 +3,6 @@
 #include "dialogs/gridded/GridForm.h"
 
 #include <QEvent>
-#include <QGuiApplication>
 #include <QVBoxLayout>
 
 #include "base/Paths.h"
@@ -18,6 +17,7 @@
 #include "platform/ListMoves.h"
 #include "platform/Moments.h"
 #include "platform/Pickers.h"
+#include "platform/Pointers.h"
 #include "platform/QtText.h"
 #include "platform/ReadText.h"
 #include "platform/ReasonLabel.h"
@@ -266,11 +266,7 @@ void GridForm::labelsFollow() {
         if (const QWidget* field = label->buddy()) label->setEnabled(field->isEnabled());
 }
 
-void GridForm::setBusy(bool busy) {
-    // The pointer of the whole screen, set rather than stacked, since runs may overlap.
-    while (QGuiApplication::overrideCursor() != nullptr) QGuiApplication::restoreOverrideCursor();
-    if (busy) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-}
+void GridForm::setBusy(bool busy) { showHourglass(busy); }
 
 void GridForm::setReason(const std::string& text) { as<ReasonLabel>("lblReason").setReason(text); }
 

@@ -1,7 +1,5 @@
 #include "dialogs/point/PointDialog.h"
 
-#include <QEvent>
-#include <QGuiApplication>
 #include <QVBoxLayout>
 
 #include "base/Paths.h"
@@ -16,6 +14,7 @@
 #include "platform/FormParts.h"
 #include "platform/Moments.h"
 #include "platform/Pickers.h"
+#include "platform/Pointers.h"
 #include "platform/QtText.h"
 #include "platform/ReadText.h"
 #include "processing/Directories.h"
@@ -279,11 +278,7 @@ RunHooks PointDialog::hooks() {
     hooks.plan = [this] { return plan(); };
     hooks.showName = [this](const std::string& name) { txtFRQOutputFilename->setText(shown(name)); };
     hooks.setStatus = [this](const std::string& text) { lblStatus->setText(shown(text)); };
-    hooks.setBusy = [](bool busy) {
-        // The pointer of the whole screen, set rather than stacked, since runs may overlap.
-        while (QGuiApplication::overrideCursor() != nullptr) QGuiApplication::restoreOverrideCursor();
-        if (busy) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    };
+    hooks.setBusy = showHourglass;
     hooks.load = window_.plotFrqFile;
     hooks.showExit = [this] {
         cmdExit->setText(QStringLiteral("Exit"));
