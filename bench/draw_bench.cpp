@@ -18,29 +18,17 @@
 #include "graph/render/RedrawGraph.h"
 #include "platform/QtCanvas.h"
 #include "platform/QtText.h"
+#include "tests/support/DeafHost.h"
 #include "tests/support/RecordingCanvas.h"
 
 namespace {
 
 constexpr int side = 600;
 
-class SilentHost : public zg::Host {
- public:
-    zg::BoxAnswer showBox(const zg::MessageBox&) override { return zg::BoxAnswer::Ok; }
-    std::string pickFileToOpen(const zg::FilePick&) override { return {}; }
-    std::string pickFileToSave(const zg::FilePick&) override { return {}; }
-    std::vector<std::string> pickFilesToOpen(const zg::FilePick&) override { return {}; }
-    std::string pickFolder(const zg::FolderPick&) override { return {}; }
-    std::optional<zg::Colour> pickColour(zg::Colour) override { return {}; }
-    std::optional<zg::FontRecord> pickFont(const zg::FontRecord&) override { return {}; }
-    std::int64_t tickCount() override { return 0; }
-    void pumpEvents(int) override {}
-};
-
 zg::Polar& loadedPolar() {
     static zg::Polar polar = [] {
         zg::Polar fresh = zg::createPolar(zg::modPolarGraph);
-        SilentHost host;
+        DeafHost host;
         zg::loadFreqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq", zg::modPolarGraph, host);
         return fresh;
     }();

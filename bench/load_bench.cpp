@@ -15,23 +15,10 @@
 #include "base/Lines.h"
 #include "base/Numbers.h"
 #include "graph/frq/OpenFreqFile.h"
+#include "tests/support/DeafHost.h"
 #include "tests/support/FreqText.h"
 
 namespace {
-
-/// A host for loading a valid file, which asks nothing.
-class SilentHost : public zg::Host {
- public:
-    zg::BoxAnswer showBox(const zg::MessageBox&) override { return zg::BoxAnswer::Ok; }
-    std::string pickFileToOpen(const zg::FilePick&) override { return {}; }
-    std::string pickFileToSave(const zg::FilePick&) override { return {}; }
-    std::vector<std::string> pickFilesToOpen(const zg::FilePick&) override { return {}; }
-    std::string pickFolder(const zg::FolderPick&) override { return {}; }
-    std::optional<zg::Colour> pickColour(zg::Colour) override { return {}; }
-    std::optional<zg::FontRecord> pickFont(const zg::FontRecord&) override { return {}; }
-    std::int64_t tickCount() override { return 0; }
-    void pumpEvents(int) override {}
-};
 
 /// The largest file: 1488 roses of version 2.3, 32745 lines; one more rose would exceed 32766. Removed at the
 /// end.
@@ -71,7 +58,7 @@ std::size_t countLines(const std::string& path) {
 }
 
 void load(const std::string& path, zg::ModPolarGraph& tables) {
-    SilentHost host;
+    DeafHost host;
     zg::loadFreqFile(path, tables, host);
 }
 

@@ -13,20 +13,7 @@
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "headers/HeaderSource.h"
-
-/// A host whose boxes and pickers get no real answers.
-class DeafHost : public zg::Host {
- public:
-    zg::BoxAnswer showBox(const zg::MessageBox&) override { return zg::BoxAnswer::Ok; }
-    std::string pickFileToOpen(const zg::FilePick&) override { return {}; }
-    std::string pickFileToSave(const zg::FilePick&) override { return {}; }
-    std::vector<std::string> pickFilesToOpen(const zg::FilePick&) override { return {}; }
-    std::string pickFolder(const zg::FolderPick&) override { return {}; }
-    std::optional<zg::Colour> pickColour(zg::Colour) override { return {}; }
-    std::optional<zg::FontRecord> pickFont(const zg::FontRecord&) override { return {}; }
-    std::int64_t tickCount() override { return 0; }
-    void pumpEvents(int) override {}
-};
+#include "tests/support/DeafHost.h"
 
 /// Creates a directory and makes it the program's own, with the input of readAsFile in it under these names.
 inline void useAsApplicationDirectory(char* pattern, const std::string& file,

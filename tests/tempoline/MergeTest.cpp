@@ -17,16 +17,11 @@ RoseReport partOf(int day, int hours) {
     RoseTable table(control.rules, 3600);
     for (int hour = 0; hour < hours; ++hour)
         table.add(control.begin + hour * secondsAnHour, {0.4 * hour, 40.0});
-    RoseReport report;
+    RoseReport report = reportOf(control, table);
     report.title1 = "One";
     report.title2 = "SURF a";
-    report.height = "10.0 m";
     report.zone = "UTC+0000";
-    report.begin = control.begin;
-    report.end = control.end;
-    report.rules = control.rules;
     report.runs = {{control.begin, control.end, "SURF a, station 1"}};
-    report.roses = table.roses();
     return report;
 }
 

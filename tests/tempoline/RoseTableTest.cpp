@@ -62,15 +62,8 @@ TEST(FrqWriter, RosesOfNoStepAreLeftOut) {
     table.add(control.begin, {2, 90});
     table.add(control.begin + 3600, {0.1, missingValue});
     table.add(control.begin + 7200, {});
-    RoseReport report;
+    RoseReport report = reportOf(control, table);
     report.title1 = "A\nstation";
-    report.title2 = "AERMSFC a.sfc";
-    report.height = "10.0 m";
-    report.zone = "UTC-0500";
-    report.begin = control.begin;
-    report.end = control.end;
-    report.rules = control.rules;
-    report.roses = table.roses();
     const std::string text = frqText(report);
     EXPECT_EQ(
         text.substr(0, text.find("\r\n\r\n")),

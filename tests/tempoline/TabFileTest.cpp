@@ -11,16 +11,8 @@ RoseReport reportOfDay(int hours) {
     RoseTable table(control.rules, 3600);
     for (int hour = 0; hour < hours; ++hour)
         table.add(control.begin + hour * secondsAnHour, {0.3 * hour, 15.0 * hour});
-    RoseReport report;
-    report.title1 = "Station 1";
-    report.title2 = "AERMSFC a.sfc";
-    report.height = "10.0 m";
-    report.zone = "UTC-0500";
-    report.begin = control.begin;
-    report.end = control.end;
-    report.rules = control.rules;
+    RoseReport report = reportOf(control, table);
     report.runs = {{control.begin, control.end, "AERMSFC a.sfc, station 1"}};
-    report.roses = table.roses();
     return report;
 }
 

@@ -7,6 +7,8 @@
 
 #include "tempoline/Control.h"
 #include "tempoline/Failure.h"
+#include "tempoline/RoseReport.h"
+#include "tempoline/RoseTable.h"
 #include "tests/support/TempDirectory.h"
 
 /// The message of the failure that the call throws; fails the test if it throws none.
@@ -56,4 +58,19 @@ inline zg::tempoline::Control dayControl() {
     output.height = 10;
     control.outputs.push_back(output);
     return control;
+}
+
+/// The report of these roses, from a station at 10 m.
+inline zg::tempoline::RoseReport reportOf(const zg::tempoline::Control& control,
+                                          const zg::tempoline::RoseTable& table) {
+    zg::tempoline::RoseReport report;
+    report.title1 = "Station 1";
+    report.title2 = "AERMSFC a.sfc";
+    report.height = "10.0 m";
+    report.zone = "UTC-0500";
+    report.begin = control.begin;
+    report.end = control.end;
+    report.rules = control.rules;
+    report.roses = table.roses();
+    return report;
 }
