@@ -5,7 +5,6 @@
 
 #include <QGroupBox>
 #include <QTest>
-#include <QTimer>
 #include <filesystem>
 
 #include "base/Lines.h"
@@ -15,12 +14,9 @@
 #include "graph/frq/ModPolarGraph.h"
 #include "platform/Captions.h"
 #include "platform/FieldMarks.h"
-#include "platform/QtPicture.h"
 #include "settings/Settings.h"
-#include "shell/FrmMain.h"
 #include "shell/StartSequence.h"
-#include "tests/support/FreqText.h"
-#include "tests/support/TempDirectory.h"
+#include "tests/support/FreshProgram.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
@@ -32,9 +28,6 @@ using Names = std::vector<std::string>;
 class OutputFields : public ::testing::Test {
  protected:
     void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        applicationDirectory = directory_.path();
         startSettings();
         modPolarGraph.WorkDir = directory_.path() + "/";
     }
@@ -80,7 +73,8 @@ class OutputFields : public ::testing::Test {
         return texts;
     }
 
-    TempDirectory directory_;
+    FreshProgram program_;
+    const TempDirectory& directory_ = program_.directory;
     TestHost host_;
     std::unique_ptr<QDialog> form_;
     int started_ = 0;
@@ -193,82 +187,6 @@ TEST_F(OutputFields, ANoToTheReportsMissingDirectoryMakesNothing) {
     EXPECT_TRUE(marked("txtWorkDirectory"));
     EXPECT_EQ(status(), "");
     EXPECT_EQ(child<QPushButton>("cmdCancel")->text(), "Cancel");
-}
-
-/// A file of version 2.0, of which every rose is exported, with these titles.
-std::string frqWith(const Names& titles) {
-    freqtext::Lines lines = freqtext::header("2.0");
-    int rose = 0;
-    for (const std::string& title : titles) {
-        const freqtext::Lines rows = freqtext::block("2.0", ++rose, title);
-        lines.insert(lines.end(), rows.begin(), rows.end());
-    }
-    return freqtext::bytes(lines);
-}
-
-const std::string summer = "\xC9t\xE9";              // as a file in windows-1252 has it
-const std::string summerUtf8 = "\xC3\x89t\xC3\xA9";  // as the file system has what was typed
-
-class BatchNames : public OutputFields {
- protected:
-    void SetUp() override {
-        OutputFields::SetUp();
-        std::filesystem::create_directory(out_);
-        window_ = std::make_unique<frmMain>(host_);
-        window_->Form_Load();
-        window_->show();
-        modPolarGraph.WorkDir = out_ + "/";
-    }
-    /// Opens batch mode from the menu, fills it in and runs it.
-    void run(const std::function<void(QWidget&)>& fill) {
-        QTimer::singleShot(0, [&] {
-            auto* dialog = QApplication::activeModalWidget();
-            ASSERT_NE(dialog, nullptr);
-            fill(*dialog);
-            QTest::mouseClick(dialog->findChild<QWidget*>("cmdBeginBatchMode"), Qt::LeftButton);
-            EXPECT_EQ(dialog->findChild<QLabel*>("lblStatus")->text(), "Finished");
-            dialog->close();
-        });
-        window_->menuAction("mnuFileOption_13")->trigger();
-    }
-    Names made() {
-        Names names = filesMatching(out_ + "/*");
-        for (const std::string& name : names) EXPECT_EQ(loadPicture(out_ + "/" + name)->width(), 600) << name;
-        return names;
-    }
-
-    std::string out_ = directory_.file("out");
-    std::unique_ptr<frmMain> window_;
-};
-
-TEST_F(BatchNames, ATypedRootIsTextAndATitleKeepsTheBytesOfItsFile) {
-    const std::string file = directory_.write("a.frq", frqWith({summer, summerUtf8 + "2", "Winter"}));
-    run([&](QWidget& dialog) {
-        dialog.findChild<QLineEdit*>("txtSingleFRQFile")->setText(QString::fromStdString(file));
-        dialog.findChild<QLineEdit*>("txtRootFilename")->setText(QString::fromUtf8("\xC3\x89t\xC3\xA9_"));
-    });
-    Names expected = {summerUtf8 + "_" + summer + ".bmp", summerUtf8 + "_" + summerUtf8 + "2.bmp",
-                      summerUtf8 + "_Winter.bmp"};
-    Names names = made();
-    std::sort(names.begin(), names.end());
-    std::sort(expected.begin(), expected.end());
-    EXPECT_EQ(names, expected);
-}
-
-TEST_F(BatchNames, AFileOfADirectoryGivesItsNameByteForByte) {
-    std::filesystem::create_directory(directory_.file("in " + summer));
-    for (const std::string& name : {summer, summerUtf8})
-        directory_.write("in " + summer + "/" + name + ".frq", frqWith({"Winter"}));
-    host_.folderAnswers = {directory_.file("in " + summer)};
-    run([&](QWidget& dialog) {
-        dialog.findChild<QRadioButton*>("optDirectory")->click();
-        QTest::mouseClick(dialog.findChild<QWidget*>("cmdBrowseDirectory"), Qt::LeftButton);
-    });
-    Names expected = {summer + "_Winter.bmp", summerUtf8 + "_Winter.bmp"};
-    Names names = made();
-    std::sort(names.begin(), names.end());
-    std::sort(expected.begin(), expected.end());
-    EXPECT_EQ(names, expected);
 }
 
 }  // namespace

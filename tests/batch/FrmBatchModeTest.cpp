@@ -2,22 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include <QClipboard>
-#include <QGuiApplication>
-#include <QImage>
-#include <QPlainTextEdit>
 #include <QTest>
-#include <QTimer>
 #include <filesystem>
 
 #include "base/Paths.h"
 #include "graph/frq/ModPolarGraph.h"
 #include "platform/FieldMarks.h"
 #include "settings/Settings.h"
-#include "shell/FrmMain.h"
 #include "shell/StartSequence.h"
-#include "tests/support/FreqText.h"
-#include "tests/support/TempDirectory.h"
+#include "tests/support/FreshProgram.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
@@ -28,9 +21,6 @@ const std::string sample = ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq";
 class FrmBatchMode : public ::testing::Test {
  protected:
     void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        applicationDirectory = directory_.path();
         startSettings();
         std::filesystem::create_directory(out_);
         modPolarGraph.WorkDir = out_ + "/";
@@ -57,7 +47,8 @@ class FrmBatchMode : public ::testing::Test {
     void begin() { QTest::mouseClick(child("cmdBeginBatchMode"), Qt::LeftButton); }
     bool marked(const char* name) { return fieldMark(box(name)) == yellowMark; }
 
-    TempDirectory directory_;
+    FreshProgram program_;
+    const TempDirectory& directory_ = program_.directory;
     std::string out_ = directory_.file("out");
     TestHost host_;
     std::unique_ptr<frmBatchMode> form_;
@@ -237,157 +228,6 @@ TEST_F(FrmBatchMode, AnErrorOfTheRunIsShownAndTheStatusDoesNotStayAtRunning) {
     begin();
     EXPECT_NE(status(), "Running...");
     EXPECT_FALSE(settings.BatchMode);
-}
-
-TEST(FrmBatchModeInTheWindow, EveryRoseBecomesABitmap) {
-    TempDirectory directory;
-    TestHost host;
-    modPolarGraph = ModPolarGraph();
-    settings = Settings();
-    applicationDirectory = directory.path();
-    startSettings();
-    frmMain window(host);
-    window.Form_Load();
-    window.show();
-    modPolarGraph.WorkDir = directory.path() + "/";
-    QTimer::singleShot(0, [&] {
-        auto* dialog = QApplication::activeModalWidget();
-        ASSERT_NE(dialog, nullptr);
-        dialog->findChild<QLineEdit*>("txtSingleFRQFile")->setText(QString::fromStdString(sample));
-        dialog->findChild<QLineEdit*>("txtRootFilename")->setText("L_");
-        QTest::mouseClick(dialog->findChild<QWidget*>("cmdBeginBatchMode"), Qt::LeftButton);
-        EXPECT_EQ(dialog->findChild<QLabel*>("lblStatus")->text(), "Finished");
-        QTest::mouseClick(dialog->findChild<QWidget*>("cmdCancel"), Qt::LeftButton);
-    });
-    window.menuAction("mnuFileOption_13")->trigger();
-    ASSERT_EQ(modPolarGraph.FrqRoseCount, 9);
-    for (int rose = 1; rose <= 9; ++rose) {
-        const std::string name = "L_" + modPolarGraph.FrqRoseTitle(rose) + ".bmp";
-        const QImage picture(QString::fromStdString(directory.file(name)));
-        EXPECT_EQ(picture.size(), QSize(600, 600)) << name;
-    }
-    EXPECT_FALSE(settings.BatchMode);
-}
-
-/// A batch run over a directory of three files, operated as a user would.
-class BatchOfADirectory : public ::testing::Test {
- protected:
-    void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        settings = Settings();
-        applicationDirectory = directory_.path();
-        startSettings();
-        window_ = std::make_unique<frmMain>(host_);
-        window_->Form_Load();
-        window_->show();
-        modPolarGraph.WorkDir = directory_.path() + "/";
-        write("a.frq", {"Year 2004", "dup", "dup"});
-    }
-    void write(const char* name, const std::vector<std::string>& titles) {
-        freqtext::Lines lines = freqtext::header("2.2");
-        int rose = 0;
-        for (const std::string& title : titles) {
-            const freqtext::Lines rows = freqtext::block("2.2", ++rose, title);
-            lines.insert(lines.end(), rows.begin(), rows.end());
-        }
-        directory_.write(name, freqtext::bytes(lines));
-    }
-    void runIt() {
-        QTimer::singleShot(0, [this] {
-            auto* dialog = QApplication::activeModalWidget();
-            ASSERT_NE(dialog, nullptr);
-            dialog->findChild<QRadioButton*>("optDirectory")->click();
-            dialog->findChild<QLineEdit*>("txtDirectory")
-                ->setText(QString::fromStdString(directory_.path() + "/"));
-            QTest::mouseClick(dialog->findChild<QWidget*>("cmdBeginBatchMode"), Qt::LeftButton);
-            status_ = dialog->findChild<QLabel*>("lblStatus")->text().toStdString();
-            auto* notes = dialog->findChild<QPlainTextEdit*>("txtNotes");
-            notes_ = notes->toPlainText().toStdString();
-            notes->selectAll();
-            notes->copy();
-            QTest::mouseClick(dialog->findChild<QWidget*>("cmdCancel"), Qt::LeftButton);
-        });
-        window_->menuAction("mnuFileOption_13")->trigger();
-    }
-    QImage picture(const char* name) { return QImage(QString::fromStdString(directory_.file(name))); }
-
-    TempDirectory directory_;
-    TestHost host_;
-    std::unique_ptr<frmMain> window_;
-    std::string status_;
-    std::string notes_;
-};
-
-TEST_F(BatchOfADirectory, TellsOfARefusedFileAndOfReplacedPictures) {
-    directory_.write("b1.frq", "nothing of the kind\n");
-    write("c.frq", {"Year 2005"});
-    host_.boxAnswers = {BoxAnswer::Ok};
-    runIt();
-    EXPECT_EQ(status_, "Finished");
-    EXPECT_EQ(notes_, "a_dup.bmp: rose 3 of a.frq took the place of rose 2 of a.frq.\n" +
-                          directory_.file("b1.frq") +
-                          " was refused: it is not in the correct data format.\n"
-                          "b1_Year 2004.bmp shows rose 1 of a.frq, since b1.frq was refused.\n"
-                          "b1_dup.bmp shows rose 2 of a.frq, since b1.frq was refused.\n"
-                          "b1_dup.bmp shows rose 3 of a.frq, since b1.frq was refused.\n"
-                          "b1_dup.bmp: rose 3 of a.frq took the place of rose 2 of a.frq.\n"
-                          "3 files, 1 refused; 7 roses saved in 5 pictures, 0 left out.");
-    EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), notes_);
-    EXPECT_FALSE(picture("b1_Year 2004.bmp").isNull());
-    EXPECT_FALSE(picture("c_Year 2005.bmp").isNull());
-}
-
-TEST_F(BatchOfADirectory, IsSilentWithoutFaults) {
-    write("a.frq", {"Year 2004", "Winter"});
-    runIt();
-    EXPECT_EQ(status_, "Finished");
-    EXPECT_EQ(notes_, "");
-}
-
-TEST_F(BatchOfADirectory, ATruncatedFileIsNamedInTheBoxWithItsLine) {
-    std::string bytes = directory_.read("a.frq");
-    directory_.write("b.frq", bytes.substr(0, bytes.rfind("Calm Winds")));
-    host_.boxAnswers = {BoxAnswer::Ok};
-    runIt();
-    EXPECT_EQ(host_.boxes[0].text,
-              "Run-time error '62':\n\nInput past end of file: " + directory_.file("b.frq") + ", line 73");
-    EXPECT_NE(notes_.find("The run ended with an error at " + directory_.file("b.frq") + ".\n"),
-              std::string::npos);
-}
-
-TEST_F(BatchOfADirectory, ATitleThatIsTooLongForAFileIsToldWithTheName) {
-    const std::string title(300, 'w');
-    write("a.frq", {"Year 2004", title});
-    host_.boxAnswers = {BoxAnswer::Ok};
-    runIt();
-    EXPECT_EQ(host_.boxes[0].text, "Run-time error '75':\n\nPath/File access error: " +
-                                       directory_.file("a_" + title + ".bmp") + " (File name too long)");
-    EXPECT_EQ(notes_, "The run ended with an error at " + directory_.file("a.frq") +
-                          ".\n1 file, 0 refused; 1 rose saved in 1 picture, 0 left out.");
-}
-
-TEST(FrmMainOutput, SaveAsksForAFileAndCopyNeedsASelection) {
-    TempDirectory directory;
-    TestHost host;
-    modPolarGraph = ModPolarGraph();
-    settings = Settings();
-    applicationDirectory = directory.path();
-    startSettings();
-    frmMain window(host);
-    window.Form_Load();
-    window.show();
-    EXPECT_FALSE(window.findChild<QWidget*>("tblToolbar_copy")->isEnabled());
-    host.saveAnswers = {directory.file("page.bmp")};
-    QTest::mouseClick(window.findChild<QWidget*>("tblToolbar_save"), Qt::LeftButton);
-    EXPECT_EQ(QImage(QString::fromStdString(directory.file("page.bmp"))).size(), QSize(600, 600));
-    EXPECT_EQ(window.activeTool(), Tool::Select);
-    EXPECT_TRUE(window.pgPolarGraph().ActiveSelection());
-    EXPECT_TRUE(window.findChild<QWidget*>("tblToolbar_copy")->isEnabled());
-    EXPECT_TRUE(window.menuAction("mnuEditOption_0")->isEnabled());
-    host.saveAnswers = {directory.file("no/page.bmp")};
-    host.boxAnswers = {BoxAnswer::Ok};
-    window.menuAction("mnuFileOption_12")->trigger();
-    EXPECT_NE(host.boxes[0].text.find("Path/File access error: "), std::string::npos);
 }
 
 }  // namespace

@@ -300,5 +300,20 @@ TEST_F(FrmMainPlot, KnotsThatCameWithTheSettingsAreThoseOfTheFileOnShow) {
     EXPECT_TRUE(host_.boxes.empty());
 }
 
+TEST_F(FrmMainPlot, SaveAsksForAFileAndCopyNeedsASelection) {
+    EXPECT_FALSE(child("tblToolbar_copy")->isEnabled());
+    host_.saveAnswers = {directory_.file("page.bmp")};
+    QTest::mouseClick(child("tblToolbar_save"), Qt::LeftButton);
+    EXPECT_EQ(QImage(QString::fromStdString(directory_.file("page.bmp"))).size(), QSize(600, 600));
+    EXPECT_EQ(window_->activeTool(), Tool::Select);
+    EXPECT_TRUE(plot().ActiveSelection());
+    EXPECT_TRUE(child("tblToolbar_copy")->isEnabled());
+    EXPECT_TRUE(entry("mnuEditOption_0").isEnabled());
+    host_.saveAnswers = {directory_.file("no/page.bmp")};
+    host_.boxAnswers = {BoxAnswer::Ok};
+    entry("mnuFileOption_12").trigger();
+    EXPECT_NE(host_.boxes[0].text.find("Path/File access error: "), std::string::npos);
+}
+
 }  // namespace
 }  // namespace zg
