@@ -15,6 +15,7 @@
 #include "graph/control/SweepWatch.h"
 #include "graph/frq/OpenFreqFile.h"
 #include "graph/render/CanvasRecord.h"
+#include "graph/render/Curve.h"
 #include "graph/render/RedrawGraph.h"
 #include "platform/QtCanvas.h"
 #include "platform/QtText.h"
