@@ -1,6 +1,6 @@
 #pragma once
 
-// What is wrong with the header of a raw file, and where.
+// An error in the header of a raw file, with its place.
 
 #include <cstddef>
 #include <string>
@@ -10,22 +10,22 @@
 namespace zg {
 
 struct HeaderPlace {
-    std::string file;      ///< as it is shown: the name without directories
+    std::string file;      ///< for display: the name without directories
     std::size_t line = 0;  ///< from 1; 0 if the file as a whole is at fault
-    std::string part;      ///< what the line holds, as "period"
+    std::string part;      ///< what the line holds, such as "period"
     std::string field;     ///< "" if no single field is at fault
 };
 
 /// The one error of all header readers. Number and description are those of every run-time error, which the
-/// boundary around an event handler shows; the rest is for those who can say more.
+/// boundary around an event handler shows; the rest is for callers that can report more.
 class HeaderError : public RunTimeError {
  public:
     HeaderError(int errorNumber, std::string errorDescription, HeaderPlace errorPlace,
                 std::string errorProblem);
 
     HeaderPlace place;
-    std::string problem;  ///< says of the field, or of the line, what is wrong: "is missing"
-    std::string notice;   ///< text of a box of its own that a dialog shows before the error; "" for none
+    std::string problem;  ///< what is wrong with the field or the line: "is missing"
+    std::string notice;   ///< text of a separate box that a dialog shows before the error; "" for none
 };
 
 /// "line 5 (period): begin year \"x\" is not a number"; the problem alone if the file as a whole is at fault.

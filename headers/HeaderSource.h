@@ -1,8 +1,8 @@
 #pragma once
 
-// The lines of a raw file as its header's reader takes them: from a file or from text in memory. The source
-// knows at any time which line and field is at hand, so that readers convert fields with the plain
-// conversions of base/ and what these raise leaves the reader as a HeaderError with its place.
+// The lines of a raw file for its header's reader: from a file or from text in memory. The source tracks the
+// current line and field, so that readers can use the plain conversions of base/, whose errors leave the
+// reader as a HeaderError with its place.
 
 #include <cstdint>
 #include <string>
@@ -23,8 +23,8 @@ class HeaderSource {
     /// Reads from text, which must outlive the source; errors name it by the display name.
     HeaderSource(std::string_view text, std::string displayName);
 
-    /// The next line without its end, valid until the next call, and what it is to hold ("period"); raises 62
-    /// if the file ends here.
+    /// The next line without its line end, valid until the next call; `what` says what it should hold
+    /// ("period"). Raises 62 if the file ends here.
     std::string_view readLine(const char* part);
 
     bool atEnd() { return lines_.atEnd(); }
@@ -32,11 +32,10 @@ class HeaderSource {
     /// See LineReader::ahead.
     std::string_view ahead() { return lines_.ahead(); }
 
-    /// Makes a field of the line the one at hand, with its text if there is one to quote and what it should
-    /// be.
+    /// Makes a field of the line the current one, with its text if it can be quoted, and what it should be.
     void atField(const char* field, std::string_view text = {}, const char* wanted = "a number");
 
-    /// A line that was read, to come back to when its fields turn out wrong later.
+    /// A line that was read, to return to if its fields turn out wrong later.
     struct Line {
         std::size_t number = 0;
         const char* part = "";
@@ -44,11 +43,10 @@ class HeaderSource {
     Line line() const { return line_; }
     void atLine(Line line);
 
-    /// Raises 13 for the line, and the field, at hand.
+    /// Raises 13 for the current line and field.
     [[noreturn]] void fail(const std::string& problem, const std::string& notice = {}) const;
 
-    /// Runs the reader; what conversions raise in it becomes a HeaderError for the line and the field at
-    /// hand.
+    /// Runs the reader; errors of conversions in it become a HeaderError for the current line and field.
     template <typename Read>
     auto placing(Read read) {
         try {
@@ -68,12 +66,12 @@ class HeaderSource {
     LineReader lines_;
     Line line_;
     const char* field_ = "";
-    std::string text_;  ///< of the field, as far as it is quoted
+    std::string text_;  ///< of the field, if it is quoted
     const char* wanted_ = "";
 };
 
-/// The fields of a line, parted by blanks, one after the other. Each call names the field for the error that
-/// it raises: 9 if the line has no further field, 13 or 6 if the conversion fails.
+/// The fields of a line, separated by blanks, one after the other. Each call names the field for its error: 9
+/// if the line has no further field, 13 or 6 if the conversion fails.
 class HeaderFields {
  public:
     HeaderFields(HeaderSource& source, std::string_view line);

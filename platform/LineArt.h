@@ -9,19 +9,19 @@
 
 namespace zg {
 
-/// A picture of lines and areas, sharp at any size. It reads the part of SVG that the program's own icons are
-/// written in: groups, paths, circles and rectangles with plain fills and strokes.
+/// A picture of lines and areas, sharp at any size. It supports the part of SVG that the program's own icons
+/// use: groups, paths, circles and rectangles with plain fills and strokes.
 class LineArt {
  public:
-    /// Of a resource or file.
+    /// Reads a resource or file.
     explicit LineArt(const QString& path);
 
-    /// All of the file was understood.
+    /// Whether all of the file was understood.
     bool isWhole() const { return whole_; }
 
     void paint(QPainter& painter, const QRectF& target) const;
 
-    /// On nothing, as a square of so many pixels a side.
+    /// Painted on a transparent square of this many pixels per side.
     QImage image(int side) const;
 
  private:
@@ -37,11 +37,11 @@ class LineArt {
     bool whole_ = false;
 };
 
-/// An icon that paints itself at whatever size is wanted.
+/// An icon that paints itself at any size.
 QIcon lineArtIcon(const QString& path);
 
-/// Path data of SVG: M, L, H, V, C, A and Z in both cases; false where it holds something else. Of an arc
-/// both radii have to be the same.
+/// Path data of SVG: M, L, H, V, C, A and Z in both cases; false for anything else. Both radii of an arc must
+/// be equal.
 bool readPath(const QString& data, QPainterPath& path);
 
 }  // namespace zg

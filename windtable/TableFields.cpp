@@ -57,7 +57,7 @@ void TableFields::cutBlanks(std::string_view line, std::size_t most) {
     }
 }
 
-/// The values are copied without their quotes into one text, which is as long as the line at most.
+/// The values are copied without their quotes into one text, which is at most as long as the line.
 bool TableFields::cutQuoted(std::string_view line, char delimiter, std::size_t most) {
     unquoted_.clear();
     unquoted_.reserve(line.size());

@@ -1,6 +1,6 @@
 #pragma once
 
-// A line of a table cut into its values.
+// Splits a line of a table into its values.
 
 #include <cstddef>
 #include <string>
@@ -11,14 +11,14 @@ namespace zg {
 
 class TableFields {
  public:
-    /// Cuts the line, but not more than so many values: true but for a quote that is not closed. A value in
-    /// double quotes may hold the delimiter, and a doubled quote is one. Values have no blanks at their ends
-    /// and live as long as the line, and until the next call.
+    /// Splits the line into at most this many values; false for a quote that is not closed. A value in double
+    /// quotes may contain the delimiter, and a doubled quote means one. Values are trimmed and valid as long
+    /// as the line, and until the next call.
     bool cut(std::string_view line, char delimiter, std::size_t most);
 
     std::size_t size() const { return fields_.size(); }
 
-    /// By column, from 1; "" for one that the line does not have.
+    /// By column, from 1; "" for a column that the line does not have.
     std::string_view at(std::size_t column) const {
         return column >= 1 && column <= fields_.size() ? fields_[column - 1] : std::string_view();
     }
@@ -32,13 +32,13 @@ class TableFields {
     std::string unquoted_;
 };
 
-/// Without blanks and tabs at both ends.
+/// Trimmed of blanks and tabs.
 std::string_view withoutBlanks(std::string_view text);
 
-/// A line without any value: nothing but blanks and delimiters.
+/// Whether a line has no values: only blanks and delimiters.
 bool isEmptyLine(std::string_view line, char delimiter);
 
-/// Without the mark that some programs begin a file of Unicode text with.
+/// Without the byte order mark with which some programs begin a Unicode file.
 std::string_view withoutByteOrderMark(std::string_view line);
 
 }  // namespace zg

@@ -19,7 +19,7 @@ constexpr std::array<char, 4> usualDelimiters = {'\t', ';', ',', blankDelimiter}
 constexpr std::array<TimeForm, 4> singleForms = {TimeForm::YearFirst, TimeForm::DayFirst,
                                                  TimeForm::MonthFirst, TimeForm::Epoch};
 
-/// 0 for a name that is not there.
+/// 0 for a missing name.
 std::size_t columnOf(const std::vector<std::string>& names, const std::string& wish) {
     const std::string wanted = ucase(wish);
     for (std::size_t i = 0; i < names.size(); ++i)
@@ -27,7 +27,7 @@ std::size_t columnOf(const std::vector<std::string>& names, const std::string& w
     return 0;
 }
 
-/// 0 for what is no number of a column.
+/// 0 for text that is not a column number.
 std::size_t numberOfColumn(const std::string& wish) {
     std::size_t number = 0;
     const auto [end, error] = std::from_chars(wish.data(), wish.data() + wish.size(), number);

@@ -12,7 +12,7 @@
 
 namespace zg {
 
-/// The columns that were chosen. For a table without names these are empty.
+/// The chosen columns. Names are empty for a table without them.
 struct TableHead {
     char delimiter = ',';
     bool hasNames = false;
@@ -24,16 +24,16 @@ struct TableHead {
     std::vector<std::string> otherSpeeds;
 };
 
-/// Looks at the first lines of a file one by one.
+/// Examines the first lines of a file one by one.
 class TableHeadSearch {
  public:
     explicit TableHeadSearch(const TableWishes& wishes) : wishes_(wishes) {}
 
-    /// The head, where the line holds the names, or where it is the first record of a table whose columns
-    /// were wished by their numbers.
+    /// The head, if the line has the names, or is the first record of a table whose columns were requested by
+    /// their numbers.
     std::optional<TableHead> look(std::string_view line, std::size_t lineNumber);
 
-    /// What was wanting, to be told where nothing was found: the best line and its text.
+    /// The problem to report if nothing was found: the best line and its text.
     std::size_t bestLine() const { return bestLine_; }
     std::string wanting() const;
 

@@ -39,7 +39,7 @@ bool TimeReadings::take(TimeReading& reading, std::span<const std::string_view> 
         reading.first = time->seconds;
     }
     reading.named = reading.named || time->zone.has_value();
-    // A clock that is put forward or back has no gap where it names its zone.
+    // Setting a clock forward or back causes no gap if the times state their zone.
     const std::int64_t moment =
         time->seconds - (time->zone && reading.zone ? *time->zone - *reading.zone : 0);
     if (begun_ && moment != reading.last) {

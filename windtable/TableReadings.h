@@ -1,6 +1,6 @@
 #pragma once
 
-// The ways in which the times of a table can be read, and which of them the whole file bears out.
+// The possible interpretations of the times of a table, and which of them fit the whole file.
 
 #include <cstdint>
 #include <map>
@@ -15,20 +15,20 @@
 
 namespace zg {
 
-/// The times of a file as one form reads them.
+/// The times of a file in one interpretation.
 struct TimeReading {
     TimeForm form = TimeForm::YearFirst;
     std::int64_t first = 0;
     std::int64_t last = 0;
-    std::optional<std::int64_t> zone;  ///< of the first time, where it names one
-    bool named = false;                ///< some time names a zone
+    std::optional<std::int64_t> zone;  ///< of the first time, if it states one
+    bool named = false;                ///< some times state a zone
     std::int64_t distances = 0;
-    std::map<std::int64_t, std::int64_t> counts;  ///< of distances; only of the first few different ones
+    std::map<std::int64_t, std::int64_t> counts;  ///< of intervals; only the first few different ones
 
-    /// The one between most times, of equals the smaller; 0 where there is none.
+    /// The most frequent interval, the smaller of equal ones; 0 if there is none.
     std::int64_t commonest() const;
 
-    /// Distances that are not the commonest one.
+    /// Number of intervals that differ from the most frequent one.
     std::int64_t gaps() const;
 };
 
@@ -36,13 +36,13 @@ class TimeReadings {
  public:
     explicit TimeReadings(const std::vector<TimeForm>& forms, std::string pattern = {});
 
-    /// Takes the time of a record; false where no form that could read all before it can read it.
+    /// Adds the time of a record; false if no form that could read all earlier ones can read it.
     bool add(std::span<const std::string_view> values);
 
     std::size_t count() const { return readings_.size(); }
     const std::vector<TimeReading>& readings() const { return readings_; }
 
-    /// The one with fewest gaps; null where day first and month first have as many.
+    /// The one with the fewest gaps; null if day first and month first have equally many.
     const TimeReading* best() const;
 
  private:

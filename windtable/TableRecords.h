@@ -1,6 +1,6 @@
 #pragma once
 
-// Lines of a table as winds.
+// Reads lines of a table as winds.
 
 #include <array>
 #include <cstdint>
@@ -17,11 +17,11 @@ namespace zg {
 
 struct TableRecord {
     TableTime time;
-    double speed = 0;      ///< m/s; not-a-number where it is missing
+    double speed = 0;      ///< m/s; not-a-number if missing
     double direction = 0;  ///< degrees; the same
 };
 
-/// Why a line is no record.
+/// Why a line is not a record.
 struct TableFault {
     std::size_t column = 0;  ///< from 1; 0 for the whole line
     std::string text;
@@ -33,7 +33,7 @@ class TableRecords {
  public:
     explicit TableRecords(const TableLayout& layout) : layout_(layout), columns_(layout.columns()) {}
 
-    /// What the line is: a record or a fault is then there to be taken.
+    /// The kind of the line; a record or a fault can then be taken.
     TableLine read(std::string_view line);
 
     const TableRecord& record() const { return record_; }
@@ -49,13 +49,13 @@ class TableRecords {
     TableFault fault_;
 };
 
-/// The columns of the time, for tableTime; views live as long as the fields.
+/// The columns of the time, for tableTime; views are valid as long as the fields.
 class TimeValues {
  public:
     TimeValues(const TableFields& fields, const std::vector<std::size_t>& columns);
     std::span<const std::string_view> values() const { return {values_.data(), count_}; }
 
-    /// As the line shows them.
+    /// As written in the line.
     std::string text() const;
 
  private:
@@ -63,7 +63,7 @@ class TimeValues {
     std::size_t count_ = 0;
 };
 
-/// "17" in quotes, as a message can hold it.
+/// "17" in quotes, fit for a message.
 std::string quotedValue(std::string_view text);
 
 }  // namespace zg

@@ -21,7 +21,7 @@ constexpr std::array<std::string_view, 12> monthNames = {"JAN", "FEB", "MAR", "A
 bool isDigitByte(char c) { return c >= '0' && c <= '9'; }
 bool isLetterByte(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
-/// Takes what stands at the begin of a text.
+/// Consumes the start of a text.
 class Taker {
  public:
     explicit Taker(std::string_view text) : text_(text) {}
@@ -38,7 +38,7 @@ class Taker {
         return true;
     }
 
-    /// A whole number of so many digits at least and at most.
+    /// A whole number with this many digits.
     std::optional<int> number(std::size_t least, std::size_t most) {
         std::size_t digits = 0;
         int value = 0;
@@ -88,11 +88,11 @@ std::optional<std::int64_t> dayOfParts(std::optional<int> year, std::optional<in
     return year && month && day ? dateSeconds(*year, *month, *day) : std::nullopt;
 }
 
-/// 20160109 without separators, with hour, minute and second behind it or without.
+/// 20160109 without separators, optionally followed by hour, minute and second.
 std::optional<std::int64_t> compactDate(Taker& text) {
     const std::optional<int> year = text.number(4, 4);
     const std::optional<int> month = text.number(2, 2);
-    if (!year || *year < 1900 || *year > 2100) return {};  // seconds of an epoch are as long
+    if (!year || *year < 1900 || *year > 2100) return {};  // seconds of an epoch have as many digits
     return dayOfParts(year, month, text.number(2, 2));
 }
 
@@ -148,7 +148,7 @@ struct Clock {
     }
 };
 
-/// The hour of "AM" and "PM"; false for any other word and hour.
+/// The hour of "AM" and "PM"; false for any other word or hour.
 bool setHalf(std::string_view word, Clock& clock) {
     const std::string half = ucase(word);
     if ((half != "AM" && half != "PM") || clock.hour < 1 || clock.hour > 12) return false;
@@ -174,7 +174,7 @@ bool takeClockNumbers(Taker& text, Clock& clock) {
     return true;
 }
 
-/// The time of day and the zone behind it; an empty text is midnight.
+/// The time of day and the zone after it; an empty text is midnight.
 std::optional<TableTime> takeClock(Taker& text, std::int64_t day) {
     text.skipBlanks();
     Clock clock;
@@ -237,7 +237,7 @@ std::optional<TableTime> partsTime(std::span<const std::string_view> values) {
 }
 
 std::optional<TableTime> epochTime(std::string_view text) {
-    constexpr double leastSeconds = 1e8;  // of 1973: smaller numbers are something else
+    constexpr double leastSeconds = 1e8;  // in 1973: smaller numbers are something else
     constexpr double mostSeconds = 1e11;
     constexpr double mostMilliseconds = 1e14;
     double value = 0;
@@ -248,7 +248,7 @@ std::optional<TableTime> epochTime(std::string_view text) {
     return TableTime{static_cast<std::int64_t>(value), 0};
 }
 
-/// A pattern is gone through with the text; what is not a directive must stand there as it is.
+/// Matches the pattern with the text; characters that are not directives must match exactly.
 class PatternTime {
  public:
     PatternTime(std::string_view pattern, std::string_view text) : pattern_(pattern), text_(text) {}

@@ -1,6 +1,6 @@
 #pragma once
 
-// Times as tables write them.
+// Times in the forms found in tables.
 
 #include <cstdint>
 #include <optional>
@@ -13,8 +13,8 @@
 namespace zg {
 
 struct TableTime {
-    std::int64_t seconds = 0;          ///< since January 1, 1970, by the clock that the text shows
-    std::optional<std::int64_t> zone;  ///< seconds east of Greenwich where the text names them
+    std::int64_t seconds = 0;          ///< since January 1, 1970, by the clock of the text
+    std::optional<std::int64_t> zone;  ///< seconds east of Greenwich, if the text states them
 };
 
 /// The time of these values: one, a date and a time of day, or the parts from the year on. None for what is
@@ -23,17 +23,17 @@ struct TableTime {
 std::optional<TableTime> tableTime(TimeForm form, const std::string& pattern,
                                    std::span<const std::string_view> values);
 
-/// Some directive stands in it, and none that is not known: %Y %y %m %b %d %j %H %I %M %S %p %z %s and %%.
+/// Whether the pattern has a directive, and only known ones: %Y %y %m %b %d %j %H %I %M %S %p %z %s and %%.
 bool isTimePattern(std::string_view text);
 
 /// "UTC+0100"
 std::string zoneWord(std::int64_t offset);
 
-/// Seconds of such a word, of "+01:00", "+0100", "+01" or "Z"; none for any other text and for more than 14
-/// hours.
+/// Seconds for such a word, or for "+01:00", "+0100", "+01" or "Z"; nothing for any other text and for more
+/// than 14 hours.
 std::optional<std::int64_t> zoneOfWord(std::string_view text);
 
-/// Seconds of a date that is one; years 1 to 9999.
+/// Seconds of a valid date; years 1 to 9999.
 std::optional<std::int64_t> dateSeconds(int year, int month, int day);
 
 /// "2016-01-09 15:30"

@@ -20,7 +20,7 @@ constexpr std::array<std::string_view, 16> missingWords = {"",     "M",    "NA",
 constexpr std::array<double, 8> missingCodes = {999, 9999, -999, -9999, 999.9, 9999.9, -999.9, -9999.9};
 constexpr std::size_t longestNumber = 64;
 
-/// None for what is no finite number.
+/// Nothing for a number that is not finite.
 std::optional<double> plainNumber(std::string_view text) {
     if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
     double value = 0;
