@@ -244,7 +244,8 @@ class Export {
 
     void drawPanels() {
         const PanelShape shape = panelShape(job_.style.panel, static_cast<int>(found_.size()));
-        const std::vector<Drawing> pages = panelDrawings(found_, look_, shape, job_.sizePixels);
+        const int width = job_.style.sizeIsAsked ? job_.sizePixels : usualPanelWidth(shape);
+        const std::vector<Drawing> pages = panelDrawings(found_, look_, shape, width);
         const std::size_t digits = std::max<std::size_t>(2, std::to_string(pages.size()).size());
         for (std::size_t i = 0; i < pages.size(); ++i) {
             std::string number = std::to_string(i + 1);

@@ -49,6 +49,8 @@ void addLook(CLI::App& app, StyleRequest& request) {
 }  // namespace
 
 void addStyleOptions(CLI::App& app, StyleRequest& request) {
+    if (CLI::Option* size = app.get_option_no_throw("--size"))
+        size->each([&request](const std::string&) { request.sizeIsAsked = true; });
     addLook(app, request);
     app.add_option("--panel", request.panel, "Many roses on a page: columns x rows, or auto")
         ->type_name("COLSxROWS")

@@ -103,6 +103,12 @@ PictureLook lookFor(const PictureLook& look, const ModPolarGraph& tables, int ro
     return own;
 }
 
+int usualPanelWidth(const PanelShape& shape) {
+    constexpr int column = 300;
+    constexpr int least = 600;
+    return std::max(least, column * shape.columns);
+}
+
 PanelShape panelShape(const std::string& asked, int roses) {
     if (asked == "auto") {
         const int columns = static_cast<int>(std::ceil(std::sqrt(static_cast<double>(std::max(1, roses)))));

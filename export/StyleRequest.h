@@ -19,7 +19,8 @@ struct StyleRequest {
     bool sameScale = false;           ///< auto, common to all pictures of the run
     int rings = 0;                    ///< number of rings, 0 for one that suits the radius
     RoseStyle rose;
-    std::string panel;  ///< "COLSxROWS", "auto", or "" for one picture per rose
+    std::string panel;         ///< "COLSxROWS", "auto", or "" for one picture per rose
+    bool sizeIsAsked = false;  ///< a panel without it is as wide as its columns need
     bool besideTable = false;
     std::string html;  ///< file of the web report, "" for none
     std::string pdf;   ///< file of the paged report, "" for none
@@ -75,5 +76,8 @@ struct PanelShape {
 };
 constexpr int mostPanelSide = 20;
 PanelShape panelShape(const std::string& asked, int roses);
+
+/// Width of a panel whose size was not asked for: 300 pixels a column, and at least 600.
+int usualPanelWidth(const PanelShape& shape);
 
 }  // namespace zg

@@ -18,5 +18,5 @@ look() {
 look cividis LOVETT_1988_01.png --rose 1 --palette cividis --radius auto
 look hatch LOVETT_1988_01.png --rose 1 --palette greys --hatch --radius auto --sector-width 15
 look numbers LOVETT_1988_01.png --rose 1 --radius 15 --sector-width 18 --numbers --calm-circle --units knots --palette okabe-ito
-look panel panel_01.png --panel 3x3 --size 900 --radius auto --palette viridis
+look panel panel_01.png --panel 3x3 --radius auto --palette viridis
 look table LOVETT_1988_01.png --rose 1 --beside-table --radius auto --palette viridis

@@ -108,6 +108,45 @@ TEST(Companion, ANameInBracketsIsAName) {
     EXPECT_TRUE(std::filesystem::exists(inside / "one_01.png"));
 }
 
+TEST(Companion, HelpTellsTheWordsOfLooks) {
+    const Result result = runCompanion({"--help"});
+    for (const char* word :
+         {"--palette", "--hatch", "--radius", "--same-scale", "--rings", "--sector-width", "--numbers",
+          "--calm-circle", "--units", "--panel", "--beside-table", "--html", "--pdf"})
+        EXPECT_TRUE(result.out.contains(word)) << word;
+}
+
+TEST(Companion, LooksWithoutSenseAreWrongUsage) {
+    EXPECT_EQ(runCompanion({sample, "--palette", "rainbow"}).status, 2);
+    EXPECT_EQ(runCompanion({sample, "--radius", "0"}).status, 2);
+    EXPECT_EQ(runCompanion({sample, "--radius", "30", "--same-scale"}).status, 2);
+    EXPECT_EQ(runCompanion({sample, "--rings", "0"}).status, 2);
+    EXPECT_EQ(runCompanion({sample, "--sector-width", "23"}).status, 2);
+    EXPECT_EQ(runCompanion({sample, "--units", "furlongs"}).status, 2);
+    EXPECT_EQ(runCompanion({sample, "--panel", "3"}).status, 2);
+}
+
+TEST(Companion, WordsOfLooksReachThePicture) {
+    const TempDirectory directory;
+    const Result result =
+        runCompanion({sample, "--rose", "1", "--format", "svg", "--palette", "viridis", "--units", "km/h",
+                      "--numbers", "--radius", "15", "--out", QString::fromStdString(directory.path())});
+    EXPECT_EQ(result.status, 0) << result.errors.toStdString();
+    const std::string svg = directory.read("LOVETT_1988_01.svg");
+    for (const char* part : {"fill=\"#440154\"", "1.8 to 6.48 km/h", "<g class=\"numbers\">", ">15%<"})
+        EXPECT_NE(svg.find(part), std::string::npos) << part;
+}
+
+TEST(Companion, APanelIsAsWideAsItsColumnsNeedUnlessItsSizeIsAsked) {
+    const TempDirectory directory;
+    const QStringList words = {
+        sample, "--format", "svg", "--panel", "4x3", "--out", QString::fromStdString(directory.path())};
+    EXPECT_EQ(runCompanion(words).status, 0);
+    EXPECT_NE(directory.read("panel_01.svg").find(" width=\"1200\""), std::string::npos);
+    EXPECT_EQ(runCompanion(words + QStringList{"--size", "600"}).status, 0);
+    EXPECT_NE(directory.read("panel_01.svg").find(" width=\"600\""), std::string::npos);
+}
+
 class CompanionWithoutRoom : public ::testing::TestWithParam<const char*> {};
 
 TEST_P(CompanionWithoutRoom, AFileThatMayNotGrowEndsTheRunInOneLine) {

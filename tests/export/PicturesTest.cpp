@@ -132,8 +132,12 @@ TEST_F(Pictures, PanelsAreMadeInEveryKind) {
         job_.format = format;
         ASSERT_EQ(run(), exportDone) << errors_.str();
     }
-    EXPECT_EQ(image("panel_01.png").width(), 600);
+    EXPECT_EQ(image("panel_01.png").width(), 900) << "300 a column";
     EXPECT_TRUE(samePicture(image("panel_01.png"), image("panel_01.bmp")));
+    job_.style.sizeIsAsked = true;
+    job_.format = "png";
+    ASSERT_EQ(run(), exportDone) << errors_.str();
+    EXPECT_EQ(image("panel_01.png").width(), job_.sizePixels);
     EXPECT_EQ(bytes("panel_01.pdf").substr(0, 5), "%PDF-");
 }
 
