@@ -75,15 +75,9 @@ void redrawFrame(const PlotSettings& settings, Polar& polar, ModPolarGraph& tabl
 
     CanvasRecord written;
     RecordedCanvas watched(canvas, written);
-    Frame frame{settings,
-                polar,
-                tables,
-                settings.Style.numbers ? watched : canvas,
-                geometry,
-                width,
-                height,
-                inner,
-                startingTextStyle(tables)};
+    Canvas* target = &canvas;
+    if (settings.Style.numbers) target = &watched;
+    Frame frame{settings, polar, tables, *target, geometry, width, height, inner, startingTextStyle(tables)};
     if (tables.FrqLoaded && settings.ShowLegend) drawLegend(frame);
     drawTitleLines(frame);
     if (settings.ShowCoordinateSystem) {

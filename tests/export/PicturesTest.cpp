@@ -9,6 +9,8 @@
 
 #include "base/Paths.h"
 #include "export/ExportRoses.h"
+#include "graph/render/Hatch.h"
+#include "platform/QtCanvas.h"
 #include "platform/QtText.h"
 #include "tests/support/Pixels.h"
 #include "tests/support/TempDirectory.h"
@@ -68,6 +70,30 @@ TEST_F(Pictures, APaletteColoursBarsAndLegend) {
     // The first swatch of the legend, and the first class of the longest bar, towards the east-south-east.
     EXPECT_TRUE(pixelIs(page, 440, 506, rgb(0x56, 0xb4, 0xe9)));
     EXPECT_TRUE(pixelIs(page, 300 + 22, 300 + 9, rgb(0x56, 0xb4, 0xe9)));
+}
+
+/// The pattern of a class on white, in black and white.
+QImage patternOf(int speedClass) {
+    QImage page = makePageImage(40, 20);
+    {
+        QtCanvas canvas(page, 40, 20);
+        canvas.clear(white);
+        drawHatch(canvas, hatchOfRectangle({0, 0, 40, 20}, speedClass), black);
+    }
+    return page.convertToFormat(QImage::Format_Mono, Qt::ThresholdDither | Qt::MonoOnly);
+}
+
+TEST(Patterns, StayApartInBlackAndWhite) {
+    constexpr int pixels = 40 * 20;
+    for (int a = 1; a <= 6; ++a)
+        for (int b = 1; b < a; ++b) {
+            const QImage first = patternOf(a);
+            const QImage second = patternOf(b);
+            int differing = 0;
+            for (int y = 0; y < 20; ++y)
+                for (int x = 0; x < 40; ++x) differing += first.pixel(x, y) != second.pixel(x, y) ? 1 : 0;
+            EXPECT_GE(differing, pixels / 8) << "classes " << b << " and " << a;
+        }
 }
 
 TEST_F(Pictures, APaletteThatIsNoneIsWrongUsage) {
