@@ -5,6 +5,7 @@
 #include <QSignalBlocker>
 #include <memory>
 
+#include "base/AtEnd.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "graph/control/EquationCheck.h"
@@ -167,9 +168,8 @@ std::optional<GraphList::CurveTexts> GraphList::checkedTexts() {
 
 void GraphList::cmdPlot_Click() {
     if (plotting_) return;  // the previous curve is still being drawn, and has no row yet
+    const AtEnd plotted([this] { plotting_ = false; });
     plotting_ = true;
-    const auto plotted = [](bool* plotting) { *plotting = false; };
-    const std::unique_ptr<bool, decltype(plotted)> atEnd(&plotting_, plotted);
     hooks_.pressArrow();
     const auto texts = checkedTexts();
     if (!texts) return;
@@ -325,14 +325,13 @@ std::unique_ptr<frmTable> GraphList::sampledTable(const GrapInfo& graph, const Q
         host_.pumpEvents(0);
         return !plot().StopAni();
     };
-    const auto unlock = [](GraphList* list) {
-        list->plot().StopAni(true);
-        list->hooks_.lockWhileDrawing(true);
-    };
     hooks_.beginProgress(graph);
+    const AtEnd unlocked([this] {
+        plot().StopAni(true);
+        hooks_.lockWhileDrawing(true);
+    });
     plot().StopAni(false);
     hooks_.lockWhileDrawing(false);
-    const std::unique_ptr<GraphList, decltype(unlock)> atEnd(this, unlock);
     try {
         return std::make_unique<frmTable>(
             host_, graph, swatch, [this] { ui_.pgbProgressBar->advance(); }, serve, &window_);
