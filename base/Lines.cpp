@@ -48,9 +48,7 @@ std::size_t countLineEnds(std::string_view bytes, char before) {
     return ends;
 }
 
-}  // namespace
-
-FileHandle openForReading(const std::string& path) {
+FileHandle openRegularFile(const std::string& path) {
     const std::optional<FileState> state = stateOfFile(path);
     // Opening a pipe that nobody writes to would block for good.
     if (state && state->kind != FileKind::Plain) raise(ErrorNumber::PathFileAccessError);
@@ -59,8 +57,19 @@ FileHandle openForReading(const std::string& path) {
     return file;
 }
 
+}  // namespace
+
+FileHandle openForReading(const std::string& path) {
+    try {
+        return openRegularFile(path);
+    } catch (RunTimeError& error) {
+        error.file = path;
+        throw;
+    }
+}
+
 LineReader::LineReader(const std::string& path, std::size_t longestLine)
-    : longestLine_(longestLine), file_(openForReading(path)) {
+    : path_(path), longestLine_(longestLine), file_(openForReading(path)) {
     // The reader has its own window, so a buffer in the stream would only add a copy.
     std::setvbuf(file_.get(), nullptr, _IONBF, 0);
 }
@@ -122,6 +131,11 @@ void LineReader::needShort(std::size_t bytes) const {
                        "the line is longer than " + std::to_string(longestLine_) + " bytes");
     error.where = std::to_string(lineNumber_ + 1);
     throw error;
+}
+
+void LineReader::addPlace(RunTimeError& error) const {
+    if (error.file.empty()) error.file = path_;
+    if (error.where.empty() && lineNumber_ > 0) error.where = std::to_string(lineNumber_);
 }
 
 bool LineReader::atEnd() { return window_.empty() && !fill(); }

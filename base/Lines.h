@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/RunTimeError.h"
 #include "base/Unzip.h"
 
 namespace zg {
@@ -18,8 +19,8 @@ struct FileCloser {
 };
 using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 
-/// Opens a regular file for binary reading; raises 53, 70, 75 or 76 on failure, 75 for a directory, a pipe or
-/// a device.
+/// Opens a regular file for binary reading; raises 53, 70, 75 or 76 on failure, with the path, 75 for a
+/// directory, a pipe or a device.
 FileHandle openForReading(const std::string& path);
 
 /// Reads lines, those of a gzip file as they were before compression. Only a window of the file, of at least
@@ -51,6 +52,12 @@ class LineReader {
     /// Number of the line last read, from 1.
     std::size_t lineNumber() const { return lineNumber_; }
 
+    /// Of the file that is read; "" for bytes in memory.
+    const std::string& path() const { return path_; }
+
+    /// Adds to an error what it does not say yet: the file, and the number of the line last read.
+    void addPlace(RunTimeError& error) const;
+
     /// Hands over the open file, which the new owner closes; what has been fetched can still be read.
     FileHandle release() { return std::move(file_); }
 
@@ -62,6 +69,7 @@ class LineReader {
     std::size_t readUnzipped(char* place, std::size_t size);
     void needShort(std::size_t bytes) const;
 
+    std::string path_;
     std::size_t longestLine_ = std::string::npos;
     FileHandle file_;
     std::vector<char> buffer_;

@@ -36,6 +36,7 @@ class RunTimeError : public std::exception {
 
     int number;
     std::string description;
+    std::string file;   ///< path of the file if known
     std::string where;  ///< line and field of a file if known, such as "17: percent of class 2"
 };
 

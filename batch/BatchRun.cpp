@@ -31,6 +31,7 @@ bool open(const Run& run, const std::string& path) {
     } catch (RunTimeError& error) {
         error.description += ": " + path;
         if (!error.where.empty()) error.description += ", line " + error.where;
+        error.file.clear();  // it is told already, with its directory
         throw;
     }
 }

@@ -16,11 +16,16 @@ namespace {
 TimeZoneTable readTimeZones(const std::string& path) {
     TimeZoneTable table;
     LineReader lines(path);
-    lines.readLine();
-    while (!lines.atEnd()) {
-        const Pieces fields = split(lines.readLine(), "\t");
-        table.gsTimeZoneKeys.push_back(trim(fields[0]));
-        table.gsTimeZoneLabels.push_back(trim(fields[1]));
+    try {
+        lines.readLine();
+        while (!lines.atEnd()) {
+            const Pieces fields = split(lines.readLine(), "\t");
+            table.gsTimeZoneKeys.push_back(trim(fields[0]));
+            table.gsTimeZoneLabels.push_back(trim(fields[1]));
+        }
+    } catch (RunTimeError& error) {
+        lines.addPlace(error);
+        throw;
     }
     return table;
 }

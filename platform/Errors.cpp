@@ -2,7 +2,9 @@
 
 #include <new>
 
+#include "base/Paths.h"
 #include "base/RunTimeError.h"
+#include "headers/HeaderError.h"
 
 namespace zg {
 
@@ -25,6 +27,21 @@ RunTimeError asRunTimeError(const std::exception_ptr& error) {
     }
 }
 
+/// The file's name, and the line and what is wrong in it as far as known; "" if the file is not known.
+std::string placeOf(const std::exception_ptr& error) {
+    try {
+        std::rethrow_exception(error);
+    } catch (const HeaderError& known) {
+        if (known.place.line == 0 && known.problem == known.description) return known.place.file;
+        return known.place.file + ", " + messageOf(known);
+    } catch (const RunTimeError& known) {
+        if (known.file.empty()) return {};
+        return FileNameOf(known.file) + (known.where.empty() ? "" : ", line " + known.where);
+    } catch (...) {
+        return {};
+    }
+}
+
 }  // namespace
 
 void showError(Host& host, const std::exception_ptr& error) {
@@ -32,6 +49,7 @@ void showError(Host& host, const std::exception_ptr& error) {
     MessageBox box;
     box.title = "Zephyrgraph";
     box.text = "Run-time error '" + std::to_string(known.number) + "':\n\n" + known.description;
+    if (const std::string place = placeOf(error); !place.empty()) box.text += "\n\n" + place;
     box.icon = BoxIcon::Stop;
     host.showBox(box);
 }

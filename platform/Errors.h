@@ -8,7 +8,8 @@
 
 namespace zg {
 
-/// Shows the one box for an error that reached the boundary: title "Zephyrgraph", number and description.
+/// Shows the one box for an error that reached the boundary: title "Zephyrgraph", number and
+/// description, and below them the place in a file if it is known.
 void showError(Host& host, const std::exception_ptr& error);
 
 /// A handler may take the arguments of its signal, or ignore them.

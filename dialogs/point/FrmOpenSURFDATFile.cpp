@@ -33,6 +33,8 @@ frmOpenSURFDATFile::frmOpenSURFDATFile(Host& host, ProcessStarter& starter, Proc
     layout->addWidget(makeInput());
     layout->addWidget(makePeriod());
     layout->addWidget(makeOutput());
+    txtFRQOutputFilename->setToolTip(
+        QStringLiteral("Must not be empty, but each result gets a name built of station, height and period"));
     layout->addLayout(makeButtons());
     folderPrompt_ = "Select a Working Directory:";
     Form_Load();

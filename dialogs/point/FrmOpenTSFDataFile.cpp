@@ -14,6 +14,8 @@ frmOpenTSFDataFile::frmOpenTSFDataFile(Host& host, ProcessStarter& starter, Proc
     : StationDialog(host, starter, std::move(window), "frmOpenTSFDataFile",
                     "Generate Wind Rose Plots from Time Series File (TSF)", parent) {
     txtStationID = named(new QLineEdit, "txtStationID");
+    txtStationID->setToolTip(
+        QStringLiteral("The result is named by the station in the file, whatever is typed here"));
     build({"txtTSFDataFile",
            "Time Series &File (TSF):", "TSF Data Files (*.tsf) | *.tsf|All Files (*.*) | *.*; |",
            "Please select a TSF Data file.", "The selected TSF Data file does not exist.", "_TSFMET_"},

@@ -56,13 +56,13 @@ void sizeRoseTables(const FreqVersion& version, ModPolarGraph& tables) {
     tables.FrqDirectionLabel.redim(static_cast<std::size_t>(freqDirections));
 }
 
-/// Runs a pass over the file; adds the number of the last line read to an error.
+/// Runs a pass over the file; adds the file and the number of the last line read to an error.
 template <typename Pass>
 void withLine(LineReader& reader, Pass pass) {
     try {
         pass();
     } catch (RunTimeError& error) {
-        if (error.where.empty()) error.where = std::to_string(reader.lineNumber());
+        reader.addPlace(error);
         throw;
     }
 }
@@ -99,7 +99,9 @@ FreqFileOutcome loadFreqLines(const FreqSource& open, const std::string& path, M
     FreqHeaderSize header;
     {
         LineReader reader = open();
-        if (mayBeFreqFile(reader.ahead())) version = freqVersionOf(reader.readLine());
+        withLine(reader, [&] {
+            if (mayBeFreqFile(reader.ahead())) version = freqVersionOf(reader.readLine());
+        });
         if (version == nullptr) {
             keepOpen(reader.release());
             tellRefused(path, host);

@@ -102,11 +102,11 @@ const std::string headOf22 = "WIND.FRQ        2.2             Zephyrgraph FRQ Fi
 
 INSTANTIATE_TEST_SUITE_P(
     Kinds, FrmMainBadFile,
-    ::testing::Values(BadFile{"Empty", "", "Run-time error '62':\n\nInput past end of file"},
+    ::testing::Values(BadFile{"Empty", "", "Run-time error '62':\n\nInput past end of file\n\nbad.frq"},
                       BadFile{"CountIsNoNumber", headOf22 + "x - comments\r\n",
-                              "Run-time error '13':\n\nType mismatch"},
+                              "Run-time error '13':\n\nType mismatch\n\nbad.frq, line 2"},
                       BadFile{"PromisesFortyThousandComments", headOf22 + "40000 - comments\r\n",
-                              "Run-time error '6':\n\nOverflow"}),
+                              "Run-time error '6':\n\nOverflow\n\nbad.frq, line 2"}),
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(FrmMainTest, AMissingFileAndADirectoryAreTold) {
@@ -114,8 +114,9 @@ TEST_F(FrmMainTest, AMissingFileAndADirectoryAreTold) {
     open(directory_.file("nowhere.frq"));
     open(directory_.path());
     ASSERT_EQ(host_.boxes.size(), 2U);
-    EXPECT_EQ(host_.boxes[0].text, "Run-time error '53':\n\nFile not found");
-    EXPECT_EQ(host_.boxes[1].text, "Run-time error '75':\n\nPath/File access error");
+    EXPECT_EQ(host_.boxes[0].text, "Run-time error '53':\n\nFile not found\n\nnowhere.frq");
+    EXPECT_EQ(host_.boxes[1].text,
+              "Run-time error '75':\n\nPath/File access error\n\n" + FileNameOf(directory_.path()));
 }
 
 TEST_F(FrmMainTest, ThePlotFollowsTheWindowsSize) {

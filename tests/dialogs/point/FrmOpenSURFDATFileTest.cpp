@@ -46,6 +46,8 @@ TEST_F(FrmOpenSURFDATFile, OpensWithItsDefaults) {
     EXPECT_EQ(child<QComboBox>("cboTimeZone")->currentText(), "(UTC-05:00) Eastern Time (US & Canada)");
     EXPECT_EQ(child<QComboBox>("cboTimeZone")->count(), 63);
     EXPECT_EQ(box("txtAnemometerHeight").text(), "10");
+    EXPECT_EQ(box("txtFRQOutputFilename").toolTip(),
+              "Must not be empty, but each result gets a name built of station, height and period");
     EXPECT_EQ(child<QPushButton>("cmdExit")->text(), "Cancel");
     EXPECT_EQ(child<QPushButton>("cmdView")->text(), "RUN");
 }
@@ -98,7 +100,8 @@ TEST_F(FrmOpenSURFDATFile, ADayOutOfItsYearShowsTwoBoxes) {
     EXPECT_EQ(host_.boxes[0].text, "Error in VBGRDAY: invalid date.");
     EXPECT_EQ(host_.boxes[0].title, "");
     EXPECT_EQ(host_.boxes[0].buttons, BoxButtons::Ok);
-    EXPECT_EQ(host_.boxes[1].text, "Run-time error '13':\n\nType mismatch");
+    const std::string& error = host_.boxes[1].text;
+    EXPECT_TRUE(error.starts_with("Run-time error '13':\n\nType mismatch\n\nday.dat, line ")) << error;
     EXPECT_EQ(child<QListWidget>("lstSURFDATStationIDs")->count(), 3)
         << "what was read before the fault stays";
 }

@@ -224,7 +224,9 @@ TEST_F(PointDialogs, AWrongAermetFileIsARunTimeError) {
     open<frmOpenAERMETFile>(InputKind::AermSfc);
     host_.boxAnswers = {BoxAnswer::Ok};
     browse("x.sfc", "a b c d e f\ng h i j k\n");
-    EXPECT_EQ(host_.boxes[0].text, "Run-time error '13':\n\nType mismatch");
+    EXPECT_EQ(host_.boxes[0].text,
+              "Run-time error '13':\n\nType mismatch\n\n"
+              "x.sfc, line 2 (first hour): date does not exist");
     EXPECT_EQ(host_.boxes[0].title, "Zephyrgraph");
 }
 
@@ -239,6 +241,9 @@ TEST_F(PointDialogs, ATimeSeriesNamesItsRoseInTheControlFile) {
     EXPECT_EQ(child<QTimeEdit>("DTPicker_TimeStep")->time(), QTime(1, 0));
     EXPECT_EQ(child<QComboBox>("cboTimeZone")->currentText(), "(UTC-05:00) Indiana (East)");
     EXPECT_EQ(box("txtStationID").text(), "14735");
+    EXPECT_EQ(box("txtStationID").toolTip(),
+              "The result is named by the station in the file, whatever is typed here");
+    box("txtStationID").setText("another");
     made_ = {"Albany_TSFMET_20050307-20051231"};
     click("cmdView");
     EXPECT_EQ(plotted_.size(), 1U);
