@@ -144,6 +144,7 @@ void PolarGraph::RedrawGraph(std::int16_t mode) {
     const AfterFrame after = afterFrame(mode);
     if (after.curves && !isPutOff()) drawAll(CurveSweep::AtOnce);
     if (after.rulers) window_.rulersChanged();
+    raiseFailure();
 }
 
 void PolarGraph::keepPicture() {

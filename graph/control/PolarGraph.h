@@ -4,6 +4,7 @@
 // is a ControlWindow that provides the surface and applies the layout.
 
 #include <cstdint>
+#include <exception>
 #include <functional>
 #include <optional>
 #include <string>
@@ -125,8 +126,9 @@ class PolarGraph {
 
     /// Paints the curve of that number over the page, or all visible ones over the persistent picture. A
     /// curve that takes long serves events: it ends when StopAni becomes true, together with the curves after
-    /// it, and raises 32811 beyond the limit of SweepWatch. Raises the script engine's errors; what has been
-    /// painted remains. Returns false if StopAni ended a curve that takes long.
+    /// it, and raises 32811 beyond the limit of SweepWatch. Raises the script engine's errors once for the
+    /// same texts and range of a curve, after painting the other curves; what has been painted remains.
+    /// Returns false if StopAni ended a curve that takes long.
     bool DrawGraph(std::optional<std::int16_t> index = std::nullopt, CurveSweep sweep = CurveSweep::AtOnce);
 
     /// Copies the selection, or the whole page if there is none, to the clipboard.
@@ -208,10 +210,13 @@ class PolarGraph {
  private:
     void RedrawGraph(std::int16_t mode);
     void drawAll(CurveSweep sweep);
+    void tryItem(std::int16_t index, CurveSweep sweep);
     void drawItem(std::int16_t index, CurveSweep sweep);
+    void raiseFailure();
     void DrawCurve(const GrapInfo& graph);
     void sweep(const GrapInfo& graph);
-    void paintPoints(const GrapInfo& curve, const std::function<bool(float)>& goesOn);
+    void paintPoints(ScriptEngine& engine, const GrapInfo& curve, const std::function<bool(float)>& goesOn);
+    void repaintDuring(const GrapInfo& animated, const GrapInfo& begun, float angle);
     bool serveSweep();
     bool isPutOff();
     bool waitForNextStep(std::int16_t delay, float angle);
@@ -250,9 +255,10 @@ class PolarGraph {
                      [this](double x, double y) { movePageTo(x, y); }};
 
     bool suspended_ = false;
-    bool serving_ = false;       ///< events, during a sweep
-    bool curvesWanted_ = false;  ///< while it served them
-    bool stopped_ = false;       ///< by StopAni, so the following curves are not drawn either
+    bool serving_ = false;        ///< events, during a sweep
+    bool curvesWanted_ = false;   ///< while it served them
+    bool stopped_ = false;        ///< by StopAni, so the following curves are not drawn either
+    std::exception_ptr failure_;  ///< of a curve, to be raised when all are painted
     FreqFileOutcome lastOpenOutcome_ = FreqFileOutcome::Refused;
 };
 

@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <exception>
+#include <utility>
 
 #include "base/AtEnd.h"
 #include "base/MathLibrary.h"
 #include "base/Numbers.h"
+#include "base/RunTimeError.h"
 #include "graph/control/CurveEvaluator.h"
 #include "graph/control/PolarGraph.h"
 #include "graph/control/SweepWatch.h"
@@ -31,12 +34,16 @@ std::string trackText(float angle) {
 bool PolarGraph::DrawGraph(std::optional<std::int16_t> index, CurveSweep sweep) {
     if (suspended_ || isPutOff()) return true;
     if (index) {
-        drawItem(*index, sweep);
-        if (!curvesWanted_ || stopped_) return !stopped_;
+        tryItem(*index, sweep);
+        if (!curvesWanted_ || stopped_) {
+            raiseFailure();
+            return !stopped_;
+        }
     }
     // Otherwise a curve that has been hidden, changed or removed since would stay on the page.
     ClearGraph();
     drawAll(index ? CurveSweep::AtOnce : sweep);
+    raiseFailure();
     return !stopped_;
 }
 
@@ -54,12 +61,33 @@ void PolarGraph::drawAll(CurveSweep sweep) {
         curvesWanted_ = false;
         const std::int32_t count = plot_.Count();
         for (std::int32_t i = 1; i <= std::min(count, plot_.Count()) && !curvesWanted_ && !stopped_; ++i)
-            drawItem(toInt16(static_cast<double>(i)), sweep);
+            tryItem(toInt16(static_cast<double>(i)), sweep);
     } while (curvesWanted_ && !stopped_);
 }
 
+/// A curve that fails is painted up to that point, and the others are painted nevertheless. Its error is
+/// raised after them, and not again while its texts and its range are the same.
+void PolarGraph::tryItem(std::int16_t index, CurveSweep sweep) {
+    GrapInfo& graph = plot_.Item(static_cast<std::int64_t>(index));
+    if (!graph.Visible) return;
+    try {
+        drawItem(index, sweep);
+        if (plot_.contains(graph)) graph.Failure.clear();
+    } catch (const RunTimeError& error) {
+        if (!plot_.contains(graph)) throw;
+        graph.Failure = error.description;
+        const std::string failed = sweepText(graph);
+        if (graph.ToldFailure != failed && !failure_) failure_ = std::current_exception();
+        graph.ToldFailure = failed;
+    }
+    if (events.CurveEnded) events.CurveEnded(index);
+}
+
+void PolarGraph::raiseFailure() {
+    if (failure_) std::rethrow_exception(std::exchange(failure_, nullptr));
+}
+
 void PolarGraph::drawItem(std::int16_t index, CurveSweep sweep) {
-    if (!plot_.Item(static_cast<std::int64_t>(index)).Visible) return;
     if (events.BeforeGraph) events.BeforeGraph(index);
     // The host may have changed the list or the number.
     GrapInfo& graph = plot_.Item(static_cast<std::int64_t>(index));
@@ -101,21 +129,26 @@ void PolarGraph::sweep(const GrapInfo& graph) {
     // values.
     const GrapInfo curve = graph;
     if (curve.Delay > 0 || curve.Step == 0)
-        return paintPoints(curve, [&](float angle) { return waitForNextStep(curve.Delay, angle); });
+        return paintPoints(engine_, curve, [&](float angle) {
+            const bool goesOn = waitForNextStep(curve.Delay, angle);
+            if (goesOn && std::exchange(curvesWanted_, false)) repaintDuring(graph, curve, angle);
+            return goesOn;
+        });
     SweepWatch watch([this] { return host_.tickCount(); }, [this] { return serveSweep(); });
     const auto look = [&watch](float) {
         watch.look();
         return true;
     };
     try {
-        sweepUnderWatch(engine_, watch, curve.Equation, [&] { paintPoints(curve, look); });
+        sweepUnderWatch(engine_, watch, curve.Equation, [&] { paintPoints(engine_, curve, look); });
     } catch (const SweepStopped&) {
         stopped_ = own_.StopAni;
     }
 }
 
-void PolarGraph::paintPoints(const GrapInfo& curve, const std::function<bool(float)>& goesOn) {
-    CurveEvaluator equation(engine_, coefficientCode(curve.Coefficient), curve.Equation);
+void PolarGraph::paintPoints(ScriptEngine& engine, const GrapInfo& curve,
+                             const std::function<bool(float)>& goesOn) {
+    CurveEvaluator equation(engine, coefficientCode(curve.Coefficient), curve.Equation);
     CurvePainter painter(curve.Series, markerPictures(curve.Series), geometry_);
     const auto finish = [&] {
         RecordedCanvas canvas = page();
@@ -141,6 +174,35 @@ void PolarGraph::paintPoints(const GrapInfo& curve, const std::function<bool(flo
     finish();
 }
 
+/// Curves requested during an animation are painted without ending it: the others whole, the animated one as
+/// far as it has come. Each has an engine of its own, since the animation goes on with its own variables. A
+/// curve that fails here is told of when it is painted by itself.
+void PolarGraph::repaintDuring(const GrapInfo& animated, const GrapInfo& begun, float angle) {
+    auto progress = std::exchange(events.DrawProgress, {});
+    const AtEnd putBack([this, &progress] { events.DrawProgress = std::move(progress); });
+    ClearGraph();
+    for (std::int32_t i = 1; i <= plot_.Count(); ++i) {
+        const GrapInfo& item = plot_.Item(std::int64_t{i});
+        const bool isAnimated = &item == &animated;
+        GrapInfo curve = isAnimated ? begun : item;
+        if (isAnimated) curve.EndingAngle = angle;
+        if (!curve.Visible || curve.Step == 0) continue;
+        ScriptEngine engine;
+        prepareForCurves(engine);
+        SweepWatch watch([this] { return host_.tickCount(); });
+        const auto look = [&watch](float) {
+            watch.look();
+            return true;
+        };
+        try {
+            sweepUnderWatch(engine, watch, curve.Equation, [&] { paintPoints(engine, curve, look); });
+        } catch (const RunTimeError&) {
+            continue;
+        }
+    }
+    window_.pagePainted();
+}
+
 /// Displays the progress of a long sweep and serves events; false if the sweep is to end. StopAni is False
 /// meanwhile, as during an animation.
 bool PolarGraph::serveSweep() {
@@ -162,6 +224,8 @@ bool PolarGraph::waitForNextStep(std::int16_t delay, float angle) {
     const double wait = MathLibrary::Milliseconds(delay) * 1000;
     do {
         if (own_.StopAni) return false;
+        serving_ = true;
+        const AtEnd served([this] { serving_ = false; });
         host_.pumpEvents(delay > 0 ? pumpMilliseconds : 0);
     } while (static_cast<double>(host_.tickCount() - start) < wait);
     return !own_.StopAni;

@@ -25,6 +25,7 @@ struct PolarGraphEvents {
     std::function<void(std::int16_t button, std::int16_t shift, float x, float y)> MouseMove;
     std::function<void(std::int16_t button, std::int16_t shift, float x, float y)> MouseUp;
     std::function<void(float angle, float radius, float x, float y, float portion)> DrawProgress;
+    std::function<void(std::int16_t index)> CurveEnded;  ///< painted, or failed: see GrapInfo::Failure
 };
 
 }  // namespace zg

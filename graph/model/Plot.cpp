@@ -7,6 +7,13 @@
 
 namespace zg {
 
+std::string sweepText(const GrapInfo& graph) {
+    std::string text = graph.Coefficient + '\n' + graph.Equation;
+    for (const float value : {graph.StartingAngle, graph.EndingAngle, graph.Step})
+        text += '\n' + std::to_string(value);
+    return text;
+}
+
 namespace {
 
 constexpr int keyTaken = 457;

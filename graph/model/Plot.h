@@ -22,7 +22,13 @@ struct GrapInfo {
     float Step = 1;
     bool Visible = true;
     zg::Series Series;
+
+    std::string Failure;      ///< why its last painting ended early; "" if it was whole
+    std::string ToldFailure;  ///< sweepText() when an error of the painting was last raised
 };
+
+/// What decides whether a curve can be evaluated: its texts and its range.
+std::string sweepText(const GrapInfo& graph);
 
 /// The curves by number from 1, and by key (letter case does not matter) if one was given. An item keeps its
 /// address until it is removed.
