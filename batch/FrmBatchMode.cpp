@@ -213,7 +213,8 @@ bool frmBatchMode::checkWorkDirectory() {
     if (IsDirectory(pathIn(*txtWorkDirectory))) return true;
     MarkInvalid(*txtWorkDirectory);
     AskCreateWorkDir(host_,
-                     {[this] { ClearInvalid(*txtWorkDirectory); }, [this] { cmdBeginBatchMode_Click(); }},
+                     {[this] { ClearInvalid(*txtWorkDirectory); }, [this] { cmdBeginBatchMode_Click(); },
+                      [this](const std::string& reason) { tellNoDirectory(reason); }},
                      pathIn(*txtWorkDirectory));
     return false;
 }

@@ -105,7 +105,8 @@ bool frmCreateReport::checkFields() {
     if (IsDirectory(pathIn(*txtWorkDirectory))) return true;
     MarkInvalid(*txtWorkDirectory);
     AskCreateWorkDir(host_,
-                     {[this] { ClearInvalid(*txtWorkDirectory); }, [this] { cmdCreateReport_Click(); }},
+                     {[this] { ClearInvalid(*txtWorkDirectory); }, [this] { cmdCreateReport_Click(); },
+                      [this](const std::string& reason) { tellNoDirectory(reason); }},
                      pathIn(*txtWorkDirectory));
     return false;
 }
@@ -131,6 +132,8 @@ void frmCreateReport::create() {
     const bool both = optBothPPTAndDOC->isChecked();
     const bool slides = both || optPPT->isChecked();
     const bool pages = both || optDOC->isChecked();
+    if (!slides && !pages)
+        lblStatus->setText(QStringLiteral("Please choose what to create: PowerPoint, Word or both."));
     if (slides && !mayOverwrite(".ppt")) return;
     if (pages && !mayOverwrite(".doc")) return;
     if (slides || pages) listPictures();

@@ -7,6 +7,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
+#include <algorithm>
 
 #include "base/Files.h"
 #include "base/RunTimeError.h"
@@ -19,6 +20,7 @@ namespace {
 
 constexpr double pointsPerPixel = 72.0 / 96;
 constexpr int pollMilliseconds = 20;
+constexpr const char* bodyName = "body.xml";
 
 constexpr const char* xmlHead =
     R"(<?xml version="1.0" encoding="UTF-8"?>
@@ -40,16 +42,53 @@ constexpr const char* presentationHead = R"(application/vnd.oasis.opendocument.p
 )";
 constexpr const char* presentationTail = "</office:presentation></office:body></office:document>\n";
 
-constexpr const char* documentHead = R"(application/vnd.oasis.opendocument.text">
-<office:automatic-styles>
-<style:page-layout style:name="page"><style:page-layout-properties fo:page-width="612pt" fo:page-height="792pt"
- fo:margin-top="72pt" fo:margin-bottom="72pt" fo:margin-left="72pt" fo:margin-right="72pt"/></style:page-layout>
-<style:style style:name="next" style:family="paragraph"><style:paragraph-properties fo:break-before="page"/></style:style>
-</office:automatic-styles>
-<office:master-styles><style:master-page style:name="Standard" style:page-layout-name="page"/></office:master-styles>
-<office:body><office:text>
-)";
+// Letter paper, unless a picture needs more.
+constexpr double pageMargin = 72;
+constexpr double pageWidth = 612;
+constexpr double pageHeight = 792;
+constexpr double lineSlack = 12;  // a picture is a character of a line, which is a little higher
+
 constexpr const char* documentTail = "</office:text></office:body></office:document>\n";
+
+QByteArray points(double value) { return QByteArray::number(value, 'f', 2) + "pt"; }
+
+QByteArray pageLayout(const QByteArray& name, QSizeF size) {
+    QByteArray margins;
+    for (const char* side : {"top", "bottom", "left", "right"})
+        margins += QByteArray(" fo:margin-") + side + "=\"" + points(pageMargin) + "\"";
+    return "<style:page-layout style:name=\"" + name + "\"><style:page-layout-properties fo:page-width=\"" +
+           points(size.width()) + "\" fo:page-height=\"" + points(size.height()) + "\"" + margins +
+           "/></style:page-layout>\n";
+}
+
+QByteArray masterPage(const QByteArray& name, const QByteArray& layout) {
+    return "<style:master-page style:name=\"" + name + "\" style:page-layout-name=\"" + layout + "\"/>\n";
+}
+
+/// A paragraph of this style begins a page of that kind.
+QByteArray beginsPage(const QByteArray& style, const QByteArray& master) {
+    return "<style:style style:name=\"" + style + "\" style:family=\"paragraph\" style:master-page-name=\"" +
+           master + "\"/>\n";
+}
+
+/// The head of a document with the usual page and larger ones: "page1" and so on in their order.
+QByteArray documentHead(const std::vector<QSizeF>& largePages) {
+    QByteArray layouts = pageLayout("page", {pageWidth, pageHeight});
+    QByteArray styles =
+        "<style:style style:name=\"next\" style:family=\"paragraph\"><style:paragraph-properties "
+        "fo:break-before=\"page\"/></style:style>\n" +
+        beginsPage("usual", "Standard");
+    QByteArray masters = masterPage("Standard", "page");
+    for (std::size_t i = 0; i < largePages.size(); ++i) {
+        const QByteArray name = "page" + QByteArray::number(static_cast<qulonglong>(i + 1));
+        layouts += pageLayout(name, largePages[i]);
+        styles += beginsPage(name, name);
+        masters += masterPage(name, name);
+    }
+    return "application/vnd.oasis.opendocument.text\">\n<office:automatic-styles>\n" + layouts + styles +
+           "</office:automatic-styles>\n<office:master-styles>\n" + masters +
+           "</office:master-styles>\n<office:body><office:text>\n";
+}
 
 [[noreturn]] void fail(ErrorNumber number, const std::string& text) {
     throw RunTimeError(static_cast<int>(number), text);
@@ -84,27 +123,27 @@ std::string withReason(const std::string& fault, const std::string& reason) {
     return reason.empty() ? fault + " and gave no reason" : fault + ": " + reason;
 }
 
-QByteArray points(double value) { return QByteArray::number(value, 'f', 2) + "pt"; }
-
 QByteArray sizeOf(double width, double height) {
     return "svg:width=\"" + points(width) + "\" svg:height=\"" + points(height) + "\"";
 }
 
 }  // namespace
 
-void OfficeReportWriter::begin(const char* head) {
+void OfficeReportWriter::begin() {
     scratch_ = std::make_unique<QTemporaryDir>();
     if (!scratch_->isValid()) fail(ErrorNumber::PathFileAccessError, scratch_->errorString().toStdString());
-    write(QByteArray(xmlHead) + head);
 }
 
-void OfficeReportWriter::write(const QByteArray& part) {
-    QFile file(scratch_->filePath(QStringLiteral("report.xml")));
+void OfficeReportWriter::write(const QByteArray& part, const char* name) {
+    QFile file(scratch_->filePath(QString::fromLatin1(name)));
     if (!file.open(QIODevice::Append) || file.write(part) != part.size() || !file.flush())
         fail(ErrorNumber::DiskFull, "The report could not be written: " + file.errorString().toStdString());
 }
 
-void OfficeReportWriter::beginPresentation() { begin(presentationHead); }
+void OfficeReportWriter::beginPresentation() {
+    begin();
+    write(QByteArray(xmlHead) + presentationHead);
+}
 
 void OfficeReportWriter::addSlide(const std::string& picture, float left, float top, float width,
                                   float height) {
@@ -118,22 +157,47 @@ void OfficeReportWriter::savePresentation(const std::string& path) {
 }
 
 void OfficeReportWriter::beginDocument() {
-    begin(documentHead);
+    begin();
     breakBefore_ = false;
+    largePages_.clear();
+    style_ = "usual";
+}
+
+/// The style of a paragraph on a page that is large enough for the picture: "usual", or that of a larger
+/// page.
+QByteArray OfficeReportWriter::pageFor(QSizeF picture) {
+    const QSizeF needed = picture + QSizeF(2 * pageMargin, 2 * pageMargin + lineSlack);
+    if (needed.width() <= pageWidth && needed.height() <= pageHeight) return "usual";
+    const QSizeF size = needed.expandedTo({pageWidth, pageHeight});
+    const auto known = std::find(largePages_.begin(), largePages_.end(), size);
+    const auto index = known - largePages_.begin();
+    if (known == largePages_.end()) largePages_.push_back(size);
+    return "page" + QByteArray::number(static_cast<qlonglong>(index + 1));
 }
 
 void OfficeReportWriter::addPicture(const std::string& picture) {
     const QImage image = pictureOf(picture);
-    write(QByteArray("<text:p") + (breakBefore_ ? " text:style-name=\"next\"" : "") +
-          "><draw:frame text:anchor-type=\"as-char\" " +
-          sizeOf(image.width() * pointsPerPixel, image.height() * pointsPerPixel) + ">" + embedded(image) +
-          "</draw:frame></text:p>\n");
+    const QSizeF size(image.width() * pointsPerPixel, image.height() * pointsPerPixel);
+    const QByteArray page = pageFor(size);
+    const QByteArray style = page != style_ ? page : QByteArray(breakBefore_ ? "next" : "");
+    style_ = page;
+    write(QByteArray("<text:p") + (style.isEmpty() ? QByteArray() : " text:style-name=\"" + style + "\"") +
+              "><draw:frame text:anchor-type=\"as-char\" " + sizeOf(size.width(), size.height()) + ">" +
+              embedded(image) + "</draw:frame></text:p>\n",
+          bodyName);
     breakBefore_ = false;
 }
 
 void OfficeReportWriter::addPageBreak() { breakBefore_ = true; }
 
+/// The pages' sizes, which stand before the text, are known only now.
 void OfficeReportWriter::saveDocument(const std::string& path) {
+    constexpr qint64 partSize = 1 << 20;
+    write(QByteArray(xmlHead) + documentHead(largePages_));
+    QFile body(scratch_->filePath(QString::fromLatin1(bodyName)));
+    if (body.open(QIODevice::ReadOnly))
+        while (!body.atEnd()) write(body.read(partSize));
+    body.close();
     save(path, documentTail, "MS Word 97", "doc");
 }
 

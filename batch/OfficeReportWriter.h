@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QSizeF>
 #include <QString>
 #include <QTemporaryDir>
+#include <vector>
 
 #include "base/Host.h"
 #include "batch/ReportWriter.h"
@@ -28,14 +30,17 @@ class OfficeReportWriter : public ReportWriter {
     int patience = 600'000;
 
  private:
-    void begin(const char* head);
-    void write(const QByteArray& part);
+    void begin();
+    void write(const QByteArray& part, const char* name = "report.xml");
+    QByteArray pageFor(QSizeF picture);
     void save(const std::string& path, const char* tail, const char* filter, const char* extension);
     std::string runOffice(const QStringList& arguments);
 
     Host& host_;
     std::unique_ptr<QTemporaryDir> scratch_;
     bool breakBefore_ = false;
+    QByteArray style_;                ///< of the paragraph that began the page at hand
+    std::vector<QSizeF> largePages_;  ///< in points; of pictures that the usual page cannot hold
 };
 
 }  // namespace zg

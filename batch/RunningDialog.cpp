@@ -58,6 +58,10 @@ void RunningDialog::browse(QLineEdit& field, const char* prompt) {
     leftDirectory(field);
 }
 
+void RunningDialog::tellNoDirectory(const std::string& reason) {
+    lblStatus->setText(QStringLiteral("The Working Directory cannot be created: ") + shown(reason));
+}
+
 void RunningDialog::say(const char* status) {
     lblStatus->setText(QString::fromLatin1(status));
     WaitMs(host_, 1);

@@ -29,6 +29,9 @@ class RunningDialog : public QDialog {
     /// Shows an error in the status line and marks the field.
     void refuse(QWidget& field, const char* text);
 
+    /// Tells in the status line why the working directory cannot be created.
+    void tellNoDirectory(const std::string& reason);
+
     /// Called when the focus leaves a box.
     void whenLeft(QWidget& field, std::function<void()> action) {
         leaving_.whenLeft(field, std::move(action));

@@ -1,5 +1,8 @@
 #include "processing/Directories.h"
 
+#include <cerrno>
+#include <cstring>
+
 #include "base/Files.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
@@ -21,11 +24,15 @@ bool isOutputDirectory(std::string_view typed) {
     return !(typed.starts_with(' ') && onlySeparators) && IsDirectory(directory);
 }
 
-bool MakeDirectoryTree(std::string_view path, char separator) {
-    if (path.size() > longestPath) return false;
+bool MakeDirectoryTree(std::string_view path, char separator, std::string* reason) {
+    const auto fail = [reason](const std::string& why) {
+        if (reason != nullptr) *reason = why;
+        return false;
+    };
+    if (path.size() > longestPath) return fail("the name is too long");
     if (IsDirectory(std::string(path))) return true;
     if (endsInSeparator(path, separator)) path.remove_suffix(1);
-    if (path.empty()) return false;
+    if (path.empty()) return fail("the name is empty");
 
     // From the path upwards to the first existing level; nothing left means the root or the current
     // directory.
@@ -34,7 +41,7 @@ bool MakeDirectoryTree(std::string_view path, char separator) {
         missing.push_back(level.size());
     for (; !missing.empty(); missing.pop_back()) {
         const std::string level(path.substr(0, missing.back()));
-        if (!makeDirectory(level) && !IsDirectory(level)) return false;
+        if (!makeDirectory(level) && !IsDirectory(level)) return fail(level + ": " + std::strerror(errno));
     }
     return true;
 }
@@ -46,7 +53,12 @@ void AskCreateWorkDir(Host& host, const WorkDirCaller& caller, const std::string
                       .title = "Create Directory?",
                       .icon = BoxIcon::Question,
                       .buttons = BoxButtons::YesNo});
-    if (answer != BoxAnswer::Yes || !MakeDirectoryTree(directory)) return;
+    if (answer != BoxAnswer::Yes) return;
+    std::string reason;
+    if (!MakeDirectoryTree(directory, pathSeparator, &reason)) {
+        if (caller.tellFailure) caller.tellFailure(reason);
+        return;
+    }
     caller.clearWorkDirBox();
     caller.restart();
 }

@@ -26,17 +26,19 @@ extern FileCounts fileCounts;
 bool isOutputDirectory(std::string_view typed);
 
 /// Creates all missing levels of the path, disregarding one final separator. True if the path is then a
-/// directory, false if it or a level above it cannot be created.
-bool MakeDirectoryTree(std::string_view path, char separator = pathSeparator);
+/// directory, false if it or a level above it cannot be created; the reason then says which and why.
+bool MakeDirectoryTree(std::string_view path, char separator = pathSeparator, std::string* reason = nullptr);
 
 /// What a dialog does once its working directory exists.
 struct WorkDirCaller {
     std::function<void()> clearWorkDirBox;  ///< paints the box of the working directory white
     std::function<void()> restart;          ///< starts the action again, including its checks
+    /// Tells in the dialog why the directory cannot be created; may be empty.
+    std::function<void(const std::string& reason)> tellFailure = {};
 };
 
 /// Asks whether to create the missing directory and, once it is created, continues the caller's action. If it
-/// cannot be created nothing happens, without a message, as after No.
+/// cannot be created no box is shown: the caller tells the reason.
 void AskCreateWorkDir(Host& host, const WorkDirCaller& caller, const std::string& directory);
 
 /// The names of the regular files that match a pattern such as "{directory}*.frq", hidden ones included, in

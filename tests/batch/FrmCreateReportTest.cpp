@@ -107,6 +107,7 @@ TEST_F(FrmCreateReport, ChecksInOrder) {
     EXPECT_TRUE(std::filesystem::is_directory(at("new")));
     EXPECT_FALSE(marked("txtWorkDirectory"));
     EXPECT_TRUE(calls_.empty()) << "no kind of report is chosen";
+    EXPECT_EQ(status(), "Please choose what to create: PowerPoint, Word or both.");
 }
 
 TEST_F(FrmCreateReport, ASlideShowHasASlideAPicture) {

@@ -123,6 +123,31 @@ TEST_F(OfficeReport, ADocumentHasAsManyPagesAsPicturesInTheirOwnSize) {
     EXPECT_TRUE(samePicture(images[0], QImage(QString::fromStdString(first))));
 }
 
+TEST_F(OfficeReport, EachPageIsAsLargeAsItsPictureNeeds) {
+    writer_.beginDocument();
+    writer_.addPicture(picture("a.bmp", {1200, 750}, qRgb(200, 10, 20)));
+    writer_.addPageBreak();
+    writer_.addPicture(picture("b.bmp", {96, 48}, qRgb(10, 200, 20)));
+    writer_.addPageBreak();
+    writer_.addPicture(picture("c.bmp", {750, 750}, qRgb(10, 20, 200)));
+    writer_.saveDocument(directory_.file("pages.doc"));
+    const std::string pdf = directory_.read(opened(directory_.file("pages.doc"), "pdf"));
+    std::vector<QSizeF> pages;
+    const std::string box = "/MediaBox[0 0 ";
+    for (std::size_t at = pdf.find(box); at != std::string::npos; at = pdf.find(box, at + 1)) {
+        std::size_t used = 0;
+        const std::string sizes = pdf.substr(at + box.size(), 60);
+        const double width = std::stod(sizes, &used);
+        pages.emplace_back(width, std::stod(sizes.substr(used)));
+    }
+    ASSERT_EQ(pages.size(), 3U) << "no picture takes two pages, and none is empty";
+    EXPECT_NEAR(pages[0].width(), 900 + 144, 2);
+    EXPECT_NEAR(pages[0].height(), 792, 2) << "never smaller than the usual page";
+    EXPECT_NEAR(pages[1].width(), 612, 2);
+    EXPECT_NEAR(pages[1].height(), 792, 2);
+    EXPECT_NEAR(pages[2].width(), 562.5 + 144, 2);
+}
+
 TEST_F(OfficeReport, AMissingOfficeIsToldAndNothingIsLeft) {
     writer_.program = "/nowhere/soffice";
     writer_.beginPresentation();

@@ -105,13 +105,16 @@ TEST(AskCreateWorkDirTest, NoEndsIt) {
     EXPECT_EQ(calls.order, "");
 }
 
-TEST(AskCreateWorkDirTest, DirectoryThatCannotBeMadeShowsNothing) {
+TEST(AskCreateWorkDirTest, DirectoryThatCannotBeMadeIsToldByTheCallerWithoutABox) {
     const TempDirectory temp;
     temp.write("file", "");
     TestHost host;
     host.boxAnswers = {BoxAnswer::Yes};
     Calls calls;
+    std::string told;
+    calls.caller.tellFailure = [&told](const std::string& reason) { told = reason; };
     AskCreateWorkDir(host, calls.caller, temp.file("file/new"));
+    EXPECT_EQ(told.substr(0, told.find(':')), temp.file("file")) << told;
     EXPECT_EQ(host.boxes.size(), 1U) << "the question alone";
     EXPECT_EQ(calls.order, "");
 }
