@@ -9,6 +9,7 @@
 namespace zg {
 
 std::string applicationDirectory;
+std::string settingsDirectory;
 
 namespace {
 
@@ -54,6 +55,11 @@ std::vector<std::string> namesInFolder(const std::string& folder) {
 
 std::string inApplicationDirectory(std::string_view name) {
     return applicationDirectory + pathSeparator + std::string(name);
+}
+
+std::string inSettingsDirectory(std::string_view name) {
+    if (settingsDirectory.empty()) return inApplicationDirectory(name);
+    return settingsDirectory + pathSeparator + std::string(name);
 }
 
 std::string FileNameOf(std::string_view path, char separator) {

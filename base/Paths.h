@@ -19,6 +19,13 @@ extern std::string applicationDirectory;
 /// applicationDirectory, the separator, and the name.
 std::string inApplicationDirectory(std::string_view name);
 
+/// Where the program keeps what it writes itself (settings, expressions, pictures), without a final
+/// separator; "" means applicationDirectory. It is set once at the start, if nothing can be written there.
+extern std::string settingsDirectory;
+
+/// That directory, the separator, and the name.
+std::string inSettingsDirectory(std::string_view name);
+
 /// The text after the last separator (the given one or "\"), or the whole text if there is none.
 std::string FileNameOf(std::string_view path, char separator = pathSeparator);
 

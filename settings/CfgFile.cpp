@@ -8,6 +8,7 @@
 #include "base/Text.h"
 #include "graph/frq/ModPolarGraph.h"
 #include "settings/Settings.h"
+#include "settings/WholeText.h"
 
 namespace zg {
 
@@ -80,21 +81,9 @@ std::string factoryText() {
     return text;
 }
 
-/// False if the bytes did not reach the file.
-bool writeFile(const std::string& path, const std::string& text) {
-    try {
-        LineWriter file(path);
-        file.write(text);
-        file.close();
-        return true;
-    } catch (const RunTimeError&) {
-        return false;
-    }
-}
-
 /// Writes the text to the file or, if that fails, keeps it in memory; returns whether it was written.
 bool keep(const std::string& text) {
-    const bool written = writeFile(settings.CfgFilePath, text);
+    const bool written = replaceFile(settings.CfgFilePath, text);
     settings.CfgInMemory = written ? std::string() : text;
     return written;
 }
@@ -140,8 +129,8 @@ void WriteCfgFile(const std::string& path) {
     visitLines(writer);
     const std::string text = std::move(writer).text();
     if (path != settings.CfgFilePath) {
-        if (!writeFile(path, text)) WriteDefaultCfgFile();
-    } else if (!keep(text) && writeFile(path, factoryText())) {
+        if (!replaceFile(path, text)) WriteDefaultCfgFile();
+    } else if (!keep(text) && replaceFile(path, factoryText())) {
         settings.CfgInMemory.clear();
     }
 }

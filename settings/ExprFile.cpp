@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "base/Files.h"
 #include "base/Lines.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "settings/WholeText.h"
 
 namespace zg {
 
@@ -19,12 +19,7 @@ std::string squeezedLower(const std::string& text) {
     return out;
 }
 
-void write(const std::string& path, const std::vector<std::string>& expressions) {
-    LineWriter file(path);
-    writeQuoted(file, fileKind);
-    for (const std::string& expression : expressions) writeQuoted(file, expression);
-    file.close();
-}
+std::string quoted(const std::string& text) { return '"' + text + "\"\r\n"; }
 
 }  // namespace
 
@@ -41,16 +36,9 @@ std::vector<std::string> readExpressions(const std::string& path) {
 }
 
 bool writeExpressions(const std::string& path, const std::vector<std::string>& expressions) {
-    const std::string fresh = path + ".new";
-    try {
-        write(fresh, expressions);
-    } catch (const RunTimeError&) {
-        removeFile(fresh);
-        return false;
-    }
-    const bool replaced = moveFile(fresh, path);
-    if (!replaced) removeFile(fresh);
-    return replaced;
+    std::string text = quoted(fileKind);
+    for (const std::string& expression : expressions) text += quoted(expression);
+    return replaceFile(path, text);
 }
 
 bool sameExpression(const std::string& a, const std::string& b) {

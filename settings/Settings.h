@@ -13,7 +13,7 @@ using MonthTexts = std::array<std::string, 12>;  ///< January at 0
 using ClassTexts = std::array<std::string, 6>;
 
 struct Settings {
-    std::string CfgFilePath;  ///< Zephyrgraph.cfg in the program's directory
+    std::string CfgFilePath;  ///< Zephyrgraph.cfg in settingsDirectory
     std::string CfgInMemory;  ///< its lines if they could not be written; "" if they could
 
     std::string DefaultTimeZone;  ///< label of the time zone offered first

@@ -10,20 +10,25 @@
 #include "shell/FrmMain.h"
 #include "shell/FrmSplashScreen.h"
 #include "shell/ReadOnlyPlace.h"
+#include "shell/WindowPlace.h"
 
 namespace zg {
 
+std::string userConfigDirectory() {
+    return filePath(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
+}
+
 int runProgram(Host& host, const std::string& frqFile) {
     std::unique_ptr<frmMain> window;
-    const auto showMain = [&host, &window, &frqFile] {
+    std::unique_ptr<WindowPlace> place;
+    const auto showMain = [&host, &window, &place, &frqFile] {
         window = std::make_unique<frmMain>(host);
         guarded(host, [&window] { window->Form_Load(); })();
+        place = std::make_unique<WindowPlace>(*window);
         window->show();
         // After the splash has closed.
-        QTimer::singleShot(0, window.get(), guarded(host, [&host] {
-                               const auto notes = QStandardPaths::AppConfigLocation;
-                               tellReadOnlyPlace(host, filePath(QStandardPaths::writableLocation(notes)));
-                           }));
+        QTimer::singleShot(0, window.get(),
+                           guarded(host, [&host] { tellReadOnlyPlace(host, userConfigDirectory()); }));
         if (frqFile.empty()) return;
         QTimer::singleShot(0, window.get(),
                            guarded(host, [&window, &frqFile] { window->PlotFrqFile(frqFile); }));

@@ -11,4 +11,7 @@ namespace zg {
 /// shown.
 int runProgram(Host& host, const std::string& frqFile = {});
 
+/// The directory for the program's own files in the user's configuration; it need not exist.
+std::string userConfigDirectory();
+
 }  // namespace zg

@@ -6,6 +6,7 @@
 #include "base/Lines.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
+#include "settings/WholeText.h"
 
 namespace zg {
 
@@ -33,6 +34,23 @@ void noteAsTold(const std::string& notes) {
     }
 }
 
+std::string whatHappensInstead() {
+    if (!settingsDirectory.empty()) return "They are kept in " + settingsDirectory + " instead.";
+    return "The program works all the same; changes of these are lost when it ends. Results go to the "
+           "directories you choose. A copy of the program in a directory of your own keeps them.";
+}
+
+/// A copy of a file that lies beside the program, unless the user has one already.
+void takeOver(const char* name) {
+    const std::string delivered = inApplicationDirectory(name);
+    if (!fileExists(delivered) || fileExists(inSettingsDirectory(name))) return;
+    try {
+        replaceFile(inSettingsDirectory(name), readWholeFile(delivered));
+    } catch (const RunTimeError&) {
+        return;  // it cannot be read: the factory values take its place
+    }
+}
+
 }  // namespace
 
 bool canWriteIn(const std::string& directory) {
@@ -45,6 +63,15 @@ bool canWriteIn(const std::string& directory) {
     return whole && closed;
 }
 
+void chooseSettingsDirectory(const std::string& userDirectory) {
+    settingsDirectory.clear();
+    if (canWriteIn(applicationDirectory)) return;
+    makeDirectories(userDirectory);
+    if (!canWriteIn(userDirectory)) return;
+    settingsDirectory = userDirectory;
+    for (const char* name : {"Zephyrgraph.cfg", "expr.dat"}) takeOver(name);
+}
+
 void tellReadOnlyPlace(Host& host, const std::string& notesDirectory) {
     if (canWriteIn(applicationDirectory)) return;
     const std::string notes = withSeparator(notesDirectory) + "told-places";
@@ -52,9 +79,7 @@ void tellReadOnlyPlace(Host& host, const std::string& notesDirectory) {
     host.showBox(
         {"Zephyrgraph keeps its settings, expressions and background pictures beside itself, but files "
          "cannot be made in " +
-             applicationDirectory +
-             ".\n\nThe program works all the same; changes of these are lost when it ends. Results go to "
-             "the directories you choose. A copy of the program in a directory of your own keeps them.",
+             applicationDirectory + ".\n\n" + whatHappensInstead(),
          "", BoxIcon::Information, BoxButtons::Ok});
     makeDirectories(notesDirectory);
     noteAsTold(notes);

@@ -10,8 +10,12 @@ namespace zg {
 bool canWriteIn(const std::string& directory);
 
 /// The program keeps its settings, expressions and pictures in its own directory. If it cannot write there,
-/// it tells the user, once per place: a file in the given directory, created when needed, lists the places.
-/// If that cannot be written either, the user is told at each start.
+/// settingsDirectory becomes the given one, which is created; settings and expressions that lie beside the
+/// program are copied there once. If that one cannot be written either, nothing is kept.
+void chooseSettingsDirectory(const std::string& userDirectory);
+
+/// Tells the user if the settings are not beside the program, once per place: a file in the given directory
+/// lists the places. If that cannot be written either, the user is told at each start.
 void tellReadOnlyPlace(Host& host, const std::string& notesDirectory);
 
 }  // namespace zg

@@ -16,7 +16,7 @@
 namespace zg {
 
 void startSettings() {
-    settings.CfgFilePath = inApplicationDirectory(cfgFileName);
+    settings.CfgFilePath = inSettingsDirectory(cfgFileName);
     ReadCfgFile(settings.CfgFilePath);
     acceptSeasons(loadSeasonFields());
     buildWindClassString();
@@ -41,7 +41,9 @@ void resetWindClassMin() {
 }
 
 std::string backgroundPicturePath(std::string_view name) {
-    return existingFile(inApplicationDirectory("Bitmap") + pathSeparator + std::string(name));
+    const std::string beside = pathSeparator + std::string(name);
+    const std::string own = existingFile(inSettingsDirectory("Bitmap") + beside);
+    return own.empty() ? existingFile(inApplicationDirectory("Bitmap") + beside) : own;
 }
 
 std::optional<BackgroundPicture> findBackgroundPicture() {
@@ -53,14 +55,14 @@ std::optional<BackgroundPicture> findBackgroundPicture() {
 }
 
 void removeBackgroundPictures() {
-    const std::string directory = inApplicationDirectory("Bitmap");
+    const std::string directory = inSettingsDirectory("Bitmap");
     // A missing directory has none; a name that is nothing but an extension has no extension.
     for (const std::string& name : namesIn(directory))
         if (lcase(name).ends_with(".pgw") && name.size() > 4) removeFile(directory + pathSeparator + name);
 }
 
 std::string newBackgroundPicturePath(std::int32_t style) {
-    const std::string directory = inApplicationDirectory("Bitmap");
+    const std::string directory = inSettingsDirectory("Bitmap");
     if (!makeDirectories(directory)) raise(ErrorNumber::PathFileAccessError);
     return directory + pathSeparator + "WP" + std::to_string(std::clamp(style, 0, 3) + 1) + ".pgw";
 }

@@ -30,7 +30,8 @@ void clearLabelLines();
 /// is written before a dialog has read it again, it gets the factory ones.
 void resetWindClassMin();
 
-/// Full path of a picture in the program's Bitmap directory, "" if there is none of that name.
+/// Full path of a picture in the Bitmap directory of the settings or of the program, "" if there is none of
+/// that name.
 std::string backgroundPicturePath(std::string_view name);
 
 struct BackgroundPicture {

@@ -13,6 +13,7 @@
 #include "platform/QtHost.h"
 #include "platform/QtText.h"
 #include "shell/ProgramStart.h"
+#include "shell/ReadOnlyPlace.h"
 #include "shell/StartSequence.h"
 
 namespace {
@@ -41,6 +42,7 @@ int main(int argc, char** argv) {
     zg::applicationDirectory = zg::filePath(QCoreApplication::applicationDirPath());
     zg::useFontsBeside(zg::applicationDirectory);
     zg::QtHost host;
+    zg::chooseSettingsDirectory(zg::userConfigDirectory());
     zg::startSettings();
     zg::LoadStationData();
     const std::string file = zg::wholePath(word);

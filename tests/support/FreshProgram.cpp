@@ -26,6 +26,7 @@ void reset() {
     zg::modInfoViewDLL = {zg::readGridFileHeader, {}, {}, {}, {}};
     zg::modDatums = {zg::readDatumRecord, {}};
     zg::applicationDirectory.clear();
+    zg::settingsDirectory.clear();
 }
 
 }  // namespace
