@@ -6,6 +6,7 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "dialogs/gridded/DatumTable.h"
 #include "headers/InfoView.h"
@@ -342,7 +343,13 @@ bool frmProjectionInfo::CheckProjection(const ProjectionChoice*& choice) {
 }
 
 void frmProjectionInfo::wrapLatitudes() {
-    for (const char* box : latitudeBoxes()) setText(box, wrapped(text(box)));
+    for (const char* box : latitudeBoxes()) {
+        try {
+            setText(box, wrapped(text(box)));
+        } catch (const RunTimeError&) {
+            continue;  // no number: it belongs to another projection, whose fields are hidden
+        }
+    }
 }
 
 void frmProjectionInfo::cmdOK_Click() {
