@@ -98,6 +98,15 @@ void PageWidget::paintEvent(QPaintEvent* event) {
     const double scale = page.devicePixelRatio();
     painter.drawImage(shownPart, page, QRectF(shownPart.topLeft() * scale, shownPart.size() * scale));
     paintShapes(painter);
+    paintInvitation(painter);
+}
+
+void PageWidget::paintInvitation(QPainter& painter) const {
+    if (owner_.invitation().isEmpty()) return;
+    const QColor grey(96, 96, 96);
+    painter.setPen(grey);
+    painter.drawText(QRect(0, height() / 40, width(), height() / 12),
+                     Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextWordWrap, owner_.invitation());
 }
 
 void PageWidget::showShapes(const ChildSurfaces& surfaces) {

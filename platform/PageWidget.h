@@ -36,6 +36,7 @@ class PageWidget : public QWidget {
         ChildSurface crossV;
     };
     void paintShapes(QPainter& painter) const;
+    void paintInvitation(QPainter& painter) const;
 
     PolarGraphWidget& owner_;
     Shapes shapes_;

@@ -176,7 +176,18 @@ void PolarGraphWidget::followScreen() {
                        }));
 }
 
+void PolarGraphWidget::setInvitation(const QString& text) {
+    if (text == invitation_) return;
+    invitation_ = text;
+    picGraph_->update();
+}
+
 void PolarGraphWidget::wheelEvent(QWheelEvent* event) {
+    const int turned = event->angleDelta().y();
+    if (event->modifiers().testFlag(Qt::ControlModifier)) {
+        if (turned != 0) emit zoomTurned(turned > 0 ? 1 : -1);
+        return;
+    }
     QScrollBar* bar = event->modifiers().testFlag(Qt::ShiftModifier) ? hsScroll_ : vsScroll_;
     if (bar->isVisible()) QCoreApplication::sendEvent(bar, event);
 }

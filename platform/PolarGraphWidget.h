@@ -35,11 +35,18 @@ class PolarGraphWidget : public QWidget, private ControlWindow {
     /// Asks for a printer; false if cancelled. May be replaced to bypass the desktop's dialog.
     std::function<bool(QPrinter& printer)> askPrinter;
 
+    /// A line in grey over the empty page, in the window only; an empty one shows nothing.
+    void setInvitation(const QString& text);
+    const QString& invitation() const { return invitation_; }
+
     /// Small enough for any window; the page scrolls.
     QSize minimumSizeHint() const override { return {200, 160}; }
 
  signals:
     void aboutRequested(const QString& title);
+
+    /// The wheel was turned with Ctrl held: 1 for away from the user, -1 for towards the user.
+    void zoomTurned(int direction);
 
  protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -77,6 +84,7 @@ class PolarGraphWidget : public QWidget, private ControlWindow {
     QImage page_;
     QImage kept_;  ///< the persistent picture; shares its pixels with the page until the page is painted on
     std::unique_ptr<QtCanvas> canvas_;  ///< only while the page is being painted
+    QString invitation_;
     QWidget* picShadow_;
     PageWidget* picGraph_;
     QScrollBar* hsScroll_;

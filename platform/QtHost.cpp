@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QThread>
 #include <QTimer>
+#include <algorithm>
 
 #include "base/Numbers.h"
 #include "base/Text.h"
@@ -72,6 +73,14 @@ void setUp(QFileDialog& dialog, const FilePick& pick) {
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !pick.overwritePrompt);
 }
 
+/// The suffix of a filter's first pattern, "bmp" for "*.bmp"; "" if that is not one suffix.
+QString suffixOf(const std::string& filter) {
+    const std::size_t at = filter.find("*.");
+    if (at == std::string::npos) return {};
+    const std::size_t end = std::min(filter.find_first_of(" ;|*)", at + 2), filter.size());
+    return shown(filter.substr(at + 2, end - at - 2));
+}
+
 std::string chosen(QFileDialog& dialog) {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
     return filePath(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
@@ -101,6 +110,7 @@ std::string QtHost::pickFileToSave(const FilePick& pick) {
                        pick.title.empty() ? QStringLiteral("Save As") : shown(pick.title));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     setUp(dialog, pick);
+    dialog.setDefaultSuffix(suffixOf(pick.filter));
     return chosen(dialog);
 }
 

@@ -24,7 +24,7 @@ constexpr int gapsOfTheTray = 5;
 }  // namespace
 
 frmExpr::frmExpr(Host& host, QWidget* parent)
-    : QDialog(parent), host_(host), ExprFilePath(inApplicationDirectory("expr.dat")) {
+    : QDialog(parent), host_(host), ExprFilePath(inSettingsDirectory("expr.dat")) {
     nameForm(*this, "frmExpr", "Expressions");
     lblMsg =
         named(new QLabel(QStringLiteral("Select the e&xpression would you like to used, then click OK.")),
@@ -138,6 +138,12 @@ void frmExpr::cmdOkExpr_Click() {
     const std::string fault = expressionFault(expression, [this] { return host_.tickCount(); });
     if (!fault.empty()) {
         host_.showBox({fault, "Error", BoxIcon::Information, BoxButtons::Ok});
+        txtExpr->setFocus();
+        return;
+    }
+    if (expression.find('"') != std::string::npos) {
+        host_.showBox({"The list cannot keep a double quote (\"), so this expression cannot be added.",
+                       typed(fraTray->title()), BoxIcon::Information, BoxButtons::Ok});
         txtExpr->setFocus();
         return;
     }

@@ -49,6 +49,7 @@ frmMain::frmMain(Host& host) : host_(host) {
         GraphListHooks{[this] { pressTool(Tool::Arrow); }, [this](bool value) { lockWhileDrawing(value); },
                        [this](const GrapInfo& graph) { beginProgress(graph); }});
     followPlot();
+    makeHabits();
     resize(sizeOnScreen());
 }
 
@@ -106,6 +107,7 @@ void frmMain::PlotFrqFile(const std::string& path) {
     settings.CurrentFrqPath = path;
     pgPolarGraph().OpenFreqFile(path);
     if (pgPolarGraph().lastOpenOutcome() != FreqFileOutcome::Loaded) return;
+    ui_.pgPolarGraph->setInvitation({});
     graphs_->listPlot();
     pgPolarGraph().DrawGraph();
     if (!pgPolarGraph().Comment().empty()) frmComment(host_, pgPolarGraph(), this).exec();

@@ -73,6 +73,8 @@ class frmMain : public QMainWindow {
  protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
  private:
     using Commands = std::map<std::string, std::function<void()>>;
@@ -91,13 +93,17 @@ class frmMain : public QMainWindow {
     void process(Values... values);
 
     bool openFrqFile(const std::string& path);
+    void chooseFrqFile(const std::string& path);
     std::string askForFrqFile();
+    void makeHabits();
+    void showRecentFiles();
     void selectPage();
     void copyTo();
     void mnuEdit_Open();
     void showBatchMode();
     ProcessingWindow processingWindow();
     void toggleShown(const char* entry, QWidget& bar);
+    void selectWindRose();
     void viewFrqFile();
     void showAbout(const QString& title = {});
 

@@ -2,6 +2,7 @@
 
 #include <QCursor>
 #include <QMenu>
+#include <QTimer>
 
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
@@ -39,6 +40,7 @@ void frmMain::followPlot() {
     };
     events.MouseUp = [this](std::int16_t button, std::int16_t, float, float) {
         toolbox_->mouseUp(button);
+        QTimer::singleShot(0, this, [this] { followSelection(); });  // the plot makes the selection next
         if (button == rightButton) actions_.at("mnuEdit")->menu()->popup(QCursor::pos());
     };
     events.KeyDown = [this](std::int16_t& keyCode, std::int16_t) {
@@ -47,6 +49,7 @@ void frmMain::followPlot() {
         escape();
     };
     events.DrawProgress = [this](float, float, float, float, float) { ui_.pgbProgressBar->advance(); };
+    events.CurveEnded = [this](std::int16_t index) { graphs_->showFailure(index); };
     connect(ui_.pgPolarGraph, &PolarGraphWidget::aboutRequested, this,
             guarded(host_, [this](const QString& title) { showAbout(title); }));
 }
@@ -61,6 +64,7 @@ void frmMain::lockWhileDrawing(bool value) {
     }
     for (const MenuEntry& entry : menuTree())
         if (entry.lock == Lock::WhileDrawing) actions_.at(entry.name)->setEnabled(value && isOfUse(entry));
+    if (!value) ui_.pgPolarGraph->setInvitation({});
     graphs_->setFree(value);
     toolbox_->setFree(value);
     if (value) ui_.pgbProgressBar->hide();

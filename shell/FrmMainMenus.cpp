@@ -47,7 +47,7 @@ void frmMain::process(Values... values) {
 frmMain::Commands frmMain::fileCommands() {
     return {
         {"mnuFileOption_1",
-         [this] { openFrqFile(settings.BatchMode ? settings.BatchFRQFilename : askForFrqFile()); }},
+         [this] { chooseFrqFile(settings.BatchMode ? settings.BatchFRQFilename : askForFrqFile()); }},
         {"mnuFileOption_3",
          [this] {
              useLibrariesBeside(applicationDirectory);
@@ -100,7 +100,7 @@ frmMain::Commands frmMain::viewCommands() {
         {"mnuViewZoomSize_0", [this] { toolbox_->setZoom(125); }},
         {"mnuViewZoomSize_1", [this] { toolbox_->setZoom(200); }},
         {"mnuViewZoomSize_2", [this] { toolbox_->askForZoom(); }},
-        {"mnuAvePeriod", [this] { frmSelectWindRose(host_, pgPolarGraph(), this).exec(); }},
+        {"mnuAvePeriod", [this] { selectWindRose(); }},
         {"mnuHelpAbout", [this] { showAbout(); }},
     };
     for (const int i : {0, 1, 2, 3, 5})
@@ -177,6 +177,11 @@ void frmMain::makeMenus() {
     }
     connect(actions_.at("mnuEdit")->menu(), &QMenu::aboutToShow, this,
             guarded(host_, [this] { mnuEdit_Open(); }));
+    // A right click on the corner of the rulers changes the mode too.
+    connect(actions_.at("mnuViewRulerMode")->menu(), &QMenu::aboutToShow, this, [this] {
+        const bool axis = pgPolarGraph().SetRulerMode() == 0;
+        actions_.at(axis ? "mnuViewRulerModeOption_0" : "mnuViewRulerModeOption_1")->setChecked(true);
+    });
 }
 
 QAction* frmMain::menuAction(const std::string& name) const {
@@ -245,9 +250,19 @@ void frmMain::toggleShown(const char* entry, QWidget& bar) {
     bar.setVisible(actions_.at(entry)->isChecked());
 }
 
+void frmMain::selectWindRose() {
+    if (modPolarGraph.FrqLoaded && modPolarGraph.FrqRoseCount == 0) {
+        host_.showBox({"The file has no wind roses: it ends after its header.", "Select Wind Rose to Plot",
+                       BoxIcon::Information, BoxButtons::Ok});
+        return;
+    }
+    frmSelectWindRose(host_, pgPolarGraph(), this).exec();
+}
+
 void frmMain::viewFrqFile() {
     if (settings.CurrentFrqPath.empty()) return;
-    ViewTextFile(host_, starter_, settings.CurrentFrqPath, applicationDirectory);
+    const std::string place = settingsDirectory.empty() ? applicationDirectory : settingsDirectory;
+    ViewTextFile(host_, starter_, settings.CurrentFrqPath, place);
 }
 
 void frmMain::showAbout(const QString& title) {

@@ -173,7 +173,8 @@ QWidget* frmProperties::makeOptions() {
     txtAngle[0]->setToolTip(QStringLiteral("Degrees of the first point of the curve"));
     txtAngle[1]->setToolTip(QStringLiteral("Degrees of the last point of the curve"));
     txtStep->setToolTip(QStringLiteral("Degrees from one point of the curve to the next"));
-    txtDelay->setToolTip(QStringLiteral("Milliseconds from one point to the next when the curve is played"));
+    txtDelay->setToolTip(
+        QStringLiteral("Milliseconds from one point to the next when the curve is played, at most 32,767"));
     add("&Starting angle :", txtAngle[0], wide);
     add("&Ending angle  :", txtAngle[1], wide);
     add("S&tep               :", txtStep, "Range: 0.0001...10,000");
@@ -181,6 +182,7 @@ QWidget* frmProperties::makeOptions() {
     auto* note = new QLabel(
         QStringLiteral("To turn on animation set delay > 0. At the main menu, click Graph->Play."));
     note->setWordWrap(true);
+    note->setToolTip(QStringLiteral("A right click on the curve's row in the list opens the menu with Play"));
     grid->addWidget(note, row, 0, 1, 3);
     grid->setRowStretch(row + 1, 1);
     grid->setColumnStretch(3, 1);

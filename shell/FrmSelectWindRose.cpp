@@ -43,6 +43,9 @@ frmSelectWindRose::frmSelectWindRose(Host& host, PolarGraph& graph, QWidget* par
 
 void frmSelectWindRose::fillList() {
     if (modPolarGraph.FrqRoseCount == 1) {
+        cboWindRoseNumber->setPlaceholderText(modPolarGraph.FrqLoaded
+                                                  ? QStringLiteral("The file has only one wind rose")
+                                                  : QStringLiteral("No file has been opened"));
         DisableField(*cboWindRoseNumber);
         cmdOk->setEnabled(false);
         return;

@@ -1,8 +1,10 @@
 #include "shell/GraphList.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QMenu>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <memory>
 
 #include "base/AtEnd.h"
@@ -34,6 +36,14 @@ void ghost(QTreeWidgetItem& row, bool hidden) {
     row.setIcon(0, QIcon(hidden ? ghosted(swatch) : swatch));
     for (const int column : {coefficientColumn, equationColumn})
         row.setData(column, Qt::ForegroundRole, hidden ? QVariant(QBrush(Qt::gray)) : QVariant());
+}
+
+/// A curve that could not be painted whole has a sign in its row, and the reason as tool tip.
+void markFailure(QTreeWidgetItem& row, const std::string& failure) {
+    const bool failed = !failure.empty();
+    row.setIcon(equationColumn,
+                failed ? QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning) : QIcon());
+    for (int column = 0; column <= equationColumn; ++column) row.setToolTip(column, shown(failure));
 }
 
 void selectFrom(QLineEdit& box, const std::string& text, int column) {
@@ -105,9 +115,16 @@ void GraphList::add(std::int16_t index) {
     row->setText(coefficientColumn, shown(graph.Coefficient));
     row->setText(equationColumn, shown(graph.Equation));
     ghost(*row, !graph.Visible);
+    markFailure(*row, graph.Failure);
     ui_.lvwTable->addTopLevelItem(row);
     ui_.lvwTable->scrollToItem(row);
     if (ui_.lvwTable->topLevelItemCount() == 1) selectOnly(0);
+}
+
+void GraphList::showFailure(std::int16_t index) {
+    // A curve that is being plotted has no row yet.
+    if (QTreeWidgetItem* row = ui_.lvwTable->topLevelItem(index - 1))
+        markFailure(*row, graphOfRow(index - 1).Failure);
 }
 
 /// Rebuilds rows, pictures and the box's list; what is typed in the row of boxes stays.
@@ -171,6 +188,7 @@ void GraphList::cmdPlot_Click() {
     const AtEnd plotted([this] { plotting_ = false; });
     plotting_ = true;
     hooks_.pressArrow();
+    if (trim(typed(ui_.cmbFunction->currentText())).empty()) return;  // Enter in the empty box
     const auto texts = checkedTexts();
     if (!texts) return;
     Plot& curves = plot().Plot();
@@ -235,9 +253,14 @@ void GraphList::lvwTable_ItemClick() {
 
 void GraphList::showInEditRow(int row) {
     const QTreeWidgetItem* item = ui_.lvwTable->topLevelItem(row);
-    const Series& series = graphOfRow(row).Series;
     ui_.txtCoefficient->setText(item->text(coefficientColumn));
     ui_.cmbFunction->setEditText(item->text(equationColumn));
+    showColours(row);
+}
+
+/// Replace gives the row's curve the colours of the boxes.
+void GraphList::showColours(int row) {
+    const Series& series = graphOfRow(row).Series;
     ui_.picColor[0]->setColour(series.Pen.FillColor);
     ui_.picColor[1]->setColour(series.Marker.FillColor);
 }
@@ -347,6 +370,7 @@ void GraphList::showProperties() {
     const auto applied = [this, row] {
         rebuild();
         selectOnly(row);
+        showColours(row);
         plot().DrawGraph();
     };
     frmProperties(host_, graphOfRow(row), applied, &window_).exec();

@@ -38,6 +38,9 @@ class GraphList : public QObject {
     /// Appends the row of the plot's curve of that number, from 1.
     void add(std::int16_t index);
 
+    /// Shows in the row of the curve of that number whether its last painting failed.
+    void showFailure(std::int16_t index);
+
     /// Shows the plot's curves, the first one in the boxes.
     void listPlot();
 
@@ -74,6 +77,7 @@ class GraphList : public QObject {
     void cmbFunction_Click(int index);
     void lvwTable_ItemClick();
     void showInEditRow(int row);
+    void showColours(int row);
     void popUpMenu(const QPoint& at);
     void mnuGraph_Open();
     std::unique_ptr<frmTable> sampledTable(const GrapInfo& graph, const QPixmap& swatch);

@@ -98,6 +98,7 @@ void Toolbox::dropSelection() {
     if (plot().SetActiveTool() != selectTool) return;
     plot().SetActiveTool(0);
     plot().SetActiveTool(selectTool);
+    loadCursor(ToolCursor::Select);  // the plot has set its own pointer
     followSelection_();
 }
 
@@ -166,6 +167,22 @@ void Toolbox::stepList() {
     constexpr int lastZoomStep = 12;
     if (pressed_ == Tool::Aspect) step(*ui_.lstAspect, lastAspectStep);
     if (pressed_ == Tool::Zoom) step(*ui_.lstZoom, lastZoomStep);
+}
+
+void Toolbox::turnZoom(int direction) {
+    const int present = plot().Zoom();
+    const auto percent = [this](int row) {
+        return static_cast<int>(val(typed(ui_.lstZoom->item(row)->text())));
+    };
+    int next = -1;  // the nearest row beyond the present zoom, which need not be in the list
+    for (int row = 0; row < customZoomRow; ++row) {
+        const int steps = (percent(row) - present) * direction;
+        if (steps > 0 && (next < 0 || steps < (percent(next) - present) * direction)) next = row;
+    }
+    if (next < 0) return;
+    const QSignalBlocker quiet(ui_.lstZoom);
+    ui_.lstZoom->setCurrentRow(next);
+    lstZoom_Click(next);
 }
 
 void Toolbox::mouseDown(std::int16_t button) {

@@ -48,6 +48,9 @@ class Toolbox : public QObject {
     /// click on the row.
     void stepList();
 
+    /// Moves to the next zoom of the list in that direction, 1 or -1; stays at the list's ends.
+    void turnZoom(int direction);
+
     // The pointer on the page.
     void mouseDown(std::int16_t button);
     void mouseMove(std::int16_t button);

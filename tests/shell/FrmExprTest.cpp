@@ -69,6 +69,19 @@ TEST_F(FrmExpr, AnUnquotedCommaPartsTwoRecords) {
     EXPECT_EQ(rows(), (Rows{"sin(t)", "cos(t)"}));
 }
 
+TEST_F(FrmExpr, ADoubleQuoteWhichTheFileCannotHoldIsRefused) {
+    open(twoRows);
+    click("cmdAdd");
+    host_.boxAnswers = {BoxAnswer::Ok};
+    accept("len(\"ab\")");
+    ASSERT_EQ(host_.boxes.size(), 1U);
+    EXPECT_EQ(host_.boxes[0].text,
+              "The list cannot keep a double quote (\"), so this expression cannot be added.");
+    EXPECT_EQ(host_.boxes[0].title, "Add");
+    EXPECT_EQ(list().count(), 2);
+    EXPECT_EQ(box().text(), "len(\"ab\")") << "it can be mended";
+}
+
 TEST_F(FrmExpr, AFileOfAnotherKindGivesAnEmptyListAndNoMessage) {
     open("\"POLAR GRAPH 1.0\"\r\n\"sin(t)\"\r\n");
     EXPECT_EQ(list().count(), 0);

@@ -108,6 +108,60 @@ TEST_F(FrmMainGraphs, ADivisionByZeroAtTheCheckStillPlots) {
     EXPECT_EQ(child<QComboBox>("cmbFunction")->count(), 1);
 }
 
+TEST_F(FrmMainGraphs, ACurveThatFailsIsToldOnceAndTheOthersArePaintedWhole) {
+    host_.boxAnswers = {BoxAnswer::Ok};
+    plotCurve("1/t");
+    EXPECT_EQ(host_.boxes.size(), 1U);
+    plotCurve("3");
+    const int whole = bluePixels();
+    EXPECT_GT(whole, 50);
+    plot().Refresh();
+    EXPECT_EQ(bluePixels(), whole) << "the curve after the failing one is painted too";
+    window_->menuAction("mnuPolarOption_1")->trigger();
+    EXPECT_EQ(host_.boxes.size(), 1U) << "not told at each redraw";
+}
+
+TEST_F(FrmMainGraphs, ARowTellsWhyItsCurveIsNotWhole) {
+    host_.boxAnswers = {BoxAnswer::Ok};
+    plotCurve("1/t");
+    plotCurve("3");
+    EXPECT_EQ(table().topLevelItem(0)->toolTip(2), "Division by zero");
+    EXPECT_FALSE(table().topLevelItem(0)->icon(2).isNull());
+    EXPECT_EQ(table().topLevelItem(1)->toolTip(2), "");
+    EXPECT_TRUE(table().topLevelItem(1)->icon(2).isNull());
+    graph(1).StartingAngle = 1;
+    plot().Refresh();
+    EXPECT_EQ(table().topLevelItem(0)->toolTip(2), "") << "it is whole now";
+    EXPECT_TRUE(table().topLevelItem(0)->icon(2).isNull());
+}
+
+TEST_F(FrmMainGraphs, AFailingCurveIsToldAgainAfterAChangeOfItsTextCoefficientOrRange) {
+    host_.boxAnswers.assign(4, BoxAnswer::Ok);
+    plotCurve("1/t");
+    type(equation(), "2/t");
+    click("cmdReplace");
+    EXPECT_EQ(host_.boxes.size(), 2U);
+    type(coefficient(), "a=1");
+    click("cmdReplace");
+    EXPECT_EQ(host_.boxes.size(), 3U);
+    graph(1).EndingAngle = 90;
+    window_->menuAction("mnuPolarOption_1")->trigger();
+    EXPECT_EQ(host_.boxes.size(), 4U);
+    graph(1).Series.Pen.Weight = 3;
+    window_->menuAction("mnuPolarOption_1")->trigger();
+    EXPECT_EQ(host_.boxes.size(), 4U) << "its looks have nothing to do with it";
+}
+
+TEST_F(FrmMainGraphs, EnterInTheEmptyBoxAddsNothing) {
+    plotCurve("2");
+    for (const char* text : {"", "  "}) {
+        type(equation(), text);
+        QTest::keyClick(&equation(), Qt::Key_Return);
+        EXPECT_EQ(plot().Plot().Count(), 1);
+        EXPECT_EQ(table().topLevelItemCount(), 1);
+    }
+}
+
 TEST_F(FrmMainGraphs, AFaultyEquationIsToldAndSelectedFromItsColumn) {
     host_.boxAnswers = {BoxAnswer::Ok};
     plotCurve("2*sin(t))+1");
@@ -564,6 +618,46 @@ TEST_F(FrmMainGraphs, PropertiesApplyToTheSelectedRowWhichStaysSelected) {
     EXPECT_FALSE(graph(1).Series.AllowMarker);
     EXPECT_TRUE(graph(2).Series.AllowMarker) << "Cancel keeps what Apply did";
     EXPECT_EQ(selected(), std::vector<int>{1});
+}
+
+TEST_F(FrmMainGraphs, AfterPropertiesTheRowsColoursAreKeptByReplace) {
+    plotCurve("2");
+    clickRow(0);
+    const Colour fresh = rgb(1, 2, 3);
+    host_.colourAnswers = {fresh};
+    QTimer::singleShot(0, [] {
+        auto* dialog = QApplication::activeModalWidget();
+        ASSERT_NE(dialog, nullptr);
+        QTest::mouseClick(dialog->findChild<QWidget*>("cmdLcolor"), Qt::LeftButton);
+        QTest::mouseClick(dialog->findChild<QWidget*>("cmdOK"), Qt::LeftButton);
+    });
+    choose(11);
+    EXPECT_EQ(graph(1).Series.Pen.FillColor, fresh);
+    click("cmdReplace");
+    EXPECT_EQ(graph(1).Series.Pen.FillColor, fresh);
+}
+
+TEST_F(FrmMainGraphs, ARedrawDuringAnAnimationLeavesItWhole) {
+    plotCurve("a*2", "a=1");
+    plotCurve("a+1", "a=2");
+    const int whole = bluePixels();
+    graph(2).Delay = 1;
+    clickRow(1);
+    int pumps = 0;
+    int during = 0;
+    host_.onPump = [&] {
+        if (++pumps == 300) window_->menuAction("mnuViewRulerShow")->trigger();
+        if (pumps == 180) plot().Refresh();
+        if (pumps == 182) during = bluePixels();
+        EXPECT_FALSE(child("tblToolbar_open")->isEnabled()) << "still locked";
+        host_.now += 1;
+    };
+    choose(6);
+    host_.onPump = nullptr;
+    EXPECT_GT(during, whole / 2) << "the other curve, and what has been painted of this one";
+    EXPECT_GE(pumps, 361) << "it goes on to its last angle";
+    EXPECT_NEAR(bluePixels(), whole, whole / 20) << "neither curve has the other's coefficient";
+    EXPECT_TRUE(child("tblToolbar_open")->isEnabled());
 }
 
 }  // namespace

@@ -315,5 +315,22 @@ TEST_F(FrmMainPlot, SaveAsksForAFileAndCopyNeedsASelection) {
     EXPECT_NE(host_.boxes[0].text.find("Path/File access error: "), std::string::npos);
 }
 
+TEST_F(FrmMainPlot, CopyIsOnAsSoonAsASelectionIsDragged) {
+    window_->pressTool(Tool::Select);
+    QTest::mousePress(&page(), Qt::LeftButton, Qt::NoModifier, QPoint(10, 20));
+    plot().mouseMove(leftButton, 0, 59, 39);
+    QTest::mouseRelease(&page(), Qt::LeftButton, Qt::NoModifier, QPoint(59, 39));
+    QApplication::processEvents();
+    EXPECT_TRUE(child("tblToolbar_copy")->isEnabled()) << "without another move of the pointer";
+    EXPECT_TRUE(entry("mnuEditOption_0").isEnabled());
+}
+
+TEST_F(FrmMainPlot, TheToolsPointerSurvivesAnAspectEntry) {
+    window_->pressTool(Tool::Select);
+    entry("mnuViewAspectOption_2").trigger();
+    EXPECT_EQ(plot().MousePointer(), 99);
+    EXPECT_NE(plot().MouseIcon(), nullptr);
+}
+
 }  // namespace
 }  // namespace zg

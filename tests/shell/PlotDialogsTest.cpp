@@ -158,6 +158,10 @@ TEST_F(PlotOptions, WithOneRoseThereIsNothingToChoose) {
     EXPECT_FALSE(child("cboWindRoseNumber")->isEnabled());
     EXPECT_EQ(fieldMark(*child("cboWindRoseNumber")), buttonFaceColour);
     EXPECT_FALSE(child("cmdOk")->isEnabled());
+    EXPECT_EQ(child<QComboBox>("cboWindRoseNumber")->placeholderText(), "No file has been opened");
+    modPolarGraph.FrqLoaded = true;
+    open<frmSelectWindRose>();
+    EXPECT_EQ(child<QComboBox>("cboWindRoseNumber")->placeholderText(), "The file has only one wind rose");
 }
 
 TEST_F(PlotOptions, AFileWithoutRosesIsAnErrorAtTheDialog) {

@@ -1,0 +1,190 @@
+// What people expect of any window: drops, keys, the wheel, recent files, a place that is remembered.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QToolButton>
+#include <QUrl>
+#include <QWheelEvent>
+#include <filesystem>
+
+#include "base/Paths.h"
+#include "platform/PolarGraphWidget.h"
+#include "settings/CfgFile.h"
+#include "shell/RecentFiles.h"
+#include "shell/WindowPlace.h"
+#include "tests/shell/MainWindow.h"
+
+namespace zg {
+namespace {
+
+class FrmMainHabits : public ActiveMainWindow {
+ protected:
+    std::string sample(const char* name) const {
+        const std::string path = directory_.file(name);
+        std::filesystem::copy(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq", path);
+        return path;
+    }
+    bool drop(const std::vector<std::string>& paths) {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const std::string& path : paths) urls.append(QUrl::fromLocalFile(QString::fromStdString(path)));
+        data.setUrls(urls);
+        QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window_.get(), &enter);
+        if (!enter.isAccepted()) return false;
+        QDropEvent dropped(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window_.get(), &dropped);
+        QApplication::processEvents();
+        return true;
+    }
+    void turnWheel(int degrees, Qt::KeyboardModifiers keys = Qt::ControlModifier) {
+        QWidget* plotWidget = child("pgPolarGraph");
+        QWheelEvent wheel(QPointF(50, 50), plotWidget->mapToGlobal(QPointF(50, 50)), QPoint(),
+                          QPoint(0, degrees), Qt::NoButton, keys, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(plotWidget, &wheel);
+    }
+    PolarGraphWidget& plotWidget() { return *child<PolarGraphWidget>("pgPolarGraph"); }
+};
+
+TEST_F(FrmMainHabits, AFileDroppedOnTheWindowIsPlotted) {
+    EXPECT_TRUE(drop({sample("dropped.frq")}));
+    EXPECT_EQ(window_->windowTitle(), "Zephyrgraph - dropped.frq");
+    EXPECT_TRUE(modPolarGraph.FrqLoaded);
+    EXPECT_EQ(modPolarGraph.WorkDir, directory_.path() + pathSeparator) << "as after the open dialog";
+}
+
+TEST_F(FrmMainHabits, AnotherFileThatIsDroppedIsToldByTheLoader) {
+    host_.boxAnswers = {BoxAnswer::Ok};
+    EXPECT_TRUE(drop({directory_.write("letter.txt", "Dear all\r\n")}));
+    EXPECT_EQ(host_.boxes.size(), 1U);
+    EXPECT_FALSE(modPolarGraph.FrqLoaded);
+}
+
+TEST_F(FrmMainHabits, SeveralFilesAndDropsDuringACurveAreNotTaken) {
+    const std::string one = sample("one.frq");
+    EXPECT_FALSE(drop({one, sample("two.frq")}));
+    bool free = false;
+    plot().events.DrawBegin(free);
+    EXPECT_FALSE(drop({one}));
+    EXPECT_EQ(window_->windowTitle(), "Zephyrgraph");
+}
+
+TEST_F(FrmMainHabits, TheUsualKeyOpensAFile) {
+    host_.openAnswers = {sample("a.frq")};
+    QTest::keyClick(child("picGraph"), Qt::Key_O, Qt::ControlModifier);
+    EXPECT_EQ(window_->windowTitle(), "Zephyrgraph - a.frq");
+}
+
+TEST_F(FrmMainHabits, TheWheelWithControlZoomsThroughTheList) {
+    ASSERT_EQ(plot().Zoom(), 100);
+    turnWheel(120);
+    EXPECT_EQ(plot().Zoom(), 125);
+    EXPECT_EQ(settings.ZoomListIndex, 4) << "as by a click in the list";
+    turnWheel(-120);
+    turnWheel(-120);
+    EXPECT_EQ(plot().Zoom(), 75);
+    plot().Zoom(110);
+    turnWheel(-120);
+    EXPECT_EQ(plot().Zoom(), 100) << "the next one of the list";
+    plot().Zoom(500);
+    turnWheel(120);
+    EXPECT_EQ(plot().Zoom(), 500);
+    turnWheel(-120, Qt::NoModifier);
+    EXPECT_EQ(plot().Zoom(), 500) << "without Ctrl it scrolls";
+}
+
+TEST_F(FrmMainHabits, TheArrowBesideOpenOffersTheFilesOpenedLast) {
+    auto* menu = child<QToolButton>("tblToolbar_open")->menu();
+    emit menu->aboutToShow();
+    ASSERT_EQ(menu->actions().size(), 1);
+    EXPECT_FALSE(menu->actions().constFirst()->isEnabled()) << "none yet";
+    const std::string first = sample("first & only.frq");
+    drop({first});
+    drop({sample("second.frq")});
+    emit menu->aboutToShow();
+    ASSERT_EQ(menu->actions().size(), 2);
+    EXPECT_TRUE(menu->actions().at(0)->text().endsWith(QLatin1String("second.frq")));
+    EXPECT_TRUE(menu->actions().at(1)->text().endsWith(QLatin1String("first && only.frq")));
+    menu->actions().at(1)->trigger();
+    EXPECT_EQ(window_->windowTitle(), "Zephyrgraph - first & only.frq");
+    EXPECT_EQ(recentFiles().front(), first);
+    std::filesystem::remove(first);
+    EXPECT_EQ(recentFiles().size(), 1U) << "what is gone is not offered";
+}
+
+TEST_F(FrmMainHabits, OnlyTheLatestFilesAreKept) {
+    for (int i = 0; i < 12; ++i) rememberFile(sample(("f" + std::to_string(i) + ".frq").c_str()));
+    ASSERT_EQ(recentFiles().size(), 8U);
+    EXPECT_EQ(FileNameOf(recentFiles().front()), "f11.frq");
+    rememberFile(recentFiles().back());
+    EXPECT_EQ(recentFiles().size(), 8U) << "no file is listed twice";
+}
+
+TEST_F(FrmMainHabits, TheEmptyPageInvitesInTheWindowButNotInAPicture) {
+    EXPECT_EQ(plotWidget().invitation(), "Open a frequency file, or drop one here");
+    QWidget* page = child("picGraph");
+    const QImage seen = page->grab().toImage();
+    const QImage drawn = plotWidget().pageImage();
+    plotWidget().setInvitation({});
+    EXPECT_NE(page->grab().toImage(), seen);
+    EXPECT_EQ(plotWidget().pageImage(), drawn) << "what is saved and printed never has it";
+}
+
+TEST_F(FrmMainHabits, TheInvitationGoesWithTheFirstFileOrCurve) {
+    drop({sample("a.frq")});
+    EXPECT_EQ(plotWidget().invitation(), "");
+    start();
+    plot().Plot().Add("", "2", rgb(0, 0, 255), rgb(0, 0, 255));
+    plot().DrawGraph();
+    EXPECT_EQ(plotWidget().invitation(), "");
+}
+
+TEST_F(FrmMainHabits, ViewWindRoseOnAFileWithoutRosesSaysSo) {
+    modPolarGraph.FrqLoaded = true;
+    modPolarGraph.FrqRoseCount = 0;
+    host_.boxAnswers = {BoxAnswer::Ok};
+    entry("mnuAvePeriod").trigger();
+    ASSERT_EQ(host_.boxes.size(), 1U);
+    EXPECT_EQ(host_.boxes[0].text, "The file has no wind roses: it ends after its header.");
+    EXPECT_EQ(host_.boxes[0].icon, BoxIcon::Information);
+}
+
+TEST_F(FrmMainHabits, ARightClickOnTheCornerMovesTheMenusMark) {
+    plot().cornerPressed(rightButton);
+    emit entry("mnuViewRulerMode").menu()->aboutToShow();
+    EXPECT_TRUE(entry("mnuViewRulerModeOption_0").isChecked());
+    plot().cornerPressed(rightButton);
+    emit entry("mnuViewRulerMode").menu()->aboutToShow();
+    EXPECT_TRUE(entry("mnuViewRulerModeOption_1").isChecked());
+}
+
+TEST(WindowPlace, IsRememberedInAFileOfItsOwn) {
+    const FreshProgram program;
+    {
+        QWidget window;
+        const WindowPlace place(window);
+        window.show();
+        window.resize(431, 317);
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return std::filesystem::exists(program.directory.file("window.txt")); }));
+    }
+    QWidget window;
+    const WindowPlace place(window);
+    EXPECT_EQ(window.size(), QSize(431, 317));
+}
+
+TEST(WindowPlace, ADamagedFileChangesNothing) {
+    const FreshProgram program;
+    program.directory.write("window.txt", "no place at all");
+    QWidget window;
+    window.resize(300, 200);
+    const WindowPlace place(window);
+    EXPECT_EQ(window.size(), QSize(300, 200));
+}
+
+}  // namespace
+}  // namespace zg
