@@ -9,6 +9,7 @@
 #include <memory>
 #include <new>
 #include <ostream>
+#include <utility>
 
 #include "base/Files.h"
 #include "base/Host.h"
@@ -18,6 +19,7 @@
 #include "export/PanelPicture.h"
 #include "export/ProgressBar.h"
 #include "export/RosePicture.h"
+#include "export/TablesCsv.h"
 #include "export/TablesJson.h"
 #include "export/WorkQueue.h"
 #include "graph/control/CreatePolar.h"
@@ -196,7 +198,7 @@ class Export {
             return;
         }
         if (job_.tables) {
-            out_ << tablesAsJson(*tables) << '\n';
+            writeTables(*tables, file);
             return;
         }
         const std::vector<int> roses = askedRoses(job_, file, tables->FrqRoseCount);
@@ -204,6 +206,16 @@ class Export {
         for (const int rose : roses)
             if (!isOver() && hasEnoughValidHours(*tables, rose, job_.minValid))
                 take({tables, polar, rose, file});
+    }
+
+    void writeTables(const ModPolarGraph& tables, const std::string& file) {
+        if (!job_.tablesAsCsv) {
+            out_ << tablesAsJson(tables) << '\n';
+            return;
+        }
+        if (!std::exchange(hasHeading_, true)) out_ << tablesCsvHeading();
+        const auto source = job_.sources.find(file);
+        out_ << tablesAsCsv(tables, source == job_.sources.end() ? file : source->second);
     }
 
     void take(RoseOfFile rose) {
@@ -311,6 +323,7 @@ class Export {
     std::vector<RoseOfFile> found_;  ///< of a run that has to know all before it draws one
     std::size_t drawn_ = 0;
     bool failed_ = false;
+    bool hasHeading_ = false;          ///< of tables as CSV
     std::atomic<bool> ended_ = false;  ///< by an error that would affect everything after it
     bool endIsTold_ = false;
     WorkQueue queue_;

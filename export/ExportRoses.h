@@ -1,6 +1,7 @@
 #pragma once
 
 #include <iosfwd>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -22,10 +23,12 @@ struct ExportJob {
     int sizePixels = 600;             ///< smallestExport to largestExport; of a panel its width
     std::string format = "png";       ///< "png", "bmp", "svg" or "pdf"
     std::string directory = ".";
-    float minValid = 0;     ///< lowest percent of valid hours, 0 to 100
-    int jobs = 1;           ///< roses drawn in parallel, 1 to mostJobs
-    bool tables = false;    ///< write the tables as JSON instead of pictures
-    bool progress = false;  ///< show a progress bar on errors while roses are drawn
+    float minValid = 0;                          ///< lowest percent of valid hours, 0 to 100
+    int jobs = 1;                                ///< roses drawn in parallel, 1 to mostJobs
+    bool tables = false;                         ///< write the tables instead of pictures
+    bool tablesAsCsv = false;                    ///< as rows of CSV, and not as JSON
+    std::map<std::string, std::string> sources;  ///< of inputs that were made: the file that each was made of
+    bool progress = false;                       ///< show a progress bar on errors while roses are drawn
     StyleRequest style;
 };
 

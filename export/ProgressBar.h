@@ -12,11 +12,16 @@ class ProgressBar {
     ProgressBar(std::ostream& terminal, bool shown) : terminal_(terminal), shown_(shown) {}
 
     void show(std::size_t filesDone, std::size_t files, std::size_t pictures) {
+        show(filesDone, files, std::to_string(pictures) + " pictures");
+    }
+
+    /// With what is being done, of which the first 40 bytes are shown.
+    void show(std::size_t filesDone, std::size_t files, const std::string& what) {
         if (!shown_) return;
         constexpr std::size_t width = 30;
         const std::size_t filled = files == 0 ? 0 : filesDone * width / files;
-        terminal_ << '\r' << '[' << std::string(filled, '#') << std::string(width - filled, '.') << "] "
-                  << filesDone << " of " << files << " files, " << pictures << " pictures" << std::flush;
+        terminal_ << "\r\x1B[K[" << std::string(filled, '#') << std::string(width - filled, '.') << "] "
+                  << filesDone << " of " << files << " files, " << what.substr(0, 40) << std::flush;
         drawn_ = true;
     }
 

@@ -19,17 +19,30 @@
 #include "export/Crashes.h"
 #include "export/ExportRoses.h"
 #include "export/PictureFile.h"
+#include "export/RawOptions.h"
+#include "export/RawStage.h"
 #include "export/StyleOptions.h"
 #include "platform/Fonts.h"
 #include "platform/QtText.h"
 
 namespace {
 
+/// "--tables csv" is "--tables=csv"; a file of that name is one all the same.
+void joinFormOfTables(std::vector<std::string>& words) {
+    for (std::size_t i = 0; i + 1 < words.size(); ++i) {
+        const std::string form = words[i + 1];
+        if (words[i] != "--tables" || (form != "csv" && form != "json") || zg::fileExists(form)) continue;
+        words[i] += "=" + form;
+        words.erase(words.begin() + static_cast<std::ptrdiff_t>(i) + 1);
+    }
+}
+
 /// In the order in which the parser consumes them, the last one first. It reads "[a]" as a list of one name.
 std::vector<std::string> wordsOf(int argc, char** argv) {
     std::vector<std::string> words = zg::programWords(argc, argv);
     for (std::string& word : words)
         if (word.size() > 1 && word.front() == '[' && word.back() == ']') word.insert(0, "./");
+    joinFormOfTables(words);
     std::reverse(words.begin(), words.end());
     return words;
 }
@@ -55,57 +68,83 @@ void ignoreRemarks(QtMsgType kind, const QMessageLogContext&, const QString& tex
     std::_Exit(zg::exportFailed);
 }
 
+constexpr std::size_t columnOfTexts = 24;  // so that the help fits a screen
+
+constexpr const char* examples =
+    "Examples:\n"
+    "  zephyrgraph-export LOVETT.SFC --out pictures\n"
+    "  zephyrgraph-export mast.csv --speed Spd80mN --zone UTC+0100 --frq --jobs 2\n"
+    "  zephyrgraph-export stations/ --rose 1 --tables csv > roses.csv";
+
 int runCommand(int argc, char** argv) {
     zg::ExportJob job;
-    CLI::App app{"Draws the wind roses of FRQ files as pictures.", "zephyrgraph-export"};
-    app.add_option("inputs", job.inputs, "FRQ files (versions 2.0 to 2.3), or directories of them")
+    CLI::App app{"Draws wind roses of FRQ files and of raw data.", "zephyrgraph-export"};
+    app.add_option("inputs", job.inputs, "FRQ files, raw data (also .gz), or directories")
         ->required()
-        ->type_name("FILE.frq|DIR");
+        ->option_text("FILE|DIR ...");
+    app.get_formatter()->column_width(columnOfTexts);
     app.add_option("--rose", job.rose, "Number of the rose to draw, or all")
         ->capture_default_str()
-        ->type_name("N|all");
-    app.add_option("--size", job.sizePixels, "Width and height of the picture in pixels")
+        ->option_text("N|all");
+    app.add_option("--size", job.sizePixels, "Width and height in pixels (600)")
         ->capture_default_str()
-        ->check(CLI::Range(zg::smallestExport, zg::largestExport));
-    app.add_option("--format", job.format, "Kind of picture")
+        ->check(CLI::Range(zg::smallestExport, zg::largestExport))
+        ->option_text("PIXELS");
+    app.add_option("--format", job.format, "png (default), bmp, svg or pdf")
         ->capture_default_str()
-        ->check(CLI::IsMember({"png", "bmp", "svg", "pdf"}));
-    app.add_option("--out", job.directory, "Directory for the pictures; made where it is missing")
+        ->check(CLI::IsMember({"png", "bmp", "svg", "pdf"}))
+        ->option_text("KIND");
+    app.add_option("--out", job.directory, "Directory for the pictures (.)")
         ->capture_default_str()
-        ->type_name("DIR");
+        ->option_text("DIR");
     app.add_option("--min-valid", job.minValid, "Leave out roses with fewer percent of valid hours")
         ->capture_default_str()
         ->check(CLI::Range(0, 100))
-        ->type_name("PERCENT");
+        ->option_text("PERCENT");
     app.add_option("--jobs", job.jobs, "Roses to draw side by side")
         ->capture_default_str()
         ->check(CLI::Range(1, zg::mostJobs))
-        ->type_name("N");
+        ->option_text("N");
     app.set_version_flag("--version", std::string("zephyrgraph-export ") + zg::versionNumber,
                          "Tell the version and exit");
     bool quiet = false;
     app.add_flag("--quiet", quiet, "Show no progress bar on a terminal");
-    app.add_flag("--tables", job.tables,
-                 "Write every loaded table to standard output as JSON and draw nothing");
+    std::string formOfTables;
+    app.add_flag("--tables{json}", formOfTables, "Write tables as json (default) or csv, draw nothing")
+        ->check(CLI::IsMember({"json", "csv"}))
+        ->option_text("[json|csv]");
     zg::addStyleOptions(app, job.style);
+    zg::RawOptions raw(app);
+    app.footer(examples);
     try {
         app.parse(wordsOf(argc, argv));
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? zg::exportDone : zg::exportWrongUsage;
     }
 
+    job.tables = !formOfTables.empty();
+    job.tablesAsCsv = formOfTables == "csv";
     job.progress = !quiet && zg::isTerminal(stderr);
 #ifdef SIGXFSZ
     std::signal(SIGXFSZ, SIG_IGN);  // the size limit becomes a write error with the file's name
 #endif
-    for (const int signal : {SIGINT, SIGTERM}) std::signal(signal, [](int) { zg::stopExport(); });
+    for (const int signal : {SIGINT, SIGTERM})
+        std::signal(signal, [](int) {
+            zg::stopExport();
+            zg::stopRawRuns();
+        });
     // No window is opened: the toolkit only provides its fonts and its rasteriser.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(ignoreRemarks);
     QGuiApplication application(argc, argv);
     zg::applicationDirectory = zg::filePath(QCoreApplication::applicationDirPath());
     zg::useFontsBeside(zg::applicationDirectory);
-    return zg::runExport(job, std::cout, std::cerr);
+    try {
+        return zg::runAllExport(job, raw.wishes(), std::cout, std::cerr);
+    } catch (const zg::RawFault& fault) {
+        std::cerr << fault.what() << '\n';
+        return fault.isWrongWish ? zg::exportWrongUsage : zg::exportFailed;
+    }
 }
 
 }  // namespace

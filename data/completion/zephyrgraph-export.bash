@@ -9,12 +9,18 @@ _zephyrgraph_export() {
         --radius|--panel) COMPREPLY=($(compgen -W "auto" -- "$word")); return ;;
         --units) COMPREPLY=($(compgen -W "m/s knots km/h mph" -- "$word")); return ;;
         --html|--pdf) COMPREPLY=($(compgen -f -- "$word")); return ;;
-        --rings|--sector-width|--size|--jobs|--min-valid) return ;;
+        --tables) COMPREPLY=($(compgen -W "json csv" -- "$word") $(compgen -f -- "$word")); return ;;
+        --unit) COMPREPLY=($(compgen -W "m/s knots km/h mph" -- "$word")); return ;;
+        --time-format) COMPREPLY=($(compgen -W "dmy mdy ymd epoch" -- "$word")); return ;;
+        --delimiter) COMPREPLY=($(compgen -W "comma semicolon tab blanks" -- "$word")); return ;;
+        --stamp) COMPREPLY=($(compgen -W "begin end" -- "$word")); return ;;
+        --seasons|--location|--cell) COMPREPLY=($(compgen -f -- "$word")); return ;;
+        --rings|--sector-width|--size|--jobs|--min-valid|--station|--height|--begin|--end|--step|--zone|--classes|--title|--time|--speed|--direction|--missing) return ;;
     esac
     if [[ $word == -* ]]; then
-        COMPREPLY=($(compgen -W "--help --version --rose --size --format --out --min-valid --jobs --quiet --tables --palette --hatch --radius --same-scale --rings --sector-width --numbers --calm-circle --units --panel --beside-table --html --pdf" -- "$word"))
+        COMPREPLY=($(compgen -W "--help --version --rose --size --format --out --min-valid --jobs --quiet --tables --palette --hatch --radius --same-scale --rings --sector-width --numbers --calm-circle --units --panel --beside-table --html --pdf --station --height --begin --end --step --zone --classes --seasons --title --location --cell --frq --keep --dry-run --time --speed --direction --unit --time-format --delimiter --missing --stamp" -- "$word"))
     else
-        COMPREPLY=($(compgen -d -- "$word") $(compgen -f -X '!*.[fF][rR][qQ]' -- "$word"))
+        COMPREPLY=($(compgen -f -- "$word"))
     fi
 }
 complete -o filenames -F _zephyrgraph_export zephyrgraph-export

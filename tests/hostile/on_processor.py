@@ -28,7 +28,8 @@ KINDS = [("aermsfc.inp", "tempoline_sfc/hours", POINT, {}), ("aermpfl.inp", "tem
          ("surf.inp", "tempoline_surf/v20", POINT, {}), ("surf.inp", "tempoline_surf/v21", POINT, {}),
          ("up.inp", "tempoline_up/v20", TWO, {}), ("up.inp", "tempoline_up/v21", TWO, {}),
          ("monitorw.inp", "tempoline_monitor/hours", POINT, {}), ("monitorw.inp", "tempoline_monitor/quarters", POINT, {}),
-         ("tsf.inp", "tempoline_tsf/hours", [], {}), ("m3d_cell.inp", "tempoline_m3d/a", CELLS, {"METSIM": 1, "MPROF": 3}),
+         ("tsf.inp", "tempoline_tsf/hours", [], {}), ("csv.inp", "windtable/hours", POINT, {}),
+         ("m3d_cell.inp", "tempoline_m3d/a", CELLS, {"METSIM": 1, "MPROF": 3}),
          ("ventos_ll.inp", "tempoline_ventos/a", PLACES, {"METSIM": 1, "PMAP": "LL", "DATUM": "WGS-84"})]
 ROOM = ["--fsize=200000000"]
 

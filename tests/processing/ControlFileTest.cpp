@@ -76,11 +76,14 @@ TEST(ControlFile, OfUpHasAnOutputAHeightAndTwelveSeasons) {
     expectFile(v, "up.inp");
 }
 
-TEST(ControlFile, OfTheDialogsWithOneOutput) {
+TEST(ControlFile, OfTheKindsWithOneOutput) {
     for (const auto& [type, name] :
          {std::pair{InputKind::MonitorW, "monitorw.inp"}, std::pair{InputKind::AermSfc, "aermsfc.inp"},
-          std::pair{InputKind::AermPfl, "aermpfl.inp"}}) {
+          std::pair{InputKind::AermPfl, "aermpfl.inp"}, std::pair{InputKind::Csv, "csv.inp"}}) {
         ControlFile v = common(type, {"m.csv"});
+        v.tableKeys = {{"CSVSEP", "COMMA"}, {"CSVDEC", "POINT"}, {"CSVHEAD", "1"},     {"CSVNAME", "1"},
+                       {"CSVTIME", "1"},    {"CSVFORM", "YMD"},  {"CSVSTMP", "BEGIN"}, {"CSVLEN", "3600"},
+                       {"CSVSPD", "2"},     {"CSVUNIT", "M/S"},  {"CSVDIR", "3"}};
         v.title = "";
         v.seasonNames = {"Wet", "Dry"};
         v.outputs = {{"1", "out", "", "00072, 0, 0", "10"}};
