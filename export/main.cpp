@@ -83,7 +83,7 @@ int runCommand(int argc, char** argv) {
         ->required()
         ->option_text("FILE|DIR ...");
     app.get_formatter()->column_width(columnOfTexts);
-    app.add_option("--rose", job.rose, "Number of the rose to draw, or all")
+    app.add_option("--rose", job.rose, "Number of the rose to draw, or all (default)")
         ->capture_default_str()
         ->option_text("N|all");
     app.add_option("--size", job.sizePixels, "Width and height in pixels (600)")

@@ -55,7 +55,7 @@ TableLayout readTableLayout(ControlKeys& keys) {
     layout.stampsEnd = isSecondWord(keys, "CSVSTMP", "BEGIN", "END");
     layout.recordSeconds = keys.wholeOr("CSVLEN", 3600, 1, static_cast<int>(secondsADay));
     layout.speedColumn = columnOfKey(keys, "CSVSPD");
-    const std::optional<SpeedUnit> unit = unitOfWord(keys.textOr("CSVUNIT", "M/S"));
+    const std::optional<WindUnit> unit = unitOfWord(keys.textOr("CSVUNIT", "M/S"));
     if (!unit) throw keys.failure("CSVUNIT", "M/S, KNOTS, KM/H, MPH or DM/S is needed");
     layout.unit = *unit;
     layout.directionColumn = columnOfKey(keys, "CSVDIR");

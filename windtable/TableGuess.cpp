@@ -116,7 +116,7 @@ class Guess {
         layout.speedColumn = isdSpeed;
         layout.directionColumn = isdDirection;
         layout.zone = 0;
-        unit_ = SpeedUnit::TenthsOfMetresASecond;
+        unit_ = WindUnit::TenthsOfMetresASecond;
         readings_.emplace(std::vector<TimeForm>{TimeForm::Parts});
         columns_ = layout.columns();
         readLine(line);
@@ -186,7 +186,7 @@ class Guess {
         if (length > longestRecord)
             fail(0, "the records lie " + std::to_string(length) + " seconds apart, more than a day");
         TableLayout& layout = facts_.layout;
-        layout.unit = unit_.value_or(SpeedUnit::MetresASecond);
+        layout.unit = unit_.value_or(WindUnit::MetresASecond);
         layout.timeForm = reading->form;
         layout.recordSeconds = length;
         facts_.zone = layout.zone ? layout.zone : reading->zone;
@@ -213,7 +213,7 @@ class Guess {
     TableFacts facts_;
     TableFields fields_;
     std::optional<TimeReadings> readings_;
-    std::optional<SpeedUnit> unit_;
+    std::optional<WindUnit> unit_;
     std::size_t columns_ = 0;
     bool isCommaDecided_ = false;
 };

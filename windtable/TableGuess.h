@@ -19,7 +19,7 @@ struct TableWishes {
     std::string time;  ///< also two names with a comma between them: of the date and of the time of day
     std::string speed;
     std::string direction;
-    std::optional<SpeedUnit> unit;
+    std::optional<WindUnit> unit;
     std::string timeForm;  ///< as setTimeForm takes it
     std::optional<char> delimiter;
     std::string missing;

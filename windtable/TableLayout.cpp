@@ -13,15 +13,15 @@ namespace zg {
 namespace {
 
 struct UnitWord {
-    SpeedUnit unit;
+    WindUnit unit;
     const char* word;
     double metresASecond;
 };
-constexpr std::array<UnitWord, 5> unitWords = {{{SpeedUnit::MetresASecond, "M/S", 1},
-                                                {SpeedUnit::Knots, "KNOTS", 1852.0 / 3600},
-                                                {SpeedUnit::KilometresAnHour, "KM/H", 1 / 3.6},
-                                                {SpeedUnit::MilesAnHour, "MPH", 0.44704},
-                                                {SpeedUnit::TenthsOfMetresASecond, "DM/S", 0.1}}};
+constexpr std::array<UnitWord, 5> unitWords = {{{WindUnit::MetresASecond, "M/S", 1},
+                                                {WindUnit::Knots, "KNOTS", 1852.0 / 3600},
+                                                {WindUnit::KilometresAnHour, "KM/H", 1 / 3.6},
+                                                {WindUnit::MilesAnHour, "MPH", 0.44704},
+                                                {WindUnit::TenthsOfMetresASecond, "DM/S", 0.1}}};
 
 struct DelimiterWord {
     char delimiter;
@@ -42,19 +42,19 @@ constexpr std::array<FormWord, 5> formWords = {{{TimeForm::DayFirst, "DMY"},
 
 }  // namespace
 
-double metresASecondIn(SpeedUnit unit) {
+double metresASecondIn(WindUnit unit) {
     for (const UnitWord& entry : unitWords)
         if (entry.unit == unit) return entry.metresASecond;
     return 1;
 }
 
-const char* wordOf(SpeedUnit unit) {
+const char* wordOf(WindUnit unit) {
     for (const UnitWord& entry : unitWords)
         if (entry.unit == unit) return entry.word;
     return "";
 }
 
-std::optional<SpeedUnit> unitOfWord(std::string_view word) {
+std::optional<WindUnit> unitOfWord(std::string_view word) {
     const std::string upper = ucase(word);
     for (const UnitWord& entry : unitWords)
         if (upper == entry.word) return entry.unit;

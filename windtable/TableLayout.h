@@ -21,16 +21,16 @@ enum class TimeForm {
     Pattern,     ///< as a pattern such as "%d.%m.%y %H:%M" says
 };
 
-enum class SpeedUnit { MetresASecond, Knots, KilometresAnHour, MilesAnHour, TenthsOfMetresASecond };
+enum class WindUnit { MetresASecond, Knots, KilometresAnHour, MilesAnHour, TenthsOfMetresASecond };
 
 /// Metres a second in one of the unit.
-double metresASecondIn(SpeedUnit unit);
+double metresASecondIn(WindUnit unit);
 
 /// "M/S", "KNOTS", "KM/H", "MPH", "DM/S".
-const char* wordOf(SpeedUnit unit);
+const char* wordOf(WindUnit unit);
 
 /// The unit of such a word, in any case; none for any other text.
-std::optional<SpeedUnit> unitOfWord(std::string_view word);
+std::optional<WindUnit> unitOfWord(std::string_view word);
 
 /// What stands between the values of a line; this one is any run of blanks.
 constexpr char blankDelimiter = ' ';
@@ -54,7 +54,7 @@ struct TableLayout {
     std::vector<std::size_t> timeColumns;  ///< one, date and time, or the parts
     std::size_t speedColumn = 0;
     std::size_t directionColumn = 0;
-    SpeedUnit unit = SpeedUnit::MetresASecond;
+    WindUnit unit = WindUnit::MetresASecond;
     TimeForm timeForm = TimeForm::YearFirst;
     std::string timePattern;
     bool stampsEnd = false;             ///< a time is the end of its record, and not the begin

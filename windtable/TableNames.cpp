@@ -153,19 +153,19 @@ std::optional<double> heightIn(const Words& name) {
 
 }  // namespace
 
-std::optional<SpeedUnit> speedUnitIn(std::string_view text) {
+std::optional<WindUnit> speedUnitIn(std::string_view text) {
     const Words words = wordsOf(text);
     const std::string all = joined(words);
-    if (hasWord(words, {"kt", "kts", "kn", "knot", "knots", "sknt"})) return SpeedUnit::Knots;
+    if (hasWord(words, {"kt", "kts", "kn", "knot", "knots", "sknt"})) return WindUnit::Knots;
     if (hasWord(words, {"kmh", "kph", "kmph", "kmhr"}) || all.find("kmh") != std::string::npos)
-        return SpeedUnit::KilometresAnHour;
+        return WindUnit::KilometresAnHour;
     if (hasWord(words, {"mph", "mih"}) || all.find("milesh") != std::string::npos ||
         all.find("milesperh") != std::string::npos)
-        return SpeedUnit::MilesAnHour;
+        return WindUnit::MilesAnHour;
     if (hasWord(words, {"mps", "metrespersecond", "meterspersecond"}) || hasWord(words, {"ms"}) ||
         all.find("ssecond") != std::string::npos || all == "metersec" ||
         text.find("m/s") != std::string_view::npos)
-        return SpeedUnit::MetresASecond;
+        return WindUnit::MetresASecond;
     return {};
 }
 

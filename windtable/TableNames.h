@@ -16,8 +16,8 @@ namespace zg {
 struct WindColumn {
     std::size_t column = 0;  ///< from 1
     std::string name;
-    std::optional<double> height;   ///< metres, where the name tells it
-    std::optional<SpeedUnit> unit;  ///< the same
+    std::optional<double> height;  ///< metres, where the name tells it
+    std::optional<WindUnit> unit;  ///< the same
 };
 
 /// The columns that a line of names has.
@@ -34,7 +34,7 @@ struct TableNames {
 TableNames tableNamesOf(const std::vector<std::string>& names);
 
 /// The unit that a text tells of, as "Metres/Second", "kt" or "(km/h)"; none for any other text.
-std::optional<SpeedUnit> speedUnitIn(std::string_view text);
+std::optional<WindUnit> speedUnitIn(std::string_view text);
 
 /// A column of winds by its name, whatever that is.
 WindColumn windColumn(std::size_t column, const std::string& name);

@@ -84,7 +84,7 @@ class Csv : public InputReader {
     void addRecord(const TableRecord& record, std::size_t line) {
         const Seconds stamp = momentOf(record.time);
         Wind wind = {record.speed, record.direction};
-        if (layout_.unit != SpeedUnit::MetresASecond) wind.speed = roundedToMillionth(wind.speed);
+        if (layout_.unit != WindUnit::MetresASecond) wind.speed = roundedToMillionth(wind.speed);
         if (layout_.stampsEnd) return addEnding(stamp, wind, line);
         if (waiting_ && stamp == waiting_->begin) {
             if (repeats_++ == 0) firstRepeat_ = line;

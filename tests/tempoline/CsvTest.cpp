@@ -112,12 +112,12 @@ TEST(Csv, MissingWordsAndVariableDirectionsCountAsWhatTheyAre) {
 
 TEST(Csv, SpeedsOfOtherUnitsBecomeMetresASecondWithoutNoise) {
     CsvReading reading;
-    reading.control.table.unit = SpeedUnit::KilometresAnHour;
+    reading.control.table.unit = WindUnit::KilometresAnHour;
     EXPECT_EQ(reading.of(hour0 + "6.48,90\n").cells[4][1], 1);  // 1.8 m/s is the second class's first speed
-    reading.control.table.unit = SpeedUnit::Knots;
+    reading.control.table.unit = WindUnit::Knots;
     EXPECT_EQ(reading.of(hour0 + "3.5,90\n").cells[4][1], 1);
     EXPECT_EQ(reading.of(hour0 + "3.4,90\n").cells[4][0], 1);
-    reading.control.table.unit = SpeedUnit::TenthsOfMetresASecond;
+    reading.control.table.unit = WindUnit::TenthsOfMetresASecond;
     EXPECT_EQ(reading.of(hour0 + "33,90\n").cells[4][2], 1);
 }
 

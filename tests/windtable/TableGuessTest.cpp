@@ -131,7 +131,7 @@ TEST(TableGuess, TakesWhatItIsTold) {
     table.wishes.speed = "b";
     table.wishes.direction = "c";
     table.wishes.delimiter = '|';
-    table.wishes.unit = SpeedUnit::Knots;
+    table.wishes.unit = WindUnit::Knots;
     table.wishes.missing = "-1";
     table.wishes.stampsEnd = true;
     EXPECT_EQ(
