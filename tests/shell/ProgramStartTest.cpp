@@ -84,7 +84,7 @@ TEST_F(ProgramStart, ExitAfterTheSplashEndsTheProgram) {
 }
 
 TEST_F(ProgramStart, AFileThatIsGivenIsOpenedInTheWindow) {
-    const std::string sample = std::string(ZG_SOURCE_DIR) + "/data/samples/LOVETT_1988.frq";
+    const std::string file = std::string(ZG_SOURCE_DIR) + "/data/samples/LOVETT_1988.frq";
     QString title;
     QTimer user;
     QObject::connect(&user, &QTimer::timeout, [&title] {
@@ -94,7 +94,7 @@ TEST_F(ProgramStart, AFileThatIsGivenIsOpenedInTheWindow) {
         window->menuAction("mnuFileOption_18")->trigger();
     });
     user.start(10);
-    EXPECT_EQ(runProgram(host_, sample), 0);
+    EXPECT_EQ(runProgram(host_, file), 0);
     EXPECT_EQ(title, QStringLiteral("Zephyrgraph - LOVETT_1988.frq"));
     EXPECT_GT(modPolarGraph.FrqRoseCount, 1);
 }
