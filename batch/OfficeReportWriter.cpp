@@ -65,7 +65,7 @@ QByteArray masterPage(const QByteArray& name, const QByteArray& layout) {
     return "<style:master-page style:name=\"" + name + "\" style:page-layout-name=\"" + layout + "\"/>\n";
 }
 
-/// A paragraph of this style begins a page of that kind.
+/// A paragraph of this style starts a page of that kind.
 QByteArray beginsPage(const QByteArray& style, const QByteArray& master) {
     return "<style:style style:name=\"" + style + "\" style:family=\"paragraph\" style:master-page-name=\"" +
            master + "\"/>\n";
@@ -190,7 +190,7 @@ void OfficeReportWriter::addPicture(const std::string& picture) {
 
 void OfficeReportWriter::addPageBreak() { breakBefore_ = true; }
 
-/// The pages' sizes, which stand before the text, are known only now.
+/// Only now are the sizes of the pages known, which come before the text.
 void OfficeReportWriter::saveDocument(const std::string& path) {
     constexpr qint64 partSize = 1 << 20;
     write(QByteArray(xmlHead) + documentHead(largePages_));

@@ -15,7 +15,7 @@ class ProgressBar {
         show(filesDone, files, std::to_string(pictures) + " pictures");
     }
 
-    /// With what is being done, of which the first 40 bytes are shown.
+    /// Shows the bar with the current work, of which the first 40 bytes are displayed.
     void show(std::size_t filesDone, std::size_t files, const std::string& what) {
         if (!shown_) return;
         constexpr std::size_t width = 30;

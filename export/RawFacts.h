@@ -1,6 +1,6 @@
 #pragma once
 
-// What is known of a file of raw data before it is asked for anything.
+// What is known about a file of raw data from the file itself.
 
 #include <string>
 #include <vector>
@@ -13,17 +13,17 @@ namespace zg {
 
 struct RawFacts {
     InputKind kind = InputKind::AermSfc;
-    DateTime begin;  ///< by the clock of the zone, as the next
+    DateTime begin;  ///< by the clock of the zone, as is the next
     DateTime end;
-    std::string zone;  ///< key; "" where the data name none
+    std::string zone;  ///< key; "" if the data do not name one
     int stepSeconds = 3600;
-    std::vector<std::string> stations;  ///< those that can be asked for, in the order of the file
+    std::vector<std::string> stations;  ///< available stations, in file order
     std::vector<std::string> heights;   ///< metres; empty for a series, whose height is its own
     TableFacts table;                   ///< of a table
-    std::string told;                   ///< what was found out, to be told
+    std::string told;                   ///< what was detected, to be reported
 };
 
-/// Reads the header, of some kinds the whole file. Throws a RawFault with file, line and field.
+/// Reads the header, for some kinds the whole file. Throws a RawFault with file, line and field.
 RawFacts rawFactsOf(const std::string& path, InputKind kind, const RawWishes& wishes);
 
 }  // namespace zg

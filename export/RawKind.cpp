@@ -19,7 +19,7 @@ constexpr std::size_t mostValues = 64;
 constexpr std::size_t surfaceValues = 18;
 constexpr std::size_t profileValues = 8;
 
-/// The values of a line as numbers up to the first that is none.
+/// The values of a line as numbers, up to the first that is not one.
 std::vector<double> numbersIn(std::string_view line) {
     TableFields fields;
     std::vector<double> numbers;

@@ -7,8 +7,8 @@
 
 namespace zg {
 
-/// The kind of raw data that is in the file, by what stands there and not by its name; none for an FRQ file
-/// and for what is no kind that is known. A file that cannot be read is none too.
+/// The kind of raw data in the file, judged by its contents and not by its name; nothing for an FRQ file, for
+/// an unknown kind, and for a file that cannot be read.
 std::optional<InputKind> rawKindOf(const std::string& path);
 
 }  // namespace zg

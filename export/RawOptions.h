@@ -1,6 +1,6 @@
 #pragma once
 
-// The words of the command line that are about raw data.
+// The command-line options for raw data.
 
 #include "export/RawWishes.h"
 
@@ -10,14 +10,14 @@ class App;
 
 namespace zg {
 
-/// Adds them to the command, in groups of their own; they are filled when it is parsed.
+/// Adds them to the command, in groups of their own; parsing fills in the values.
 class RawOptions {
  public:
     explicit RawOptions(CLI::App& app);
     RawOptions(const RawOptions&) = delete;
     RawOptions& operator=(const RawOptions&) = delete;
 
-    /// After the command was parsed. Throws a RawFault for a word that has no meaning.
+    /// To be called after parsing. Throws a RawFault for a meaningless value.
     const RawWishes& wishes();
 
  private:

@@ -147,7 +147,7 @@ class Planner {
         return heights;
     }
 
-    /// A kind that names no station takes the one that is asked for as its name.
+    /// A kind without named stations uses the requested one as its name.
     std::vector<std::string> stationsAsked() const {
         if (wishes_.stations.empty()) return header_.stations;
         if (header_.stations.empty()) {

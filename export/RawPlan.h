@@ -1,6 +1,6 @@
 #pragma once
 
-// From what a header tells and what is asked to control files.
+// Makes control files from a header and the requests for it.
 
 #include <string>
 #include <vector>
@@ -10,13 +10,13 @@
 
 namespace zg {
 
-/// The control files of a file of raw data: one, or one a station for kinds that make one output a run. The
-/// names of their outputs begin with the stem. Throws a RawFault for a wish that the header contradicts, in
-/// the words of the kind's dialog where it has such words.
+/// The control files for a file of raw data: one, or one per station for kinds with one output per run. The
+/// names of their outputs begin with the stem. Throws a RawFault for a request that contradicts the header,
+/// in the words of the kind's dialog if it has any.
 std::vector<ControlFile> controlFilesOf(const std::string& path, const std::string& stem,
                                         const RawFacts& header, const RawWishes& wishes);
 
-/// What is wrong with wishes whatever the data are. Throws a RawFault.
+/// Checks requests that are wrong whatever the data are. Throws a RawFault.
 void needPlainWishes(const RawWishes& wishes);
 
 }  // namespace zg

@@ -46,7 +46,7 @@ std::optional<double> plainNumberOf(std::string_view text) {
     return whole ? std::optional(value) : std::nullopt;
 }
 
-/// The lines of a file that hold something, or the text itself where no such file is there.
+/// The lines of a file that are not empty, or the text itself if no such file exists.
 std::vector<std::string> linesOrText(const std::string& wish) {
     if (!fileExists(wish)) return {wish};
     std::vector<std::string> found;

@@ -1,6 +1,6 @@
 #pragma once
 
-// A file of raw data on its way to FRQ files, by the processor beside the program.
+// Turns a file of raw data into FRQ files, with the processor in the program's directory.
 
 #include <atomic>
 #include <memory>
@@ -12,10 +12,10 @@
 
 namespace zg {
 
-/// A directory of one run, removed with all it holds at the end.
+/// A directory for one run, removed with its contents at the end.
 class RunDirectory {
  public:
-    /// Throws a RawFault where none can be made.
+    /// Throws a RawFault if it cannot be created.
     RunDirectory();
     ~RunDirectory();
     RunDirectory(const RunDirectory&) = delete;
@@ -27,23 +27,23 @@ class RunDirectory {
     std::string path_;
 };
 
-/// What became of a file: its FRQ files live as long as this.
+/// The results of a file: its FRQ files exist as long as this object.
 struct RawResult {
     std::vector<std::string> frqFiles;
-    std::vector<std::string> kept;  ///< files that stay in the directory for the output
-    std::vector<std::string> told;  ///< lines: what a table was taken for, warnings, what would run
+    std::vector<std::string> kept;  ///< files that remain in the directory for the output
+    std::vector<std::string> told;  ///< lines: how a table was interpreted, warnings, what would run
     std::unique_ptr<RunDirectory> directory;
 };
 
-/// A file to be made roses of.
+/// A file from which roses are made.
 struct RawInput {
     std::string path;
     InputKind kind = InputKind::AermSfc;
-    std::string stem;  ///< the names of all that is made begin with it
+    std::string stem;  ///< prefix of the names of all results
 };
 
-/// Reads the header, writes the control file and lets the processor make its roses; several of them may go on
-/// at once. Throws a RawFault or a RunTimeError. A stop ends the processor too.
+/// Reads the header, writes the control file and lets the processor make its roses; several may run at the
+/// same time. Throws a RawFault or a RunTimeError. A stop also ends the processor.
 RawResult rosesOfRaw(const RawInput& input, const RawWishes& wishes, const std::string& directory,
                      const std::atomic<bool>& stopped);
 

@@ -27,7 +27,7 @@ namespace fs = std::filesystem;
 
 std::atomic<bool> rawStopped = false;
 
-/// A file that was asked for: of raw data, or an FRQ file, which has no kind.
+/// A requested file: of raw data, or an FRQ file, which has no kind.
 struct AskedFile {
     std::string path;
     std::optional<InputKind> kind;
@@ -48,11 +48,11 @@ bool beginsAsFrq(const std::string& path) {
         LineReader lines(path, std::size_t{1} << 20);
         return lines.atEnd() || withoutByteOrderMark(lines.readLine()).starts_with("WIND.FRQ");
     } catch (const RunTimeError&) {
-        return true;  // whoever loads it tells why it cannot be read
+        return true;  // loading it reports why it cannot be read
     }
 }
 
-/// A file that was named: where it is no kind that is known, it is told what a table would need.
+/// A file given by name: for an unknown kind, reports what a table would need.
 std::optional<InputKind> kindOfNamed(const std::string& path, const RawWishes& wishes) {
     if (beginsAsFrq(path) || isFrqName(path)) return {};
     const std::optional<InputKind> kind = rawKindOf(path);

@@ -1,6 +1,6 @@
 #pragma once
 
-// The files of a run: those of raw data become FRQ files first, several at a time, and all are drawn then.
+// The files of a run: first those of raw data become FRQ files, several at a time, and then all are drawn.
 
 #include <iosfwd>
 
@@ -9,11 +9,11 @@
 
 namespace zg {
 
-/// As runExport, for files of raw data too. A directory stands for all its files of winds. What fails is told
-/// on errors, in the order of the files, and the others go on.
+/// Like runExport, for files of raw data too. A directory means all its files of winds. Failures are reported
+/// on errors, in the order of the files, and the other files continue.
 int runAllExport(ExportJob job, const RawWishes& wishes, std::ostream& out, std::ostream& errors);
 
-/// Ends the processors that run, and the run with them; may be called from a signal handler.
+/// Ends the running processors and with them the run; may be called from a signal handler.
 void stopRawRuns();
 
 }  // namespace zg

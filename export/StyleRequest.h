@@ -77,7 +77,7 @@ struct PanelShape {
 constexpr int mostPanelSide = 20;
 PanelShape panelShape(const std::string& asked, int roses);
 
-/// Width of a panel whose size was not asked for: 300 pixels a column, and at least 600.
+/// Width of a panel without a requested size: 300 pixels per column, and at least 600.
 int usualPanelWidth(const PanelShape& shape);
 
 }  // namespace zg

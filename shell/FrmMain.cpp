@@ -123,8 +123,8 @@ std::string frmMain::askForFrqFile() {
     return host_.pickFileToOpen(pick);
 }
 
-/// Shows that file, and the next file dialog starts where it lies; nothing for an empty path. False where the
-/// file was refused.
+/// Shows that file, and the next file dialog starts in its directory; does nothing for an empty path. False
+/// if the file was refused.
 bool frmMain::openFrqFile(const std::string& path) {
     if (path.empty()) return false;
     modPolarGraph.WorkDir = DirOf(path);

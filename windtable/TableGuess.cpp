@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::size_t longestTableLine = std::size_t{1} << 20;
 constexpr std::size_t mostHeadLines = 200;  // that are searched for the names
-constexpr std::size_t mostUnitLines = 20;   // behind the names
+constexpr std::size_t mostUnitLines = 20;   // after the names
 constexpr std::int64_t longestRecord = 86400;
 constexpr std::size_t isdFields = 12;
 constexpr std::size_t isdDirection = 8;
@@ -141,7 +141,7 @@ class Guess {
         decideComma(fields_.at(layout.directionColumn));
     }
 
-    /// A line behind the names with units or the like; false for a record whose time cannot be read.
+    /// A line after the names with units or the like; false for a record whose time cannot be read.
     bool takeUnits() {
         TableLayout& layout = facts_.layout;
         const std::string_view speed = fields_.at(layout.speedColumn);

@@ -13,8 +13,8 @@
 
 namespace zg {
 
-/// What is known before; everything else is found out. Columns by their names (in any case), or by their
-/// numbers where no column has such a name.
+/// What is known in advance; everything else is detected. Columns by their names (in any case), or by their
+/// numbers if no column has such a name.
 struct TableWishes {
     std::string time;  ///< also two names with a comma between them: of the date and of the time of day
     std::string speed;
@@ -33,10 +33,10 @@ struct TableFacts {
     std::string speedName;
     std::string directionName;
     std::vector<std::string> otherSpeeds;  ///< those that were not chosen
-    std::optional<double> height;          ///< metres, where a name tells it
+    std::optional<double> height;          ///< metres, if a name states it
     std::int64_t begin = 0;                ///< of the first record, by the clock of the file
     std::int64_t end = 0;                  ///< of the last record
-    std::optional<std::int64_t> zone;      ///< of the file's clock, where the file names it
+    std::optional<std::int64_t> zone;      ///< of the file's clock, if the file states it
     std::int64_t records = 0;
 };
 
@@ -46,7 +46,7 @@ class TableProblem : public std::runtime_error {
     TableProblem(const std::string& text, bool wrongWish)
         : std::runtime_error(text), isWrongWish(wrongWish) {}
 
-    bool isWrongWish;  ///< what was asked for is not there
+    bool isWrongWish;  ///< a requested column does not exist
 };
 
 /// Throws a TableProblem for a file that is no table of winds, and a RunTimeError for one that cannot be

@@ -32,7 +32,7 @@ const char* wordOf(WindUnit unit);
 /// The unit of such a word, in any case; none for any other text.
 std::optional<WindUnit> unitOfWord(std::string_view word);
 
-/// What stands between the values of a line; this one is any run of blanks.
+/// What separates the values of a line; this one means any run of blanks.
 constexpr char blankDelimiter = ' ';
 
 /// "COMMA", "SEMICOLON", "TAB", "BLANKS", or the character itself.
@@ -42,7 +42,7 @@ std::optional<char> delimiterOfWord(std::string_view word);
 /// "DMY", "MDY", "YMD", "PARTS", "EPOCH", or the pattern.
 std::string timeFormWord(TimeForm form, const std::string& pattern);
 
-/// Sets form and pattern; false for a text that is none.
+/// Sets form and pattern; false for an invalid text.
 bool setTimeForm(std::string_view word, TimeForm& form, std::string& pattern);
 
 /// Columns are numbered from 1.
@@ -57,7 +57,7 @@ struct TableLayout {
     WindUnit unit = WindUnit::MetresASecond;
     TimeForm timeForm = TimeForm::YearFirst;
     std::string timePattern;
-    bool stampsEnd = false;             ///< a time is the end of its record, and not the begin
+    bool stampsEnd = false;             ///< a time is the end of its record rather than the begin
     std::int64_t recordSeconds = 3600;  ///< how long a record lasts
     std::string missing;                ///< a text that is missing beside those that always are; "" for none
     std::optional<std::int64_t> zone;   ///< seconds east of Greenwich of times that name no zone themselves

@@ -15,14 +15,14 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-constexpr double aCircle = 360;  // degrees, where a name tells the range of its values
+constexpr double aCircle = 360;  // degrees, if the name gives the range of its values
 
 bool isLower(char c) { return c >= 'a' && c <= 'z'; }
 bool isUpper(char c) { return c >= 'A' && c <= 'Z'; }
 bool isFigure(char c) { return c >= '0' && c <= '9'; }
 
-/// "Spd80mNStd" are the words spd, 80, m, n, std: a capital begins a word where small letters stand before or
-/// behind it, and numbers are words of their own.
+/// "Spd80mNStd" has the words spd, 80, m, n, std: a capital begins a word if small letters are next to it,
+/// and numbers are separate words.
 Words wordsOf(std::string_view name) {
     Words words;
     char before = ' ';
@@ -100,7 +100,7 @@ std::size_t columnNamed(const std::vector<Words>& names, std::initializer_list<s
     return 0;
 }
 
-/// Year, month and day, and the hour and the minute where they are there.
+/// Year, month and day, with hour and minute if they exist.
 std::vector<std::size_t> partColumns(const std::vector<Words>& names) {
     std::vector<std::size_t> columns = {columnNamed(names, {"year", "yyyy", "yr", "iyr"}),
                                         columnNamed(names, {"month", "mo", "mon", "mm"}),

@@ -16,7 +16,7 @@ namespace zg {
 struct WindColumn {
     std::size_t column = 0;  ///< from 1
     std::string name;
-    std::optional<double> height;  ///< metres, where the name tells it
+    std::optional<double> height;  ///< metres, if the name states it
     std::optional<WindUnit> unit;  ///< the same
 };
 
@@ -33,7 +33,7 @@ struct TableNames {
 /// By the names alone, from column 1 on.
 TableNames tableNamesOf(const std::vector<std::string>& names);
 
-/// The unit that a text tells of, as "Metres/Second", "kt" or "(km/h)"; none for any other text.
+/// The unit that a text names, such as "Metres/Second", "kt" or "(km/h)"; nothing for any other text.
 std::optional<WindUnit> speedUnitIn(std::string_view text);
 
 /// A column of winds by its name, whatever that is.
