@@ -3,11 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "base/RunTimeError.h"
+#include "tests/batch/ReportSteps.h"
 
 namespace zg {
 namespace {
-
-using Steps = std::vector<std::string>;
 
 std::string textOf(const AutomationValue& value) {
     if (const auto* const truth = std::get_if<bool>(&value)) return *truth ? "True" : "False";
@@ -81,23 +80,8 @@ class OtherWriter : public ReportWriter {
 
 class AutomationReport : public ::testing::Test {
  protected:
-    void makePresentation(int pictures) {
-        writer_.beginPresentation();
-        for (int i = 1; i <= pictures; ++i)
-            writer_.addSlide("C:\\b\\" + std::to_string(i) + ".bmp", 102.12F, 0, 539.88F, 539.88F);
-        writer_.savePresentation("C:\\out\\a.ppt");
-    }
-    void makeDocument(int pictures) {
-        writer_.beginDocument();
-        for (int i = 1; i <= pictures; ++i) {
-            writer_.addPicture("C:\\b\\" + std::to_string(i) + ".bmp");
-            if (i < pictures) writer_.addPageBreak();
-        }
-        writer_.saveDocument("C:\\out\\a.doc");
-    }
-    void make(bool presentation, int pictures) {
-        presentation ? makePresentation(pictures) : makeDocument(pictures);
-    }
+    void makePresentation(int pictures) { makeReport(writer_, true, pictures); }
+    void makeDocument(int pictures) { makeReport(writer_, false, pictures); }
 
     Record record_;
     std::string installed_ = "PowerPoint.Application Word.Application";
@@ -109,52 +93,6 @@ class AutomationReport : public ::testing::Test {
             return std::make_unique<RecordingObject>(record_, application.substr(0, application.find('.')));
         }};
 };
-
-Steps presentationSteps(int pictures) {
-    const std::string slides = "PowerPoint.Presentations.Add(WithWindow := True).Slides";
-    Steps steps = {"create PowerPoint.Application",
-                   "PowerPoint.Visible := True",
-                   "PowerPoint.WindowState := 2",
-                   "PowerPoint.Presentations",
-                   "PowerPoint.Presentations.Add(WithWindow := True)",
-                   slides};
-    for (int i = 1; i <= pictures; ++i) {
-        const std::string slide = slides + ".Add(Index := " + std::to_string(i) + ", Layout := 12)";
-        steps.push_back(slide);
-        steps.push_back(slide + ".Shapes");
-        steps.push_back(slide + ".Shapes.AddPicture(FileName := \"C:\\b\\" + std::to_string(i) +
-                        ".bmp\", LinkToFile := False, SaveWithDocument := True, Left := 102.12f, Top := "
-                        "0.00f, Width := 539.88f, Height := 539.88f)");
-    }
-    steps.emplace_back("PowerPoint.Presentations.Add(WithWindow := True).Saved := False");
-    steps.emplace_back(
-        "PowerPoint.Presentations.Add(WithWindow := True).SaveAs(FileName := \"C:\\out\\a.ppt\", FileFormat "
-        ":= 1, EmbedTrueTypeFonts := -2)");
-    steps.emplace_back("PowerPoint.Quit");
-    steps.emplace_back("release PowerPoint");
-    return steps;
-}
-
-Steps documentSteps(int pictures) {
-    const std::string bookmark = "Word.Documents.Add.Bookmarks.Item(Index := \"\\endofdoc\")";
-    const Steps toEnd = {"Word.Documents.Add.Bookmarks", bookmark, bookmark + ".Range"};
-    Steps steps = {"create Word.Application", "Word.Visible := True", "Word.WindowState := 2",
-                   "Word.Documents", "Word.Documents.Add"};
-    for (int i = 1; i <= pictures; ++i) {
-        steps.insert(steps.end(), toEnd.begin(), toEnd.end());
-        steps.push_back(bookmark + ".Range.InlineShapes");
-        steps.push_back(bookmark + ".Range.InlineShapes.AddPicture(FileName := \"C:\\b\\" +
-                        std::to_string(i) + ".bmp\", LinkToFile := False, SaveWithDocument := True)");
-        if (i == pictures) continue;
-        steps.insert(steps.end(), toEnd.begin(), toEnd.end());
-        steps.push_back(bookmark + ".Range.InsertBreak(Type := 7)");
-    }
-    steps.emplace_back("Word.Documents.Add.Saved := False");
-    steps.emplace_back("Word.Documents.Add.SaveAs(FileName := \"C:\\out\\a.doc\")");
-    steps.emplace_back("Word.Quit");
-    steps.emplace_back("release Word");
-    return steps;
-}
 
 TEST_F(AutomationReport, OfSlidesMakesEachCallInOrderWithEveryArgumentByName) {
     for (const int pictures : {0, 1, 3}) {
@@ -180,7 +118,7 @@ TEST_F(AutomationReport, EndsAtTheStepThatFailsAndTheNextOneBeginsAfresh) {
             record_.failAt = step;
             int error = 0;
             try {
-                make(presentation, 3);
+                makeReport(writer_, presentation, 3);
             } catch (const RunTimeError& told) {
                 error = told.number;
             }

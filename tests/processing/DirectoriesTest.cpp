@@ -80,7 +80,7 @@ struct Calls {
 
 TEST(AskCreateWorkDirTest, YesMakesItClearsTheBoxAndRestarts) {
     const TempDirectory temp;
-    const std::string directory = temp.file("new/dir") + pathSeparator;
+    const std::string directory = temp.file("new") + pathSeparator + "dir" + pathSeparator;
     TestHost host;
     host.boxAnswers = {BoxAnswer::Yes};
     Calls calls;

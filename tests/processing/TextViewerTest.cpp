@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 
+#include "base/Files.h"
 #include "tests/support/Raises.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
@@ -43,7 +44,7 @@ class ViewTextFileTest : public testing::Test {
 TEST_F(ViewTextFileTest, WritesStartsHiddenAndDeletesTheBatchFile) {
     std::string bytes;
     starter_.onStart = [&](const std::string&) { bytes = temp_.read("open_file.bat"); };
-    ViewTextFile(host_, starter_, "C:\\my data\\a.frq", temp_.path(), '/');
+    ViewTextFile(host_, starter_, "C:\\my data\\a.frq", temp_.path());
     EXPECT_EQ(starter_.started, std::vector<std::string>{temp_.file("open_file.bat")});
     EXPECT_EQ(starter_.styles, std::vector<WindowStyle>{WindowStyle::Hidden});
     EXPECT_EQ(bytes, "notepad \"C:\\my data\\a.frq\"\r\n");
@@ -51,7 +52,7 @@ TEST_F(ViewTextFileTest, WritesStartsHiddenAndDeletesTheBatchFile) {
 }
 
 TEST_F(ViewTextFileTest, WaitsHalfASecondBeforeAndAfterTheStart) {
-    ViewTextFile(host_, starter_, "a.frq", temp_.path() + "/", '/');
+    ViewTextFile(host_, starter_, "a.frq", temp_.path() + pathSeparator);
     EXPECT_EQ(starter_.times, std::vector<std::int64_t>{500});
     EXPECT_EQ(host_.now, 1000);
     EXPECT_EQ(starter_.started, std::vector<std::string>{temp_.file("open_file.bat")})
@@ -59,6 +60,7 @@ TEST_F(ViewTextFileTest, WaitsHalfASecondBeforeAndAfterTheStart) {
 }
 
 TEST_F(ViewTextFileTest, BackslashEndsADirectoryToo) {
+    ASSERT_TRUE(makeDirectory(temp_.file("x")));  // where it ends one
     ViewTextFile(host_, starter_, "a.frq", temp_.path() + "/x", '\\');
     EXPECT_EQ(starter_.started, std::vector<std::string>{temp_.path() + "/x\\open_file.bat"});
     ViewTextFile(host_, starter_, "a.frq", temp_.path() + "/x\\", '\\');
