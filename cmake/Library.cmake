@@ -40,6 +40,8 @@ endif()
 # A program without the toolkit needs no library of the compiler's beside it.
 if(WIN32)
     set(ZG_ALONE -static)
+    # The toolkit there cannot unpack what the one here packs by default.
+    set(CMAKE_AUTORCC_OPTIONS --no-zstd)
 endif()
 
 include(${CMAKE_CURRENT_LIST_DIR}/Precompiled.cmake)

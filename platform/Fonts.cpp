@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QFontDatabase>
+#include <QGuiApplication>
 
 #include "base/Paths.h"
 #include "platform/QtText.h"
@@ -25,8 +26,12 @@ void useFontsBeside(const std::string& programDirectory) {
     const std::vector<std::string> names = filesMatching(directory + "*.ttf");
     if (names.empty()) return;  // the system has its own rules for what takes the place
     for (const std::string& name : names) QFontDatabase::addApplicationFont(fileName(directory + name));
-    if (isThere(equalFace))
-        QFont::insertSubstitution(QString::fromLatin1(wantedFace), QString::fromLatin1(equalFace));
+    if (!isThere(equalFace)) return;
+    QFont::insertSubstitution(QString::fromLatin1(wantedFace), QString::fromLatin1(equalFace));
+    // Such a system has no face of its own for menus and forms either.
+    QFont plain = QGuiApplication::font();
+    plain.setFamily(QString::fromLatin1(equalFace));
+    QGuiApplication::setFont(plain);
 }
 
 }  // namespace zg

@@ -6,6 +6,9 @@ cache=${ZG_WINDOWS_CACHE:-$HOME/.cache/zephyrgraph-windows}
 export WINEARCH=win64 WINEPREFIX=${ZG_WINE_PREFIX:-$cache/wine} WINEDEBUG=${WINEDEBUG:--all}
 # It neither offers to fetch parts of itself nor enters programs into this desktop's menus.
 export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d"
+# What a program of a build directory needs beside it: the toolkit and the compiler's own libraries.
+compiler=$(dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll 2>/dev/null || echo .)")
+export WINEPATH="Z:$cache/kit/bin;Z:$compiler;Z:/usr/x86_64-w64-mingw32/lib"
 if [ ! -e "$WINEPREFIX/system.reg" ]; then
     mkdir -p "$WINEPREFIX"
     exec 9>"$WINEPREFIX.lock"
