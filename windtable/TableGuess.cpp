@@ -66,6 +66,7 @@ class Guess {
         TableHeadSearch search(wishes_);
         while (!lines_.atEnd() && lines_.lineNumber() < mostHeadLines) {
             const std::string_view line = nextLine();
+            if (line.find('\0') != std::string_view::npos) fail(0, "this is no text");
             if (lines_.lineNumber() == 1 && isIsdLiteLine(line)) return beginIsdLite(line);
             if (const std::optional<TableHead> head = search.look(line, lines_.lineNumber())) {
                 takeHead(*head);
@@ -251,10 +252,11 @@ bool hasTableHead(const std::string& path) {
     LineReader lines(path, longestTableLine);
     const TableWishes none;
     TableHeadSearch search(none);
-    while (!lines.atEnd() && lines.lineNumber() < mostHeadLines)
-        if (const std::string_view line = withoutByteOrderMark(lines.readLine());
-            search.look(line, lines.lineNumber()))
-            return true;
+    while (!lines.atEnd() && lines.lineNumber() < mostHeadLines) {
+        const std::string_view line = withoutByteOrderMark(lines.readLine());
+        if (line.find('\0') != std::string_view::npos) return false;
+        if (search.look(line, lines.lineNumber())) return true;
+    }
     return false;
 }
 

@@ -183,6 +183,10 @@ TEST(TableGuess, SaysWhatIsWantingAndWhere) {
               ": no line of names with a time, a wind speed and a wind direction is among its first 2 lines: "
               "this is "
               "no kind of file that is known");
+    EXPECT_EQ(faultIn(std::string_view("\x7F"
+                                       "ELF\0speed,1,2\n",
+                                       15)),
+              ": this is no text");
     EXPECT_EQ(faultIn("time,ws,wd\n"), ":1: there is no record behind the columns' names");
     EXPECT_EQ(faultIn("time,ws,wd\n2016-01-01,1,2\nyesterday,1,2\n"),
               ":3: time: \"yesterday\" is no time, year first, as those before it");
