@@ -326,7 +326,11 @@ TEST_F(Curves, AnErrorReachesTheCallerAndLeavesNothingLocked) {
     EXPECT_TRUE(graph.StopAni());
     EXPECT_EQ(graph.Plot().Item(2).Delay, 30);
     EXPECT_EQ(window.trackAngles.back(), "");
-    EXPECT_EQ(errorNumberOf([&] { graph.Refresh(); }), 5) << "a redraw stops at the faulty curve";
+    EXPECT_EQ(errorNumberOf([&] { graph.Refresh(); }), 0) << "it is raised once";
+    EXPECT_EQ(graph.Plot().Item(1).Failure, "");
+    EXPECT_EQ(graph.Plot().Item(2).Failure, "Invalid procedure call or argument");
+    graph.Plot().Item(2).Equation = "Sqr(-2)";
+    EXPECT_EQ(errorNumberOf([&] { graph.Refresh(); }), 5);
 }
 
 TEST_F(Curves, AScriptThatDoesNotCompileIsToldWithItsPlace) {
