@@ -9,6 +9,7 @@
 #include "base/Host.h"
 #include "batch/BatchRun.h"
 #include "dialogs/point/PointDialog.h"
+#include "formats/Kinds.h"
 #include "platform/BatchStarter.h"
 #include "shell/FrmMainControls.h"
 #include "shell/GraphList.h"
@@ -91,6 +92,10 @@ class frmMain : public QMainWindow {
     void runEntry(const char* name, int index);
     template <typename Form, typename... Values>
     void process(Values... values);
+    template <typename Form, typename... Values>
+    void processFile(const std::string& path, Values... values);
+    void processRawFile(const std::string& path, InputKind kind);
+    void openDropped(const std::string& path);
 
     bool openFrqFile(const std::string& path);
     void chooseFrqFile(const std::string& path);

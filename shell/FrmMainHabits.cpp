@@ -7,7 +7,10 @@
 #include <QShortcut>
 #include <QTimer>
 #include <QUrl>
+#include <optional>
 
+#include "base/Lines.h"
+#include "base/Text.h"
 #include "platform/Errors.h"
 #include "platform/QtText.h"
 #include "settings/Settings.h"
@@ -23,6 +26,19 @@ std::string draggedFile(const QDropEvent& event) {
     const QList<QUrl> urls = event.mimeData()->urls();
     return urls.size() == 1 && urls.constFirst().isLocalFile() ? filePath(urls.constFirst().toLocalFile())
                                                                : std::string();
+}
+
+/// The kind of a raw file by its first word, else by its name; nothing for a file of no such kind.
+std::optional<InputKind> rawKindOf(const std::string& path) {
+    LineReader lines(path);
+    const std::string_view start = lines.ahead();
+    for (const Format& format : formats())
+        if (!format.firstWord.empty() && start.starts_with(format.firstWord)) return format.kind;
+    const std::string name = lcase(path);
+    if (name.ends_with(".sfc")) return InputKind::AermSfc;
+    if (name.ends_with(".pfl")) return InputKind::AermPfl;
+    if (name.ends_with(".csv")) return InputKind::MonitorW;
+    return std::nullopt;
 }
 
 }  // namespace
@@ -61,6 +77,14 @@ void frmMain::showRecentFiles() {
     if (menu->isEmpty()) menu->addAction(QStringLiteral("No file has been opened yet"))->setEnabled(false);
 }
 
+/// A frequency file is plotted; for raw data their dialog opens with the file chosen.
+void frmMain::openDropped(const std::string& path) {
+    if (const auto kind = rawKindOf(path))
+        processRawFile(path, *kind);
+    else
+        chooseFrqFile(path);
+}
+
 void frmMain::dragEnterEvent(QDragEnterEvent* event) {
     if (!draggedFile(*event).empty() && actions_.at("mnuFileOption_1")->isEnabled())
         event->acceptProposedAction();
@@ -71,7 +95,7 @@ void frmMain::dropEvent(QDropEvent* event) {
     if (path.empty() || !actions_.at("mnuFileOption_1")->isEnabled()) return;
     event->acceptProposedAction();
     // The program from which it comes waits until this returns, and a box may be shown.
-    QTimer::singleShot(0, this, guarded(host_, [this, path] { chooseFrqFile(path); }));
+    QTimer::singleShot(0, this, guarded(host_, [this, path] { openDropped(path); }));
 }
 
 }  // namespace zg

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTimer>
 
 #include "base/Paths.h"
 #include "batch/BatchBitmap.h"
@@ -42,6 +43,35 @@ std::string entryName(const char* name, int index) { return std::string(name) + 
 template <typename Form, typename... Values>
 void frmMain::process(Values... values) {
     Form(host_, starter_, processingWindow(), values..., this).exec();
+}
+
+/// The same with a file already chosen.
+template <typename Form, typename... Values>
+void frmMain::processFile(const std::string& path, Values... values) {
+    Form form(host_, starter_, processingWindow(), values..., this);
+    QTimer::singleShot(0, &form, [&form, &path] { form.openFile(path); });
+    form.exec();
+}
+
+void frmMain::processRawFile(const std::string& path, InputKind kind) {
+    switch (kind) {
+        case InputKind::Surf:
+            return processFile<frmOpenSURFDATFile>(path);
+        case InputKind::Up:
+            return processFile<frmOpenUPDATFile>(path);
+        case InputKind::MonitorW:
+            return processFile<frmOpenAMMNETDataFile>(path);
+        case InputKind::AermSfc:
+        case InputKind::AermPfl:
+            return processFile<frmOpenAERMETFile>(path, kind);
+        case InputKind::Tsf:
+            return processFile<frmOpenTSFDataFile>(path);
+        case InputKind::M3d:
+        case InputKind::Ventos:
+        case InputKind::Csv:
+            break;
+    }
+    chooseFrqFile(path);  // the loader tells that it is no frequency file
 }
 
 frmMain::Commands frmMain::fileCommands() {

@@ -123,6 +123,7 @@ void GridWizard::Continue() {
     NumberOfLocations = toInt32(view_.text("txtNumberOfLocations"));
     CurrentLocation = onShow_.location;
     if (onShow_.total > NumberOfLocations) {
+        SaveLocation(CurrentLocation);  // what was typed comes back when the number is raised again
         CurrentLocation = 1;
         ShowLocation(CurrentLocation);
     } else {

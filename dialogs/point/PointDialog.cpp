@@ -1,6 +1,7 @@
 #include "dialogs/point/PointDialog.h"
 
 #include <QVBoxLayout>
+#include <utility>
 
 #include "base/Paths.h"
 #include "base/Text.h"
@@ -222,8 +223,14 @@ ControlFile PointDialog::sharedValues(InputKind type) const {
     return v;
 }
 
+void PointDialog::openFile(const std::string& path) {
+    given_ = path;
+    findChild<QPushButton*>(QStringLiteral("cmdBrowseFile"))->click();
+}
+
 bool PointDialog::browseInput(QLineEdit& box, const char* filter) {
-    const std::string path = ShowFileOpen(host_, filter, 1, remembered_);
+    const std::string given = std::exchange(given_, {});
+    const std::string path = given.empty() ? ShowFileOpen(host_, filter, 1, remembered_) : given;
     if (path.empty()) return false;
     showPath(box, path);
     remembered_ = DirOf(path);

@@ -29,6 +29,9 @@ class PointDialog : public QDialog {
     PointDialog(Host& host, ProcessStarter& starter, ProcessingWindow window, const char* name,
                 const char* title, QWidget* parent);
 
+    /// Takes a file as if the user had browsed for it.
+    void openFile(const std::string& path);
+
  protected:
     /// What its runs report, the checks before a run, and the plan of the fields after these have passed.
     virtual const RunForm& runForm() const = 0;
@@ -85,6 +88,7 @@ class PointDialog : public QDialog {
     ProcessStarter& starter_;
     ProcessingWindow window_;
     const char* folderPrompt_ = "Select a Output Directory:";
+    std::string given_;       ///< file that is taken at the next browse, without asking
     std::string remembered_;  ///< directory where the next picker starts
 
     QGroupBox* framePeriod = nullptr;

@@ -3,9 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDialog>
 #include <QDropEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
+#include <QTimer>
 #include <QToolButton>
 #include <QUrl>
 #include <QWheelEvent>
@@ -55,6 +58,37 @@ TEST_F(FrmMainHabits, AFileDroppedOnTheWindowIsPlotted) {
     EXPECT_EQ(window_->windowTitle(), "Zephyrgraph - dropped.frq");
     EXPECT_TRUE(modPolarGraph.FrqLoaded);
     EXPECT_EQ(modPolarGraph.WorkDir, directory_.path() + pathSeparator) << "as after the open dialog";
+}
+
+TEST_F(FrmMainHabits, ForDroppedRawDataTheirDialogOpensWithTheFile) {
+    struct Row {
+        const char* sample;
+        const char* form;
+        const char* box;
+    };
+    program_.deliver({"TimeZones.txt"});
+    for (const Row& row : {Row{"valley_surf.dat", "frmOpenSURFDATFile", "txtSURFDATFile"},
+                           Row{"valley_up.dat", "frmOpenUPDATFile", "txtUPDATFile"},
+                           Row{"valley_series.tsf", "frmOpenTSFDataFile", "txtTSFDataFile"}}) {
+        QString form;
+        QString text;
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, &look, [&] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            const auto* box =
+                dialog == nullptr ? nullptr : dialog->findChild<QLineEdit*>(QLatin1String(row.box));
+            if (box == nullptr || box->text().isEmpty()) return;
+            form = dialog->objectName();
+            text = box->text();
+            dialog->reject();
+        });
+        look.start(5);
+        const std::string path = std::string(ZG_SOURCE_DIR "/data/samples/") + row.sample;
+        EXPECT_TRUE(drop({path}));
+        EXPECT_EQ(form.toStdString(), row.form);
+        EXPECT_EQ(text.toStdString(), path);
+    }
+    EXPECT_TRUE(host_.openPicks.empty()) << "no picker asks";
 }
 
 TEST_F(FrmMainHabits, AnotherFileThatIsDroppedIsToldByTheLoader) {

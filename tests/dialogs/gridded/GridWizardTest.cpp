@@ -372,6 +372,9 @@ TEST_F(VentosWizard, ALoweredNumberFallsBackToTheFirstLocation) {
     EXPECT_EQ(caption(), "INPUT INFO FOR LOCATION #1 of 2");
     EXPECT_EQ(view_.texts["txtFRQOutputFilename"], "a");
     EXPECT_EQ(wizard_->CurrentLocation, 1);
+    wizard_->cmdNextLocation_Click();
+    EXPECT_EQ(view_.texts["txtFRQOutputFilename"], "b") << "typed before the number was lowered";
+    wizard_->cmdPrevLocation_Click();
     wizard_->cmdPrevious3_Click();
     view_.texts["txtNumberOfLocations"] = "5";
     wizard_->cmdNext2_Click();
