@@ -205,7 +205,12 @@ class Export {
         makeDirectory(job_.directory);
         for (const int rose : roses)
             if (!isOver() && hasEnoughValidHours(*tables, rose, job_.minValid))
-                take({tables, polar, rose, file});
+                take({tables, polar, rose, file, sourceOf(file)});
+    }
+
+    const std::string& sourceOf(const std::string& file) const {
+        const auto source = job_.sources.find(file);
+        return source == job_.sources.end() ? file : source->second;
     }
 
     void writeTables(const ModPolarGraph& tables, const std::string& file) {
@@ -214,8 +219,7 @@ class Export {
             return;
         }
         if (!std::exchange(hasHeading_, true)) out_ << tablesCsvHeading();
-        const auto source = job_.sources.find(file);
-        out_ << tablesAsCsv(tables, source == job_.sources.end() ? file : source->second);
+        out_ << tablesAsCsv(tables, sourceOf(file));
     }
 
     void take(RoseOfFile rose) {

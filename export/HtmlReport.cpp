@@ -127,7 +127,8 @@ std::string htmlReport(const std::vector<RoseOfFile>& roses, const PictureLook& 
     PictureLook look = asked;
     look.besideTable = false;
     const std::vector<std::string> stations = distinct(roses, stationOf);
-    const std::vector<std::string> files = distinct(roses, [](const RoseOfFile& rose) { return rose.file; });
+    const std::vector<std::string> files =
+        distinct(roses, [](const RoseOfFile& rose) { return rose.source; });
     const std::string title = stations.size() == 1 ? "Wind roses: " + htmlText(stations[0]) : "Wind roses";
     std::string html = "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\">\n<title>" + title +
                        "</title>\n<meta name=\"viewport\" content=\"width=device-width,initial-scale=1\">\n"
@@ -141,11 +142,11 @@ std::string htmlReport(const std::vector<RoseOfFile>& roses, const PictureLook& 
                        "</form>\n<p role=\"status\"></p>\n";
     const std::string* open = nullptr;
     for (std::size_t i = 0; i < roses.size(); ++i) {
-        if (open == nullptr || *open != roses[i].file) {
+        if (open == nullptr || *open != roses[i].source) {
             if (open != nullptr) html += "</div></section>\n";
             html += "<section class=\"file\"><h2>" + htmlText(roses[i].tables->GraphTitle) + "</h2>\n<p>" +
                     htmlText(roses[i].tables->GraphSubTitle) + "</p>\n<div class=\"roses\">\n";
-            open = &roses[i].file;
+            open = &roses[i].source;
         }
         html += roseHtml(roses[i], look, side, i + 1);
     }

@@ -15,7 +15,8 @@ struct RoseOfFile {
     std::shared_ptr<const ModPolarGraph> tables;
     std::shared_ptr<const Polar> polar;
     int rose = 1;
-    std::string file;  ///< its path, as it was given
+    std::string file;    ///< the path of its FRQ file
+    std::string source;  ///< the path that was given: of that file, or of the raw data that it was made of
 };
 
 /// What went wrong with a picture, "" for nothing.

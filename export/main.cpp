@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <memory>
 #include <new>
 #include <string>
 #include <string_view>
@@ -18,6 +19,7 @@
 #include "base/Version.h"
 #include "export/Crashes.h"
 #include "export/ExportRoses.h"
+#include "export/HelpText.h"
 #include "export/PictureFile.h"
 #include "export/RawOptions.h"
 #include "export/RawStage.h"
@@ -68,8 +70,6 @@ void ignoreRemarks(QtMsgType kind, const QMessageLogContext&, const QString& tex
     std::_Exit(zg::exportFailed);
 }
 
-constexpr std::size_t columnOfTexts = 24;  // so that the help fits a screen
-
 constexpr const char* examples =
     "Examples:\n"
     "  zephyrgraph-export LOVETT.SFC --out pictures\n"
@@ -82,7 +82,9 @@ int runCommand(int argc, char** argv) {
     app.add_option("inputs", job.inputs, "FRQ files, raw data (also .gz), or directories")
         ->required()
         ->option_text("FILE|DIR ...");
-    app.get_formatter()->column_width(columnOfTexts);
+    app.formatter(std::make_shared<zg::HelpText>());
+    app.set_help_flag("-h,--help", "Print the options on a screen and exit");
+    app.set_help_all_flag("--help-all", "Explain all options and exit");
     app.add_option("--rose", job.rose, "Number of the rose to draw, or all (default)")
         ->capture_default_str()
         ->option_text("N|all");

@@ -18,7 +18,7 @@ _zephyrgraph_export() {
         --rings|--sector-width|--size|--jobs|--min-valid|--station|--height|--begin|--end|--step|--zone|--classes|--title|--time|--speed|--direction|--missing) return ;;
     esac
     if [[ $word == -* ]]; then
-        COMPREPLY=($(compgen -W "--help --version --rose --size --format --out --min-valid --jobs --quiet --tables --palette --hatch --radius --same-scale --rings --sector-width --numbers --calm-circle --units --panel --beside-table --html --pdf --station --height --begin --end --step --zone --classes --seasons --title --location --cell --frq --keep --dry-run --time --speed --direction --unit --time-format --delimiter --missing --stamp" -- "$word"))
+        COMPREPLY=($(compgen -W "--help --help-all --version --rose --size --format --out --min-valid --jobs --quiet --tables --palette --hatch --radius --same-scale --rings --sector-width --numbers --calm-circle --units --panel --beside-table --html --pdf --station --height --begin --end --step --zone --classes --seasons --title --location --cell --frq --keep --dry-run --time --speed --direction --unit --time-format --delimiter --missing --stamp" -- "$word"))
     else
         COMPREPLY=($(compgen -f -- "$word"))
     fi

@@ -108,6 +108,20 @@ TEST(Companion, ANameInBracketsIsAName) {
     EXPECT_TRUE(std::filesystem::exists(inside / "one_01.png"));
 }
 
+TEST(Companion, HelpFitsAScreen) {
+    const Result result = runCompanion({"--help"});
+    EXPECT_LE(result.out.count('\n'), 40);
+    for (const QString& line : result.out.split('\n')) EXPECT_LE(line.size(), 80) << line.toStdString();
+    EXPECT_TRUE(result.out.contains("Examples:"));
+}
+
+TEST(Companion, HelpForAllExplainsEachOption) {
+    const Result result = runCompanion({"--help-all"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_TRUE(result.out.contains("Percent at the outer ring"));
+    EXPECT_TRUE(result.out.contains("A time is begin or end of its record"));
+}
+
 TEST(Companion, HelpTellsTheWordsOfLooks) {
     const Result result = runCompanion({"--help"});
     for (const char* word :

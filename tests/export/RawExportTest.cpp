@@ -255,6 +255,17 @@ TEST(RawExport, TablesOfRawDataAreTidyRows) {
     EXPECT_TRUE(json.out.starts_with("{")) << json.out.substr(0, 50);
 }
 
+TEST(RawExport, AReportNamesTheFileThatWasGiven) {
+    const TempDirectory directory;
+    const std::string page = directory.file("report.html");
+    const Outcome outcome =
+        runRaw({q(samples + "LOVETT.SFC"), "--html", q(page), "--out", q(directory.path())});
+    ASSERT_EQ(outcome.status, 0) << outcome.errors;
+    const std::string html = directory.read("report.html");
+    EXPECT_TRUE(holds(html, "LOVETT.SFC"));
+    EXPECT_FALSE(holds(html, "LOVETT.frq"));
+}
+
 TEST(RawExport, TheScriptForManyFilesDrawsEachAndTellsWhichFailed) {
     const TempDirectory directory;
     directory.write("a.csv", table);
