@@ -13,7 +13,7 @@ packages=(g++ cmake ninja-build qt6-base-dev libcli11-dev nlohmann-json3-dev lib
 tests=(libgtest-dev libbenchmark-dev libmuparser-dev parallel python3 clang libclang-rt-14-dev librsvg2-bin)
 e2e=(xvfb openbox xdotool imagemagick)
 checks=(clang-format clang-tidy cppcheck git debootstrap dpkg-dev file chromium-headless-shell)
-windows=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine wine64 nsis librsvg2-bin libgtest-dev python3 zip dpkg-dev tcl sqlite3)
+windows=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine wine64 libgtest-dev python3 unzip dpkg-dev tcl sqlite3)
 cluster=(slurmctld slurmd slurm-client munge python3)
 
 case "${1:-}" in
