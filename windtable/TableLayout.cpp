@@ -105,8 +105,10 @@ std::size_t TableLayout::columns() const {
 
 std::vector<TableKey> keysOf(const TableLayout& layout) {
     std::string times;
-    for (const std::size_t column : layout.timeColumns)
-        times += (times.empty() ? "" : ",") + std::to_string(column);
+    for (const std::size_t column : layout.timeColumns) {
+        if (!times.empty()) times += ',';
+        times += std::to_string(column);
+    }
     std::vector<TableKey> keys = {{"CSVSEP", delimiterWord(layout.delimiter)},
                                   {"CSVDEC", layout.decimalComma ? "COMMA" : "POINT"},
                                   {"CSVHEAD", std::to_string(layout.headLines)},
