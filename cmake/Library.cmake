@@ -5,7 +5,7 @@ add_library(zg_flags INTERFACE)
 target_compile_options(zg_flags INTERFACE -Wall -Wextra -Wconversion -Wshadow)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # Version 12 of the compiler reports overlapping copies in string concatenation where there are none.
-    target_compile_options(zg_flags INTERFACE -Wno-restrict)
+    target_compile_options(zg_flags INTERFACE -Wno-restrict -Wno-stringop-overflow)
     # It takes a source that is compiled together with others for a header, and warns of its unnamed namespace.
     target_compile_options(zg_flags INTERFACE -Wno-subobject-linkage)
 endif()

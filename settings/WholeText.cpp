@@ -58,12 +58,15 @@ bool replaceFile(const std::string& path, const std::string& text) {
     if (!file) return writeInPlace(target, text);
     const bool written = std::fwrite(text.data(), 1, text.size(), file.get()) == text.size();
     const bool closed = std::fclose(file.release()) == 0;
-    if (written && closed) {
+    const bool whole = written && closed;
+    if (whole) {
         copyPermissions(target, fresh);
         if (moveFile(fresh, target)) return true;
     }
     removeFile(fresh);
-    return false;
+    return whole &&
+           writeInPlace(target,
+                        text);  // a mounted file, or another's in a shared directory, takes no other's place
 }
 
 }  // namespace zg

@@ -116,6 +116,7 @@ void GridWizard::disableMoves() {
 void GridWizard::Continue() {
     setStep(2, 3);
     showFramesOfMode();
+    const bool hasFields = !onShow_.stations && onShow_.total > 1;
     if (onShow_.stations) {
         CurrentLocation = NumberOfLocations = 1;
         showCaption(CaptionWord::Location);
@@ -123,7 +124,8 @@ void GridWizard::Continue() {
     NumberOfLocations = toInt32(view_.text("txtNumberOfLocations"));
     CurrentLocation = onShow_.location;
     if (onShow_.total > NumberOfLocations) {
-        SaveLocation(CurrentLocation);  // what was typed comes back when the number is raised again
+        if (hasFields)
+            SaveLocation(CurrentLocation);  // what was typed comes back when the number is raised again
         CurrentLocation = 1;
         ShowLocation(CurrentLocation);
     } else {

@@ -72,7 +72,10 @@ void PolarGraph::tryItem(std::int16_t index, CurveSweep sweep) {
     if (!graph.Visible) return;
     try {
         drawItem(index, sweep);
-        if (plot_.contains(graph)) graph.Failure.clear();
+        if (plot_.contains(graph)) {
+            graph.Failure.clear();
+            graph.ToldFailure.clear();
+        }
     } catch (const RunTimeError& error) {
         if (!plot_.contains(graph)) throw;
         graph.Failure = error.description;
@@ -175,20 +178,20 @@ void PolarGraph::paintPoints(ScriptEngine& engine, const GrapInfo& curve,
 }
 
 /// Curves requested during an animation are painted without ending it: the others whole, the animated one as
-/// far as it has come. Each has an engine of its own, since the animation goes on with its own variables. A
-/// curve that fails here is told of when it is painted by itself.
+/// far as it has come. They share an engine of their own, since the animation goes on with its own variables.
+/// A curve that fails here is told of when it is painted by itself.
 void PolarGraph::repaintDuring(const GrapInfo& animated, const GrapInfo& begun, float angle) {
     auto progress = std::exchange(events.DrawProgress, {});
     const AtEnd putBack([this, &progress] { events.DrawProgress = std::move(progress); });
     ClearGraph();
+    ScriptEngine engine;
+    prepareForCurves(engine);
     for (std::int32_t i = 1; i <= plot_.Count(); ++i) {
         const GrapInfo& item = plot_.Item(std::int64_t{i});
         const bool isAnimated = &item == &animated;
         GrapInfo curve = isAnimated ? begun : item;
         if (isAnimated) curve.EndingAngle = angle;
         if (!curve.Visible || curve.Step == 0) continue;
-        ScriptEngine engine;
-        prepareForCurves(engine);
         SweepWatch watch([this] { return host_.tickCount(); });
         const auto look = [&watch](float) {
             watch.look();

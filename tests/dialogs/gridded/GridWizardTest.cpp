@@ -381,6 +381,16 @@ TEST_F(VentosWizard, ALoweredNumberFallsBackToTheFirstLocation) {
     EXPECT_EQ(caption(), "INPUT INFO FOR EXTRACTION SITE #1 of 5");
 }
 
+TEST_F(VentosWizard, NoLocationsAtFirstStoreNothingOfTheFields) {
+    openFile(ventosText());
+    acceptProjection("");
+    ASSERT_NE(view_.texts["txtExtractionHeight"], "");
+    view_.texts["txtNumberOfLocations"] = "0";
+    wizard_->cmdNext2_Click();
+    EXPECT_EQ(caption(), "INPUT INFO FOR LOCATION #1 of 0");
+    EXPECT_EQ(view_.texts["txtExtractionHeight"], "");
+}
+
 TEST_F(VentosWizard, TheCaptionShowsThePositionAndDoesNotHoldIt) {
     openFile(ventosText());
     acceptProjection("");

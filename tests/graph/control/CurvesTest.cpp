@@ -331,6 +331,10 @@ TEST_F(Curves, AnErrorReachesTheCallerAndLeavesNothingLocked) {
     EXPECT_EQ(graph.Plot().Item(2).Failure, "Invalid procedure call or argument");
     graph.Plot().Item(2).Equation = "Sqr(-2)";
     EXPECT_EQ(errorNumberOf([&] { graph.Refresh(); }), 5);
+    graph.Plot().Item(2).Equation = "1";
+    EXPECT_EQ(errorNumberOf([&] { graph.Refresh(); }), 0);
+    graph.Plot().Item(2).Equation = "Sqr(-2)";
+    EXPECT_EQ(errorNumberOf([&] { graph.Refresh(); }), 5) << "it has been whole in between";
 }
 
 TEST_F(Curves, AScriptThatDoesNotCompileIsToldWithItsPlace) {
