@@ -51,8 +51,10 @@ std::string strokeLook(const LineStyle& style) {
     std::string look = attribute("stroke", svgColour(style.colour));
     if (width > 1) look += attribute("stroke-width", std::to_string(width));
     std::string pattern;
-    for (const int length : dashes(style.style))
-        pattern += (pattern.empty() ? "" : " ") + std::to_string(length * width);
+    for (const int length : dashes(style.style)) {
+        if (!pattern.empty()) pattern += ' ';
+        pattern += std::to_string(length * width);
+    }
     if (pattern.empty()) return look;
     look += attribute("stroke-dasharray", pattern);
     if (style.phase > 0) look += attribute("stroke-dashoffset", svgNumber(style.phase));
@@ -199,7 +201,10 @@ void SvgCanvas::pie(Point centre, double radius, double start, double end, Colou
 
 void SvgCanvas::fillPolygon(const std::vector<Point>& corners, Colour colour) {
     std::string path;
-    for (const Point& corner : corners) path += (path.empty() ? "M" : "L") + pointText(corner);
+    for (const Point& corner : corners) {
+        path += path.empty() ? 'M' : 'L';
+        path += pointText(corner);
+    }
     if (!path.empty()) shape("path", attribute("fill", svgColour(colour)) + attribute("d", path + "z"));
 }
 
