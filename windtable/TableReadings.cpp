@@ -8,6 +8,11 @@ namespace {
 
 constexpr std::size_t mostDistances = 64;
 
+/// Dates whose day equals their month.
+bool areSameTimes(const TimeReading& one, const TimeReading& other) {
+    return one.first == other.first && one.last == other.last && one.counts == other.counts;
+}
+
 }  // namespace
 
 std::int64_t TimeReading::commonest() const {
@@ -67,9 +72,16 @@ bool TimeReadings::add(std::span<const std::string_view> values) {
 const TimeReading* TimeReadings::best() const {
     const TimeReading* best = nullptr;
     bool isTie = false;
+    const bool areDates = std::any_of(readings_.begin(), readings_.end(), [](const TimeReading& reading) {
+        return reading.form == TimeForm::YearFirst;
+    });
     for (const TimeReading& reading : readings_) {
+        // 201601091530 is a number of milliseconds too, and as such any gap within a day is less than a
+        // second.
+        if (areDates && reading.form == TimeForm::Epoch) continue;
         if (best != nullptr && reading.gaps() == best->gaps())
-            isTie = isTie || (best->form == TimeForm::DayFirst && reading.form == TimeForm::MonthFirst);
+            isTie = isTie || (best->form == TimeForm::DayFirst && reading.form == TimeForm::MonthFirst &&
+                              !areSameTimes(*best, reading));
         if (best != nullptr && reading.gaps() >= best->gaps()) continue;
         best = &reading;
         isTie = false;

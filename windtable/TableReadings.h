@@ -42,7 +42,8 @@ class TimeReadings {
     std::size_t count() const { return readings_.size(); }
     const std::vector<TimeReading>& readings() const { return readings_; }
 
-    /// The one with the fewest gaps; null if day first and month first have equally many.
+    /// The one with the fewest gaps, but no numbers if all times are dates with the year first; null if day
+    /// first and month first have equally many and differ.
     const TimeReading* best() const;
 
  private:

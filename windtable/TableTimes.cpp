@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "base/Dates.h"
 #include "base/Text.h"
 #include "windtable/TableFields.h"
 
@@ -80,7 +81,7 @@ std::optional<int> lastYear(Taker& text) {
     const std::size_t digits = text.digitsAhead();
     if (digits != 2 && digits != 4) return {};
     const std::optional<int> year = text.number(digits, digits);
-    return year && digits == 2 ? *year + (*year >= 50 ? 1900 : 2000) : year;
+    return year && digits == 2 ? fullYear(*year) : year;
 }
 
 std::optional<std::int64_t> dayOfParts(std::optional<int> year, std::optional<int> month,
@@ -229,7 +230,7 @@ std::optional<TableTime> partsTime(std::span<const std::string_view> values) {
         if (!part || *part < 0) return {};
         parts[i] = *part;
     }
-    if (values[0].size() <= 2) parts[0] += parts[0] >= 50 ? 1900 : 2000;
+    if (values[0].size() <= 2) parts[0] = fullYear(parts[0]);
     const std::optional<std::int64_t> day = dateSeconds(parts[0], parts[1], parts[2]);
     const std::optional<std::int64_t> clock = Clock{parts[3], parts[4], 0}.seconds();
     if (!day || !clock) return {};
@@ -274,7 +275,7 @@ class PatternTime {
                 return set(year_, text_.number(4, 4));
             case 'y':
                 if (!set(year_, text_.number(2, 2))) return false;
-                year_ += year_ >= 50 ? 1900 : 2000;
+                year_ = fullYear(year_);
                 return true;
             case 'm':
                 return set(month_, text_.number(1, 2));

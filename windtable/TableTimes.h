@@ -18,7 +18,7 @@ struct TableTime {
 };
 
 /// The time of these values: one, a date and a time of day, or the parts from the year on. None for what is
-/// no time of that form. Two-digit years are 1950 to 2049; hour 24 is hour 0 of the next day; a date alone is
+/// no time of that form. Two-digit years are 1930 to 2029; hour 24 is hour 0 of the next day; a date alone is
 /// its first hour; parts of a second are dropped.
 std::optional<TableTime> tableTime(TimeForm form, const std::string& pattern,
                                    std::span<const std::string_view> values);

@@ -125,6 +125,30 @@ TEST(TableGuess, DecidesTheOrderOfDatesByTheWholeFile) {
               ":3: time: \"02/13/2016\" is no time, day first, as those before it");
 }
 
+TEST(TableGuess, TakesADayThatIsTheSameInBothOrders) {
+    Table table("time,ws,wd\n05/05/2016 00:00,1,2\n05/05/2016 01:00,1,2\n05/05/2016 03:00,1,2\n");
+    EXPECT_EQ(table.fault(), "no fault");
+    const TableFacts facts = guessTable(table.path, {});
+    EXPECT_EQ(timeText(facts.begin), "2016-05-05 00:00");
+    EXPECT_EQ(timeText(facts.end), "2016-05-05 04:00");
+    EXPECT_NE(faultIn("time,ws,wd\n05/05/2016 23:00,1,2\n06/05/2016 01:00,1,2\n"), "no fault");
+}
+
+// As milliseconds since 1970 the gaps within a day would be less than a second.
+TEST(TableGuess, TakesCompactTimesWithGapsForDates) {
+    std::string text = "time,ws,wd\n";
+    for (const char* const day : {"20160109", "20160110", "20160111", "20160112"})
+        for (int hour = 0; hour < 24; ++hour)
+            if (hour != 7 && hour != 15)
+                text += day + std::string(hour < 10 ? "0" : "") + std::to_string(hour) + "00,1,2\n";
+    const Table table(text);
+    const TableFacts facts = guessTable(table.path, {});
+    EXPECT_EQ(facts.layout.timeForm, TimeForm::YearFirst);
+    EXPECT_EQ(facts.layout.recordSeconds, 3600);
+    EXPECT_EQ(timeText(facts.begin), "2016-01-09 00:00");
+    EXPECT_EQ(timeText(facts.end), "2016-01-13 00:00");
+}
+
 TEST(TableGuess, TakesWhatItIsTold) {
     Table table("when|a|b|c\n2016-01-01 00:00|1|2|3\n2016-01-01 00:10|1|2|3\n");
     table.wishes.time = "WHEN";

@@ -54,8 +54,9 @@ TEST(TableTimes, ReadTheDayOrTheMonthFirst) {
     EXPECT_EQ(dayFirst("09/01/2016 15:30"), "2016-01-09 15:30");
     EXPECT_EQ(monthFirst("09/01/2016 15:30"), "2016-09-01 15:30");
     EXPECT_EQ(dayFirst("9.1.16 15:30:00"), "2016-01-09 15:30");
-    EXPECT_EQ(dayFirst("9.1.50"), "1950-01-09 00:00");
-    EXPECT_EQ(dayFirst("9.1.49"), "2049-01-09 00:00");
+    EXPECT_EQ(dayFirst("9.1.30"), "1930-01-09 00:00");
+    EXPECT_EQ(dayFirst("9.1.29"), "2029-01-09 00:00");
+    EXPECT_EQ(dayFirst("9.1.00"), "2000-01-09 00:00");
     EXPECT_EQ(monthFirst("1/9/2016 3:30 PM"), "2016-01-09 15:30");
     EXPECT_EQ(monthFirst("1/9/2016 12:05:10 am"), "2016-01-09 00:05");
     EXPECT_EQ(monthFirst("1/9/2016 13:30 PM"), "none");
@@ -82,6 +83,8 @@ TEST(TableTimes, ReadDateAndTimeOfDayInTwoColumns) {
 TEST(TableTimes, ReadPartsAndSecondsOfTheEpoch) {
     EXPECT_EQ(readAs(TimeForm::Parts, {"2016", "01", "09", "15", "30"}), "2016-01-09 15:30");
     EXPECT_EQ(readAs(TimeForm::Parts, {"16", "1", "9"}), "2016-01-09 00:00");
+    EXPECT_EQ(readAs(TimeForm::Parts, {"30", "1", "9"}), "1930-01-09 00:00");
+    EXPECT_EQ(readAs(TimeForm::Parts, {"29", "1", "9"}), "2029-01-09 00:00");
     EXPECT_EQ(readAs(TimeForm::Parts, {"2016", "1.0", "9", "24"}), "2016-01-10 00:00");
     EXPECT_EQ(readAs(TimeForm::Parts, {"2016", "257", "9", "0"}), "none");
     EXPECT_EQ(readAs(TimeForm::Parts, {"2016", "1", "9", "x"}), "none");
@@ -95,6 +98,8 @@ TEST(TableTimes, ReadPartsAndSecondsOfTheEpoch) {
 
 TEST(TableTimes, ReadByAPattern) {
     EXPECT_EQ(byPattern("%d.%m.%y %H:%M", "9.1.16 15:30"), "2016-01-09 15:30");
+    EXPECT_EQ(byPattern("%d.%m.%y", "9.1.30"), "1930-01-09 00:00");
+    EXPECT_EQ(byPattern("%d.%m.%y", "9.1.29"), "2029-01-09 00:00");
     EXPECT_EQ(byPattern("%Y%j %H%M%S", "2016009 153000"), "2016-01-09 15:30");
     EXPECT_EQ(byPattern("%b %d %Y %I:%M %p", "Jan 9 2016 03:30 PM"), "2016-01-09 15:30");
     EXPECT_EQ(byPattern("[%Y-%m-%d]%H:%M%z", "[2016-01-09]15:30+0100"), "2016-01-09 15:30 UTC+0100");
