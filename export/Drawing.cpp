@@ -50,7 +50,7 @@ void drawScaled(const Drawing& drawing, QPainter& painter, double scale) {
 
 bool writePdf(const Drawing& drawing, QIODevice& device) {
     QPdfWriter pdf(&device);
-    describe(pdf, drawing.title);
+    describe(pdf, drawing.documentTitle.empty() ? drawing.title : drawing.documentTitle);
     const QSizeF points(drawing.width * pointsPerInch / layoutDotsPerInch,
                         drawing.height * pointsPerInch / layoutDotsPerInch);
     pdf.setPageSize(QPageSize(points, QPageSize::Point, QString(), QPageSize::ExactMatch));

@@ -10,13 +10,15 @@
 namespace zg {
 
 /// A page that can be drawn on any canvas of its size, in pixels or 96ths of an inch, with a description for
-/// readers who cannot see it, UTF-8. The description is only made for a canvas that keeps it.
+/// readers who cannot see it, UTF-8. The description is only made for a canvas that keeps it. A PDF document
+/// of this page alone has its own title, or that of the page if it is empty.
 struct Drawing {
     int width = 0;
     int height = 0;
     std::string title;
     std::function<std::string()> words;
     std::function<void(Canvas&)> draw;
+    std::string documentTitle = {};
 };
 
 /// Writes the page as "png", "bmp", "svg" or "pdf"; false if the device or the toolkit refuses. Throws

@@ -46,7 +46,7 @@ bool isFrqName(const std::string& path) {
 bool beginsAsFrq(const std::string& path) {
     try {
         LineReader lines(path, std::size_t{1} << 20);
-        return lines.atEnd() || withoutByteOrderMark(lines.readLine()).starts_with("WIND.FRQ");
+        return lines.atEnd() || trimmed(withoutByteOrderMark(lines.readLine())).starts_with("WIND.FRQ");
     } catch (const RunTimeError&) {
         return true;  // loading it reports why it cannot be read
     }

@@ -49,6 +49,7 @@ Drawing roseDrawing(const RoseOfFile& rose, const PictureLook& asked, int side) 
     const PictureLook look = lookFor(asked, *rose.tables, rose.rose);
     Drawing drawing{side, side, {}, {}, {}};
     drawing.title = toUtf8(rose.tables->GraphTitle + ", " + rose.tables->FrqRoseCaption(rose.rose));
+    drawing.documentTitle = toUtf8(rose.tables->GraphTitle);
     drawing.words = [rose, look] {
         const ModPolarGraph tables = tablesFor(rose, look);
         return roseWords(tables, speedLimits(tables, look.rose.unit));

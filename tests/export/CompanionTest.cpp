@@ -111,7 +111,7 @@ TEST(Companion, ANameInBracketsIsAName) {
 TEST(Companion, HelpFitsAScreen) {
     const Result result = runCompanion({"--help"});
     EXPECT_LE(result.out.count('\n'), 40);
-    for (const QString& line : result.out.split('\n')) EXPECT_LE(line.size(), 80) << line.toStdString();
+    for (const QByteArray& line : result.out.split('\n')) EXPECT_LE(line.size(), 80) << line.toStdString();
     EXPECT_TRUE(result.out.contains("Examples:"));
 }
 

@@ -130,6 +130,9 @@ TEST_F(ExportRoses, VectorPicturesAreDrawnByStrokes) {
     EXPECT_EQ(pdf.substr(0, 5), "%PDF-");
     EXPECT_NE(pdf.find("/MediaBox [0 0 450.000000 450.000000]"), std::string::npos);
     EXPECT_EQ(pdf.find("/Subtype /Image"), std::string::npos);
+    std::string title = "/Title (\xFE\xFF";  // in UTF-16
+    for (const char c : std::string("Lovett, New York - Hourly surface winds")) title += {'\0', c};
+    EXPECT_NE(pdf.find(title + ")"), std::string::npos) << "the file's title alone";
 }
 
 TEST_F(ExportRoses, AnyNumberOfJobsGivesTheSameNamesAndBytes) {

@@ -73,6 +73,16 @@ TEST(RawExport, ASurfaceFileBecomesTheRosesOfAnotherProgram) {
     EXPECT_EQ(lines.substr(0, 900), expectedLines.substr(0, 900));
 }
 
+// The loader takes blanks on either side of the first line.
+TEST(RawExport, AnFrqFileIsKnownByItsFirstWordAfterBlanks) {
+    const TempDirectory directory;
+    const std::string path =
+        directory.write("roses.txt", "  " + zg::readWholeFile(samples + "LOVETT_1988.frq"));
+    const Outcome outcome = runRaw({q(path), "--out", q(directory.path()), "--rose", "1", "--size", "100"});
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_EQ(namesIn(directory.path()), "roses.txt roses_01.png ");
+}
+
 TEST(RawExport, EveryKindOfTheSamplesIsFoundByItsContent) {
     const TempDirectory directory;
     QStringList words = {"--out", q(directory.path()), "--frq", "--rose", "1", "--size", "50", "--jobs",
