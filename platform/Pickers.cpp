@@ -15,18 +15,21 @@ std::string ShowFileOpen(Host& host, const std::string& filter, int index, const
     return host.pickFileToOpen(pick);
 }
 
-void SelectFiles(Host& host, QListWidget& list, std::string& dir, const std::string& filter) {
-    FilePick pick;
-    pick.title = "Select Files";
-    pick.filter = filter;
-    pick.directory = dir;
-    const std::vector<std::string> paths = host.pickFilesToOpen(pick);
+void addFiles(const std::vector<std::string>& paths, QListWidget& list, std::string& dir) {
     if (paths.empty()) return;
     for (const std::string& path : paths) addRead(list, path);
     // Rows are never cut off: the list scrolls sideways to the end of its longest text plus a scroll bar.
     list.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     list.setTextElideMode(Qt::ElideNone);
     dir = DirOf(paths.front());
+}
+
+void SelectFiles(Host& host, QListWidget& list, std::string& dir, const std::string& filter) {
+    FilePick pick;
+    pick.title = "Select Files";
+    pick.filter = filter;
+    pick.directory = dir;
+    addFiles(host.pickFilesToOpen(pick), list, dir);
 }
 
 std::string BrowseForFolder(Host& host, const std::string& start, const std::string& title, int style) {

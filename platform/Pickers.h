@@ -16,6 +16,9 @@ inline constexpr const char* pictureFilter =
 /// Asks for one file to open, with no initial name; "" if cancelled.
 std::string ShowFileOpen(Host& host, const std::string& filter, int index, const std::string& initDir);
 
+/// Appends files to the list as SelectFiles does.
+void addFiles(const std::vector<std::string>& paths, QListWidget& list, std::string& dir);
+
 /// Asks for several files and appends each as a full path to the list, which scrolls as far as its longest
 /// row needs. Sets the directory to that of the files; cancelling changes nothing.
 void SelectFiles(Host& host, QListWidget& list, std::string& dir, const std::string& filter);

@@ -10,12 +10,14 @@
 #include <optional>
 
 #include "base/Lines.h"
+#include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "platform/Errors.h"
 #include "platform/QtText.h"
 #include "settings/Settings.h"
 #include "shell/FrmMain.h"
 #include "shell/RecentFiles.h"
+#include "windtable/TableGuess.h"
 
 namespace zg {
 
@@ -28,16 +30,29 @@ std::string draggedFile(const QDropEvent& event) {
                                                                : std::string();
 }
 
-/// The kind of a raw file by its first word, else by its name; nothing for a file of no such kind.
-std::optional<InputKind> rawKindOf(const std::string& path) {
+bool isTableOfWinds(const std::string& path, std::string_view firstLine) {
+    try {
+        return isIsdLiteLine(firstLine) || hasTableHead(path);
+    } catch (const RunTimeError&) {
+        return false;  // a line that is too long for a table
+    }
+}
+
+/// The kind of a raw file by its first line, else by its name, else by its columns; nothing for a frequency
+/// file and for a file of no such kind.
+std::optional<InputKind> droppedKind(const std::string& path) {
     LineReader lines(path);
-    const std::string_view start = lines.ahead();
+    const std::string start = ucase(trimmed(lines.ahead().substr(0, lines.ahead().find_first_of("\r\n"))));
+    if (start.starts_with("WIND.FRQ")) return std::nullopt;
     for (const Format& format : formats())
         if (!format.firstWord.empty() && start.starts_with(format.firstWord)) return format.kind;
+    if (start.find("DATETIME") != std::string::npos && start.find("STNCODE") != std::string::npos)
+        return InputKind::MonitorW;
     const std::string name = lcase(path);
     if (name.ends_with(".sfc")) return InputKind::AermSfc;
     if (name.ends_with(".pfl")) return InputKind::AermPfl;
-    if (name.ends_with(".csv")) return InputKind::MonitorW;
+    if (isTableOfWinds(path, start)) return InputKind::Csv;
+    if (name.ends_with(".csv")) return InputKind::MonitorW;  // whose dialog tells what is wrong
     return std::nullopt;
 }
 
@@ -77,9 +92,10 @@ void frmMain::showRecentFiles() {
     if (menu->isEmpty()) menu->addAction(QStringLiteral("No file has been opened yet"))->setEnabled(false);
 }
 
-/// A frequency file is plotted; for raw data their dialog opens with the file chosen.
+/// A frequency file is plotted; for raw data their dialog opens with the file chosen, but a table of winds,
+/// which has no dialog, is only named.
 void frmMain::openDropped(const std::string& path) {
-    if (const auto kind = rawKindOf(path))
+    if (const auto kind = droppedKind(path))
         processRawFile(path, *kind);
     else
         chooseFrqFile(path);

@@ -67,11 +67,16 @@ void frmMain::processRawFile(const std::string& path, InputKind kind) {
         case InputKind::Tsf:
             return processFile<frmOpenTSFDataFile>(path);
         case InputKind::M3d:
+            useLibrariesBeside(applicationDirectory);
+            return processFile<frmProcess3DDATFiles>(path);
         case InputKind::Ventos:
+            useLibrariesBeside(applicationDirectory);
+            return processFile<frmProcessVENTOSDATFiles>(path);
         case InputKind::Csv:
-            break;
+            host_.showBox({"\"" + FileNameOf(path) +
+                               "\" is a table of winds. zephyrgraph-export makes wind roses of it.",
+                           "Open", BoxIcon::Information, BoxButtons::Ok});
     }
-    chooseFrqFile(path);  // the loader tells that it is no frequency file
 }
 
 frmMain::Commands frmMain::fileCommands() {

@@ -154,6 +154,12 @@ void GridForm::browseFiles() {
     clearFilledMark(files, files.count() > 0);
 }
 
+void GridForm::openFile(const std::string& path) {
+    QListWidget& files = as<QListWidget>(variation_.fileList);
+    addFiles({path}, files, directory_);
+    clearFilledMark(files, true);
+}
+
 void GridForm::browseDirectory() {
     QLineEdit& box = as<QLineEdit>("txtOutputDirectory");
     zg::browseDirectory(host_, box, folderPrompt);

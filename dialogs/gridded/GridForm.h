@@ -28,6 +28,9 @@ class GridForm : public QDialog, public GridView {
     GridForm(const GridVariation& variation, Host& host, ProcessStarter& starter, ProcessingWindow window,
              QWidget* parent);
 
+    /// Takes a file as if the user had browsed for it.
+    void openFile(const std::string& path);
+
     std::string text(const char* control) const override;
     void setText(const char* control, const std::string& text) override;
     bool checked(const char* option) const override;

@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QDropEvent>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QMimeData>
 #include <QTimer>
@@ -69,6 +70,7 @@ TEST_F(FrmMainHabits, ForDroppedRawDataTheirDialogOpensWithTheFile) {
     program_.deliver({"TimeZones.txt"});
     for (const Row& row : {Row{"valley_surf.dat", "frmOpenSURFDATFile", "txtSURFDATFile"},
                            Row{"valley_up.dat", "frmOpenUPDATFile", "txtUPDATFile"},
+                           Row{"valley_monitor.csv", "frmOpenAMMNETDataFile", "txtAMMNETDataFile"},
                            Row{"valley_series.tsf", "frmOpenTSFDataFile", "txtTSFDataFile"}}) {
         QString form;
         QString text;
@@ -89,6 +91,64 @@ TEST_F(FrmMainHabits, ForDroppedRawDataTheirDialogOpensWithTheFile) {
         EXPECT_EQ(text.toStdString(), path);
     }
     EXPECT_TRUE(host_.openPicks.empty()) << "no picker asks";
+}
+
+TEST_F(FrmMainHabits, ForDroppedGriddedDataTheirWizardOpensWithTheFileInItsList) {
+    struct Row {
+        const char* sample;
+        const char* form;
+        const char* list;
+    };
+    program_.deliver({"TimeZones.txt"});
+    modPolarGraph.WorkDir = "before";
+    settings.CurrentFrqPath = "before.frq";
+    for (const Row& row : {Row{"valley_ventos.dat", "frmProcessVENTOSDATFiles", "lstVENTOSDATFiles"},
+                           Row{"valley_model.m3d", "frmProcess3DDATFiles", "lst3DDATFiles"}}) {
+        QString form;
+        QString text;
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, &look, [&] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            const auto* list =
+                dialog == nullptr ? nullptr : dialog->findChild<QListWidget*>(QLatin1String(row.list));
+            if (list == nullptr || list->count() != 1) return;
+            form = dialog->objectName();
+            text = list->item(0)->text();
+            dialog->reject();
+        });
+        look.start(5);
+        QTimer::singleShot(5000, &look, [] {
+            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) dialog->reject();
+        });
+        const std::string path = std::string(ZG_SOURCE_DIR "/data/samples/") + row.sample;
+        EXPECT_TRUE(drop({path}));
+        EXPECT_EQ(form.toStdString(), row.form);
+        EXPECT_EQ(text.toStdString(), path);
+    }
+    EXPECT_TRUE(host_.boxes.empty());
+    EXPECT_EQ(window_->windowTitle(), "Zephyrgraph");
+    EXPECT_EQ(modPolarGraph.WorkDir, "before");
+    EXPECT_EQ(settings.CurrentFrqPath, "before.frq");
+}
+
+TEST_F(FrmMainHabits, ADroppedFrqFileIsPlottedWhateverItsName) {
+    const std::string roses = directory_.read(FileNameOf(sample("a.frq")));
+    EXPECT_TRUE(drop({directory_.write("roses.csv", "  " + roses)}));
+    EXPECT_EQ(window_->windowTitle(), "Zephyrgraph - roses.csv");
+    EXPECT_TRUE(modPolarGraph.FrqLoaded);
+}
+
+TEST_F(FrmMainHabits, ADroppedTableOfWindsChangesNothingAndSaysWhatDrawsIt) {
+    host_.boxAnswers = {BoxAnswer::Ok};
+    modPolarGraph.WorkDir = "before";
+    EXPECT_TRUE(drop({directory_.write("mast.csv", "time,ws,wd\n2016-01-09 15:30,3,90\n")}));
+    ASSERT_EQ(host_.boxes.size(), 1U);
+    EXPECT_EQ(host_.boxes[0].text,
+              "\"mast.csv\" is a table of winds. zephyrgraph-export makes wind roses of it.");
+    EXPECT_EQ(host_.boxes[0].icon, BoxIcon::Information);
+    EXPECT_EQ(window_->windowTitle(), "Zephyrgraph");
+    EXPECT_EQ(modPolarGraph.WorkDir, "before");
+    EXPECT_TRUE(recentFiles().empty());
 }
 
 TEST_F(FrmMainHabits, AnotherFileThatIsDroppedIsToldByTheLoader) {
