@@ -2,6 +2,7 @@
 # Looks at the companion's SVG and web report by the programs that people open them with: rsvg-convert, and Chromium without a window
 # (Debian's librsvg2-bin and chromium-headless-shell). What is missing is said and left out.
 #   check_pages.py COMPANION SAMPLES [AXE]      AXE: axe.min.js of npm's axe-core, which looks for barriers
+import glob
 import os
 import re
 import shutil
@@ -58,7 +59,8 @@ def look_at_svg(scratch):
 
 def look_at_report(scratch):
     path = os.path.join(scratch, "report.html")
-    subprocess.run([COMPANION, SAMPLES, "--html", path], check=True, stdout=subprocess.DEVNULL)
+    samples = sorted(glob.glob(os.path.join(SAMPLES, "*.frq")))
+    subprocess.run([COMPANION, *samples, "--html", path, "--out", scratch], check=True, stdout=subprocess.DEVNULL)
     page = open(path, encoding="utf-8").read()
     roses = page.count("<article ")
     count = "document.title=[].filter.call(document.querySelectorAll('.rose'),function(r){return r.offsetHeight>0}).length"
