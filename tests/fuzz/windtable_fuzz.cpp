@@ -13,7 +13,7 @@ FUZZ_TARGET(windtable) {
     static const int file = memfd_create("table", 0);
     static const std::string path = "/proc/self/fd/" + std::to_string(file);
     if (ftruncate(file, 0) != 0 || pwrite(file, data, size, 0) != static_cast<ssize_t>(size)) std::abort();
-    Control control = fuzzControl(InputKind::Csv);
+    Control control = fuzzControl(zg::InputKind::Csv);
     try {
         const zg::TableFacts facts = zg::guessTable(path, {});
         if (facts.records <= 0 || facts.end <= facts.begin || facts.layout.columns() == 0) std::abort();
