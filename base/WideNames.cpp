@@ -112,8 +112,7 @@ std::string narrowName(std::u16string_view units) {
     for (std::size_t i = 0; i < units.size(); ++i) {
         std::uint32_t character = units[i];
         if (isHigh(units[i]) && i + 1 < units.size() && isLow(units[i + 1])) {
-            character =
-                0x10000U + ((character - highFirst) << 10U) + (std::uint32_t{units[i + 1]} - lowFirst);
+            character = 0x10000U + ((character & 0x3FFU) << 10U) + (units[i + 1] & 0x3FFU);
             ++i;
         }
         appendBytes(bytes, character);

@@ -28,7 +28,8 @@ class PageTools {
     /// Moves the page's top left corner to that place in the work area, in pixels; raises 6 beyond 16 bits.
     using MovePage = std::function<void(double x, double y)>;
 
-    PageTools(Control control, MovePage movePage) : control_(control), movePage_(std::move(movePage)) {}
+    PageTools(const Control& control, MovePage movePage)
+        : control_(control), movePage_(std::move(movePage)) {}
 
     /// Hides the shapes of the active tool and the selection.
     void end();
