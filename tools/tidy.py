@@ -24,6 +24,9 @@ def sources_of(file):
         return re.findall(r'^#include "([^"]+\.cpp)"', text.read(), re.MULTILINE)
 
 
+OF_ANOTHER_COMPILER = ("-Winvalid-pch", "-Wno-restrict", "-Wno-stringop-overflow", "-Wno-subobject-linkage")
+
+
 def plain(command):
     words, kept, skip = shlex.split(command), [], False
     for word in words:
@@ -31,7 +34,7 @@ def plain(command):
             skip = False
         elif word == "-include":
             skip = True
-        elif word not in ("-Winvalid-pch", "-Wno-restrict", "-Wno-subobject-linkage"):
+        elif word not in OF_ANOTHER_COMPILER and not word.startswith("--param="):
             kept.append(word)
     return shlex.join(kept)
 
