@@ -65,13 +65,13 @@ std::optional<Palette> paletteNamed(const std::string& name) {
 Palette readPalette(const std::string& path) {
     constexpr std::size_t longestLine = 4096;
     LineReader reader(path, longestLine);
-    Palette palette{};
-    for (std::size_t found = 0; found < palette.size();) {
+    Palette colours{};
+    for (std::size_t found = 0; found < colours.size();) {
         const std::string_view line = reader.readLine();
         const std::string text = lcase(trim(line.substr(0, line.find(';'))));
         if (text.empty()) continue;
         try {
-            palette[found++] = colourOf(text);
+            colours[found++] = colourOf(text);
         } catch (RunTimeError& error) {
             error.where = std::to_string(reader.lineNumber()) + ": colour";
             error.description = "Type mismatch";
@@ -79,7 +79,7 @@ Palette readPalette(const std::string& path) {
             throw;
         }
     }
-    return palette;
+    return colours;
 }
 
 }  // namespace zg
