@@ -103,18 +103,7 @@ class Planner {
         limit("--end", wishes_.end, end, false);
         if (dateOf(end).year < 1 || begin >= end)
             refuse(path_, "Error: The Ending Date/Time must be later than the Starting Date/Time.");
-        const auto set = [](DateTime moment, std::string& year, std::string& month, std::string& day,
-                            std::string& hour, std::string& second) {
-            const CalendarDate date = dateOf(moment);
-            const TimeOfDay clock = timeOf(moment);
-            year = std::to_string(date.year);
-            month = std::to_string(date.month);
-            day = std::to_string(date.day);
-            hour = std::to_string(clock.hour);
-            second = std::to_string(60 * clock.minute + clock.second);
-        };
-        set(begin, v.IBYR, v.IBMO, v.IBDY, v.IBHR, v.IBSEC);
-        set(end, v.IEYR, v.IEMO, v.IEDY, v.IEHR, v.IESEC);
+        zg::setPeriod(v, begin, end);
     }
 
     ControlFile sharedValues() const {

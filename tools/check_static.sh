@@ -6,7 +6,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-folders=(base formats graph headers processing settings shell platform dialogs batch export tempoline)
+folders=(base formats graph headers processing settings shell platform dialogs batch export tempoline windtable)
 echo "-- cppcheck"
 cppcheck --enable=warning,performance,portability --std=c++20 --language=c++ -j "$(nproc)" -I. --suppressions-list=tools/cppcheck.txt \
     --error-exitcode=1 --quiet --template=gcc "${folders[@]}"

@@ -170,7 +170,7 @@ void TableHeadSearch::keepBest(const TableNames& found, const std::vector<std::s
     for (const std::string& name : names) bestText_ += " \"" + name + "\"";
     for (char& c : bestText_)
         if (static_cast<unsigned char>(c) < ' ') c = '?';
-    if (bestText_.size() > longest) bestText_ = bestText_.substr(0, longest) + "...";
+    if (bestText_.size() > longest) bestText_.replace(longest, std::string::npos, "...");
 }
 
 std::string TableHeadSearch::wanting() const { return bestText_; }
