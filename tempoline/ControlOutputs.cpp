@@ -58,7 +58,7 @@ class OutputReader {
 
     /// A TSFID belongs to one TSFOUT or one MET: a second one would discard the first.
     void needClosed() const {
-        if (id_) throw idFailure(*opened_, " has neither TSFOUT nor MET behind it");
+        if (id_) throw idFailure(*opened_, " has neither TSFOUT nor MET after it");
     }
 
     void close() {

@@ -176,7 +176,7 @@ class Reader {
         std::set<int> ids;
         const Assignment* open = nullptr;
         const auto needClosed = [&] {
-            if (open != nullptr) throw keys_.failure(*open, "no SEASNAME stands behind it");
+            if (open != nullptr) throw keys_.failure(*open, "no SEASNAME follows it");
         };
         for (const Assignment& entry : keys_.all()) {
             if (entry.key == "IDSEAS") {

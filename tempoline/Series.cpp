@@ -31,7 +31,7 @@ bool Series::isNext(Seconds begin, Seconds end, const Place& place) {
                                         " seconds is longer than the step of " + std::to_string(step_));
     if (any_ && begin < lastBegin_)
         throw place.failure(
-            "time", "records are out of order: " + isoText(begin) + " stands behind " + isoText(lastBegin_));
+            "time", "records are out of order: " + isoText(begin) + " follows " + isoText(lastBegin_));
     if (any_ && begin == lastBegin_) {
         if (records_.duplicate++ == 0)
             records_.firstDuplicate = place.path + ":" + std::to_string(place.line);

@@ -74,7 +74,7 @@ class Reader {
         for (std::int64_t i = 0; i < runs; ++i) report.runs.push_back(readRun());
         const std::int64_t roses = number(value("Roses"), "Roses", 1, 2000);
         for (std::int64_t i = 0; i < roses; ++i) report.roses.push_back(readRose());
-        if (!stripped(rest_).empty()) throw failure("text stands behind the last rose");
+        if (!stripped(rest_).empty()) throw failure("text follows the last rose");
         return report;
     }
 

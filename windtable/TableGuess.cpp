@@ -177,7 +177,7 @@ class Guess {
     }
 
     void finish() {
-        if (facts_.records == 0) fail(lines_.lineNumber(), "there is no record behind the columns' names");
+        if (facts_.records == 0) fail(lines_.lineNumber(), "there is no record after the columns' names");
         const TimeReading* reading = readings_->best();
         if (reading == nullptr) fail(0, bothReadings());
         const std::int64_t length = reading->commonest();
@@ -196,6 +196,9 @@ class Guess {
         layout.zone = facts_.zone;
         facts_.begin = reading->first - (layout.stampsEnd ? length : 0);
         facts_.end = reading->last + (layout.stampsEnd ? 0 : length);
+        if (facts_.end <= facts_.begin)
+            fail(0, "the last record, of " + timeText(reading->last) + ", is earlier than the first, of " +
+                        timeText(reading->first) + ": the records need to be sorted");
     }
 
     std::string bothReadings() const {

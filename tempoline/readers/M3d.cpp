@@ -181,7 +181,7 @@ class M3d : public InputReader {
             if (found != columns.end()) needed_.push_back({order, found->second, cell.first, cell.second});
         }
         if (needed_.size() != columns.size())
-            throw lines.failure("cells", "a cell of the extract is missing or stands twice");
+            throw lines.failure("cells", "a cell of the extract is missing or there twice");
         columnOf_ = std::move(columns);
     }
 

@@ -130,7 +130,7 @@ class Monitor : public InputReader {
 
     static Seconds halfDay(const LineSource& lines, const std::string& half, int hour) {
         if ((half != "AM" && half != "PM") || hour < 1 || hour > 12)
-            throw lines.failure("DATETIME", "behind the time only AM or PM of the hours 1 to 12 may stand");
+            throw lines.failure("DATETIME", "only AM or PM of the hours 1 to 12 may follow the time");
         if (half == "AM") return hour == 12 ? -12 * secondsAnHour : 0;
         return hour == 12 ? 0 : 12 * secondsAnHour;
     }

@@ -40,7 +40,7 @@ class Surf : public InputReader {
     void readHeader(LineSource& lines) {
         hasSeconds_ = versionOf(lines, InputKind::Surf) == "2.1";
         skipComments(lines);
-        lines.need("the line behind the comments");
+        lines.need("the line after the comments");
         if (hasSeconds_) fileOffset_ = zoneField(lines, lines.need("the time zone"));
         const std::string_view line = lines.need("the period");
         std::array<std::string_view, 9> fields;

@@ -47,7 +47,7 @@ class Tsf : public InputReader {
     void readHeader(LineSource& lines) {
         versionOf(lines, InputKind::Tsf);
         skipComments(lines);
-        lines.need("the line behind the comments");
+        lines.need("the line after the comments");
         lines.need("the kind of the data");
         readStation(lines.need("the station"));
         std::string zone;

@@ -69,11 +69,11 @@ class Up : public InputReader {
     void readHeader(LineSource& lines) {
         hasSeconds_ = versionOf(lines, InputKind::Up) == "2.1";
         skipComments(lines);
-        lines.need("the line behind the comments");
+        lines.need("the line after the comments");
         if (hasSeconds_) fileOffset_ = zoneField(lines, lines.need("the time zone"));
         readPeriod(lines.need("the period"));
         noteShift(control_, fileOffset_);
-        lines.need("the line behind the period");
+        lines.need("the line after the period");
         std::array<std::string_view, 2> fields;
         if (splitBlanks(lines.need("the station"), fields) < 2)
             throw lines.failure("station", "the second field is missing");

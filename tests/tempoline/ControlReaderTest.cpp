@@ -138,7 +138,7 @@ TEST(ControlReader, KeysOfAGroupStandOnceInIt) {
         return std::regex_replace(text, std::regex(line), lines, std::regex_constants::format_first_only);
     };
     const std::string id = "! TSFID  = 3 !";
-    const std::string neither = "TSFID: TSFID 3 has neither TSFOUT nor MET behind it";
+    const std::string neither = "TSFID: TSFID 3 has neither TSFOUT nor MET after it";
     EXPECT_EQ(refused(changed(id, id + "\n" + id)), "c.inp:83: " + neither);
     EXPECT_EQ(refused(changed(id, "! TSFID = x !\n" + id)), "c.inp:83: TSFID: \"x\" is no whole number");
     EXPECT_EQ(refused(text + id + "\n").substr(11), neither);
@@ -149,10 +149,10 @@ TEST(ControlReader, KeysOfAGroupStandOnceInIt) {
               "c.inp:82: TSFOUT: TSFID 1 has a LOCMET, which belongs to a MET");
     const std::string season = "! IDSEAS   = 1 !";
     EXPECT_EQ(refused(changed(season, "! IDSEAS = 9 !\n" + season)),
-              "c.inp:443: IDSEAS: no SEASNAME stands behind it");
+              "c.inp:443: IDSEAS: no SEASNAME follows it");
     EXPECT_EQ(refused(changed(season, "! IDSEAS = x !\n" + season)),
               "c.inp:443: IDSEAS: \"x\" is no whole number");
-    EXPECT_EQ(refused(text + "! IDSEAS = 9 !\n").substr(11), "IDSEAS: no SEASNAME stands behind it");
+    EXPECT_EQ(refused(text + "! IDSEAS = 9 !\n").substr(11), "IDSEAS: no SEASNAME follows it");
 }
 
 TEST(ControlReader, BadValuesAreNamed) {

@@ -171,7 +171,7 @@ TEST(Csv, SaysWhatIsWrongWithLineAndColumn) {
     EXPECT_EQ(reading.failure(hour0 + "3\n"), "2: the line has 2 of at least 3 values");
     EXPECT_EQ(reading.failure("\"2004,3,4\n"), "2: a quote is not closed");
     EXPECT_EQ(reading.failure(hour1 + "3,90\n" + hour0 + "3,90\n"),
-              "3: time: records are out of order: 2004-02-29 00:00:00 stands behind 2004-02-29 01:00:00");
+              "3: time: records are out of order: 2004-02-29 00:00:00 follows 2004-02-29 01:00:00");
     reading.control.table.headLines = 5;
     EXPECT_EQ(reading.failure(hour0 + "3,90\n"),
               "2: the file ends within the 5 lines before its first record");

@@ -137,7 +137,7 @@ TEST(Readers, AProfileNamesTheLineOfTheHourItself) {
         return text;
     };
     EXPECT_EQ(reading.failure(hour(2, 2) + hour(1, 3) + hour(3, 1)),
-              "3: time: records are out of order: 2004-02-29 00:00:00 stands behind 2004-02-29 01:00:00");
+              "3: time: records are out of order: 2004-02-29 00:00:00 follows 2004-02-29 01:00:00");
     EXPECT_EQ(reading.failure(hour(2, 1) + hour(1, 2)).substr(0, 2), "2:");
     reading.of(hour(1, 2) + hour(2, 2) + "\n" + hour(3, 2));
     EXPECT_EQ(reading.series[0].records().used, 3);

@@ -211,7 +211,7 @@ TEST(TableGuess, SaysWhatIsWantingAndWhere) {
                                        "ELF\0speed,1,2\n",
                                        15)),
               ": this is no text");
-    EXPECT_EQ(faultIn("time,ws,wd\n"), ":1: there is no record behind the columns' names");
+    EXPECT_EQ(faultIn("time,ws,wd\n"), ":1: there is no record after the columns' names");
     EXPECT_EQ(faultIn("time,ws,wd\n2016-01-01,1,2\nyesterday,1,2\n"),
               ":3: time: \"yesterday\" is no time, year first, as those before it");
     EXPECT_EQ(faultIn("time,ws,wd\n2016-01-01,1,2\n2016-01-02,1\n"),
@@ -220,6 +220,9 @@ TEST(TableGuess, SaysWhatIsWantingAndWhere) {
               ": all records are of one time: how long they last is not known");
     EXPECT_EQ(faultIn("time,ws,wd\n2016-01-03,1,2\n2016-01-02,1,2\n"),
               ": the records run backwards in time: they need to be sorted");
+    EXPECT_EQ(faultIn("time,ws,wd\n2016-01-03,1,2\n2016-01-04,1,2\n2016-01-05,1,2\n2015-12-05,1,2\n"),
+              ": the last record, of 2015-12-05 00:00, is earlier than the first, of 2016-01-03 00:00: the "
+              "records need to be sorted");
     EXPECT_EQ(faultIn("time,ws,wd\n2016-01-03,1,2\n2016-01-05,1,2\n"),
               ": the records lie 172800 seconds apart, more than a day");
     EXPECT_EQ(faultIn("time,ws,wd\nfirst,5,2\n2016-01-05,1,2\n"), ":2: time: \"first\" is no time");
