@@ -1,6 +1,7 @@
 #include "graph/render/Panel.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "graph/render/Legend.h"
 #include "graph/render/PartCanvas.h"
@@ -17,14 +18,26 @@ constexpr double lineHeight = 13;
 constexpr double narrowPage = 600;  // below this, title and legend shrink with the page
 constexpr double titleHeight = 30;
 constexpr double legendHeight = 62;
+constexpr double sideMargin = 4;  // between a title and its neighbour
+constexpr std::string_view dots = "...";
 
 TextStyle panelStyle(const FontRecord& font, bool bold) {
     return {font.name, static_cast<double>(font.size), bold, font.italic, paintedColour(font.colour)};
 }
 
-void writeCentred(Canvas& canvas, double y, const std::string& text, const TextStyle& style) {
-    canvas.setTextPosition({(canvas.width() - canvas.measure(text, style).width) / 2, y});
-    canvas.text(text, style);
+/// A text that is too wide becomes smaller, by a third at most; one that is wider still loses its end.
+void writeCentred(Canvas& canvas, double y, const std::string& text, TextStyle style) {
+    constexpr double smallest = 2.0 / 3;
+    const double room = canvas.width() - 2 * sideMargin;
+    const double width = canvas.measure(text, style).width;
+    if (width > room) style.size *= std::max(smallest, room / width);
+    std::string fitting = text;
+    while (canvas.measure(fitting, style).width > room && fitting.size() > dots.size() + 1) {
+        fitting.resize(fitting.size() - dots.size() - 1);
+        fitting += dots;
+    }
+    canvas.setTextPosition({(canvas.width() - canvas.measure(fitting, style).width) / 2, y});
+    canvas.text(fitting, style);
 }
 
 void drawCell(Canvas& canvas, const Rect& cell, double scale, const PanelRose& rose) {

@@ -57,6 +57,35 @@ TEST(Panel, HasEachRoseInItsCellWithItsTitleAndOneLegend) {
     EXPECT_EQ(canvas.all<drawn::Clear>().size(), 1U) << "a cell clears nothing but itself";
 }
 
+TEST(Panel, LongTitlesStayInTheirCells) {
+    RecordingCanvas canvas(600, 900);
+    const PanelLayout layout = panelLayout(600, 2, 1, 2, true);
+    std::vector<PanelRose> roses = panelOf(2);
+    const double room = layout.cells[0].right - layout.cells[0].left;
+    const auto widthOf = [&](const drawn::Text& text) { return canvas.measure(text.text, text.style).width; };
+    drawPanel(canvas, layout, roses, "");
+    const drawn::Text usual = canvas.textReading("Rose 1");
+    const double each = widthOf(usual) / 6;
+    roses[0].titles = {std::string(static_cast<std::size_t>(1.3 * room / each), 'i'), "Calm"};
+    roses[1].titles = {std::string(400, 'o'), "Calm"};
+    canvas.commands.clear();
+    drawPanel(canvas, layout, roses, std::string(400, 'u'));
+    const drawn::Text smaller = canvas.textReading(roses[0].titles[0]);
+    EXPECT_LT(smaller.style.size, usual.style.size) << "a little too wide: whole, in smaller letters";
+    EXPECT_GE(smaller.style.size, usual.style.size * 2 / 3 - 1e-9);
+    std::vector<drawn::Text> cut;
+    for (const drawn::Text& text : canvas.all<drawn::Text>())
+        if (text.text.size() > 10 && text.text.find("...") == text.text.size() - 3) cut.push_back(text);
+    ASSERT_EQ(cut.size(), 2U) << "far too wide: its beginning";
+    const Rect whole{0, 0, 600, 0};
+    for (const auto& [text, place] :
+         {std::pair{cut[0], whole}, {smaller, layout.cells[0]}, {cut[1], layout.cells[1]}}) {
+        EXPECT_GE(text.at.x, place.left) << text.text;
+        EXPECT_LE(text.at.x + widthOf(text), place.right) << text.text;
+        EXPECT_GT(widthOf(text), (place.right - place.left) * 0.9) << text.text;
+    }
+}
+
 TEST(Panel, DrawsNoMoreThanItHasCellsFor) {
     RecordingCanvas canvas(600, 900);
     drawPanel(canvas, panelLayout(600, 1, 1, 2, false), panelOf(2), "");
