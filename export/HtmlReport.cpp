@@ -19,8 +19,8 @@ body{margin:0 auto;padding:1rem;max-width:84rem;font:1rem/1.5 system-ui,Arial,He
 h1{font-size:1.6rem;margin:.2em 0}h2{font-size:1.3rem;margin:1.6em 0 0}h3{font-size:1.1rem;margin:0}
 .filter{display:flex;flex-wrap:wrap;gap:1rem;align-items:end;padding:.8rem;background:var(--soft);border-radius:.4rem}
 .filter[hidden]{display:none}
-.filter label{display:grid;gap:.2rem}
-select{font:inherit;padding:.3rem;color:var(--ink);background:var(--paper);border:1px solid var(--line);border-radius:.2rem}
+.filter label{display:grid;grid-template-columns:minmax(0,auto);gap:.2rem;max-width:100%}
+select{font:inherit;max-width:100%;padding:.3rem;color:var(--ink);background:var(--paper);border:1px solid var(--line);border-radius:.2rem}
 .roses{display:grid;grid-template-columns:repeat(auto-fill,minmax(min(100%,26rem),1fr));gap:1.2rem;margin-top:.8rem}
 .rose{border:1px solid var(--line);border-radius:.4rem;padding:.8rem;min-width:0}
 .rose[hidden],.file[hidden]{display:none}
@@ -35,9 +35,13 @@ th,td{padding:.1rem .4rem;text-align:right;border-bottom:1px solid var(--line)}
 tbody th{text-align:left}
 @page{margin:12mm}
 @media print{:root{--ink:#000;--paper:#fff;--soft:#fff;--line:#666;--link:#000}
-body{padding:0;max-width:none;font-size:10pt}.filter,summary{display:none}
-.roses{display:block}.rose{break-inside:avoid;border:0;padding:0;margin-bottom:8mm}
-figure svg{max-width:120mm}.scroll{overflow:visible}}
+body{padding:0;max-width:none;font-size:10pt;line-height:1.25}.filter,summary,figcaption,[role=status]{display:none}
+h1{font-size:15pt;margin:0}h2{font-size:13pt;margin:2mm 0 0}h3{font-size:11pt}p{margin:1mm 0}
+h1,h2,h2+p,h3{break-after:avoid}
+.roses{display:block;margin:2mm 0 0}.rose{break-inside:avoid;border:0;padding:0;margin-bottom:6mm}
+figure{margin:1mm 0}figure svg{width:128mm}details::details-content{content-visibility:visible;display:block}
+.scroll{overflow:visible}table{font-size:8pt}caption{padding:0}th,td{padding:.15mm 2mm}
+details p{display:inline-block;margin:1mm 6mm 0 0}}
 )style";
 
 // clang-format off
@@ -63,8 +67,10 @@ addEventListener("afterprint",function(){folds.forEach(function(fold){fold.open=
 
 std::string htmlText(const std::string& bytes) { return xmlText(toUtf8(bytes)); }
 
-std::string stationOf(const RoseOfFile& rose) { return trim(rose.tables->FrqTitle1); }
-std::string periodOf(const RoseOfFile& rose) { return trim(rose.tables->FrqRoseTitle(rose.rose)); }
+std::string headingOf(const RoseOfFile& rose) {
+    const std::string title = trim(rose.tables->GraphTitle);
+    return title.empty() ? stationOf(rose) : title;
+}
 
 std::string tableHtml(const ShareTable& table, const std::string& name) {
     std::string html =
@@ -142,11 +148,11 @@ std::string htmlReport(const std::vector<RoseOfFile>& roses, const PictureLook& 
                        "</form>\n<p role=\"status\"></p>\n";
     const std::string* open = nullptr;
     for (std::size_t i = 0; i < roses.size(); ++i) {
-        if (open == nullptr || *open != roses[i].source) {
+        if (open == nullptr || *open != roses[i].file) {
             if (open != nullptr) html += "</div></section>\n";
-            html += "<section class=\"file\"><h2>" + htmlText(roses[i].tables->GraphTitle) + "</h2>\n<p>" +
+            html += "<section class=\"file\"><h2>" + htmlText(headingOf(roses[i])) + "</h2>\n<p>" +
                     htmlText(roses[i].tables->GraphSubTitle) + "</p>\n<div class=\"roses\">\n";
-            open = &roses[i].source;
+            open = &roses[i].file;
         }
         html += roseHtml(roses[i], look, side, i + 1);
     }

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <memory>
 
 #include "base/Encoding.h"
+#include "base/Paths.h"
 #include "base/Text.h"
 #include "graph/render/Panel.h"
 #include "graph/render/RoseWords.h"
@@ -13,16 +15,58 @@ namespace zg {
 
 namespace {
 
-bool areOfOneFile(const std::vector<RoseOfFile>& roses) {
-    return std::all_of(roses.begin(), roses.end(),
-                       [&](const RoseOfFile& rose) { return rose.file == roses.front().file; });
+using RoseText = std::string (*)(const RoseOfFile&);
+
+std::string measureOf(const RoseOfFile& rose) { return trim(rose.tables->FrqMeasure); }
+std::string graphTitleOf(const RoseOfFile& rose) { return rose.tables->GraphTitle; }
+std::string fileNameOf(const RoseOfFile& rose) { return rose.source.substr(folderOf(rose.source).size()); }
+
+/// "Jan 1, 1988 to Jan 1, 1989" of "Jan 1, 1988 - 12:00:00 AM to Jan 1, 1989 - 12:00:00 AM (UTC-0500)".
+std::string datesOf(const RoseOfFile& rose) {
+    std::string text = rose.tables->FrqPeriodText;
+    for (std::size_t at = text.find(" - "); at != std::string::npos; at = text.find(" - ", at)) {
+        const std::size_t half = text.find('M', at);
+        text.erase(at, half == std::string::npos ? half : half + 1 - at);
+    }
+    return trim(text.substr(0, text.find('(')));
 }
 
-PanelRose panelRose(const RoseOfFile& rose, const PictureLook& look, bool nameFile) {
+bool isCommon(const std::vector<RoseOfFile>& roses, RoseText text) {
+    const std::string first = text(roses.front());
+    return std::all_of(roses.begin(), roses.end(),
+                       [&](const RoseOfFile& rose) { return text(rose) == first; });
+}
+
+bool tellApart(const std::vector<RoseText>& names, const std::vector<RoseOfFile>& roses) {
+    std::map<std::string, std::string> fileOfName;
+    return std::all_of(roses.begin(), roses.end(), [&](const RoseOfFile& rose) {
+        std::string name;
+        for (const RoseText text : names) name += text(rose) + "\n";
+        return fileOfName.try_emplace(name, rose.file).first->second == rose.file;
+    });
+}
+
+/// What tells the files of a panel apart, one line each: their stations; heights and periods if a station has
+/// several files; the names of files if nothing else differs.
+std::vector<RoseText> namesOfFiles(const std::vector<RoseOfFile>& roses) {
+    std::vector<RoseText> names;
+    for (const RoseText text : {&stationOf, &measureOf, &datesOf, &fileNameOf})
+        if (!tellApart(names, roses) && !isCommon(roses, text)) names.push_back(text);
+    return names;
+}
+
+/// What all roses have in common, "" for nothing.
+std::string panelTitle(const std::vector<RoseOfFile>& roses) {
+    for (const RoseText text : {&graphTitleOf, &stationOf})
+        if (isCommon(roses, text)) return text(roses.front());
+    return {};
+}
+
+PanelRose panelRose(const RoseOfFile& rose, const PictureLook& look, const std::vector<RoseText>& names) {
     PanelRose cell{tablesFor(rose, look), *rose.polar, look.rose, {}};
     cell.polar.Radius = look.scale.rings;
-    if (nameFile) cell.titles.push_back(trim(cell.tables.FrqTitle1));
-    cell.titles.push_back(trim(cell.tables.FrqRoseTitle(rose.rose)));
+    for (const RoseText name : names) cell.titles.push_back(name(rose));
+    cell.titles.push_back(periodOf(rose));
     cell.titles.push_back(calmWords(cell.tables));
     return cell;
 }
@@ -53,18 +97,19 @@ PictureLook sharedLook(const PictureLook& look, const std::vector<RoseOfFile>& r
 std::vector<Drawing> panelDrawings(const std::vector<RoseOfFile>& roses, const PictureLook& asked,
                                    const PanelShape& shape, int width) {
     const PictureLook look = sharedLook(asked, roses);
-    const bool oneFile = areOfOneFile(roses);
+    const std::vector<RoseText> names = namesOfFiles(roses);
+    const std::string title = panelTitle(roses);
     const auto perPage = static_cast<std::size_t>(shape.columns * shape.rows);
     std::vector<Drawing> pages;
     for (std::size_t first = 0; first < roses.size(); first += perPage) {
         auto page = std::make_shared<std::vector<PanelRose>>();
         for (std::size_t i = first; i < std::min(roses.size(), first + perPage); ++i)
-            page->push_back(panelRose(roses[i], look, !oneFile));
+            page->push_back(panelRose(roses[i], look, names));
+        const int titleLines = static_cast<int>(names.size()) + 2;
         const auto layout = std::make_shared<const PanelLayout>(
-            panelLayout(width, shape.columns, shape.rows, oneFile ? 2 : 3, oneFile));
-        const std::string title = oneFile ? roses.front().tables->GraphTitle : std::string();
+            panelLayout(width, shape.columns, shape.rows, titleLines, !title.empty()));
         pages.push_back(
-            {width, static_cast<int>(std::ceil(layout->height)), oneFile ? toUtf8(title) : "Wind roses",
+            {width, static_cast<int>(std::ceil(layout->height)), title.empty() ? "Wind roses" : toUtf8(title),
              [page, look] { return wordsOf(*page, look); },
              [page, layout, title](Canvas& canvas) { drawPanel(canvas, *layout, *page, title); }});
     }

@@ -4,6 +4,8 @@
 #include <system_error>
 
 #include "base/Encoding.h"
+#include "base/Paths.h"
+#include "base/Text.h"
 #include "export/PictureFile.h"
 #include "graph/render/PartCanvas.h"
 #include "graph/render/RedrawGraph.h"
@@ -34,6 +36,17 @@ void drawRose(const RoseOfFile& rose, const PictureLook& look, Canvas& canvas) {
 }
 
 }  // namespace
+
+std::string stationOf(const RoseOfFile& rose) {
+    for (const std::string& title : {rose.tables->FrqTitle1, rose.tables->GraphTitle})
+        if (std::string named = trim(title); !named.empty()) return named;
+    return rose.source.substr(folderOf(rose.source).size());
+}
+
+std::string periodOf(const RoseOfFile& rose) {
+    const std::string title = trim(rose.tables->FrqRoseTitle(rose.rose));
+    return title.empty() ? "Rose " + std::to_string(rose.rose) : title;
+}
 
 ModPolarGraph tablesFor(const RoseOfFile& rose, const PictureLook& look) {
     ModPolarGraph tables = *rose.tables;

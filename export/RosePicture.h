@@ -28,6 +28,13 @@ struct PictureFault {
 /// The page of a rose: a square of that side, with its table beside it where the look wants that.
 Drawing roseDrawing(const RoseOfFile& rose, const PictureLook& look, int side);
 
+/// The first title line of its file, in which the station is named; without one the second, or the file's
+/// name.
+std::string stationOf(const RoseOfFile& rose);
+
+/// The rose's own title, or its number.
+std::string periodOf(const RoseOfFile& rose);
+
 /// Tables that show that rose in that look.
 ModPolarGraph tablesFor(const RoseOfFile& rose, const PictureLook& look);
 

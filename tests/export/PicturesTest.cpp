@@ -4,6 +4,8 @@
 
 #include <QImage>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <map>
 #include <sstream>
 
@@ -152,6 +154,38 @@ TEST_F(Pictures, APanelHoldsAllRosesOnItsPages) {
     EXPECT_EQ(count(bytes("panel_03.svg"), "<g class=\"rose\">"), 1U);
 }
 
+TEST_F(Pictures, APanelNamesWhatItsFilesDifferIn) {
+    const auto panelOf = [&](const std::vector<std::pair<std::string, std::string>>& changes) {
+        job_.inputs.clear();
+        for (std::size_t i = 0; i < changes.size(); ++i) {
+            std::ifstream sample(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq", std::ios::binary);
+            std::string text((std::istreambuf_iterator<char>(sample)), {});
+            const std::size_t at = text.find(changes[i].first);
+            EXPECT_NE(at, std::string::npos) << changes[i].first;
+            text.replace(at, changes[i].first.size(), changes[i].second);
+            job_.inputs.push_back(directory_.write("file" + std::to_string(i) + ".frq", text));
+        }
+        EXPECT_EQ(run(), exportDone) << errors_.str();
+        return bytes("panel_01.svg");
+    };
+    job_.format = "svg";
+    job_.style.panel = "auto";
+    job_.rose = "1";
+    const std::string period = "1988 1 1 0 0 1988 12 31 24 0";
+    const std::string years = panelOf({{period, period}, {period, "1989 1 1 0 0 1989 12 31 24 0"}});
+    EXPECT_EQ(count(years, ">Jan 1, 1988 to Jan 1, 1989<"), 1U);
+    EXPECT_EQ(count(years, ">Jan 1, 1989 to Jan 1, 1990<"), 1U);
+    EXPECT_EQ(count(years, ">Lovett, New York - Hourly surface winds</text>"), 1U) << "above the page";
+    EXPECT_EQ(count(years, ">Lovett, New York<"), 0U);
+    const std::string heights = panelOf({{"50.0 m", "10.0 m"}, {"50.0 m", "50.0 m"}});
+    EXPECT_EQ(count(heights, ">Height = 10.0 m<"), 1U);
+    EXPECT_EQ(count(heights, "to Jan 1, 1989<"), 0U);
+    const std::string stations = panelOf({{"Lovett, New York", "Here"}, {"Lovett, New York", "There"}});
+    EXPECT_EQ(count(stations, ">Here<") + count(stations, ">There<"), 2U);
+    const std::string equal = panelOf({{period, period}, {period, period}});
+    EXPECT_EQ(count(equal, ">file0.frq<") + count(equal, ">file1.frq<"), 2U);
+}
+
 TEST_F(Pictures, PanelsAreMadeInEveryKind) {
     job_.style.panel = "3x3";
     for (const char* format : {"png", "bmp", "pdf"}) {
@@ -209,6 +243,23 @@ TEST_F(Pictures, NamesInAReportAreTextAndNotMarkup) {
     const std::string page = directory_.read("report.html");
     EXPECT_EQ(count(page, "<script>"), 1U) << "its own";
     EXPECT_NE(page.find("&lt;script&gt;&quot;&amp;'"), std::string::npos);
+}
+
+TEST_F(Pictures, EveryChoiceOfAReportHasAName) {
+    std::filesystem::copy(job_.inputs[0], directory_.file("x.frq"));
+    std::string text = directory_.read("x.frq");
+    for (const std::string& title :
+         {std::string("Lovett, New York"), std::string("Hourly surface winds"), std::string("\nAll Periods")})
+        text.replace(text.find(title), title.size(), title[0] == '\n' ? "\n" : "");
+    job_.inputs = {directory_.write("x.frq", text)};
+    job_.style.html = directory_.file("report.html");
+    ASSERT_EQ(run(), exportDone) << errors_.str();
+    const std::string page = directory_.read("report.html");
+    EXPECT_EQ(count(page, "<option value=\"\">All</option>"), 2U);
+    EXPECT_EQ(count(page, "<option value=\"\">"), 2U);
+    EXPECT_EQ(count(page, "<option value=\"x.frq\">x.frq</option>"), 1U);
+    EXPECT_EQ(count(page, "<option value=\"Rose 1\">Rose 1</option>"), 1U);
+    EXPECT_EQ(count(page, "<h2></h2>") + count(page, "<h3></h3>"), 0U);
 }
 
 TEST_F(Pictures, AReportForPrintHasAPageARose) {
