@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 # Looks at the companion's SVG and web report by the programs that people open them with: rsvg-convert, and Chromium without a window
 # (Debian's librsvg2-bin and chromium-headless-shell). What is missing is said and left out.
-#   check_pages.py COMPANION SAMPLES [AXE]      AXE: axe.min.js of npm's axe-core, which looks for barriers
+#   check_pages.py COMPANION SAMPLES
+#   check_pages.py COMPANION SAMPLES AXE     only searches reports for barriers, by axe.min.js of axe-core; nothing may be missing
 import glob
 import os
 import re
@@ -10,9 +11,14 @@ import subprocess
 import sys
 import tempfile
 
+import browser
+
 COMPANION, SAMPLES = os.path.abspath(sys.argv[1]), os.path.abspath(sys.argv[2])
 AXE = sys.argv[3] if len(sys.argv) > 3 else ""
-BROWSER = next((found for found in map(shutil.which, ("chromium-headless-shell", "chromium")) if found), None)
+PRINTED_WIDTH = 703  # pixels of A4, which is narrower than Letter, between its margins
+SHOWN = "[].filter.call(document.querySelectorAll('.rose'),function(r){return r.offsetHeight>0})"
+FOCUS = ("(function(e){var s=getComputedStyle(e);return {what:e.name||e.className||e.tagName,seen:s.outlineStyle!='none'&&"
+         "parseFloat(s.outlineWidth)>=2}})(document.activeElement)")
 failures = []
 
 
@@ -22,76 +28,152 @@ def check(holds, what):
         failures.append(what)
 
 
-def browser(*words):
-    done = subprocess.run([BROWSER, "--headless", "--no-sandbox", "--disable-gpu", "--hide-scrollbars", "--virtual-time-budget=20000",
-                           *words], capture_output=True, timeout=300)
-    return done.stdout.decode("utf-8", "replace")
+def companion(*words):
+    subprocess.run([COMPANION, *words], check=True, stdout=subprocess.DEVNULL)
 
 
-def with_script(page, script, path):
-    """A copy of the page that runs a script at its end and leaves its answer in the title."""
-    with open(path, "w", encoding="utf-8") as copy:
-        copy.write(page.replace("</body>", "<script>%s</script></body>" % script))
-    return "file://" + path
+def sample(name):
+    return os.path.join(SAMPLES, name + ".frq")
 
 
-def answer(page, script, scratch):
-    text = browser("--dump-dom", with_script(page, script, os.path.join(scratch, "asked.html")))
-    found = re.search(r"<title>(.*?)</title>", text, re.S)
-    return found.group(1) if found else text[:200]
+def report(scratch, name, *words):
+    """The path of a web report of the FRQ samples, or of the files among the words."""
+    path = os.path.join(scratch, name + ".html")
+    inputs = [] if any(word.endswith(".frq") for word in words) else sorted(glob.glob(os.path.join(SAMPLES, "*.frq")))
+    companion(*inputs, *words, "--html", path, "--out", scratch)
+    return path
 
 
-def look_at_svg(scratch):
+def look_at_svg(scratch, shown):
     svg = os.path.join(scratch, "LOVETT_1988_01.svg")
-    subprocess.run([COMPANION, os.path.join(SAMPLES, "LOVETT_1988.frq"), "--rose", "1", "--format", "svg", "--out", scratch], check=True,
-                   stdout=subprocess.DEVNULL)
+    companion(sample("LOVETT_1988"), "--rose", "1", "--format", "svg", "--out", scratch)
     if shutil.which("rsvg-convert"):
         png = os.path.join(scratch, "rsvg.png")
         done = subprocess.run(["rsvg-convert", svg, "-o", png], capture_output=True, check=False)
         check(done.returncode == 0 and not done.stderr and os.path.getsize(png) > 10000, "rsvg-convert draws the picture")
     else:
         print("left out: rsvg-convert is missing (librsvg2-bin)")
-    if BROWSER:
+    if shown:
         png = os.path.join(scratch, "browser.png")
-        browser("--screenshot=" + png, "--window-size=600,600", "file://" + svg)
-        check(os.path.exists(png) and os.path.getsize(png) > 10000, "the browser draws the picture")
+        shown.window(600, 600)
+        shown.open(svg)
+        shown.screenshot(png)
+        check(os.path.getsize(png) > 10000, "the browser draws the picture")
 
 
-def look_at_report(scratch):
-    path = os.path.join(scratch, "report.html")
-    samples = sorted(glob.glob(os.path.join(SAMPLES, "*.frq")))
-    subprocess.run([COMPANION, *samples, "--html", path, "--out", scratch], check=True, stdout=subprocess.DEVNULL)
-    page = open(path, encoding="utf-8").read()
-    roses = page.count("<article ")
-    count = "document.title=[].filter.call(document.querySelectorAll('.rose'),function(r){return r.offsetHeight>0}).length"
-    check(answer(page, count, scratch) == str(roses), "all %d roses are shown" % roses)
-    choose = ("var f=document.forms[0];f.period.value='Winter';f.dispatchEvent(new Event('change'));" + count +
-              "+' '+document.querySelector('[role=status]').textContent")
-    winters = page.count('data-period="Winter"')
-    check(answer(page, choose, scratch) == "%d %d roses are shown." % (winters, winters), "a choice shows its %d roses alone" % winters)
-    wide = "document.title=document.documentElement.scrollWidth<=innerWidth"
-    check(answer(page, wide, scratch) == "true", "the page is not wider than the window")
-    pdf = os.path.join(scratch, "print.pdf")
-    browser("--print-to-pdf=" + pdf, "--no-pdf-header-footer", "file://" + path)
-    check(os.path.getsize(pdf) > 10000, "the browser prints the page")
-    if not AXE:
-        print("left out: no axe-core was given, the search for barriers")
-        return
-    search = ("%s;document.title='running';axe.run(document).then(function(r){document.title=r.violations.length?"
-              "JSON.stringify(r.violations.map(function(v){return [v.id,v.nodes.length,v.nodes[0].html.slice(0,150)]})):'none'})")
-    for dark in (False, True):
-        asked = with_script(page, search % open(AXE, encoding="utf-8").read().replace("</script>", "<\\/script>"),
-                            os.path.join(scratch, "axe.html"))
-        text = browser("--dump-dom", *(["--blink-settings=preferredColorScheme=0"] if dark else []), asked)
-        found = re.search(r"<title>(.*?)</title>", text, re.S)
-        check(bool(found) and found.group(1) == "none",
-              "axe-core finds no barrier, %s (%s)" % ("dark" if dark else "light", found.group(1) if found else "no answer"))
+def look_at_choices(page):
+    """Each pair of station and period shows its roses alone."""
+    roses = page.ask("document.querySelectorAll('.rose').length")
+    check(not page.ask("[].filter.call(document.querySelectorAll('option'),function(o){return !o.text||(!o.value&&o.index)}).length"),
+          "every choice has a name")
+    check(roses > 40 and page.ask(SHOWN + ".length") == roses, "all %d roses are shown" % roses)
+    told = page.ask("""(function(){var form=document.forms[0],faults=[],pairs=0;
+        function values(select){return [].map.call(select.options,function(o){return o.value})}
+        values(form.station).forEach(function(station){values(form.period).forEach(function(period){
+            form.station.value=station;form.period.value=period;form.dispatchEvent(new Event('change'));
+            var shown=%s,fits=[].filter.call(document.querySelectorAll('.rose'),function(r){
+                return (!station||r.dataset.station==station)&&(!period||r.dataset.period==period)});
+            var said=document.querySelector('[role=status]').textContent;
+            var files=[].filter.call(document.querySelectorAll('.file'),function(f){return f.offsetHeight>0}).length;
+            var of=new Set(shown.map(function(r){return r.closest('.file')})).size;
+            pairs++;if(shown.length!=fits.length||fits.some(function(r,i){return r!=shown[i]})||parseInt(said)!=fits.length||files!=of)
+                faults.push(station+' / '+period);
+        })});form.reset();form.dispatchEvent(new Event('change'));return [pairs,faults]})()""" % SHOWN)
+    check(told[0] > 60 and not told[1], "each of %d choices of station and period shows its roses alone %s" % tuple(told))
 
 
-with tempfile.TemporaryDirectory() as scratch_directory:
-    look_at_svg(scratch_directory)
-    if BROWSER:
-        look_at_report(scratch_directory)
-    else:
-        print("left out: no browser is there (chromium-headless-shell)")
+def look_at_keys(page):
+    """The report by keyboard: both choices, then table after table, each with a visible focus."""
+    page.ask("document.activeElement.blur(),scrollTo(0,0)")
+    order = []
+    for key in ("Tab", "ArrowDown", "Tab", "Tab", "Enter", "Tab", "Tab"):
+        page.press(key)
+        if key == "Tab":
+            order.append(page.ask(FOCUS))
+    check([focus["what"] for focus in order] == ["station", "period", "SUMMARY", "scroll", "SUMMARY"],
+          "Tab goes through choices, folds and tables in their order")
+    check(all(focus["seen"] for focus in order), "the focus is always visible")
+    check(page.ask("document.forms[0].station.selectedIndex") == 1 and page.ask(SHOWN + ".length") < 10,
+          "a key in the choice of the station changes what is shown")
+    check(page.ask("document.querySelectorAll('details[open]').length") == 1, "Enter opens a table")
+
+
+def look_at_print(page, path, scratch):
+    """A rose with its table on each sheet, with scripts or without them."""
+    for paper, size, run in (("A4", (8.27, 11.69), True), ("Letter", (8.5, 11), True), ("Letter", (8.5, 11), False)):
+        page.scripts(run)
+        page.open(path)
+        pdf = os.path.join(scratch, "print.pdf")
+        page.print(pdf, *size)
+        with open(pdf, "rb") as file:
+            sheets = len(re.findall(rb"/Type\s*/Page\b", file.read()))
+        check(sheets == 3, "three roses are printed on %d sheets of %s, %s scripts" % (sheets, paper, "with" if run else "without"))
+    page.scripts(True)
+    page.media("print")
+    page.window(PRINTED_WIDTH, 900)
+    page.open(path)
+    check(page.ask("[].every.call(document.querySelectorAll('table'),function(t){return t.checkVisibility()})"),
+          "all tables are printed, also where no script opens them")
+    check(page.ask("document.documentElement.scrollWidth<=innerWidth"), "no table is wider than the paper")
+    page.media()
+
+
+def look_at_report(scratch, page):
+    path = report(scratch, "report")
+    page.window(1000, 800)
+    page.open(path)
+    look_at_choices(page)
+    for width in (1000, 320):
+        page.window(width, 800)
+        check(page.ask("document.documentElement.scrollWidth<=innerWidth"), "the page is not wider than a window of %d" % width)
+    page.window(1000, 800)
+    look_at_keys(page)
+    for scheme, is_dark in (("light", False), ("dark", True)):
+        page.media(scheme=scheme)
+        brightness = page.ask("getComputedStyle(document.body).backgroundColor.match(/\\d+/g).map(Number).reduce(function(a,b){return a+b})")
+        check((brightness < 200) == is_dark, "the page is %s where the system is" % scheme)
+    page.media()
+    look_at_print(page, report(scratch, "printed", sample("mountain_valley")), scratch)
+
+
+def search_barriers(scratch, page):
+    """Nothing that axe-core knows as a barrier: wide and narrow, in light and dark colours, with tables open and closed, in print."""
+    with open(AXE, encoding="utf-8") as file:
+        axe = file.read()
+    search = """axe.run(document).then(function(r){return {rules:r.passes.length,found:r.violations.map(function(v){
+        return v.id+': '+v.nodes.length+' as '+v.nodes[0].html.slice(0,150)})}})"""
+    looks = ("--palette", "greys", "--hatch", "--numbers", "--calm-circle", "--units", "knots")
+    # The rules look at every element of a page; some roses have all kinds of them.
+    for name, path in (("factory look", report(scratch, "usual", sample("LOVETT_1988"), sample("island_station"), "--rose", "1")),
+                       ("other look", report(scratch, "looks", sample("island_station"), *looks))):
+        page.open(path)
+        page.ask(axe + ";0")
+        for medium, scheme, width, is_open in (("", "light", 1000, False), ("", "dark", 1000, True), ("", "light", 320, True),
+                                               ("print", "light", PRINTED_WIDTH, True)):
+            page.media(medium, scheme)
+            page.window(width, 800)
+            page.ask("[].forEach.call(document.querySelectorAll('details'),function(d){d.open=%s})" % str(is_open).lower())
+            told = page.ask(search)
+            check(told["rules"] > 20 and not told["found"], "axe-core finds no barrier: %s, %s, %s, %d wide, tables %s %s" % (
+                name, medium or "screen", scheme, width, "open" if is_open else "closed", told["found"]))
+
+
+def main():
+    program = browser.found()
+    if AXE and not program:
+        sys.exit("no browser is there (chromium-headless-shell)")
+    with tempfile.TemporaryDirectory() as scratch:
+        if not program:
+            look_at_svg(scratch, None)
+            print("left out: no browser is there (chromium-headless-shell)")
+            return
+        with browser.Browser(program, scratch) as page:
+            if AXE:
+                search_barriers(scratch, page)
+            else:
+                look_at_svg(scratch, page)
+                look_at_report(scratch, page)
+
+
+main()
 sys.exit(1 if failures else 0)
