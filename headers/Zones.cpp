@@ -24,6 +24,8 @@ TimeZoneTable readTimeZones(const std::string& path) {
             table.gsTimeZoneLabels.push_back(trim(fields[1]));
         }
     } catch (RunTimeError& error) {
+        if (error.number == static_cast<int>(ErrorNumber::SubscriptOutOfRange))
+            error.where = std::to_string(lines.lineNumber()) + ": a key, a tab and a label are needed";
         lines.addPlace(error);
         throw;
     }

@@ -103,7 +103,9 @@ void frmMain::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmMain::PlotFrqFile(const std::string& path) {
-    setWindowTitle(QStringLiteral("Zephyrgraph - ") + shown(FileNameOf(path)));
+    QString name = shown(FileNameOf(path));
+    name.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));  // which stands for a mark of changes
+    setWindowTitle(QStringLiteral("Zephyrgraph - ") + name);
     settings.CurrentFrqPath = path;
     pgPolarGraph().OpenFreqFile(path);
     if (pgPolarGraph().lastOpenOutcome() != FreqFileOutcome::Loaded) return;

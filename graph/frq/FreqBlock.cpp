@@ -5,6 +5,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "graph/frq/FreqFault.h"
 #include "graph/frq/FreqFields.h"
 
 namespace zg {
@@ -55,19 +56,61 @@ void readShares(std::string_view cells, std::int64_t row, FractionTable& fractio
         fractions(row, speedClass) = toDouble(percents.next()) / 100;
 }
 
-void readDirections(LineReader& reader, std::int16_t rose, ModPolarGraph& tables) {
-    for (std::int16_t direction = 1; direction <= freqDirections; ++direction) {
-        FreqFields parts(reader.readLine(), ':');
-        const std::string_view label = parts.next();
-        if (rose == 1) tables.FrqDirectionLabel(direction) = trimmed(label);
-        const std::int64_t row = fractionRow(rose, direction);
-        if (!readPlainShares(parts.rest(), row, tables.FrqFraction))
-            readShares(parts.next(), row, tables.FrqFraction);
+bool isNumber(std::string_view text) {
+    try {
+        toDouble(text);
+        return true;
+    } catch (const RunTimeError&) {
+        return false;
     }
 }
 
-void readCalm(std::string_view line, std::int16_t rose, ModPolarGraph& tables) {
-    tables.FrqCalmPercent(rose) = trimmed(freqField(freqField(line, ':', 1), '%', 0));
+/// What is in the place of six percentages: another number of them, or what is no number.
+std::string foundShares(std::string_view cells) {
+    std::size_t count = 0;
+    for (std::size_t end = cells.find('%');
+         end != std::string_view::npos && count < static_cast<std::size_t>(speedClasses);
+         end = cells.find('%')) {
+        const std::string_view cell = cells.substr(0, end);
+        if (!isNumber(cell)) return freqQuote(cells.substr(0, end + 1)) + " among them";
+        cells.remove_prefix(end + 1);
+        ++count;
+    }
+    return freqNumber(count);
+}
+
+void placeRowError(RunTimeError& error, const LineReader& reader, std::string_view line) {
+    const std::size_t colon = line.find(':');
+    if (colon == std::string_view::npos)
+        return placeFreqError(error, reader, "a direction, a colon and six percentages", freqQuote(line));
+    std::string_view cells = line.substr(colon + 1);
+    cells = cells.substr(0, cells.find(':'));
+    placeFreqError(error, reader, "six percentages", foundShares(cells));
+}
+
+void readRow(std::string_view line, std::int16_t rose, std::int16_t direction, ModPolarGraph& tables) {
+    FreqFields parts(line, ':');
+    const std::string_view label = parts.next();
+    if (rose == 1) tables.FrqDirectionLabel(direction) = trimmed(label);
+    const std::int64_t row = fractionRow(rose, direction);
+    if (!readPlainShares(parts.rest(), row, tables.FrqFraction))
+        readShares(parts.next(), row, tables.FrqFraction);
+}
+
+void readDirections(LineReader& reader, std::int16_t rose, ModPolarGraph& tables) {
+    for (std::int16_t direction = 1; direction <= freqDirections; ++direction) {
+        const std::string_view line = readFreqLine(reader, "the row of a direction");
+        try {
+            readRow(line, rose, direction, tables);
+        } catch (RunTimeError& error) {
+            placeRowError(error, reader, line);
+            throw;
+        }
+    }
+}
+
+std::string_view calmPercent(std::string_view line) {
+    return trimmed(freqField(freqField(line, ':', 1), '%', 0));
 }
 
 /// "Valid Periods = 8700" is 8700, by way of a single: numbers of nine digits and more may change by some
@@ -93,7 +136,7 @@ std::string captionOf(std::int16_t rose, const ModPolarGraph& tables) {
     return caption;
 }
 
-void readStatistics(std::string_view line, std::int16_t rose, ModPolarGraph& tables) {
+void takeStatistics(std::string_view line, std::int16_t rose, ModPolarGraph& tables) {
     FreqFields parts(line, ';');
     tables.FrqTotalPeriods(rose) = countOf(parts.next());
     tables.FrqValidPeriods(rose) = countOf(parts.next());
@@ -102,21 +145,35 @@ void readStatistics(std::string_view line, std::int16_t rose, ModPolarGraph& tab
     tables.FrqRoseCaption(rose) = captionOf(rose, tables);
 }
 
+void readStatistics(LineReader& reader, std::int16_t rose, ModPolarGraph& tables) {
+    const std::string_view line = readFreqLine(reader, "the total, valid and calm periods");
+    try {
+        takeStatistics(line, rose, tables);
+    } catch (RunTimeError& error) {
+        const bool isZero = error.number == static_cast<int>(ErrorNumber::DivisionByZero);
+        placeFreqError(error, reader,
+                       isZero ? "total periods above 0" : "the numbers of total, valid and calm periods",
+                       freqQuote(line));
+        throw;
+    }
+}
+
 }  // namespace
 
 void readFreqBlock(LineReader& reader, const FreqVersion& version, std::int16_t rose, ModPolarGraph& tables) {
     const bool statistics = version.statistics == FreqStatistics::Present;
-    if (statistics) reader.readLine();  // separates the block from the lines above
-    tables.FrqRoseTitle(rose) = reader.readLine();
-    reader.readLine();  // column headings
+    if (statistics) readFreqLine(reader, "the line before a rose");
+    tables.FrqRoseTitle(rose) = readFreqLine(reader, "the title of a rose");
+    readFreqLine(reader, "the headings of a rose");
     readDirections(reader, rose, tables);
-    reader.readLine();  // separator
-    readCalm(reader.readLine(), rose, tables);
+    readFreqLine(reader, "the line after the directions");
+    tables.FrqCalmPercent(rose) =
+        readFreqLine(reader, "a text, a colon and the percentage of calms", calmPercent);
     if (statistics) {
-        readStatistics(reader.readLine(), rose, tables);
+        readStatistics(reader, rose, tables);
         return;
     }
-    reader.readLine();  // separates the block from the lines below
+    readFreqLine(reader, "the line after a rose");
     tables.FrqRoseCaption(rose) = tables.FrqRoseTitle(rose);
 }
 

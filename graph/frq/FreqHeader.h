@@ -27,7 +27,4 @@ void readFreqHeaderFields(LineReader& reader, const FreqVersion& version, const 
 /// Skips the lines between the period line and the first rose.
 void skipFreqHeaderRest(LineReader& reader, const FreqVersion& version, const FreqHeaderSize& size);
 
-/// Skips that many lines, none for a count below 1; raises 62 past the end.
-void skipFreqLines(LineReader& reader, std::int16_t count);
-
 }  // namespace zg

@@ -5,6 +5,7 @@
 
 #include "base/Numbers.h"
 #include "graph/frq/FreqBlock.h"
+#include "graph/frq/FreqFault.h"
 #include "graph/frq/FreqHeader.h"
 #include "graph/frq/FreqVersion.h"
 
@@ -28,16 +29,35 @@ void tellRefused(const std::string& path, Host& host) {
 }
 
 /// Number of lines in the file plus one; raises 6 if that exceeds 16 bits.
-std::int16_t countLines(LineReader reader) { return toInt16(static_cast<double>(reader.skipAll() + 1)); }
+std::int16_t countLines(LineReader reader) {
+    const std::size_t lines = reader.skipAll();
+    try {
+        return toInt16(static_cast<double>(lines + 1));
+    } catch (RunTimeError& error) {
+        error.where = "32767: at most 32766 lines, found " + std::to_string(lines);
+        reader.addPlace(error);
+        throw;
+    }
+}
 
 std::int16_t roseCount(std::int16_t lineCount, const FreqHeaderSize& header, const FreqVersion& version) {
     const double blockLines = static_cast<double>(lineCount) - static_cast<double>(header.lines);
     return toInt16(blockLines / version.linesARose);
 }
 
-/// Fresh tables for the counted roses; raises 9 if the header claims more lines than the file has.
+/// Raises 9 if the header claims more lines than the file has.
+void needHeader(const LineReader& reader, const FreqHeaderSize& header, const ModPolarGraph& tables) {
+    if (tables.FrqRoseCount >= 0) return;
+    RunTimeError error(static_cast<int>(ErrorNumber::SubscriptOutOfRange),
+                       errorDescription(ErrorNumber::SubscriptOutOfRange));
+    error.where = "2: " + std::to_string(header.leadCount) + " header lines, found " +
+                  freqNumber(static_cast<std::size_t>(tables.FrqLineCount - 3));
+    reader.addPlace(error);
+    throw error;
+}
+
+/// Fresh tables for the counted roses.
 void sizeRoseTables(const FreqVersion& version, ModPolarGraph& tables) {
-    if (tables.FrqRoseCount < 0) raise(ErrorNumber::SubscriptOutOfRange);
     const auto last = static_cast<std::size_t>(tables.FrqRoseCount);
     if (version.statistics == FreqStatistics::Present) {
         tables.FrqTotalPeriods.redim(last);
@@ -100,7 +120,8 @@ FreqFileOutcome loadFreqLines(const FreqSource& open, const std::string& path, M
     {
         LineReader reader = open();
         withLine(reader, [&] {
-            if (mayBeFreqFile(reader.ahead())) version = freqVersionOf(reader.readLine());
+            if (mayBeFreqFile(reader.ahead()))
+                version = freqVersionOf(readFreqLine(reader, "the version of the format"));
         });
         if (version == nullptr) {
             keepOpen(reader.release());
@@ -114,9 +135,9 @@ FreqFileOutcome loadFreqLines(const FreqSource& open, const std::string& path, M
     tables.FrqLineCount = countLines(open());
     tables.FrqFraction.redim(static_cast<std::size_t>(tables.FrqLineCount));
     tables.FrqRoseCount = roseCount(tables.FrqLineCount, header, *version);
-    sizeRoseTables(*version, tables);
-
     LineReader content = open();
+    needHeader(content, header, tables);
+    sizeRoseTables(*version, tables);
     withLine(content, [&] { readContent(content, *version, header, tables); });
     makePlotTexts(tables);
     tables.FrqLoaded = true;

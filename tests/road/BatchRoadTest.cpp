@@ -121,7 +121,8 @@ TEST_F(BatchOfADirectory, ATruncatedFileIsNamedInTheBoxWithItsLine) {
     host_.boxAnswers = {BoxAnswer::Ok};
     runIt();
     EXPECT_EQ(host_.boxes[0].text,
-              "Run-time error '62':\n\nInput past end of file: " + directory_.file("b.frq") + ", line 73");
+              "Run-time error '62':\n\nInput past end of file: " + directory_.file("b.frq") +
+                  ", line 74: a text, a colon and the percentage of calms, found the end of the file");
     EXPECT_NE(notes_.find("The run ended with an error at " + directory_.file("b.frq") + ".\n"),
               std::string::npos);
 }
@@ -191,6 +192,35 @@ TEST_F(BatchNames, ATypedRootIsTextAndATitleKeepsTheBytesOfItsFile) {
     std::sort(names.begin(), names.end());
     std::sort(expected.begin(), expected.end());
     EXPECT_EQ(names, expected);
+}
+
+/// Root, title and name of the picture.
+struct OddPicture {
+    const char* root;
+    const char* title;
+    const char* name;
+};
+
+TEST_F(BatchNames, OddRootsAndTitlesStayInTheWorkingDirectory) {
+    for (const OddPicture& odd :
+         {OddPicture{"../up", "Winter", ".._upWinter.bmp"}, OddPicture{"..", "", "...bmp"},
+          OddPicture{"", "..", "...bmp"}, OddPicture{"", "", ".bmp"},
+          OddPicture{" lead", "trail ", " leadtrail .bmp"}, OddPicture{"a/b", "c\\d", "a_bc_d.bmp"},
+          OddPicture{"", "CON", "CON.bmp"}, OddPicture{"50%", "%PATH%", "50%%PATH%.bmp"},
+          OddPicture{"a&b;", "$(touch PWNED)", "a&b;$(touch PWNED).bmp"},
+          OddPicture{"\"q\"", "it's!", "\"q\"it's!.bmp"}, OddPicture{"<b>", "x</b>", "<b>x<_b>.bmp"},
+          OddPicture{"-dash", "[*]?", "-dash[*]?.bmp"}, OddPicture{"", "two\twords", "two\twords.bmp"}}) {
+        const std::string file = directory_.write("a.frq", frqWith({odd.title}));
+        run([&](QWidget& dialog) {
+            dialog.findChild<QLineEdit*>("txtSingleFRQFile")->setText(QString::fromStdString(file));
+            dialog.findChild<QLineEdit*>("txtRootFilename")->setText(QString::fromLatin1(odd.root));
+        });
+        EXPECT_EQ(made(), Names{odd.name}) << odd.root << "|" << odd.title;
+        EXPECT_EQ(modPolarGraph.FrqRoseTitle(1), odd.title);
+        std::filesystem::remove_all(out_);
+        std::filesystem::create_directory(out_);
+    }
+    EXPECT_FALSE(fileExists(directory_.file("upWinter.bmp")));
 }
 
 TEST_F(BatchNames, AFileOfADirectoryGivesItsNameByteForByte) {

@@ -53,6 +53,25 @@ TEST_F(PointRoad, TheMenuOpensBothWizards) {
     }
 }
 
+TEST_F(PointRoad, AMissingTableOfTimeZonesNamesItself) {
+    std::filesystem::remove(directory_.file("TimeZones.txt"));
+    for (const int index : {3, 4, 5, 6, 7, 8, 9, 10}) {
+        host_.boxes.clear();
+        host_.boxAnswers = {BoxAnswer::Ok};
+        entry(("mnuFileOption_" + std::to_string(index)).c_str()).trigger();
+        ASSERT_EQ(host_.boxes.size(), 1U) << index;
+        EXPECT_EQ(host_.boxes[0].text, "Run-time error '53':\n\nFile not found\n\nTimeZones.txt") << index;
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << index;
+    }
+    directory_.write("TimeZones.txt", "Key\tLabel\r\nUTC+0000\tLondon\r\nUTC+0100 Paris\r\n");
+    host_.boxes.clear();
+    host_.boxAnswers = {BoxAnswer::Ok};
+    entry("mnuFileOption_8").trigger();
+    EXPECT_EQ(host_.boxes.at(0).text,
+              "Run-time error '9':\n\nSubscript out of range\n\n"
+              "TimeZones.txt, line 3: a key, a tab and a label are needed");
+}
+
 /// A complete run in the window, with a processor that copies a rose for two of the three stations.
 TEST_F(PointRoad, ASurfFileBecomesTheRoseInTheWindow) {
     const std::string processor = directory_.write("tempoline.exe",

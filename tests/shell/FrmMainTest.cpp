@@ -3,7 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QTest>
+#include <QWindow>
+#include <filesystem>
 
+#include "base/Lines.h"
 #include "base/Paths.h"
 #include "settings/Settings.h"
 #include "shell/StartSequence.h"
@@ -102,12 +105,39 @@ const std::string headOf22 = "WIND.FRQ        2.2             Zephyrgraph FRQ Fi
 
 INSTANTIATE_TEST_SUITE_P(
     Kinds, FrmMainBadFile,
-    ::testing::Values(BadFile{"Empty", "", "Run-time error '62':\n\nInput past end of file\n\nbad.frq"},
-                      BadFile{"CountIsNoNumber", headOf22 + "x - comments\r\n",
-                              "Run-time error '13':\n\nType mismatch\n\nbad.frq, line 2"},
-                      BadFile{"PromisesFortyThousandComments", headOf22 + "40000 - comments\r\n",
-                              "Run-time error '6':\n\nOverflow\n\nbad.frq, line 2"}),
+    ::testing::Values(
+        BadFile{"Empty", "",
+                "Run-time error '62':\n\nInput past end of file\n\nbad.frq, line 1: the version of "
+                "the format, found the end of the file"},
+        BadFile{"CountIsNoNumber", headOf22 + "x - comments\r\n",
+                "Run-time error '13':\n\nType mismatch\n\nbad.frq, line 2: the number of comment "
+                "lines, up to 32767, found \"x - comments\""},
+        BadFile{"PromisesFortyThousandComments", headOf22 + "40000 - comments\r\n",
+                "Run-time error '6':\n\nOverflow\n\nbad.frq, line 2: the number of comment "
+                "lines, up to 32767, found \"40000 - comments\""}),
     [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(FrmMainTest, ARowThatLacksAPercentageIsToldWithItsLine) {
+    std::string bytes = readWholeFile(sample);
+    const std::string row = "NNE :    5.4256%    2.2941%    0.4818%    0.0229%    0.0000%    0.0000%";
+    const std::size_t at = bytes.find(row);
+    ASSERT_NE(at, std::string::npos);
+    bytes.erase(at + row.rfind(' '), std::string(" 0.0000%").size());
+    host_.boxAnswers = {BoxAnswer::Ok};
+    open(directory_.write("LOVETT.frq", bytes));
+    ASSERT_EQ(host_.boxes.size(), 1U);
+    EXPECT_EQ(host_.boxes[0].text,
+              "Run-time error '13':\n\nType mismatch\n\nLOVETT.frq, line 14: six percentages, found five");
+}
+
+TEST_F(FrmMainTest, TheTitleHasTheFilesNameAsItIs) {
+    for (const char* name : {"a[*]b.frq", "[*][*].frq", "& <b>x.frq", "two  words .frq", "%1 %n.frq"}) {
+        const std::string path = directory_.file(name);
+        std::filesystem::copy(sample, path);
+        open(path);
+        EXPECT_EQ(window_->windowHandle()->title().toStdString(), std::string("Zephyrgraph - ") + name);
+    }
+}
 
 TEST_F(FrmMainTest, AMissingFileAndADirectoryAreTold) {
     host_.boxAnswers = {BoxAnswer::Ok, BoxAnswer::Ok};

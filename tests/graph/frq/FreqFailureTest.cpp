@@ -74,22 +74,6 @@ TEST_F(FreqFailure, InTheCountsLeavesTheVersionOnly) {
     expectOldTables();
 }
 
-TEST_F(FreqFailure, KnowsTheLineThatWasReadLast) {
-    const auto lineOfError = [this](std::size_t index, const std::string& line) {
-        freqtext::Lines lines = freqtext::file("2.2", 2);
-        lines[index] = line;
-        try {
-            load(lines);
-        } catch (const RunTimeError& error) {
-            return error.where;
-        }
-        return std::string("no error");
-    };
-    EXPECT_EQ(lineOfError(3, "five - Header lines"), "4") << "among the counts";
-    EXPECT_EQ(lineOfError(12, "N : one%"), "13");
-    EXPECT_EQ(lineOfError(51, "Calm Winds"), "52") << "of the second rose";
-}
-
 TEST_F(FreqFailure, OfTooManyLinesLeavesTheOldLineCount) {
     freqtext::Lines lines = freqtext::file("2.2", 1);
     lines.resize(32'767);
