@@ -9,8 +9,6 @@ namespace zg {
 
 namespace {
 
-constexpr int badNameError = 52;
-
 bool isControl(char character) { return static_cast<unsigned char>(character) < 32 || character == 127; }
 
 /// Invisible characters are spelt out: "<LF>", "<1A>".

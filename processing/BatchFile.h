@@ -11,6 +11,8 @@
 
 namespace zg {
 
+constexpr int badNameError = 52;  ///< "Bad file name or number"
+
 /// Raises 52, with the name, if a batch file cannot contain it as one word: a line end would begin another
 /// line. The shell of Windows, identified by its separator, also interprets % & ^ ! "
 /// < > and control characters, some of them within quotes too.

@@ -104,7 +104,7 @@ class Run {
 
     /// The wait has no time limit, but the user should know what it waits for.
     std::string whyNoMarker() {
-        const std::string reason = foreseenTrouble(plan_.control.base, plan_.programDirectory);
+        const std::string reason = foreseenTrouble(plan_);
         return reason.empty() ? starter_.outcome(plan_.batch().path()) : reason;
     }
 
@@ -142,6 +142,7 @@ class Run {
     void finish() {
         if (form_.waitsOnceMore) awaitMarker();
         if (!form_.tellsEachResult) hooks_.setStatus("Finished");
+        if (plan_.outputs.empty() && form_.waitsOnceMore) tellNothingAsked();
         // The label tells of the last output alone, or of none.
         if (form_.namesMissing && !missing_.empty())
             tell(hooks_.setTip,
@@ -151,6 +152,14 @@ class Run {
         hooks_.showExit();
         hooks_.setBusy(false);
         step([this] { hooks_.keepTimeZone(); });
+    }
+
+    /// No location: nothing is made that could be told.
+    void tellNothingAsked() {
+        hooks_.setStatus("Error has occurred.");
+        const std::string why = lastLineOfListing(plan_.listingPath());
+        tell(hooks_.setTip, why);
+        tell(hooks_.setReason, why);
     }
 
     static void tell(const std::function<void(const std::string&)>& hook, const std::string& text) {

@@ -13,6 +13,7 @@ namespace zg {
 namespace {
 
 constexpr std::size_t extensionLength = 4;
+constexpr std::size_t longestName = 255;  // bytes of a file's name
 constexpr const char* markerName = "finished.txt";
 
 /// The lines of the batch file as the shell reads them.
@@ -54,7 +55,15 @@ std::string surfOutputName(const std::string& fileBase, const std::string& row,
     return start + "_SURF_" + period + "_" + height + "m";
 }
 
-void needBatchNames(const RunPlan& plan) { bytesOfBatch(plan); }
+void needBatchNames(const RunPlan& plan) {
+    bytesOfBatch(plan);
+    const auto refuse = [&plan](const char* why) {
+        throw RunTimeError(badNameError, "Bad file name or number: \"" + plan.control.base + "\" " + why);
+    };
+    // A station's name may lead to another directory, or be of any length.
+    if (!isPlainName(plan.controlName())) refuse("is no plain file name");
+    if (plan.controlName().size() > longestName) refuse("is too long for a file");
+}
 
 void writeControlFile(const RunPlan& plan) { WriteControlFile(plan.directory, plan.control); }
 

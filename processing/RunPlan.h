@@ -58,7 +58,8 @@ std::string surfOutputName(const std::string& fileBase, const std::string& row,
                            const std::string& stationName, const std::string& period,
                            const std::string& height);
 
-/// Raises 52 for a name that the batch file cannot contain. Call it before anything is written.
+/// Raises 52 for a name that the batch file cannot contain, or that no file in the run's directory can have.
+/// Call it before anything is written.
 void needBatchNames(const RunPlan& plan);
 
 /// Each of these writes or removes one file, raises its error, and can be retried.

@@ -7,12 +7,39 @@
 
 namespace zg {
 
+namespace {
+
+bool hasBlank(const std::string& text) { return text.find(' ') != std::string::npos; }
+
+std::string blankInName(const char* remedy) {
+    return std::string("a blank in the name: the processor cannot find its control file; ") + remedy;
+}
+
+constexpr const char* renameInput = "rename the input";
+
+/// The name begins with that of the station or of the input, and may end with the height.
+const char* remedyOf(const ControlFile& control) {
+    if (control.inputFiles.empty()) return renameInput;
+    const std::string input = fileBaseOf(control.inputFiles.front());
+    if (hasBlank(input) && control.base.find(input) != std::string::npos) return renameInput;
+    for (const ControlOutput& output : control.outputs)
+        if (hasBlank(output.height) && control.base.ends_with("_" + output.height + "m"))
+            return "take the blank out of the height";
+    return "rename the station in Station_Data.csv";
+}
+
+}  // namespace
+
 std::string foreseenTrouble(const std::string& base, const std::string& programDirectory) {
-    if (base.find(' ') != std::string::npos)
-        return "a blank in the name: the processor cannot find its control file; rename the input";
+    if (hasBlank(base)) return blankInName(renameInput);
     if (!fileExists(programDirectory + pathSeparator + "tempoline.exe"))
         return "tempoline.exe is missing in " + programDirectory;
     return {};
+}
+
+std::string foreseenTrouble(const RunPlan& plan) {
+    if (hasBlank(plan.control.base)) return blankInName(remedyOf(plan.control));
+    return foreseenTrouble(plan.control.base, plan.programDirectory);
 }
 
 std::string lastLineOfListing(const std::string& path) {

@@ -40,6 +40,24 @@ TEST(RunPlan, OfAControlFileHasItsOutputsInOrder) {
     EXPECT_EQ(planOf("/out/", controlOf(InputKind::Up)).firstName, "") << "no height";
 }
 
+TEST(RunPlan, OfANameThatLeadsElsewhereIsRefused) {
+    ControlFile control = controlOf(InputKind::Up);
+    for (const char* base : {"../x", "a/b", "/a"}) {
+        control.base = base;
+        EXPECT_RAISES(52, std::string("Bad file name or number: \"") + base + "\" is no plain file name",
+                      (needBatchNames(planOf("/out/", control)), 0));
+    }
+    control.base = std::string(255 - std::string("_tempoline.inp").size() + 1, 'x');
+    EXPECT_RAISES(52, "Bad file name or number: \"" + control.base + "\" is too long for a file",
+                  (needBatchNames(planOf("/out/", control)), 0));
+    control.base.pop_back();
+    needBatchNames(planOf("/out/", control));
+    for (const char* base : {".", "..", "a b", "CON", "[*]", "a,b", "~"}) {
+        control.base = base;
+        needBatchNames(planOf("/out/", control));
+    }
+}
+
 TEST(RunPlan, OfASeriesHasOneRose) {
     ControlFile control = controlOf(InputKind::Tsf);
     control.roseName = "rose";

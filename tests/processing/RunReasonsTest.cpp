@@ -18,6 +18,31 @@ TEST(ForeseenTrouble, IsABlankInTheNameOrAMissingProcessor) {
         << "even a processor that is there could not work";
 }
 
+TEST(ForeseenTrouble, SaysWhereTheBlankInTheNameComesFrom) {
+    const auto remedyOf = [](const std::string& base, const std::string& input, const std::string& height) {
+        ControlFile control;
+        control.type = InputKind::AermSfc;
+        control.base = base;
+        control.inputFiles = {"/some where/" + input};
+        control.outputs = {{"1", base, "", "0, 0, 0", height}};
+        const std::string text = foreseenTrouble(planOf("/out/", control));
+        const std::string start = "a blank in the name: the processor cannot find its control file; ";
+        return text.starts_with(start) ? text.substr(start.size()) : text;
+    };
+    EXPECT_EQ(remedyOf("my data_AERMETSFC_1988_10m", "my data.sfc", "10"), "rename the input");
+    EXPECT_EQ(remedyOf("VENTOS_my data2005", "my data.dat", "10"), "rename the input");
+    EXPECT_EQ(remedyOf("New York_AERMETSFC_1988_10m", "data.sfc", "10"),
+              "rename the station in Station_Data.csv");
+    EXPECT_EQ(remedyOf("New York_AERMETSFC_1988_10m", "my data.sfc", "10"),
+              "rename the station in Station_Data.csv");
+    EXPECT_EQ(remedyOf("data_AERMETSFC_1988_1 0m", "data.sfc", "1 0"), "take the blank out of the height");
+    ControlFile plain;
+    plain.base = "B";
+    RunPlan plan = planOf("/out/", plain);
+    plan.programDirectory = "/no/such/place";
+    EXPECT_EQ(foreseenTrouble(plan), "tempoline.exe is missing in /no/such/place");
+}
+
 TEST(LastLineOfListing, IsTheLastOneWithAText) {
     const TempDirectory directory;
     EXPECT_EQ(lastLineOfListing(directory.file("none.lst")), "");

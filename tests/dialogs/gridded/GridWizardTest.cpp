@@ -478,6 +478,11 @@ TEST_F(VentosWizard, NoLocationAtAllGoesThrough) {
     EXPECT_TRUE(plotted_.empty());
     EXPECT_NE(controlFile().find("! NTSFOUT = 0 !"), std::string::npos);
     EXPECT_EQ(controlFile().find("! TSFOUT ="), std::string::npos);
+    EXPECT_EQ(status(), "Error has occurred.");
+    directory_.write("out/" + runRoot() + "_tempoline.lst", "ERROR: 0 outputs are asked for\n");
+    wizard_->cmdPROCESS_Click();
+    EXPECT_EQ(view_.texts["lblReason"], "ERROR: 0 outputs are asked for");
+    EXPECT_EQ(view_.statusTip, "ERROR: 0 outputs are asked for");
 }
 
 TEST_F(VentosWizard, TheArraysEndAtAThousandLocations) {
