@@ -1,5 +1,6 @@
 #include "batch/BatchBitmap.h"
 
+#include "base/Files.h"
 #include "base/Paths.h"
 #include "graph/frq/ModPolarGraph.h"
 #include "settings/Settings.h"
@@ -16,6 +17,8 @@ std::string asFileName(std::string_view text) {
         const bool control = static_cast<unsigned char>(character) < static_cast<unsigned char>(lowest);
         if (control || refused.find(character) != std::string_view::npos) character = '_';
     }
+    // What is left to refuse is a device of Windows, such as "CON".
+    if (onWindows && !isPlainName(name + ".bmp")) name.insert(0, "_");
     return name;
 }
 

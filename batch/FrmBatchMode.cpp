@@ -59,6 +59,8 @@ frmBatchMode::frmBatchMode(Host& host, BatchHooks hooks, QWidget* parent)
     cmdBrowseWorkDirectory =
         browseButton("Br&owse...", "cmdBrowseWorkDirectory", "Browse for a working directory");
     txtPercentValidLimit = enteredBox("txtPercentValidLimit", keyOfLimit);
+    txtPercentValidLimit->setToolTip(
+        QStringLiteral("A whole number from 0 to 100; roses with just this percentage are exported too"));
     cmdBeginBatchMode = namedButton("BEGIN", "cmdBeginBatchMode");
     cmdBeginBatchMode->setDefault(true);
     txtNotes = named(new QPlainTextEdit, "txtNotes");
@@ -225,7 +227,11 @@ bool frmBatchMode::checkLimit() {
         return true;
     }
     const float limit = toSingle(trim(typed(txtPercentValidLimit->text())));
-    if (limit >= 0 && limit <= 100) return true;
+    if (limit >= 0 && limit <= 100) {
+        // "1,5" is fifteen: the field shows what counts.
+        txtPercentValidLimit->setText(shown(singleText(limit)));
+        return true;
+    }
     refuse(*txtPercentValidLimit, "ERROR: The % Valid Hours Limit value must be between 0% and 100%.");
     return false;
 }

@@ -6,6 +6,7 @@
 #include "platform/FieldMarks.h"
 #include "platform/FormParts.h"
 #include "platform/QtText.h"
+#include "platform/ReasonLabel.h"
 #include "processing/Wait.h"
 
 namespace zg {
@@ -17,7 +18,7 @@ RunningDialog::RunningDialog(Host& host, const char* name, const char* title, QW
       cmdCancel(namedButton("Cancel", "cmdCancel")) {
     nameForm(*this, name, title);
     lblStatus->setTextFormat(Qt::PlainText);
-    lblStatus->setWordWrap(true);
+    wrapWithin(*lblStatus);
     lblStatus->setMinimumHeight(2 * lblStatus->fontMetrics().height());
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -41,11 +42,14 @@ void RunningDialog::run(const std::function<void()>& work) {
 
 void RunningDialog::refuse(QWidget& field, const char* text) {
     lblStatus->setText(QString::fromLatin1(text));
+    lblStatus->setToolTip({});
     MarkInvalid(field);
 }
 
 void RunningDialog::clearMark(QWidget& field, bool filled) {
-    if (clearFilledMark(field, filled)) lblStatus->clear();
+    if (!clearFilledMark(field, filled)) return;
+    lblStatus->clear();
+    lblStatus->setToolTip({});
 }
 
 void RunningDialog::leftDirectory(QLineEdit& field) {
@@ -60,10 +64,12 @@ void RunningDialog::browse(QLineEdit& field, const char* prompt) {
 
 void RunningDialog::tellNoDirectory(const std::string& reason) {
     lblStatus->setText(QStringLiteral("The Working Directory cannot be created: ") + shown(reason));
+    lblStatus->setToolTip(plainTip(lblStatus->text()));
 }
 
 void RunningDialog::say(const char* status) {
     lblStatus->setText(QString::fromLatin1(status));
+    lblStatus->setToolTip({});
     WaitMs(host_, 1);
 }
 

@@ -6,6 +6,7 @@
 #include <QVariant>
 
 #include "platform/QtText.h"
+#include "platform/ReasonLabel.h"
 
 namespace zg {
 
@@ -34,11 +35,15 @@ void showRead(QLineEdit& box, std::string_view bytes) {
     box.setProperty(readProperty, asArray(bytes));
 }
 
-void addRead(QComboBox& combo, std::string_view bytes) { combo.addItem(shown(bytes), asArray(bytes)); }
+void addRead(QComboBox& combo, std::string_view bytes) {
+    combo.addItem(shown(bytes), asArray(bytes));
+    combo.setItemData(combo.count() - 1, plainTip(shown(bytes)), Qt::ToolTipRole);
+}
 
 void addRead(QListWidget& list, std::string_view bytes) {
     auto* row = new QListWidgetItem(shown(bytes), &list);
     row->setData(Qt::UserRole, asArray(bytes));
+    row->setToolTip(plainTip(row->text()));
 }
 
 std::string readOrTyped(const QLineEdit& box) { return keptOr(box.property(readProperty), box.text()); }

@@ -14,6 +14,7 @@ class QListWidgetItem;
 namespace zg {
 
 void showRead(QLineEdit& box, std::string_view bytes);
+/// A row of a list also has its text as tool tip: a name may be longer than the list is wide.
 void addRead(QComboBox& combo, std::string_view bytes);
 void addRead(QListWidget& list, std::string_view bytes);
 

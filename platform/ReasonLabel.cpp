@@ -23,7 +23,7 @@ void makeRoom(QWidget& window) {
 ReasonLabel::ReasonLabel(const char* name, QWidget* parent) : QLabel(parent) {
     setObjectName(QString::fromLatin1(name));
     setTextFormat(Qt::PlainText);
-    setWordWrap(true);
+    wrapWithin(*this);
     hide();
 }
 
@@ -34,13 +34,21 @@ void ReasonLabel::setReason(const std::string& text) {
     if (isVisible()) makeRoom(*window());
 }
 
-void setPlainTip(QWidget& widget, const std::string& text) {
+void wrapWithin(QLabel& label) {
+    label.setWordWrap(true);
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    label.setSizePolicy(policy);
+}
+
+QString plainTip(const QString& tip) {
     constexpr qsizetype longLine = 80;
-    const QString tip = shown(text);
     // Only a text with markup wraps, and there a line end counts as a blank.
     const bool asMarkup = tip.size() > longLine || Qt::mightBeRichText(tip);
     const QString lines = tip.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
-    widget.setToolTip(asMarkup ? QStringLiteral("<p>%1</p>").arg(lines) : tip);
+    return asMarkup ? QStringLiteral("<p>%1</p>").arg(lines) : tip;
 }
+
+void setPlainTip(QWidget& widget, const std::string& text) { widget.setToolTip(plainTip(shown(text))); }
 
 }  // namespace zg

@@ -16,7 +16,14 @@ class ReasonLabel : public QLabel {
     void setReason(const std::string& text);
 };
 
-/// A tool tip for arbitrary text; a long one wraps.
+/// Wraps the text of a label. A word that is longer than the label, such as a path, does not widen the
+/// window.
+void wrapWithin(QLabel& label);
+
+/// The tool tip that shows any text as it is, never as markup; a long one wraps.
+QString plainTip(const QString& tip);
+
+/// Gives a widget such a tool tip.
 void setPlainTip(QWidget& widget, const std::string& text);
 
 }  // namespace zg

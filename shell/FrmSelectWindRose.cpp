@@ -10,6 +10,7 @@
 #include "platform/FieldMarks.h"
 #include "platform/FormParts.h"
 #include "platform/QtText.h"
+#include "platform/ReasonLabel.h"
 #include "shell/DialogButtons.h"
 
 namespace zg {
@@ -28,6 +29,8 @@ frmSelectWindRose::frmSelectWindRose(Host& host, PolarGraph& graph, QWidget* par
     cboWindRoseNumber = named(new QComboBox, "cboWindRoseNumber");
     cboWindRoseNumber->setAccessibleName(windowTitle());
     cboWindRoseNumber->setMinimumContentsLength(28);
+    // A title may be longer than the screen is wide.
+    cboWindRoseNumber->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     cboWindRoseNumber->setMaxVisibleItems(20);
     auto* layout = new QVBoxLayout(this);
     auto* row = new QHBoxLayout;
@@ -50,8 +53,15 @@ void frmSelectWindRose::fillList() {
         cmdOk->setEnabled(false);
         return;
     }
-    for (int rose = 1; rose <= modPolarGraph.FrqRoseCount; ++rose) cboWindRoseNumber->addItem(entryOf(rose));
+    for (int rose = 1; rose <= modPolarGraph.FrqRoseCount; ++rose) {
+        const QString entry = entryOf(rose);
+        cboWindRoseNumber->addItem(entry);
+        cboWindRoseNumber->setItemData(rose - 1, plainTip(entry), Qt::ToolTipRole);
+    }
+    connect(cboWindRoseNumber, &QComboBox::currentTextChanged, this,
+            [this](const QString& entry) { cboWindRoseNumber->setToolTip(plainTip(entry)); });
     cboWindRoseNumber->setCurrentText(entryOf(modPolarGraph.CurrentRose));
+    cboWindRoseNumber->setToolTip(plainTip(cboWindRoseNumber->currentText()));
 }
 
 void frmSelectWindRose::cmdOk_Click() {

@@ -1,5 +1,7 @@
 #include "batch/BatchBitmap.h"
 
+#include "base/Paths.h"
+
 #include "tests/settings/SettingsFixture.h"
 
 namespace {
@@ -13,6 +15,9 @@ TEST_F(BatchBitmapTest, ANameHasNoSeparatorsAndNoEndOfText) {
     EXPECT_EQ(asFileName(std::string_view("a\0b", 3)), "a_b");
     EXPECT_EQ(asFileName("Win ter: 50% ~ \xE9.x"), "Win ter: 50% ~ \xE9.x");
     EXPECT_EQ(asFileName(""), "");
+    for (const char* device : {"CON", "nul", "Com1"})
+        EXPECT_EQ(asFileName(device), std::string(pathSeparator == '/' ? "" : "_") + device)
+            << "a device of Windows";
 }
 
 TEST_F(BatchBitmapTest, IsNamedByRootAndTitleOfTheRoseOnShow) {

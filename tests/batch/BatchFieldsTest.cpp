@@ -14,6 +14,7 @@
 #include "graph/frq/ModPolarGraph.h"
 #include "platform/Captions.h"
 #include "platform/FieldMarks.h"
+#include "platform/ReasonLabel.h"
 #include "settings/Settings.h"
 #include "shell/StartSequence.h"
 #include "tests/support/FreshProgram.h"
@@ -170,6 +171,39 @@ TEST_F(OutputFields, BrowsingForAReportsDirectoryTakesItsMark) {
     click("cmdBrowseBMPDirectory");
     EXPECT_FALSE(marked("txtBMPDirectory"));
     EXPECT_EQ(status(), "");
+}
+
+TEST_F(OutputFields, ADirectoryThatCannotBeMadeSaysWhy) {
+    const std::string inFile = directory_.write("a file", "") + "/sub/";
+    const std::string tooLong = directory_.file(std::string(300, 'w')) + "/";
+    for (const std::string& place : {inFile, tooLong}) {
+        const std::string level = place == inFile ? directory_.file("a file") : DirOf(place);
+        const std::string words = "The Working Directory cannot be created: " + level + ": ";
+        const auto expectToldWithin = [&](int width) {
+            EXPECT_EQ(status().substr(0, words.size()), words);
+            EXPECT_GT(status().size(), words.size()) << "and why";
+            EXPECT_EQ(child("lblStatus")->toolTip(), plainTip(child<QLabel>("lblStatus")->text()));
+            EXPECT_TRUE(marked("txtWorkDirectory"));
+            QApplication::processEvents();
+            EXPECT_EQ(form_->width(), width);
+        };
+        openBatch();
+        int width = form_->width();
+        box("txtSingleFRQFile").setText(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
+        box("txtWorkDirectory").setText(QString::fromStdString(place));
+        host_.boxAnswers = {BoxAnswer::Yes};
+        click("cmdBeginBatchMode");
+        expectToldWithin(width);
+        EXPECT_EQ(started_, 0);
+        openReport();
+        width = form_->width();
+        box("txtSaveFilename").setText("r");
+        box("txtWorkDirectory").setText(QString::fromStdString(place));
+        host_.boxAnswers = {BoxAnswer::Yes};
+        click("cmdCreateReport");
+        expectToldWithin(width);
+        click("cmdCancel");
+    }
 }
 
 TEST_F(OutputFields, ANoToTheReportsMissingDirectoryMakesNothing) {

@@ -127,6 +127,23 @@ TEST_F(FrmBatchMode, TheLimitLiesBetween0And100) {
     EXPECT_EQ(host_.boxes[0].text, "Run-time error '13':\n\nType mismatch");
 }
 
+TEST_F(FrmBatchMode, TheLimitThatCountsIsTheOneOnShow) {
+    set("txtSingleFRQFile", sample);
+    for (const auto& [pasted, counts] : std::vector<std::pair<const char*, const char*>>{
+             {"1,5", "15"}, {" 50 ", "50"}, {"099.50", "99.5"}, {"1e1", "10"}, {"0", "0"}, {"100", "100"}}) {
+        set("txtPercentValidLimit", pasted);
+        begin();
+        EXPECT_EQ(status(), "Finished") << pasted;
+        EXPECT_EQ(box("txtPercentValidLimit").text(), counts);
+    }
+    set("txtPercentValidLimit", "1,000");
+    begin();
+    EXPECT_EQ(box("txtPercentValidLimit").text(), "1,000") << "refused as it is";
+    EXPECT_TRUE(marked("txtPercentValidLimit"));
+    EXPECT_EQ(box("txtPercentValidLimit").toolTip(),
+              "A whole number from 0 to 100; roses with just this percentage are exported too");
+}
+
 TEST_F(FrmBatchMode, AnEmptyLimitIsFilledAndTheRunFinishes) {
     set("txtSingleFRQFile", sample);
     begin();

@@ -144,6 +144,26 @@ TEST_F(PlotOptions, ATitleWithAHyphenDoesNoHarm) {
     EXPECT_EQ(modPolarGraph.CurrentRose, 2);
 }
 
+TEST_F(PlotOptions, ALongTitleLeavesTheDialogOnTheScreenAndIsItsTip) {
+    load();
+    open<frmSelectWindRose>();
+    const int width = form_->width();
+    const std::string title = "<b>" + std::string(300, 'w') + "</b> & more";
+    modPolarGraph.FrqRoseTitle(2) = title;
+    modPolarGraph.CurrentRose = 2;
+    open<frmSelectWindRose>();
+    EXPECT_EQ(form_->width(), width);
+    auto* roses = child<QComboBox>("cboWindRoseNumber");
+    const QString escaped = "<p>" + QString::fromStdString("2 - " + title).toHtmlEscaped() + "</p>";
+    EXPECT_EQ(roses->toolTip(), escaped);
+    EXPECT_EQ(roses->itemData(1, Qt::ToolTipRole).toString(), escaped);
+    roses->setCurrentIndex(0);
+    EXPECT_EQ(roses->toolTip(), roses->itemText(0));
+    roses->setCurrentIndex(1);
+    click("cmdOk");
+    EXPECT_EQ(modPolarGraph.CurrentRose, 2);
+}
+
 TEST_F(PlotOptions, CancellingTheChoiceOnlyCloses) {
     load();
     open<frmSelectWindRose>();
