@@ -21,6 +21,7 @@
 #include "platform/QtText.h"
 #include "platform/ReadText.h"
 #include "platform/ReasonLabel.h"
+#include "platform/UtcTip.h"
 
 namespace zg {
 
@@ -68,6 +69,10 @@ GridForm::GridForm(const GridVariation& variation, Host& host, ProcessStarter& s
     fillLists();
     connectControls();
     watchFields();
+    showUtcInTips({&as<QDateEdit>("DTPicker_BeginDate"), &as<QTimeEdit>("DTPicker_BeginTime"),
+                   &as<QDateEdit>("DTPicker_EndDate"), &as<QTimeEdit>("DTPicker_EndTime"),
+                   &as<QComboBox>("cboTimeZone")},
+                  variation_.isUtc ? ZoneChoice::MovesPeriod : ZoneChoice::Relabels);
     wizard_.Form_Load();
     labelsFollow();
     control("cmdBrowseDataFiles").setFocus();

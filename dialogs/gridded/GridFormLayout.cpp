@@ -153,6 +153,16 @@ QGroupBox* GridForm::makeStations() {
     grid->addWidget(namedButton("Select &All", "cmdSelectAll"), 0, 1);
     grid->addWidget(namedButton("&Deselect All", "cmdDeselectAll"), 1, 1);
     grid->setRowStretch(2, 1);
+    if (!variation_.offersCells) return stationsFrame;
+    auto* note =
+        named(new QLabel(QStringLiteral(
+                  "The question about grid cells was answered Yes: the first station selected is "
+                  "processed at the cell typed for location 1, the second at that for location 2, and "
+                  "so on. For the places of the stations, answer it No under By Location before.")),
+              "lblCellsOfStations");
+    note->setWordWrap(true);
+    note->hide();
+    grid->addWidget(note, 3, 0, 1, 2);
     return stationsFrame;
 }
 
@@ -235,6 +245,7 @@ QGroupBox* GridForm::makeStep4() {
     auto* directory = enteredBox("txtOutputDirectory");
     auto* status = named(new QLabel, "lblStatus");
     status->setTextFormat(Qt::PlainText);
+    status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* grid = new QGridLayout(step);
     grid->addWidget(labelFor("&Output Directory:", directory), 0, 0);
     grid->addWidget(directory, 0, 1);

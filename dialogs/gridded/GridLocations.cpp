@@ -97,6 +97,7 @@ void GridWizard::showFramesOfMode() {
     for (const char* name :
          {"Frame_Coordinates", "Frame_OutputFRQName", "cmdPrevLocation", "cmdNextLocation"})
         view_.setVisible(name, !stations);
+    if (variation_.offersCells) view_.setVisible("lblCellsOfStations", stations && UseCellCoordinates);
     if (stations) return;
     if (variation_.offersCells) view_.setVisible("Frame_IJ", UseCellCoordinates);
     view_.setVisible("Frame_LL", usesLatitudes());

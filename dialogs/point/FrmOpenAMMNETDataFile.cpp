@@ -21,6 +21,7 @@ frmOpenAMMNETDataFile::frmOpenAMMNETDataFile(Host& host, ProcessStarter& starter
     cboStationID = named(new QComboBox, "cboStationID");
     cboStationID->setEditable(true);
     cboStationID->setInsertPolicy(QComboBox::NoInsert);
+    cboStationID->setCompleter(nullptr);  // it would change a typed A to A1
     build({"txtAMMNETDataFile", "Monitor Meteorological Data &File:",
            "AMMNET Met Data Files (*.csv) | *.csv|All Files (*.*) | *.*; |",
            "Please select an AMMNET Met Data file.", "The selected AMMNET Met Data file does not exist.",

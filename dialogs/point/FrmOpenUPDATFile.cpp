@@ -24,6 +24,7 @@ frmOpenUPDATFile::frmOpenUPDATFile(Host& host, ProcessStarter& starter, Processi
                                    QWidget* parent)
     : PointDialog(host, starter, std::move(window), "frmOpenUPDATFile",
                   "Generate Wind Rose Plots from an UP.DAT File:", parent) {
+    zoneChoice_ = ZoneChoice::MovesPeriod;
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(makeInput());
     layout->addWidget(makePeriod(true));

@@ -94,6 +94,8 @@ QLayout* PointDialog::makeButtons() {
     cmdExit = namedButton("Cancel", "cmdExit");
     lblStatus = named(new QLabel, "lblStatus");
     lblStatus->setTextFormat(Qt::PlainText);
+    // The name of a station may be longer than the screen is wide.
+    lblStatus->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     connect(cmdSetSeasons, &QPushButton::clicked, this, guarded(host_, [this] { window_.setSeasons(); }));
     connect(cmdSetWindSpeedClasses, &QPushButton::clicked, this,
             guarded(host_, [this] { window_.setWindSpeedClasses(); }));
@@ -119,6 +121,8 @@ void PointDialog::Form_Load() {
     ReadCfgFile(settings.CfgFilePath);
     cboTimeZone->setCurrentIndex(cboTimeZone->findText(shown(settings.DefaultTimeZone)));
     showTime({1, 0, 0}, *DTPicker_TimeStep);
+    showUtcInTips({DTPicker_BeginDate, DTPicker_BeginTime, DTPicker_EndDate, DTPicker_EndTime, cboTimeZone},
+                  zoneChoice_);
 }
 
 void PointDialog::showToday() {

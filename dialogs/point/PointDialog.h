@@ -14,6 +14,7 @@
 #include "base/Host.h"
 #include "platform/LeaveWatch.h"
 #include "platform/ReasonLabel.h"
+#include "platform/UtcTip.h"
 #include "processing/ControlFile.h"
 #include "processing/ProcessingWindow.h"
 #include "processing/ProcessorRun.h"
@@ -90,6 +91,7 @@ class PointDialog : public QDialog {
     const char* folderPrompt_ = "Select a Output Directory:";
     std::string given_;       ///< file that is taken at the next browse, without asking
     std::string remembered_;  ///< directory where the next picker starts
+    ZoneChoice zoneChoice_ = ZoneChoice::Relabels;
 
     QGroupBox* framePeriod = nullptr;
     QGroupBox* frameTimeStep = nullptr;

@@ -227,6 +227,13 @@ FormPointer wizard(FormWorld& world) {
     return wizardAt(world, Variation, Step, ByStation);
 }
 
+/// Stations after the question about grid cells was answered Yes.
+FormPointer stationsAfterCells(FormWorld& world) {
+    auto form = wizardAt(world, m3dVariation, 3, false);
+    for (const char* button : {"cmdPrevious3", "optByStation", "cmdNext2"}) click(*form, button);
+    return form;
+}
+
 /// A place in degrees; a timer passes the projection dialog.
 FormPointer degreesForm(FormWorld& world) {
     std::filesystem::copy(ZG_SOURCE_DIR "/data/datums.csv", world.directory.file("datums.csv"));
@@ -315,6 +322,7 @@ const std::vector<FormRow>& forms() {
         {"frmProcess3DDATFiles", "Information", wizard<m3dVariation, 2>},
         {"frmProcess3DDATFiles", "Cells", wizard<m3dVariation, 3>},
         {"frmProcess3DDATFiles", "Stations", wizard<m3dVariation, 3, true>},
+        {"frmProcess3DDATFiles", "StationsAfterCells", stationsAfterCells},
         {"frmProcess3DDATFiles", "Directory", wizard<m3dVariation, 4, true>},
         {"frmProcess3DDATFiles", "Reason", wizard<m3dVariation, 4, true>, waitWithReason},
         {"frmProcessVENTOSDATFiles", "Files", wizard<ventosVariation, 1>},

@@ -179,6 +179,73 @@ TEST_F(GridFields, GoingBackFromStationsKeepsTheNumberOfLocationsOutOfReach) {
     EXPECT_TRUE(child("cmdNext3")->isEnabled());
 }
 
+TEST_F(GridFields, ByStationAfterGridCellsSaysThatTheCellsCount) {
+    const auto note = [this] { return child<QLabel>("lblCellsOfStations"); };
+    toStations(m3dVariation, m3dText());
+    EXPECT_FALSE(note()->isVisible()) << "nobody was asked about cells";
+    click("cmdPrevious3");
+    click("optByLocation");
+    host_.boxAnswers = {BoxAnswer::Yes};
+    click("cmdNext2");
+    type("txtGridPointI", "1.5");
+    type("txtGridPointJ", "2.25");
+    type("txtFRQOutputFilename", "cell");
+    click("cmdNext3");
+    click("cmdPrevious4");
+    EXPECT_FALSE(note()->isVisible()) << "by location nothing is odd";
+    click("cmdPrevious3");
+    click("optByStation");
+    click("cmdNext2");
+    EXPECT_TRUE(note()->isVisible());
+    EXPECT_EQ(
+        note()->text(),
+        "The question about grid cells was answered Yes: the first station selected is processed at the "
+        "cell typed for location 1, the second at that for location 2, and so on. For the places of the "
+        "stations, answer it No under By Location before.");
+    EXPECT_GE(note()->height(), note()->heightForWidth(note()->width())) << "no line is cut off";
+    list("lstStations").item(0)->setSelected(true);
+    click("cmdNext3");
+    click("cmdPROCESS");
+    const std::string text = controlFile("3DDAT_wind20050307-20050309");
+    EXPECT_NE(text.find("! MET = 1.5, 2.25, 10, -1., -1., -1. !"), std::string::npos) << "as it says";
+    EXPECT_NE(text.find("! MCELL = 1 !"), std::string::npos);
+    click("cmdPrevious4");
+    EXPECT_TRUE(note()->isVisible());
+    click("cmdPrevious3");
+    click("optByLocation");
+    host_.boxAnswers = {BoxAnswer::No};
+    throughProjection();
+    click("cmdPrevious3");
+    click("optByStation");
+    click("cmdNext2");
+    EXPECT_FALSE(note()->isVisible()) << "the last answer was No";
+}
+
+TEST_F(GridFields, EveryPickerOfThePeriodSaysItInUtc) {
+    const auto pick = [this](const char* key) {
+        QComboBox& zones = combo("cboTimeZone");
+        for (std::size_t i = 0; i < timeZones.gsTimeZoneKeys.size(); ++i)
+            if (timeZones.gsTimeZoneKeys[i] == key) zones.setCurrentIndex(static_cast<int>(i));
+        emit zones.activated(zones.currentIndex());
+        const QString tip = child("DTPicker_BeginDate")->toolTip();
+        for (const char* name : {"DTPicker_BeginTime", "DTPicker_EndDate", "DTPicker_EndTime"})
+            EXPECT_EQ(child(name)->toolTip(), tip) << name;
+        return tip.toStdString();
+    };
+    toStep2(m3dVariation, m3dText());
+    EXPECT_EQ(pick("UTC+0000"), "In UTC: 2005-03-07 06:00:00 to 2005-03-09 06:00:00");
+    EXPECT_EQ(pick("UTC-0700"), "In UTC: 2005-03-07 06:00:00 to 2005-03-09 06:00:00");
+    EXPECT_EQ(pick("UTC+0930"),
+              "<p>In UTC: 2005-03-07 05:00:00 to 2005-03-09 05:00:00<br>"
+              "The choice of UTC+0930 moves the period by 8.5 hours, not by 9.5.</p>");
+    EXPECT_EQ(pick("UTC-0330"), "In UTC: 2005-03-07 06:00:00 to 2005-03-09 06:00:00");
+    toStep2(ventosVariation, ventosText());
+    const std::string before = pick("UTC+0000");
+    EXPECT_EQ(before, "In UTC: 2005-03-07 06:30:15 to 2005-12-31 23:00:00");
+    EXPECT_EQ(pick("UTC+0930"), "In UTC: 2005-03-06 21:00:15 to 2005-12-31 13:30:00")
+        << "the period on show stays, and means other hours";
+}
+
 TEST_F(GridFields, TimesWithinTheHourAreSecondsInTheControlFile) {
     fillCells({"one"});
     child<QTimeEdit>("DTPicker_BeginTime")->setTime(QTime(6, 30, 15));

@@ -219,6 +219,51 @@ TEST_F(PointFields, HalfHourZonesMoveTheHoursOfUpByTheirOwnRule) {
     EXPECT_EQ(end(), "1990-01-15 08:00:00");
 }
 
+TEST_F(PointFields, EveryPickerOfAPeriodSaysItInUtc) {
+    const auto expectTips = [this](const std::string& tip) {
+        for (const char* name :
+             {"DTPicker_BeginDate", "DTPicker_BeginTime", "DTPicker_EndDate", "DTPicker_EndTime"})
+            EXPECT_EQ(child(name)->toolTip().toStdString(), tip) << name;
+    };
+    open<frmOpenUPDATFile>();
+    browse("u.dat", upText);
+    expectTips("In UTC: 1990-01-08 00:30:00 to 1990-01-15 12:00:00");
+    pickZone("(UTC+05:30) Bombay, Calcutta, Madras, New Delhi");
+    expectTips(
+        "<p>In UTC: 1990-01-08 00:00:00 to 1990-01-15 10:30:00<br>"
+        "The choice of UTC+0530 moves the period by 4.5 hours, not by 5.5.</p>");
+    pickZone("(UTC-03:30) Newfoundland");
+    expectTips("In UTC: 1990-01-08 01:00:00 to 1990-01-15 11:30:00");
+    child<QDateEdit>("DTPicker_EndDate")->setDate(QDate(1990, 1, 20));
+    child<QTimeEdit>("DTPicker_EndTime")->setTime(QTime(23, 30));
+    expectTips("In UTC: 1990-01-08 01:00:00 to 1990-01-21 03:00:00");
+    child<QDateEdit>("DTPicker_EndDate")->setDate(QDate(9999, 12, 31));
+    expectTips("");
+    open<frmOpenSURFDATFile>();
+    browse("s.dat", surfText);
+    expectTips("In UTC: 1990-01-08 11:30:15 to 1990-01-16 04:00:00");
+    pickZone("(UTC+05:30) Bombay, Calcutta, Madras, New Delhi");
+    expectTips("In UTC: 1990-01-08 01:00:15 to 1990-01-15 17:30:00");
+    child<QComboBox>("cboTimeZone")->setCurrentIndex(-1);
+    expectTips("");
+}
+
+TEST_F(PointFields, ATypedStationIsNotCompletedToAnotherOfTheFile) {
+    open<frmOpenAMMNETDataFile>();
+    browse("m.csv", csvText);
+    auto* stationBox = child<QComboBox>("cboStationID");
+    stationBox->setFocus();
+    stationBox->lineEdit()->selectAll();
+    QTest::keyClicks(stationBox, "A");
+    child("txtXLoc")->setFocus();
+    EXPECT_EQ(stationBox->currentText(), "A") << "the file has A1";
+    stationBox->setFocus();
+    stationBox->lineEdit()->selectAll();
+    QTest::keyClicks(stationBox, "a1");
+    QTest::keyClick(stationBox, Qt::Key_Return);
+    EXPECT_EQ(stationBox->currentText(), "a1");
+}
+
 TEST_F(PointFields, AFileOlderThanTheCalendarOfTodayShowsItsOwnPeriod) {
     open<frmOpenSURFDATFile>();
     std::string text = surfText;
