@@ -1,6 +1,7 @@
 #include "graph/control/PageLayout.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace zg {
 
@@ -40,7 +41,21 @@ void rangeOver(ScrollRange& range, int offset, int page, int visible) {
     range.value = std::clamp(range.value, range.minimum, range.maximum);
 }
 
+std::int16_t middle(int ruler, int end, int page) {
+    const int gap = std::max(cornerGap, (end - ruler - page) / 2);
+    return static_cast<std::int16_t>(std::min(ruler + gap, int{std::numeric_limits<std::int16_t>::max()}));
+}
+
 }  // namespace
+
+PagePlace centredPlace(const PageLayout& layout) {
+    ChildSurfaces surfaces;
+    arrangeScrollBars(layout, surfaces);
+    const int right = surfaces.vsScroll.visible ? surfaces.vsScroll.left : layout.width;
+    const int bottom = surfaces.hsScroll.visible ? surfaces.hsScroll.top : layout.height;
+    const int ruler = layout.ShowRuler ? rulerThickness : 0;
+    return {middle(ruler, right, layout.page), middle(ruler, bottom, layout.page)};
+}
 
 int pageSize(std::int16_t zoom) { return std::max(1, zoom * 6); }
 

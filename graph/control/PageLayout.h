@@ -70,6 +70,17 @@ struct PageLayout {
     std::int16_t OffsetDrawingAreaY = 0;
 };
 
+/// The top left of a page within the work area.
+struct PagePlace {
+    std::int16_t x = 0;
+    std::int16_t y = 0;
+    bool operator==(const PagePlace&) const = default;
+};
+
+/// The place of a page in the middle of what rulers and scroll bars leave free. Along an axis with too little
+/// room it is beside the ruler.
+PagePlace centredPlace(const PageLayout& layout);
+
 /// Arranges scroll bars, rulers, page and shadow. The scroll ranges follow the page, their values are kept
 /// within them, and the page is shifted by the values. Other surfaces are unchanged.
 void arrange(const PageLayout& layout, ChildSurfaces& surfaces, ScrollRange& horizontal,

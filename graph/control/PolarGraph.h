@@ -118,6 +118,14 @@ class PolarGraph {
     std::int16_t Zoom() const { return settings_.Zoom; }
     void Zoom(std::int16_t value);
 
+    /// Below a zoom of 100 percent the lines of legend and titles become smaller with the page, so that they
+    /// do not overlap. From the next redraw on.
+    void shrinkTexts(bool value) { settings_.Style.shrinkTexts = value; }
+
+    /// Puts the page in the middle of its work area and keeps it there when either changes its size. A page
+    /// that is moved, reset to its corner, or too large, is no longer or not centred.
+    void keepPageCentred();
+
     /// Whether a selection is shown that is larger than 1 by 1.
     bool ActiveSelection() const { return tools_.hasSelection(); }
 
@@ -227,6 +235,7 @@ class PolarGraph {
     void resizePage();
     void movePage();
     void arrangeChildren();
+    void centreUnmovedPage();
     Rect onPage(const ChildSurface& shape) const;
     PicturePointer FillBuffer(bool selectionOnly);
     void print(Canvas& canvas) const;
@@ -245,6 +254,7 @@ class PolarGraph {
     PlotSettings settings_;
     ControlProperties own_;
     PageLayout page_;
+    std::optional<PagePlace> centredAt_;  ///< where the page was centred last
     ChildSurfaces surfaces_;
     ScrollRange horizontalScroll_;
     ScrollRange verticalScroll_;

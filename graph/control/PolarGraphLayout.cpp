@@ -32,6 +32,11 @@ void PolarGraph::Zoom(std::int16_t value) {
     changedOnPage();
 }
 
+void PolarGraph::keepPageCentred() {
+    centredAt_ = PagePlace{page_.OffsetDrawingAreaX, page_.OffsetDrawingAreaY};
+    arrangeChildren();
+}
+
 void PolarGraph::ResetDrawingArea() { cornerPressed(leftButton); }
 
 void PolarGraph::layout(int width, int height) {
@@ -70,7 +75,16 @@ void PolarGraph::movePage() {
     changedOnPage();
 }
 
+/// One that is no longer where it was centred has been moved, and stays.
+void PolarGraph::centreUnmovedPage() {
+    if (centredAt_ != PagePlace{page_.OffsetDrawingAreaX, page_.OffsetDrawingAreaY}) return;
+    centredAt_ = centredPlace(page_);
+    page_.OffsetDrawingAreaX = centredAt_->x;
+    page_.OffsetDrawingAreaY = centredAt_->y;
+}
+
 void PolarGraph::arrangeChildren() {
+    centreUnmovedPage();
     arrange(page_, surfaces_, horizontalScroll_, verticalScroll_);
     window_.layoutChanged();
     window_.rulersChanged();

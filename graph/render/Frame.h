@@ -36,6 +36,10 @@ struct Frame {
 /// The style of a font family in its own colour.
 TextStyle textStyleOf(const FontRecord& font);
 
+/// The same for the lines of the legend and of the titles, whose distances shrink with the page: if the style
+/// of the rose asks for it, their size does so too, below a zoom of 100 percent.
+TextStyle lineStyleOf(const FontRecord& font, const PlotSettings& settings);
+
 /// Number of whole polar units within the radius; raises 6 above 32767.
 int wholeUnits(const Polar& polar);
 

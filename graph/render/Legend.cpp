@@ -74,7 +74,7 @@ void drawLegend(Frame& frame) {
     const std::string unit = readyLimits(tables, frame.settings.Style.unit);
     const Table<std::string>& limits = tables.LegendClassLimit;
     const LegendLayout layout = legendLayout(frame.width, frame.height);
-    frame.textStyle = textStyleOf(tables.LegendFont);
+    frame.textStyle = lineStyleOf(tables.LegendFont, frame.settings);
     frame.canvas.fillRectangle(layout.box, white);
     frame.canvas.setTextPosition(frame.innerUnits > 0 ? markedCalmLine(frame, layout) : layout.calmLine);
     if (tables.FrqRoseCount > 0)

@@ -15,6 +15,7 @@ struct RoseStyle {
     bool numbers = false;     ///< the share of each direction in percent, beyond the end of its bar
     bool calmCircle = false;  ///< the calm share as a disc in the middle, where bars and rings start
     SpeedUnit unit = SpeedUnit::AsChosen;  ///< AsChosen: as in the tables, metres per second or knots
+    bool shrinkTexts = false;  ///< below a zoom of 100 percent legend and titles are smaller with the page
 };
 
 /// Fill of the calm circle and of its mark in the legend.

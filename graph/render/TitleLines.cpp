@@ -6,7 +6,7 @@ void drawTitleLines(Frame& frame) {
     const ModPolarGraph& tables = frame.tables;
     if (tables.GraphTitle.empty() && tables.GraphSubTitle.empty() && tables.GraphCaption.empty()) return;
     const CanvasGroup group(frame.canvas, "titles");
-    frame.textStyle = textStyleOf(tables.LabelFont);
+    frame.textStyle = lineStyleOf(tables.LabelFont, frame.settings);
     const double left = frame.width / 20;
     const double gap = frame.height / 100;
     Canvas& canvas = frame.canvas;

@@ -148,5 +148,22 @@ TEST_F(Arrange, LeavesTheToolsShapesAlone) {
     EXPECT_EQ(surfaces.shpCircle, (ChildSurface{5, 6, 7, 8, true}));
 }
 
+TEST(CentredPlace, IsInTheMiddleOfWhatRulersAndBarsLeaveFree) {
+    const PageLayout layout{1037, 837, 3, true, 300, 0, 0};
+    EXPECT_EQ(centredPlace(layout), (PagePlace{20 + (1000 - 300) / 2, 20 + (800 - 300) / 2}));
+}
+
+TEST(CentredPlace, WithoutRulersAndBarsIsThatOfTheWholeArea) {
+    const PageLayout layout{1000, 800, 0, false, 300, 0, 0};
+    EXPECT_EQ(centredPlace(layout), (PagePlace{350, 250}));
+}
+
+TEST(CentredPlace, IsBesideTheRulerAlongAnAxisWithoutRoom) {
+    PageLayout layout{1037, 300, 3, true, 600, 0, 0};
+    EXPECT_EQ(centredPlace(layout), (PagePlace{220, 25}));
+    layout.page = 196602;
+    EXPECT_EQ(centredPlace(layout), (PagePlace{25, 25}));
+}
+
 }  // namespace
 }  // namespace zg

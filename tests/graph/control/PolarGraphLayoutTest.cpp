@@ -128,5 +128,62 @@ TEST_F(PolarGraphLayout, BufferAndAngleLabelStartHidden) {
     EXPECT_FALSE(graph.ActiveSelection());
 }
 
+class CentredPage : public PolarGraphLayout {
+ protected:
+    void SetUp() override {
+        PolarGraphLayout::SetUp();
+        graph.ScrollBars(0);
+        graph.layout(800, 700);
+        graph.keepPageCentred();
+        window.forget();
+    }
+    PagePlace place() const { return {graph.OffsetDrawingAreaX(), graph.OffsetDrawingAreaY()}; }
+};
+
+TEST_F(CentredPage, FollowsTheSizeOfTheControlWithoutARepaint) {
+    EXPECT_EQ(place(), (PagePlace{250, 200}));
+    graph.layout(1000, 900);
+    EXPECT_EQ(place(), (PagePlace{350, 300}));
+    EXPECT_EQ(graph.surfaces().picGraph, (ChildSurface{350, 300, 300, 300, true}));
+    EXPECT_EQ(window.calls, (std::vector<std::string>{"layoutChanged", "rulersChanged"}));
+}
+
+TEST_F(CentredPage, FollowsItsZoomAndIsPaintedOnce) {
+    graph.Zoom(100);
+    EXPECT_EQ(place(), (PagePlace{100, 50}));
+    EXPECT_EQ(window.frames(), 1U);
+    graph.Zoom(500);
+    EXPECT_EQ(place(), (PagePlace{5, 5}));
+    graph.Zoom(50);
+    EXPECT_EQ(place(), (PagePlace{250, 200})) << "also after it was too large";
+}
+
+TEST_F(CentredPage, StaysWhereItIsMovedOrReset) {
+    graph.OffsetDrawingAreaX(40);
+    graph.layout(1000, 900);
+    EXPECT_EQ(place(), (PagePlace{40, 200}));
+    graph.keepPageCentred();
+    graph.ResetDrawingArea();
+    graph.layout(800, 700);
+    EXPECT_EQ(place(), (PagePlace{25, 25}));
+}
+
+TEST_F(CentredPage, OfADragThatIsCancelledIsCentredAgain) {
+    graph.SetActiveTool(3);
+    graph.mouseDown(1, 0, 10, 10);
+    graph.mouseMove(1, 0, 60, 30);
+    EXPECT_EQ(place(), (PagePlace{300, 220}));
+    EXPECT_TRUE(graph.cancelTool());
+    graph.layout(1000, 900);
+    EXPECT_EQ(place(), (PagePlace{350, 300}));
+}
+
+TEST_F(PolarGraphLayout, WithoutBeingAskedThePageStaysAtItsOffset) {
+    graph.layout(2000, 2000);
+    graph.Zoom(60);
+    EXPECT_EQ(graph.OffsetDrawingAreaX(), 0);
+    EXPECT_EQ(graph.OffsetDrawingAreaY(), 0);
+}
+
 }  // namespace
 }  // namespace zg

@@ -130,5 +130,27 @@ TEST_F(Legend, ColoursKeptWithALostDigitPaintAsWhite) {
     EXPECT_EQ(canvas.all<drawn::FillRectangle>().at(3).colour, white);
 }
 
+TEST_F(Legend, LinesKeepTheirSizeAtEveryZoomUnlessTheyShallShrink) {
+    settings.Zoom = 25;
+    legendTexts();
+    for (const drawn::Text& line : canvas.all<drawn::Text>()) EXPECT_EQ(line.style.size, 7) << line.text;
+}
+
+TEST_F(Legend, LinesThatShrinkDoSoBelowAHundredPercentOnlyAndStayWhereTheyAre) {
+    settings.Style.shrinkTexts = true;
+    for (const auto& [zoom, size] :
+         {std::pair<std::int16_t, double>{25, 1.75}, {50, 3.5}, {99, 6.93}, {100, 7}, {500, 7}}) {
+        settings.Zoom = zoom;
+        legendTexts();
+        const auto lines = canvas.all<drawn::Text>();
+        ASSERT_EQ(lines.size(), 7U);
+        const LegendLayout layout = legendLayout(300, 300);
+        EXPECT_EQ(lines[0].at, layout.calmLine);
+        for (std::size_t i = 0; i < 6; ++i) EXPECT_EQ(lines[i + 1].at, layout.rows[i].text);
+        for (const drawn::Text& line : lines) EXPECT_NEAR(line.style.size, size, 1e-9) << zoom;
+    }
+    EXPECT_EQ(tables.LegendFont.size, 7);
+}
+
 }  // namespace
 }  // namespace zg

@@ -54,5 +54,21 @@ TEST_F(TitleLines, NeedNoFile) {
     EXPECT_EQ(redraw().size(), 3U);
 }
 
+TEST_F(TitleLines, ThatShrinkAreSmallerWithThePageAtTheSameEdgeAndGap) {
+    settings.Style.shrinkTexts = true;
+    settings.Zoom = 50;
+    const auto texts = redraw();
+    ASSERT_EQ(texts.size(), 3U);
+    for (const drawn::Text& line : texts) {
+        EXPECT_EQ(line.style.size, 4);
+        EXPECT_EQ(line.at.x, 20);
+    }
+    EXPECT_EQ(texts[0].at.y, 15);
+    EXPECT_EQ(texts[1].at.y, 15 + canvas.measure("x", texts[0].style).height + 3);
+    settings.Zoom = 100;
+    canvas.commands.clear();
+    EXPECT_EQ(redraw()[0].style.size, 8);
+}
+
 }  // namespace
 }  // namespace zg
