@@ -1,7 +1,6 @@
 #include "shell/FrmMain.h"
 
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QSignalBlocker>
@@ -21,19 +20,13 @@
 #include "shell/MenuTree.h"
 #include "shell/Resources.h"
 #include "shell/StartSequence.h"
+#include "shell/WindowPlace.h"
 
 namespace zg {
 
 namespace {
 
 constexpr QSize swatchPixels(46, 18);
-constexpr QSize startSize(740, 880);
-
-/// Makes the whole page visible if the screen is large enough.
-QSize sizeOnScreen() {
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen == nullptr ? startSize : startSize.boundedTo(screen->availableSize() - QSize(40, 60));
-}
 
 }  // namespace
 
@@ -49,8 +42,10 @@ frmMain::frmMain(Host& host) : host_(host) {
         GraphListHooks{[this] { pressTool(Tool::Arrow); }, [this](bool value) { lockWhileDrawing(value); },
                        [this](const GrapInfo& graph) { beginProgress(graph); }});
     followPlot();
+    pgPolarGraph().shrinkTexts(true);
+    pgPolarGraph().keepPageCentred();
     makeHabits();
-    resize(sizeOnScreen());
+    resize(startSizeOn(screen()->availableSize()));
 }
 
 void frmMain::Form_Load() {

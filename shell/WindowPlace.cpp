@@ -26,6 +26,12 @@ QByteArray savedPlace() {
 
 }  // namespace
 
+QSize startSizeOn(const QSize& available) {
+    const QSize wholePage(740, 880);
+    const QSize part(available.width() * 55 / 100, available.height() * 85 / 100);
+    return wholePage.expandedTo(part).boundedTo(available - QSize(40, 60));
+}
+
 WindowPlace::WindowPlace(QWidget& window) : window_(window) {
     window.restoreGeometry(savedPlace());
     window.installEventFilter(this);

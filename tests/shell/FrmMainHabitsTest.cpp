@@ -13,6 +13,8 @@
 #include <QToolButton>
 #include <QUrl>
 #include <QWheelEvent>
+#include <array>
+#include <cstdlib>
 #include <filesystem>
 
 #include "base/Paths.h"
@@ -254,6 +256,51 @@ TEST_F(FrmMainHabits, ARightClickOnTheCornerMovesTheMenusMark) {
     plot().cornerPressed(rightButton);
     emit entry("mnuViewRulerMode").menu()->aboutToShow();
     EXPECT_TRUE(entry("mnuViewRulerModeOption_1").isChecked());
+}
+
+TEST_F(FrmMainHabits, ThePageStaysInTheMiddleOfTheWindow) {
+    const auto margins = [this] {
+        const QRect page = child("picGraph")->geometry();
+        return std::array<int, 4>{
+            page.left() - child("picHolderRV")->width(), child("vsScroll")->x() - page.right() - 1,
+            page.top() - child("picHolderRH")->height(), child("hsScroll")->y() - page.bottom() - 1};
+    };
+    for (const QSize size : {QSize(1300, 1200), QSize(1600, 1100)}) {
+        window_->resize(size);
+        const auto [left, right, top, bottom] = margins();
+        EXPECT_GT(left, 100);
+        EXPECT_LE(std::abs(left - right), 1);
+        EXPECT_GT(top, 30);
+        EXPECT_LE(std::abs(top - bottom), 1);
+    }
+    plot().ResetDrawingArea();
+    window_->resize(1300, 1200);
+    EXPECT_EQ(margins()[0], 5) << "as the corner has put it";
+    EXPECT_EQ(margins()[2], 5);
+}
+
+TEST_F(FrmMainHabits, AtSmallZoomsTheLinesOfTheLegendDoNotOverlap) {
+    drop({sample("a.frq")});
+    plot().Zoom(25);
+    QWidget* page = child("picGraph");
+    const QImage small = plotWidget().pageImage();
+    // Beside the swatches each line of the legend has paper above and below it.
+    const auto scale = small.devicePixelRatio();
+    int paper = 0;
+    for (int y = page->height() * 4 / 5 + 1; y < page->height(); ++y) {
+        bool white = true;
+        for (int x = page->width() * 77 / 100; x < page->width(); ++x)
+            white =
+                white && qGray(small.pixel(static_cast<int>(x * scale), static_cast<int>(y * scale))) > 200;
+        paper += white ? 1 : 0;
+    }
+    EXPECT_GE(paper, 5);
+}
+
+TEST(WindowPlace, AtTheFirstStartIsAPartOfALargeScreen) {
+    EXPECT_EQ(startSizeOn({1280, 1024}), QSize(740, 880)) << "the whole page";
+    EXPECT_EQ(startSizeOn({800, 600}), QSize(740, 540));
+    EXPECT_EQ(startSizeOn({3840, 2160}), QSize(2112, 1836));
 }
 
 TEST(WindowPlace, IsRememberedInAFileOfItsOwn) {
