@@ -169,6 +169,15 @@ void frmBatchMode::optDirectory_Click() {
     lblStatus->clear();
 }
 
+void frmBatchMode::openDirectory(const std::string& directory, const std::string& note) {
+    optDirectory->setChecked(true);
+    showPath(*txtDirectory, directory);
+    leftDirectory(*txtDirectory);
+    if (txtWorkDirectory->text().isEmpty()) showPath(*txtWorkDirectory, withSeparator(directory));
+    txtNotes->setPlainText(shown(note));
+    cmdBeginBatchMode->setFocus();
+}
+
 void frmBatchMode::cmdBrowseSingleFRQFile_Click() {
     const std::string path = ShowFileOpen(host_, "Frequency File (*.frq) | *.frq; |All Files (*.*) | *.*", 1,
                                           modPolarGraph.WorkDir);

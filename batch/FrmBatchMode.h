@@ -15,6 +15,10 @@ class frmBatchMode : public RunningDialog {
  public:
     frmBatchMode(Host& host, BatchHooks hooks, QWidget* parent = nullptr);
 
+    /// Fills the fields in for the FRQ files of that directory, with a note, so that only BEGIN is left.
+    /// Without another working directory the pictures go there too.
+    void openDirectory(const std::string& directory, const std::string& note);
+
  private:
     void layOut();
     QLayout* notesPart();

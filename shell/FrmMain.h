@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "base/Host.h"
 #include "batch/BatchRun.h"
@@ -93,9 +94,9 @@ class frmMain : public QMainWindow {
     template <typename Form, typename... Values>
     void process(Values... values);
     template <typename Form, typename... Values>
-    void processFile(const std::string& path, Values... values);
-    void processRawFile(const std::string& path, InputKind kind);
-    void openDropped(const std::string& path);
+    void processFiles(const std::vector<std::string>& paths, Values... values);
+    void processRawFiles(const std::vector<std::string>& paths, InputKind kind);
+    void openDropped(const std::vector<std::string>& paths);
 
     bool openFrqFile(const std::string& path);
     void chooseFrqFile(const std::string& path);

@@ -7,53 +7,28 @@
 #include <QShortcut>
 #include <QTimer>
 #include <QUrl>
-#include <optional>
+#include <vector>
 
-#include "base/Lines.h"
-#include "base/RunTimeError.h"
-#include "base/Text.h"
+#include "batch/FrmBatchMode.h"
 #include "platform/Errors.h"
 #include "platform/QtText.h"
 #include "settings/Settings.h"
+#include "shell/DroppedFiles.h"
 #include "shell/FrmMain.h"
 #include "shell/RecentFiles.h"
-#include "windtable/TableGuess.h"
 
 namespace zg {
 
 namespace {
 
-/// The one local file that is dragged; "" for anything else.
-std::string draggedFile(const QDropEvent& event) {
-    const QList<QUrl> urls = event.mimeData()->urls();
-    return urls.size() == 1 && urls.constFirst().isLocalFile() ? filePath(urls.constFirst().toLocalFile())
-                                                               : std::string();
-}
-
-bool isTableOfWinds(const std::string& path, std::string_view firstLine) {
-    try {
-        return isIsdLiteLine(firstLine) || hasTableHead(path);
-    } catch (const RunTimeError&) {
-        return false;  // a line that is too long for a table
+/// The local files that are dragged; none if anything else is among them.
+std::vector<std::string> draggedFiles(const QDropEvent& event) {
+    std::vector<std::string> paths;
+    for (const QUrl& url : event.mimeData()->urls()) {
+        if (!url.isLocalFile()) return {};
+        paths.push_back(filePath(url.toLocalFile()));
     }
-}
-
-/// The kind of a raw file by its first line, else by its name, else by its columns; nothing for a frequency
-/// file and for a file of no such kind.
-std::optional<InputKind> droppedKind(const std::string& path) {
-    LineReader lines(path);
-    const std::string start = ucase(trimmed(lines.ahead().substr(0, lines.ahead().find_first_of("\r\n"))));
-    if (start.starts_with("WIND.FRQ")) return std::nullopt;
-    for (const Format& format : formats())
-        if (!format.firstWord.empty() && start.starts_with(format.firstWord)) return format.kind;
-    if (start.find("DATETIME") != std::string::npos && start.find("STNCODE") != std::string::npos)
-        return InputKind::MonitorW;
-    const std::string name = lcase(path);
-    if (name.ends_with(".sfc")) return InputKind::AermSfc;
-    if (name.ends_with(".pfl")) return InputKind::AermPfl;
-    if (isTableOfWinds(path, start)) return InputKind::Csv;
-    if (name.ends_with(".csv")) return InputKind::MonitorW;  // whose dialog tells what is wrong
-    return std::nullopt;
+    return paths;
 }
 
 }  // namespace
@@ -92,26 +67,37 @@ void frmMain::showRecentFiles() {
     if (menu->isEmpty()) menu->addAction(QStringLiteral("No file has been opened yet"))->setEnabled(false);
 }
 
-/// A frequency file is plotted; for raw data their dialog opens with the file chosen, but a table of winds,
-/// which has no dialog, is only named.
-void frmMain::openDropped(const std::string& path) {
-    if (const auto kind = droppedKind(path))
-        processRawFile(path, *kind);
-    else
-        chooseFrqFile(path);
+/// A frequency file is plotted, and several are for batch mode. For raw data their dialog opens with the file
+/// chosen, for gridded data the wizard with all of them; a table of winds, which has no dialog, is only
+/// named.
+void frmMain::openDropped(const std::vector<std::string>& paths) {
+    if (const auto batch = droppedBatch(paths)) {
+        frmBatchMode form(host_, batchHooks(), this);
+        form.openDirectory(batch->directory, batch->note);
+        form.exec();
+    } else if (paths.size() > 1 && !commonGriddedKind(paths)) {
+        host_.showBox(
+            {"Several files at once: FRQ files of one directory for batch mode, or the files of one "
+             "3D.DAT or VENTOS.DAT run. Please drop other files one by one.",
+             "Open", BoxIcon::Information, BoxButtons::Ok});
+    } else if (const auto kind = droppedKind(paths.front())) {
+        processRawFiles(paths, *kind);
+    } else {
+        chooseFrqFile(paths.front());
+    }
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent* event) {
-    if (!draggedFile(*event).empty() && actions_.at("mnuFileOption_1")->isEnabled())
+    if (!draggedFiles(*event).empty() && actions_.at("mnuFileOption_1")->isEnabled())
         event->acceptProposedAction();
 }
 
 void frmMain::dropEvent(QDropEvent* event) {
-    const std::string path = draggedFile(*event);
-    if (path.empty() || !actions_.at("mnuFileOption_1")->isEnabled()) return;
+    const std::vector<std::string> paths = draggedFiles(*event);
+    if (paths.empty() || !actions_.at("mnuFileOption_1")->isEnabled()) return;
     event->acceptProposedAction();
     // The program from which it comes waits until this returns, and a box may be shown.
-    QTimer::singleShot(0, this, guarded(host_, [this, path] { openDropped(path); }));
+    QTimer::singleShot(0, this, guarded(host_, [this, paths] { openDropped(paths); }));
 }
 
 }  // namespace zg

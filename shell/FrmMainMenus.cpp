@@ -45,35 +45,37 @@ void frmMain::process(Values... values) {
     Form(host_, starter_, processingWindow(), values..., this).exec();
 }
 
-/// The same with a file already chosen.
+/// The same with files already chosen; only forms for gridded data take more than one.
 template <typename Form, typename... Values>
-void frmMain::processFile(const std::string& path, Values... values) {
+void frmMain::processFiles(const std::vector<std::string>& paths, Values... values) {
     Form form(host_, starter_, processingWindow(), values..., this);
-    QTimer::singleShot(0, &form, [&form, &path] { form.openFile(path); });
+    QTimer::singleShot(0, &form, [&form, &paths] {
+        for (const std::string& path : paths) form.openFile(path);
+    });
     form.exec();
 }
 
-void frmMain::processRawFile(const std::string& path, InputKind kind) {
+void frmMain::processRawFiles(const std::vector<std::string>& paths, InputKind kind) {
     switch (kind) {
         case InputKind::Surf:
-            return processFile<frmOpenSURFDATFile>(path);
+            return processFiles<frmOpenSURFDATFile>(paths);
         case InputKind::Up:
-            return processFile<frmOpenUPDATFile>(path);
+            return processFiles<frmOpenUPDATFile>(paths);
         case InputKind::MonitorW:
-            return processFile<frmOpenAMMNETDataFile>(path);
+            return processFiles<frmOpenAMMNETDataFile>(paths);
         case InputKind::AermSfc:
         case InputKind::AermPfl:
-            return processFile<frmOpenAERMETFile>(path, kind);
+            return processFiles<frmOpenAERMETFile>(paths, kind);
         case InputKind::Tsf:
-            return processFile<frmOpenTSFDataFile>(path);
+            return processFiles<frmOpenTSFDataFile>(paths);
         case InputKind::M3d:
             useLibrariesBeside(applicationDirectory);
-            return processFile<frmProcess3DDATFiles>(path);
+            return processFiles<frmProcess3DDATFiles>(paths);
         case InputKind::Ventos:
             useLibrariesBeside(applicationDirectory);
-            return processFile<frmProcessVENTOSDATFiles>(path);
+            return processFiles<frmProcessVENTOSDATFiles>(paths);
         case InputKind::Csv:
-            host_.showBox({"\"" + FileNameOf(path) +
+            host_.showBox({"\"" + FileNameOf(paths.front()) +
                                "\" is a table of winds. zephyrgraph-export makes wind roses of it.",
                            "Open", BoxIcon::Information, BoxButtons::Ok});
     }

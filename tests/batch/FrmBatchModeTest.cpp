@@ -247,5 +247,29 @@ TEST_F(FrmBatchMode, AnErrorOfTheRunIsShownAndTheStatusDoesNotStayAtRunning) {
     EXPECT_FALSE(settings.BatchMode);
 }
 
+TEST_F(FrmBatchMode, OpenedForADirectoryNeedsOnlyItsButton) {
+    const std::string frq = directory_.file("frq");
+    std::filesystem::create_directory(frq);
+    std::filesystem::copy(sample, frq + "/a.frq");
+    form_->openDirectory(frq, "A note.\n");
+    EXPECT_TRUE(child<QRadioButton>("optDirectory")->isChecked());
+    EXPECT_EQ(box("txtDirectory").text().toStdString(), frq + "/");
+    EXPECT_EQ(box("txtWorkDirectory").text().toStdString(), out_ + "/") << "the last-used directory";
+    EXPECT_EQ(child<QPlainTextEdit>("txtNotes")->toPlainText(), "A note.\n");
+    EXPECT_EQ(form_->focusWidget(), child("cmdBeginBatchMode"));
+    QTest::keyClick(form_->focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(status(), "Finished");
+    EXPECT_EQ(opened_, 1);
+    EXPECT_EQ(child<QPlainTextEdit>("txtNotes")->toPlainText(), "") << "the notes are those of the run";
+}
+
+TEST_F(FrmBatchMode, OpenedForADirectoryWithoutALastUsedOneWritesThere) {
+    modPolarGraph.WorkDir.clear();
+    open();
+    form_->openDirectory(out_ + "/", "");
+    EXPECT_EQ(box("txtDirectory").text().toStdString(), out_ + "/");
+    EXPECT_EQ(box("txtWorkDirectory").text().toStdString(), out_ + "/");
+}
+
 }  // namespace
 }  // namespace zg

@@ -292,6 +292,12 @@ const std::vector<FormRow>& forms() {
         {"frmAspect", "", ofPlot<frmAspect>},
         {"frmBatchMode", "File", batchForm},
         {"frmBatchMode", "Directory", batchForm, withClickOn("optDirectory")},
+        {"frmBatchMode", "Dropped", batchForm,
+         [](QWidget& form) {
+             dynamic_cast<frmBatchMode&>(form).openDirectory(
+                 ZG_SOURCE_DIR "/data/samples",
+                 "BEGIN exports all 12 FRQ files of this directory, not only the 2 that were dropped.\n");
+         }},
         {"frmBatchMode", "Refused", batchForm,
          withRefusal("txtPercentValidLimit", "101", "cmdBeginBatchMode")},
         {"frmBatchMode", "Notes", refusingBatchForm, runBatchOfSample},

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDropEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -46,6 +47,15 @@ class FrmMainHabits : public ActiveMainWindow {
         QApplication::sendEvent(window_.get(), &dropped);
         QApplication::processEvents();
         return true;
+    }
+    /// Looks at the next modal dialog and cancels it.
+    void inModalDialog(const std::function<void(QDialog&)>& look) {
+        QTimer::singleShot(20, window_.get(), [look] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            look(*dialog);
+            dialog->reject();
+        });
     }
     void turnWheel(int degrees, Qt::KeyboardModifiers keys = Qt::ControlModifier) {
         QWidget* plotWidget = child("pgPolarGraph");
@@ -160,12 +170,63 @@ TEST_F(FrmMainHabits, AnotherFileThatIsDroppedIsToldByTheLoader) {
     EXPECT_FALSE(modPolarGraph.FrqLoaded);
 }
 
-TEST_F(FrmMainHabits, SeveralFilesAndDropsDuringACurveAreNotTaken) {
+TEST_F(FrmMainHabits, SeveralDroppedFrqFilesFillBatchModeIn) {
     const std::string one = sample("one.frq");
-    EXPECT_FALSE(drop({one, sample("two.frq")}));
+    const std::string two = sample("two.frq");
+    modPolarGraph.WorkDir.clear();
+    QString status;
+    inModalDialog([&](QDialog& dialog) {
+        EXPECT_EQ(dialog.objectName(), "frmBatchMode");
+        EXPECT_EQ(dialog.findChild<QLineEdit*>("txtDirectory")->text().toStdString(),
+                  directory_.path() + pathSeparator);
+        QTest::mouseClick(dialog.findChild<QWidget*>("cmdBeginBatchMode"), Qt::LeftButton);
+        status = dialog.findChild<QLabel*>("lblStatus")->text();
+    });
+    EXPECT_TRUE(drop({one, two}));
+    EXPECT_EQ(status, "Finished");
+    EXPECT_TRUE(std::filesystem::exists(directory_.file("one_Winter.bmp")));
+    EXPECT_TRUE(std::filesystem::exists(directory_.file("two_Winter.bmp")));
+    EXPECT_TRUE(host_.boxes.empty());
+}
+
+TEST_F(FrmMainHabits, ADroppedDirectoryFillsBatchModeIn) {
+    QString text;
+    inModalDialog([&](QDialog& dialog) { text = dialog.findChild<QLineEdit*>("txtDirectory")->text(); });
+    EXPECT_TRUE(drop({directory_.path()}));
+    EXPECT_EQ(text.toStdString(), directory_.path() + pathSeparator);
+}
+
+TEST_F(FrmMainHabits, SeveralDroppedFilesOfAGridAreListedInTheirWizard) {
+    program_.deliver({"TimeZones.txt"});
+    const std::string first = directory_.file("first.m3d");
+    const std::string second = directory_.file("second.m3d");
+    for (const std::string& path : {first, second})
+        std::filesystem::copy(ZG_SOURCE_DIR "/data/samples/valley_model.m3d", path);
+    QStringList rows;
+    inModalDialog([&](QDialog& dialog) {
+        EXPECT_EQ(dialog.objectName(), "frmProcess3DDATFiles");
+        const auto* list = dialog.findChild<QListWidget*>("lst3DDATFiles");
+        for (int row = 0; row < list->count(); ++row) rows.append(list->item(row)->text());
+    });
+    EXPECT_TRUE(drop({first, second}));
+    EXPECT_EQ(rows, (QStringList{QString::fromStdString(first), QString::fromStdString(second)}));
+}
+
+TEST_F(FrmMainHabits, OtherSeveralFilesAreTold) {
+    host_.boxAnswers = {BoxAnswer::Ok};
+    EXPECT_TRUE(drop({sample("one.frq"), ZG_SOURCE_DIR "/data/samples/valley_surf.dat"}));
+    ASSERT_EQ(host_.boxes.size(), 1U);
+    EXPECT_EQ(
+        host_.boxes[0].text,
+        "Several files at once: FRQ files of one directory for batch mode, or the files of one 3D.DAT or "
+        "VENTOS.DAT run. Please drop other files one by one.");
+    EXPECT_EQ(window_->windowTitle(), "Zephyrgraph");
+}
+
+TEST_F(FrmMainHabits, DropsDuringACurveAreNotTaken) {
     bool free = false;
     plot().events.DrawBegin(free);
-    EXPECT_FALSE(drop({one}));
+    EXPECT_FALSE(drop({sample("one.frq")}));
     EXPECT_EQ(window_->windowTitle(), "Zephyrgraph");
 }
 
