@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QDialog>
 #include <QMainWindow>
+#include <QPointer>
 #include <functional>
 #include <map>
 #include <memory>
@@ -77,6 +79,7 @@ class frmMain : public QMainWindow {
     void keyPressEvent(QKeyEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
     using Commands = std::map<std::string, std::function<void()>>;
@@ -97,6 +100,7 @@ class frmMain : public QMainWindow {
     void processFiles(const std::vector<std::string>& paths, Values... values);
     void processRawFiles(const std::vector<std::string>& paths, InputKind kind);
     void openDropped(const std::vector<std::string>& paths);
+    void showGuide();
 
     bool openFrqFile(const std::string& path);
     void chooseFrqFile(const std::string& path);
@@ -130,6 +134,7 @@ class frmMain : public QMainWindow {
     Commands commands_;
     std::unique_ptr<Toolbox> toolbox_;
     std::unique_ptr<GraphList> graphs_;
+    QPointer<QDialog> guide_;
     bool ending_ = false;  ///< closed, or Exit was chosen
     BatchStarter starter_;
 };

@@ -1,7 +1,9 @@
 // What people expect of any window: files dropped on it, the usual keys, the wheel, recent files.
 
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
 #include <QShortcut>
@@ -9,11 +11,13 @@
 #include <QUrl>
 #include <vector>
 
+#include "base/Paths.h"
 #include "batch/FrmBatchMode.h"
 #include "platform/Errors.h"
 #include "platform/QtText.h"
 #include "settings/Settings.h"
 #include "shell/DroppedFiles.h"
+#include "shell/FrmGuide.h"
 #include "shell/FrmMain.h"
 #include "shell/RecentFiles.h"
 
@@ -35,6 +39,7 @@ std::vector<std::string> draggedFiles(const QDropEvent& event) {
 
 void frmMain::makeHabits() {
     setAcceptDrops(true);
+    QCoreApplication::instance()->installEventFilter(this);
     // The entry has no key of its own in the menu. While it is disabled, triggering it does nothing.
     auto* openKey = new QShortcut(QKeySequence(QKeySequence::Open), this);
     connect(openKey, &QShortcut::activated, actions_.at("mnuFileOption_1"), &QAction::trigger);
@@ -48,6 +53,35 @@ void frmMain::makeHabits() {
     open->setMenu(recent);
     open->setPopupMode(QToolButton::MenuButtonPopup);
     ui_.pgPolarGraph->setInvitation(QStringLiteral("Open a frequency file, or drop one here"));
+}
+
+/// F1 is for the guide in every window of the program, so no window gets it.
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) return false;
+    const auto* key = static_cast<const QKeyEvent*>(event);
+    if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier) return false;
+    guarded(host_, [this] { showGuide(); })();
+    return true;
+}
+
+/// A dialog that is open leaves the keyboard only to its own windows.
+void frmMain::showGuide() {
+    const std::string path = inApplicationDirectory("docs") + pathSeparator + "guide.md";
+    if (!fileExists(path)) {
+        host_.showBox(
+            {"The user guide is missing: " + path, "User Guide", BoxIcon::Information, BoxButtons::Ok});
+        return;
+    }
+    QWidget* dialog = QApplication::activeModalWidget();
+    QWidget* parent = dialog == nullptr ? this : dialog;
+    if (guide_ && guide_->parentWidget() != parent) delete guide_.data();
+    if (!guide_) {
+        guide_ = new frmGuide(path, parent);
+        guide_->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    guide_->show();
+    guide_->raise();
+    guide_->activateWindow();
 }
 
 /// Opens a file that the user has chosen, as a batch of them is not.

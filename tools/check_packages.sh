@@ -81,6 +81,7 @@ samples
 start_once "Debian package" /usr/lib/zephyrgraph
 [ "$(readlink -f "$root/usr/bin/zephyrgraph")" = "$root/usr/lib/zephyrgraph/zephyrgraph" ] || { echo "no link in /usr/bin" >&2; exit 1; }
 [ -s "$root/usr/share/applications/zephyrgraph.desktop" ] || { echo "no desktop entry" >&2; exit 1; }
+[ -s "$root/usr/lib/zephyrgraph/docs/guide.md" ] || { echo "no user guide" >&2; exit 1; }
 
 depends=$(dpkg-deb -f "$deb" Depends | sed 's/([^)]*)//g; s/,/ /g')
 fresh_root

@@ -62,6 +62,7 @@ programs() {
     kill -0 "$pid" 2>/dev/null || fail "$what: the program ended by itself"
     WINEPREFIX=$ZG_WINE_PREFIX wineserver -k || true
     wait "$pid" || status=$?
+    [ -s "$place/docs/guide.md" ] || fail "$what: no user guide"
     echo "$what: nine roses drawn, a rose made of raw data, a file opened in the window"
 }
 

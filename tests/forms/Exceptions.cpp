@@ -27,6 +27,7 @@ std::span<const Exception> exceptions() {
         {Check::Accelerators, "frmGridFonts", "cmdResetToDefaults_GridLines",
          "all letters of its caption are those of other buttons; one Tab from the color of the grid"},
         {Check::Accelerators, "frmGridFonts", "picGridColor", twinOfAButton},
+        {Check::Accelerators, "frmGuide", "txtGuide", startsWithIt},
         {Check::Accelerators, "frmOpenAERMETPFLFile", "txtYLoc", besideItsLabel},
         {Check::Accelerators, "frmOpenAERMETSFCFile", "txtYLoc", besideItsLabel},
         {Check::Accelerators, "frmOpenAMMNETDataFile", "txtYLoc", besideItsLabel},

@@ -36,6 +36,7 @@
 #include "shell/FrmError.h"
 #include "shell/FrmExpr.h"
 #include "shell/FrmGridFonts.h"
+#include "shell/FrmGuide.h"
 #include "shell/FrmMain.h"
 #include "shell/FrmOptions.h"
 #include "shell/FrmOptionsLegend.h"
@@ -312,6 +313,8 @@ const std::vector<FormRow>& forms() {
         {"frmExpr", "", ofHost<frmExpr>},
         {"frmExpr", "Add", ofHost<frmExpr>, withClickOn("cmdAdd")},
         {"frmGridFonts", "", ofPlot<frmGridFonts>},
+        {"frmGuide", "",
+         [](FormWorld&) { return std::make_unique<frmGuide>(ZG_SOURCE_DIR "/docs/guide.md"); }},
         {"frmOpenAERMETPFLFile", "", ofAermet<InputKind::AermPfl>},
         {"frmOpenAERMETSFCFile", "", ofAermet<InputKind::AermSfc>},
         {"frmOpenAERMETSFCFile", "Reason", ofAermet<InputKind::AermSfc>, waitWithReason},
