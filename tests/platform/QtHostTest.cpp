@@ -2,7 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTimer>
+#include <utility>
+
+#include "tests/support/TempDirectory.h"
 
 namespace zg {
 namespace {
@@ -25,6 +33,23 @@ TEST(QtHost, PumpingServesTimersAndReturnsAfterItsTime) {
     const std::int64_t before = host.tickCount();
     while (host.tickCount() - before < 30) host.pumpEvents(10);
     EXPECT_TRUE(fired);
+}
+
+TEST(QtHost, ASavedFileGetsTheSuffixOfItsFilterUnlessItHasOne) {
+    const TempDirectory directory;
+    QtHost host;
+    FilePick pick;
+    pick.filter = "Bitmap Files (*.bmp) | *.bmp;";
+    pick.directory = directory.path();
+    for (const auto& [typedName, saved] : {std::pair{"page", "page.bmp"}, {"page.dib", "page.dib"}}) {
+        QTimer::singleShot(0, [name = typedName] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(QLatin1String(name));
+            dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+        });
+        EXPECT_EQ(host.pickFileToSave(pick), directory.file(saved));
+    }
 }
 
 }  // namespace

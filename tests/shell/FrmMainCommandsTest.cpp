@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <filesystem>
 
+#include "base/Paths.h"
 #include "settings/CfgFile.h"
 #include "tests/shell/MainWindow.h"
 
@@ -266,6 +267,26 @@ TEST_F(FrmMainCommands, AFileOfATwoLineNameIsShownButNeverHandedToTheViewer) {
     EXPECT_EQ(host_.boxes[0].text, "Run-time error '52':\n\nBad file name or number: \"" + directory_.path() +
                                        "/roses<LF>\"touch\" PWNED.frq\" has a line end in it");
     EXPECT_FALSE(std::filesystem::exists(directory_.file("open_file.bat")));
+}
+
+TEST_F(FrmMainCommands, TheFrqViewWritesItsBatchFileWhereTheSettingsAre) {
+    settingsDirectory = directory_.file("home");
+    std::filesystem::create_directory(settingsDirectory);
+    std::filesystem::permissions(directory_.write("xdg-open", "#!/bin/sh\n"),
+                                 std::filesystem::perms::owner_all);
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", QByteArray::fromStdString(directory_.path()) + ':' + path);
+    window_->PlotFrqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
+    bool isThere = false;
+    host_.onPump = [&] {
+        isThere = isThere || std::filesystem::exists(directory_.file("home/open_file.bat"));
+        EXPECT_FALSE(std::filesystem::exists(directory_.file("open_file.bat")))
+            << "nothing can be written there";
+    };
+    choose("mnuViewFRQFile");
+    qputenv("PATH", path);
+    EXPECT_TRUE(isThere);
+    EXPECT_TRUE(host_.boxes.empty());
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QPrinter>
 #include <QProgressBar>
 #include <QRadioButton>
 #include <QTest>
@@ -117,8 +118,15 @@ TEST_F(FrmMainGraphs, ACurveThatFailsIsToldOnceAndTheOthersArePaintedWhole) {
     EXPECT_GT(whole, 50);
     plot().Refresh();
     EXPECT_EQ(bluePixels(), whole) << "the curve after the failing one is painted too";
-    window_->menuAction("mnuPolarOption_1")->trigger();
-    EXPECT_EQ(host_.boxes.size(), 1U) << "not told at each redraw";
+    int printed = 0;
+    window_->controls().pgPolarGraph->askPrinter = [this, &printed](QPrinter& printer) {
+        printer.setOutputFileName(QString::fromStdString(directory_.file("page.pdf")));
+        return ++printed > 0;
+    };
+    for (const char* name : {"mnuPolarOption_1", "mnuViewZoomSize_0", "mnuFileOption_16"})
+        window_->menuAction(name)->trigger();
+    EXPECT_EQ(printed, 1);
+    EXPECT_EQ(host_.boxes.size(), 1U) << "not told at each redraw, zoom or print";
 }
 
 TEST_F(FrmMainGraphs, ARowTellsWhyItsCurveIsNotWhole) {

@@ -327,9 +327,13 @@ TEST_F(FrmMainPlot, CopyIsOnAsSoonAsASelectionIsDragged) {
 
 TEST_F(FrmMainPlot, TheToolsPointerSurvivesAnAspectEntry) {
     window_->pressTool(Tool::Select);
-    entry("mnuViewAspectOption_2").trigger();
-    EXPECT_EQ(plot().MousePointer(), 99);
-    EXPECT_NE(plot().MouseIcon(), nullptr);
+    const PicturePointer own = cursorPicture(static_cast<int>(ToolCursor::Select));
+    for (const char* name : {"mnuViewAspectOption_2", "mnuViewZoomSize_0"}) {
+        entry(name).trigger();
+        EXPECT_EQ(plot().MousePointer(), 99) << name;
+        ASSERT_NE(plot().MouseIcon(), nullptr) << name;
+        EXPECT_EQ(imageOf(*plot().MouseIcon()), imageOf(*own)) << name;
+    }
 }
 
 }  // namespace

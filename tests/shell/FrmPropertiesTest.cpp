@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QTest>
+#include <algorithm>
 
 #include "base/Paths.h"
 #include "tests/support/TempDirectory.h"
@@ -362,6 +363,21 @@ TEST_F(FrmProperties, ACancelledColourChangesNothing) {
     click("picLcolor");
     EXPECT_EQ(host_.colourPicks[0], graph_.Series.Pen.FillColor);
     EXPECT_FALSE(canApply());
+}
+
+TEST_F(FrmProperties, TipsSayWhatTheDelayCanBeAndWhereTheMenuWithPlayIs) {
+    open();
+    showOptions();
+    EXPECT_TRUE(box("txtDelay").toolTip().contains(QLatin1String("at most 32,767")));
+    left("txtDelay", "32767");
+    click("cmdApply");
+    EXPECT_EQ(graph_.Delay, 32767) << "the largest that is promised";
+    const auto labels = form_->findChildren<QLabel*>();
+    const auto note = std::find_if(labels.begin(), labels.end(), [](const QLabel* label) {
+        return label->text().startsWith(QLatin1String("To turn on animation"));
+    });
+    ASSERT_NE(note, labels.end());
+    EXPECT_EQ((*note)->toolTip(), "A right click on the curve's row in the list opens the menu with Play");
 }
 
 }  // namespace
