@@ -43,6 +43,14 @@ class FrmMainHabits : public ActiveMainWindow {
         QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(window_.get(), &enter);
         if (!enter.isAccepted()) return false;
+        QTimer guard;  // a dialog that nobody expects does not stop the tests
+        QObject::connect(&guard, &QTimer::timeout, &guard, [] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr) return;
+            ADD_FAILURE() << dialog->objectName().toStdString() << " is open";
+            dialog->reject();
+        });
+        guard.start(5000);
         QDropEvent dropped(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(window_.get(), &dropped);
         QApplication::processEvents();
