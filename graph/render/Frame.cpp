@@ -13,7 +13,8 @@ TextStyle textStyleOf(const FontRecord& font) {
 TextStyle lineStyleOf(const FontRecord& font, const PlotSettings& settings) {
     constexpr std::int16_t fullZoom = 100;
     TextStyle style = textStyleOf(font);
-    if (settings.Style.shrinkTexts && settings.Zoom < fullZoom) style.size *= std::max<int>(settings.Zoom, 0) * 0.01;
+    if (settings.Style.shrinkTexts && settings.Zoom < fullZoom)
+        style.size *= std::max<int>(settings.Zoom, 0) * 0.01;
     return style;
 }
 

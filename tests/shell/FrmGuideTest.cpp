@@ -53,6 +53,7 @@ TEST_F(GuideKey, WorksInADialogAndTheGuideCanBeReadThere) {
         QWidget* dialog = QApplication::activeModalWidget();
         QTest::keyClick(dialog, Qt::Key_F1);
         if (frmGuide* shown = guide()) {
+            EXPECT_EQ(shown->parentWidget(), dialog) << "a dialog that waits blocks all windows but its own";
             QTest::mouseClick(shown->findChild<QWidget*>("cmdClose"), Qt::LeftButton);
             usable = guide() == nullptr;
         }
