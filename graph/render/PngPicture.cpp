@@ -1,0 +1,193 @@
+#include "graph/render/PngPicture.h"
+
+#include <zlib.h>
+
+#include <array>
+#include <cstring>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#ifdef ZG_DEFLATE
+#include <libdeflate.h>
+#endif
+
+namespace zg {
+
+namespace {
+
+constexpr std::size_t mostColours = 256;
+constexpr std::uint32_t colourBits = 0xFFFFFFU;
+
+/// Numbers the colours in the order in which they come; a small open hash, since each pixel asks.
+class ColourTable {
+ public:
+    /// Nothing for a colour beyond the 256th.
+    std::optional<std::uint8_t> numberOf(std::uint32_t colour) {
+        std::size_t slot = colour * 0x9E3779B1U >> (32U - slotBits);
+        while (slots_[slot].used) {
+            if (slots_[slot].colour == colour) return slots_[slot].number;
+            slot = (slot + 1) % slots_.size();
+        }
+        if (colours_.size() == mostColours) return {};
+        const auto number = static_cast<std::uint8_t>(colours_.size());
+        slots_[slot] = {colour, number, true};
+        colours_.push_back(colour);
+        return number;
+    }
+
+    const std::vector<std::uint32_t>& colours() const { return colours_; }
+
+ private:
+    static constexpr unsigned slotBits = 10;  // four times as many places as colours
+    struct Slot {
+        std::uint32_t colour = 0;
+        std::uint8_t number = 0;
+        bool used = false;
+    };
+    std::array<Slot, std::size_t{1} << slotBits> slots_;
+    std::vector<std::uint32_t> colours_;
+};
+
+/// The lines as PNG packs them: each begins with the number of its filter, here always 0, none.
+class Lines {
+ public:
+    Lines(const PixelPage& page, std::size_t bytesPerPixel)
+        : size_((1 + page.width * bytesPerPixel) * page.height),
+          // a pixel is written as four bytes, of which the next one replaces the last
+          bytes_(std::make_unique_for_overwrite<char[]>(size_ + 1)) {}
+
+    char* begin() { return bytes_.get(); }
+    const char* begin() const { return bytes_.get(); }
+    std::size_t size() const { return size_; }
+
+ private:
+    std::size_t size_;
+    std::unique_ptr<char[]> bytes_;
+};
+
+/// The numbers of the pixels' colours; nothing if there are too many.
+std::optional<Lines> numberedLines(const PixelPage& page, ColourTable& table) {
+    Lines lines(page, 1);
+    char* to = lines.begin();
+    for (std::size_t y = 0; y < page.height; ++y) {
+        const std::uint32_t* from = page.first + y * page.pixelsPerLine;
+        *to++ = 0;
+        std::uint32_t before = ~from[0];
+        std::uint8_t number = 0;
+        for (std::size_t x = 0; x < page.width; ++x) {
+            if (from[x] != before) {
+                const std::optional<std::uint8_t> found = table.numberOf(from[x] & colourBits);
+                if (!found) return {};
+                number = *found;
+                before = from[x];
+            }
+            *to++ = static_cast<char>(number);
+        }
+    }
+    return lines;
+}
+
+Lines plainLines(const PixelPage& page) {
+    Lines lines(page, 3);
+    char* to = lines.begin();
+    for (std::size_t y = 0; y < page.height; ++y) {
+        const std::uint32_t* from = page.first + y * page.pixelsPerLine;
+        *to++ = 0;
+        for (std::size_t x = 0; x < page.width; ++x, to += 3) {
+            const std::uint32_t p = from[x];
+            const std::array<char, 4> bytes = {static_cast<char>(p >> 16U & 0xFFU),
+                                               static_cast<char>(p >> 8U & 0xFFU),
+                                               static_cast<char>(p & 0xFFU), 0};
+            std::memcpy(to, bytes.data(), bytes.size());
+        }
+    }
+    return lines;
+}
+
+#ifdef ZG_DEFLATE
+/// Level 2 of 1 to 12: of pages of 600 pixels 66 KB in 3.7 ms; level 1 needs 3.4 ms for 70 KB, level 6
+/// 5.5 ms for 64 KB. Each thread keeps its packer.
+std::string packed(const Lines& lines) {
+    constexpr int level = 2;
+    using Packer = std::unique_ptr<libdeflate_compressor, decltype(&libdeflate_free_compressor)>;
+    thread_local const Packer packer(libdeflate_alloc_compressor(level), libdeflate_free_compressor);
+    if (!packer) return {};
+    std::string result(libdeflate_zlib_compress_bound(packer.get(), lines.size()), '\0');
+    result.resize(
+        libdeflate_zlib_compress(packer.get(), lines.begin(), lines.size(), result.data(), result.size()));
+    return result;
+}
+#else
+/// Level 2 of 1 to 9: about twice the time of the better packer, and 75 KB.
+std::string packed(const Lines& lines) {
+    constexpr int level = 2;
+    uLongf size = compressBound(static_cast<uLong>(lines.size()));
+    std::string result(size, '\0');
+    const bool isPacked = compress2(reinterpret_cast<Bytef*>(result.data()), &size,
+                                    reinterpret_cast<const Bytef*>(lines.begin()),
+                                    static_cast<uLong>(lines.size()), level) == Z_OK;
+    result.resize(isPacked ? size : 0);
+    return result;
+}
+#endif
+
+/// The highest byte first.
+void addNumber(std::string& bytes, std::uint32_t value) {
+    for (const unsigned shift : {24U, 16U, 8U, 0U}) bytes += static_cast<char>(value >> shift & 0xFFU);
+}
+
+/// A chunk: its length, name, content, and the sum of the latter two.
+void addChunk(std::string& png, const char* name, const std::string& content) {
+    addNumber(png, static_cast<std::uint32_t>(content.size()));
+    const std::size_t begin = png.size();
+    png += name;
+    png += content;
+    const auto* named = reinterpret_cast<const Bytef*>(png.data() + begin);
+    addNumber(png, static_cast<std::uint32_t>(
+                       crc32(crc32(0, nullptr, 0), named, static_cast<uInt>(png.size() - begin))));
+}
+
+std::string head(const PixelPage& page, bool numbered) {
+    std::string content;
+    addNumber(content, static_cast<std::uint32_t>(page.width));
+    addNumber(content, static_cast<std::uint32_t>(page.height));
+    content += '\x08';                      // bits
+    content += numbered ? '\x03' : '\x02';  // kind of colours
+    content.append(3, '\0');                // packing, filters, one pass
+    return content;
+}
+
+std::string dots(const PixelPage& page) {
+    std::string content;
+    addNumber(content, page.dotsPerMetreX);
+    addNumber(content, page.dotsPerMetreY);
+    return content += '\x01';
+}
+
+std::string table(const std::vector<std::uint32_t>& colours) {
+    std::string content;
+    for (const std::uint32_t colour : colours)
+        for (const unsigned shift : {16U, 8U, 0U}) content += static_cast<char>(colour >> shift & 0xFFU);
+    return content;
+}
+
+}  // namespace
+
+std::string pngOf(const PixelPage& page) {
+    if (page.width == 0 || page.height == 0) return {};
+    ColourTable colours;
+    const std::optional<Lines> numbered = numberedLines(page, colours);
+    const std::string lines = numbered ? packed(*numbered) : packed(plainLines(page));
+    if (lines.empty()) return {};
+    std::string png = "\x89PNG\r\n\x1A\n";
+    png.reserve(lines.size() + 2048);
+    addChunk(png, "IHDR", head(page, numbered.has_value()));
+    addChunk(png, "pHYs", dots(page));
+    if (numbered) addChunk(png, "PLTE", table(colours.colours()));
+    addChunk(png, "IDAT", lines);
+    addChunk(png, "IEND", {});
+    return png;
+}
+
+}  // namespace zg
