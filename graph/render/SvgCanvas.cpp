@@ -118,12 +118,15 @@ std::string SvgCanvas::document(const std::string& title, const std::string& des
     endStrokes();
     const std::string wide = svgNumber(width_);
     const std::string high = svgNumber(height_);
-    return "<svg xmlns=\"http://www.w3.org/2000/svg\"" + attribute("width", wide) +
-           attribute("height", high) + attribute("viewBox", "0 0 " + wide + " " + high) +
-           attribute("role", "img") + attribute("aria-labelledby", name + "-title " + name + "-words") +
-           attribute("font-family", usualFaces) + ">\n<title" + attribute("id", name + "-title") + ">" +
-           xmlText(title) + "</title>\n<desc" + attribute("id", name + "-words") + ">" +
-           xmlText(description) + "</desc>\n" + body_ + "</svg>\n";
+    std::string svg = "<svg xmlns=\"http://www.w3.org/2000/svg\"";
+    svg += attribute("width", wide);
+    svg += attribute("height", high);
+    svg.append(" viewBox=\"0 0 ").append(wide).append(" ").append(high).append("\" role=\"img\"");
+    svg.append(" aria-labelledby=\"").append(name).append("-title ").append(name).append("-words\"");
+    svg += attribute("font-family", usualFaces);
+    svg.append(">\n<title id=\"").append(name).append("-title\">").append(xmlText(title));
+    svg.append("</title>\n<desc id=\"").append(name).append("-words\">").append(xmlText(description));
+    return svg.append("</desc>\n").append(body_).append("</svg>\n");
 }
 
 void SvgCanvas::shape(const char* element, const std::string& attributes) {
@@ -134,7 +137,7 @@ void SvgCanvas::shape(const char* element, const std::string& attributes) {
     if (words_.empty())
         body_ += "/>\n";
     else
-        body_ += "><title>" + xmlText(words_) + "</title></" + element + ">\n";
+        body_.append("><title>").append(xmlText(words_)).append("</title></").append(element).append(">\n");
     kind_.clear();
     words_.clear();
 }
@@ -142,7 +145,7 @@ void SvgCanvas::shape(const char* element, const std::string& attributes) {
 /// Consecutive lines of one look become one path.
 void SvgCanvas::endStrokes() {
     if (strokes_.empty()) return;
-    body_ += "<path fill=\"none\"" + strokesLook_ + attribute("d", strokes_) + "/>\n";
+    body_.append("<path fill=\"none\"").append(strokesLook_).append(attribute("d", strokes_)).append("/>\n");
     strokes_.clear();
 }
 
@@ -179,7 +182,10 @@ void SvgCanvas::line(Point from, Point to, const LineStyle& style) {
     const std::string look = strokeLook(style);
     if (look != strokesLook_) endStrokes();
     strokesLook_ = look;
-    strokes_ += "M" + pointText(from) + "L" + pointText(to);
+    strokes_ += 'M';
+    strokes_ += pointText(from);
+    strokes_ += 'L';
+    strokes_ += pointText(to);
 }
 
 void SvgCanvas::pie(Point centre, double radius, double start, double end, Colour fill, Colour outline) {
@@ -193,10 +199,14 @@ void SvgCanvas::pie(Point centre, double radius, double start, double end, Colou
         return pointText({centre.x + radius * std::cos(angle), centre.y - radius * std::sin(angle)});
     };
     const std::string r = svgNumber(radius);
-    const char* large = sweep > std::numbers::pi ? "1" : "0";
+    std::string path(1, 'M');
+    for (const std::string& part :
+         {pointText(centre), std::string("L"), onArc(start), std::string("A"), r, std::string(" "), r,
+          std::string(sweep > std::numbers::pi ? " 0 1 0 " : " 0 0 0 "), onArc(start + sweep)})
+        path += part;
+    path += 'z';
     shape("path", attribute("fill", svgColour(fill)) + attribute("stroke", svgColour(outline)) +
-                      attribute("d", "M" + pointText(centre) + "L" + onArc(start) + "A" + r + " " + r +
-                                         " 0 " + large + " 0 " + onArc(start + sweep) + "z"));
+                      attribute("d", path));
 }
 
 void SvgCanvas::fillPolygon(const std::vector<Point>& corners, Colour colour) {
@@ -212,24 +222,33 @@ void SvgCanvas::text(const std::string& text, const TextStyle& style) {
     const double height = measure(text, style).height;
     if (!text.empty()) {
         endStrokes();
-        body_ += "<text" + attribute("x", svgNumber(position_.x)) +
-                 attribute("y", svgNumber(position_.y + ascent * height)) +
-                 attribute("font-size", svgNumber(style.size * pixelsPerPoint));
-        if (style.face != usualFace)
-            body_ +=
-                attribute("font-family", "'" + xmlText(toUtf8(style.face)) + "'," + std::string(usualFaces));
+        body_ += "<text";
+        body_ += attribute("x", svgNumber(position_.x));
+        body_ += attribute("y", svgNumber(position_.y + ascent * height));
+        body_ += attribute("font-size", svgNumber(style.size * pixelsPerPoint));
+        if (style.face != usualFace) {
+            std::string faces(1, '\'');
+            faces += xmlText(toUtf8(style.face));
+            faces += "',";
+            faces += usualFaces;
+            body_ += attribute("font-family", faces);
+        }
         if (style.bold) body_ += " font-weight=\"bold\"";
         if (style.italic) body_ += " font-style=\"italic\"";
         if (style.colour != black) body_ += attribute("fill", svgColour(style.colour));
         if (needsItsBlanks(text)) body_ += " xml:space=\"preserve\"";
-        body_ += ">" + xmlText(toUtf8(text)) + "</text>\n";
+        body_ += '>';
+        body_ += xmlText(toUtf8(text));
+        body_ += "</text>\n";
     }
     position_ = {0, position_.y + height};
 }
 
 void SvgCanvas::beginGroup(const char* name) {
     endStrokes();
-    body_ += "<g" + attribute("class", name) + ">\n";
+    body_ += "<g";
+    body_ += attribute("class", name);
+    body_ += ">\n";
 }
 
 void SvgCanvas::endGroup() {
