@@ -1,6 +1,7 @@
 #include "export/WorkQueue.h"
 
-#include <system_error>
+#include <QThread>
+#include <utility>
 
 namespace zg {
 
@@ -8,15 +9,28 @@ namespace {
 
 constexpr std::size_t piecesPerWorker = 4;
 
+/// What the toolkit keeps for each thread, such as the faces of fonts, it frees in the thread itself only if
+/// the thread is its own.
+class Worker : public QThread {
+ public:
+    explicit Worker(std::function<void()> work) : work_(std::move(work)) {}
+
+ protected:
+    void run() override { work_(); }
+
+ private:
+    std::function<void()> work_;
+};
+
 }  // namespace
 
 WorkQueue::WorkQueue(int workers, std::function<void(const Result&)> tell)
     : tell_(std::move(tell)), capacity_(static_cast<std::size_t>(workers) * piecesPerWorker) {
-    try {
-        workers_.reserve(static_cast<std::size_t>(workers));
-        for (int i = 0; i < workers; ++i) workers_.emplace_back([this] { workOn(); });
-    } catch (const std::system_error&) {
-        // the workers that exist are enough
+    for (int i = 0; i < workers; ++i) {
+        auto worker = std::make_unique<Worker>([this] { workOn(); });
+        worker->start();
+        if (!worker->isRunning() && !worker->isFinished()) return;  // those that exist are enough
+        workers_.push_back(std::move(worker));
     }
 }
 
@@ -26,7 +40,7 @@ WorkQueue::~WorkQueue() {
         closed_ = true;
     }
     changed_.notify_all();
-    for (std::thread& worker : workers_) worker.join();
+    for (const std::unique_ptr<QThread>& worker : workers_) worker->wait();
 }
 
 WorkQueue::Piece* WorkQueue::nextPiece() {

@@ -5,10 +5,12 @@
 #include <condition_variable>
 #include <deque>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <string>
-#include <thread>
 #include <vector>
+
+class QThread;
 
 namespace zg {
 
@@ -53,7 +55,7 @@ class WorkQueue {
     std::condition_variable changed_;
     std::deque<Piece> pieces_;  ///< starting with the oldest that has not been reported
     bool closed_ = false;
-    std::vector<std::thread> workers_;
+    std::vector<std::unique_ptr<QThread>> workers_;
 };
 
 }  // namespace zg
