@@ -1,8 +1,8 @@
 #include "platform/Fonts.h"
 
+#include <QApplication>
 #include <QFont>
 #include <QFontDatabase>
-#include <QGuiApplication>
 
 #include "base/Paths.h"
 #include "platform/QtText.h"
@@ -31,7 +31,10 @@ void useFontsBeside(const std::string& programDirectory) {
     // Such a system has no face of its own for menus and forms either.
     QFont plain = QGuiApplication::font();
     plain.setFamily(QString::fromLatin1(equalFace));
-    QGuiApplication::setFont(plain);
+    if (qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr)
+        QApplication::setFont(plain);  // menus and boxes, which have fonts of their own, included
+    else
+        QGuiApplication::setFont(plain);
 }
 
 }  // namespace zg
