@@ -12,6 +12,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "platform/NativePicks.h"
 #include "platform/QtText.h"
 
 namespace zg {
@@ -139,13 +140,15 @@ std::string QtHost::pickFolder(const FolderPick& pick) {
 }
 
 std::optional<Colour> QtHost::pickColour(Colour current) {
+    if (hasNativePicks()) return nativeColour(current, QApplication::activeWindow());
     const QColor colour = QColorDialog::getColor(toQColor(current), QApplication::activeWindow());
     if (!colour.isValid()) return std::nullopt;
     return fromQColor(colour);
 }
 
-/// The colour of the record is kept; the toolkit's font dialog has none.
+/// The colour of the record is kept; neither font dialog has one.
 std::optional<FontRecord> QtHost::pickFont(const FontRecord& current) {
+    if (hasNativePicks()) return nativeFont(current, QApplication::activeWindow());
     QFont font(shown(current.name));
     if (current.size > 0) font.setPointSize(current.size);
     font.setBold(current.bold);

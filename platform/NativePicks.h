@@ -1,0 +1,19 @@
+#pragma once
+
+#include <optional>
+
+#include "base/Style.h"
+
+class QWidget;
+
+namespace zg {
+
+/// Whether this system has colour and font dialogs of its own that the toolkit does not use.
+bool hasNativePicks();
+
+/// Those dialogs, over the window; they start with the given choice. Nothing if cancelled. No other window of
+/// the program reacts meanwhile.
+std::optional<Colour> nativeColour(Colour current, QWidget* window);
+std::optional<FontRecord> nativeFont(const FontRecord& current, QWidget* window);
+
+}  // namespace zg
