@@ -30,6 +30,10 @@ void catchStops(void (*note)());
 /// represent it.
 std::optional<std::string> batchText(std::string_view text);
 
+/// The bytes of that text for a library that takes texts of 8 bits; nothing if the system cannot represent
+/// it.
+std::optional<std::string> libraryText(std::string_view text);
+
 /// An alternative plain name of an existing file or directory, for programs that cannot handle the first; the
 /// same name if there is none.
 std::string plainerName(const std::string& path);

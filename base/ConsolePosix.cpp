@@ -39,6 +39,8 @@ void catchStops(void (*note)()) {
 
 std::optional<std::string> batchText(std::string_view text) { return std::string(text); }
 
+std::optional<std::string> libraryText(std::string_view text) { return std::string(text); }
+
 std::string plainerName(const std::string& path) { return path; }
 
 bool isTerminal(std::FILE* file) { return isatty(fileno(file)) != 0; }

@@ -28,6 +28,22 @@ UINT formerOutput = 0;
 
 void restoreConsole() { SetConsoleOutputCP(formerOutput); }
 
+/// Nothing if the code page lacks one of the characters.
+std::optional<std::string> inCodePage(std::string_view text, UINT page) {
+    if (text.empty()) return std::string();
+    const std::wstring wide = wideUnits(text);
+    const auto units = static_cast<int>(wide.size());
+    std::string bytes(wide.size() * 4, '\0');
+    BOOL isLossy = FALSE;
+    const bool knowsLoss = page != CP_UTF8 && page != CP_UTF7;
+    const int length =
+        WideCharToMultiByte(page, knowsLoss ? WC_NO_BEST_FIT_CHARS : 0, wide.data(), units, bytes.data(),
+                            static_cast<int>(bytes.size()), nullptr, knowsLoss ? &isLossy : nullptr);
+    if (length <= 0 || isLossy != FALSE) return {};
+    bytes.resize(static_cast<std::size_t>(length));
+    return bytes;
+}
+
 }  // namespace
 
 std::vector<std::string> programWords(int, char**) {
@@ -62,21 +78,9 @@ void catchStops(void (*note)()) {
 }
 
 /// The shell reads a batch file in the code page with which its console starts.
-std::optional<std::string> batchText(std::string_view text) {
-    if (text.empty()) return std::string();
-    const std::wstring wide = wideUnits(text);
-    const auto units = static_cast<int>(wide.size());
-    std::string bytes(wide.size() * 4, '\0');
-    BOOL isLossy = FALSE;
-    const UINT page = GetOEMCP();
-    const bool knowsLoss = page != CP_UTF8 && page != CP_UTF7;
-    const int length =
-        WideCharToMultiByte(page, knowsLoss ? WC_NO_BEST_FIT_CHARS : 0, wide.data(), units, bytes.data(),
-                            static_cast<int>(bytes.size()), nullptr, knowsLoss ? &isLossy : nullptr);
-    if (length <= 0 || isLossy != FALSE) return {};
-    bytes.resize(static_cast<std::size_t>(length));
-    return bytes;
-}
+std::optional<std::string> batchText(std::string_view text) { return inCodePage(text, GetOEMCP()); }
+
+std::optional<std::string> libraryText(std::string_view text) { return inCodePage(text, GetACP()); }
 
 std::string plainerName(const std::string& path) {
     const std::wstring wide = systemName(path);

@@ -7,7 +7,9 @@
 #include <QLibrary>
 #include <array>
 #include <memory>
+#include <optional>
 
+#include "base/Console.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
@@ -61,6 +63,11 @@ Function resolve(const std::string& path, const char* name) {
                        FileNameOf(path) + " has no function " + name);
 }
 
+std::string nameForLibrary(const std::string& path) {
+    if (const std::optional<std::string> bytes = libraryText(path)) return *bytes;
+    return libraryText(plainerName(path)).value_or(path);
+}
+
 void callInfoView(InfoViewFunction infoview, const std::string& path, InputKind gridKind, InfoViewResult& r) {
     Int kind = gridKind == InputKind::Ventos ? ventosCode : m3dCode;
     Int one = 1;
@@ -72,11 +79,12 @@ void callInfoView(InfoViewFunction infoview, const std::string& path, InputKind 
     OutText<4> utmhem;
     OutText<8> datum;
     OutText<256> error;
-    infoview(path.data(), &kind, &one, &two, &r.IUTMZN, &r.first.year, &unused1, &r.first.month, &r.first.day,
+    const std::string name = nameForLibrary(path);
+    infoview(name.data(), &kind, &one, &two, &r.IUTMZN, &r.first.year, &unused1, &r.first.month, &r.first.day,
              &r.first.hour, &r.first.seconds, &r.last.year, &unused2, &r.last.month, &r.last.day,
              &r.last.hour, &r.last.seconds, &r.errorFlag, &r.RLAT0, &r.RLON0, &r.XLAT1, &r.XLAT2, &r.FEAST,
              &r.FNORTH, zone.data(), pmap.data(), utmhem.data(), datum.data(), error.data(),
-             static_cast<Int>(path.size()), zone.length(), pmap.length(), utmhem.length(), datum.length(),
+             static_cast<Int>(name.size()), zone.length(), pmap.length(), utmhem.length(), datum.length(),
              error.length());
     r.timeZone = zone.text();
     r.PMAP = pmap.text();

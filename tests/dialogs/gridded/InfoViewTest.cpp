@@ -112,13 +112,16 @@ TEST_F(InfoView, TheNotesOfALibraryAreRemoved) {
 
 class ClosedLibraries : public InfoView {
  protected:
-    void lay(const char* name) { std::filesystem::copy(ZG_STUB_LIBRARY, directory_.file(name)); }
+    std::string place(const char* name) { return directory_.file(std::string(name) + ZG_LIBRARY_SUFFIX); }
+    void lay(const char* name, const char* library) {
+        std::filesystem::copy(library, place(name));
+        useLibrariesBeside(directory_.path());
+    }
 };
 
 TEST_F(ClosedLibraries, AHeaderLibraryBesideTheProgramAnswers) {
-    lay("infoview_dll.so");
-    useLibrariesBeside(directory_.path());
-    readHeader(" " + directory_.file("any.dat") + "  ", InputKind::M3d);
+    lay("infoview_dll", ZG_INFOVIEW_STUB);
+    readHeader(" " + directory_.write("any.dat", "") + "  ", InputKind::M3d);
     const InfoViewResult& r = modInfoViewDLL.result;
     EXPECT_EQ(r.IUTMZN, 32) << "the kind's code and two ones";
     EXPECT_EQ(modInfoViewDLL.HeaderStartTime, addSeconds(makeDate(2001, 2, 28), 23 * 3600 + 3599));
@@ -138,9 +141,19 @@ TEST_F(ClosedLibraries, AHeaderLibraryBesideTheProgramAnswers) {
     EXPECT_EQ(r.errorText, "not mine: 1");
 }
 
+TEST_F(ClosedLibraries, AHeaderLibraryOpensFilesWithLettersOfOtherAlphabets) {
+    lay("infoview_dll", ZG_INFOVIEW_STUB);
+    for (const char* name : {"a b.dat", "Würzburg.dat", "Вена.dat"}) {
+        readHeader(directory_.write(name, ""), InputKind::Ventos);
+        EXPECT_EQ(modInfoViewDLL.result.errorText, "") << name;
+        EXPECT_EQ(modInfoViewDLL.HeaderTimeZone, "utc-0500") << name;
+    }
+    readHeader(directory_.file("missing.dat"), InputKind::Ventos);
+    EXPECT_EQ(modInfoViewDLL.result.errorText, "no such file");
+}
+
 TEST_F(ClosedLibraries, ATableLibraryBesideTheProgramAnswers) {
-    lay("init.so");
-    useLibrariesBeside(directory_.path());
+    lay("init", ZG_INIT_STUB);
     ASSERT_TRUE(ReadDatumTable());
     ASSERT_EQ(modDatums.datums.size(), 2U);
     EXPECT_EQ(modDatums.datums[1].continent, "MOON");
@@ -150,12 +163,12 @@ TEST_F(ClosedLibraries, ATableLibraryBesideTheProgramAnswers) {
 }
 
 TEST_F(ClosedLibraries, WhatIsNoLibraryCannotAnswer) {
-    directory_.write("infoview_dll.so", "no library");
+    directory_.write(std::string("infoview_dll") + ZG_LIBRARY_SUFFIX, "no library");
     useLibrariesBeside(directory_.path());
     readHeader(directory_.write("wind.dat", ventosText()), InputKind::Ventos);
     EXPECT_EQ(modInfoViewDLL.HeaderStartTime, DateTime());
     EXPECT_EQ(modInfoViewDLL.result.errorFlag, 0);
-    std::filesystem::remove(directory_.file("infoview_dll.so"));
+    std::filesystem::remove(place("infoview_dll"));
     useLibrariesBeside(directory_.path());
     readHeader(directory_.file("wind.dat"), InputKind::Ventos);
     EXPECT_NE(modInfoViewDLL.HeaderStartTime, DateTime()) << "the program's own reader again";

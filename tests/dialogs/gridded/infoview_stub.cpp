@@ -1,17 +1,10 @@
-// A library such as a user may put beside the program: it returns its arguments.
+// A library such as a user may put beside the program: it opens the file and returns its arguments.
 
 #include <cstdint>
-#include <cstring>
+#include <cstdio>
 #include <string>
 
-namespace {
-
-void put(char* buffer, std::int32_t width, const std::string& text) {
-    std::memset(buffer, ' ', static_cast<std::size_t>(width));
-    std::memcpy(buffer, text.data(), text.size());
-}
-
-}  // namespace
+#include "tests/dialogs/gridded/StubText.h"
 
 extern "C" void infoview(const char* path, const std::int32_t* kind, const std::int32_t* one,
                          const std::int32_t* two, std::int32_t* IUTMZN, std::int32_t* year1, std::int32_t*,
@@ -23,11 +16,18 @@ extern "C" void infoview(const char* path, const std::int32_t* kind, const std::
                          std::int32_t zoneLength, std::int32_t pmapLength, std::int32_t utmhemLength,
                          std::int32_t datumLength, std::int32_t errorLength) {
     const std::string name(path, static_cast<std::size_t>(pathLength));
-    if (name.find("bad") != std::string::npos) {
+    if (name.ends_with("bad.dat")) {
         *flag = 7;
         put(error, errorLength, "not mine: " + std::to_string(*kind));
         return;
     }
+    std::FILE* const file = std::fopen(name.c_str(), "rb");
+    if (file == nullptr) {
+        *flag = 8;
+        put(error, errorLength, "no such file");
+        return;
+    }
+    std::fclose(file);
     *IUTMZN = *kind * 10 + *one + *two;
     *year1 = 2001;
     *month1 = 2;
@@ -49,20 +49,4 @@ extern "C" void infoview(const char* path, const std::int32_t* kind, const std::
     put(pmap, pmapLength, " lcc");
     put(utmhem, utmhemLength, "s");
     put(datum, datumLength, "nas-c");
-}
-
-extern "C" void init(const std::int32_t* record, std::int32_t* count, std::int32_t* status, char* continent,
-                     char* ellipsoid, char* code, char* region1, char* region2, char* region3, char* stamp,
-                     std::int32_t continentLength, std::int32_t ellipsoidLength, std::int32_t codeLength,
-                     std::int32_t region1Length, std::int32_t region2Length, std::int32_t region3Length,
-                     std::int32_t stampLength) {
-    *count = 2;
-    *status = 0;
-    put(continent, continentLength, "MOON");
-    put(ellipsoid, ellipsoidLength, "Sphere");
-    put(code, codeLength, "MON-" + std::to_string(*record));
-    put(region1, region1Length, " Sea of ");
-    put(region2, region2Length, "-Tranquillity- ");
-    put(region3, region3Length, std::to_string(*record));
-    put(stamp, stampLength, "1969-07-20");
 }
