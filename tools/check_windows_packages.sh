@@ -1,10 +1,13 @@
 #!/usr/bin/env bash
-# Checks the portable folder for Windows in a fresh Windows of Wine: the programs started, a file opened, a rose made of raw data. Needs an X server for the window: one of its own is started where Xvfb is installed and there is none.
-#     tools/check_windows_packages.sh [BUILD]   the package in that build directory; by default build/windows
+# Checks the packages for Windows in a fresh Windows of Wine. The installer: installed silently, started by an FRQ file, used, updated, removed. The
+# portable folder: unpacked and used. Used means: roses drawn, a rose made of raw data, a file opened in the window.
+# Needs an X server for the window: one of its own is started where there is none.
+#     tools/check_windows_packages.sh [BUILD]   the packages in that build directory; by default build/windows
 set -euo pipefail
 cd "$(dirname "$0")/.."
 tree=$PWD
 build=${1:-build/windows}
+installer=$(ls "$tree/$build"/zephyrgraph-*-windows-*.exe)
 portable=$(ls "$tree/$build"/zephyrgraph-*-windows-*.zip)
 
 work=$tree/$build/package-check
@@ -39,18 +42,22 @@ run_directory() {
         "$tree/tests/processing/control/tsf.inp" >"$1/run.inp"
 }
 
-# programs WHAT FOLDER: all three programs of a folder
+# programs WHAT FOLDER COMMAND...: all three programs of a folder; the command opens the sample in the window.
 programs() {
-    local what=$1 place=$2 out=$work/out status=0
+    local what=$1 place=$2 out=$work/out title=
+    shift 2
     rm -rf "$out"
     run_directory "$out"
-    (cd "$out" && wine "$place/zephyrgraph-export.exe" "Z:$sample" --rose all --out "Z:$out/roses" >/dev/null) || fail "$what: the companion failed"
+    (cd "$out" && wine "$place/zephyrgraph-export.exe" "Z:$sample" --rose all --out "Z:$out/roses" >/dev/null 2>"$work/errors") ||
+        fail "$what: the companion failed"
+    # Its status is also 0 if a thread breaks after the work.
+    grep 'wine: Unhandled' "$work/errors" >&2 && fail "$what: the companion crashed"
     [ "$(ls "$out/roses" | wc -l)" -eq 9 ] || fail "$what: nine pictures were expected"
     (cd "$out" && wine "$place/tempoline.exe" run.inp) || fail "$what: the processor failed"
     [ -s "$out/out.frq" ] || fail "$what: the processor made no rose"
-    # Still running, with the file in its title, after some seconds.
-    wine "$place/zephyrgraph.exe" "Z:$sample" >/dev/null 2>"$work/start.log" &
-    local pid=$! title=
+    # Still on show, with the file in its title and its rose, after some seconds.
+    wine "$@" >/dev/null 2>"$work/start.log" &
+    opener=$!
     for _ in $(seq 60); do
         title=$(xdotool search --onlyvisible --name 'Zephyrgraph - LOVETT_1988.frq' 2>/dev/null || true)
         [ -n "$title" ] && break
@@ -58,16 +65,78 @@ programs() {
     done
     [ -n "$title" ] || fail "$what: no window shows the file that was given"
     sleep 2
-    import -window root "$work/$(basename "$what").png"
-    kill -0 "$pid" 2>/dev/null || fail "$what: the program ended by itself"
-    WINEPREFIX=$ZG_WINE_PREFIX wineserver -k || true
-    wait "$pid" || status=$?
+    local shot=$work/$what.png colours colour
+    import -window root "$shot"
+    xdotool search --onlyvisible --name 'Zephyrgraph - LOVETT_1988.frq' >/dev/null || fail "$what: the program ended by itself"
+    colours=$(convert "$shot" -depth 8 -format %c histogram:info:-)
+    for colour in FF0000 00FF00 0000FF FFFF00; do
+        grep -q "#$colour" <<<"$colours" || fail "$what: the rose has no class in #$colour; see $shot"
+    done
     [ -s "$place/docs/guide.md" ] || fail "$what: no user guide"
     echo "$what: nine roses drawn, a rose made of raw data, a file opened in the window"
 }
+
+# The programs of this Windows end, whatever they do.
+finish_programs() {
+    WINEPREFIX=$ZG_WINE_PREFIX wineserver -k || true
+    wait "$opener" || true
+}
+
+query() { wine reg query "$@" 2>/dev/null | tr -d '\r' || true; }
+owned() { grep -q Zephyrgraph.FRQ <<<"$(query 'HKCU\Software\Classes\.frq' /ve)"; }
+
+# The installer.
+wine reg add 'HKCU\Software\Classes\.frq' /ve /d Other.Program /f >/dev/null
+wine "$installer" /S || fail "the installer failed"
+place=$(dirname "$(find "$drive/users" -name zephyrgraph.exe -print -quit)")
+[ -f "$place/zephyrgraph.exe" ] || fail "nothing was installed"
+(cd "$place" && find . -type f) | sort >"$work/installed"
+(cd "$tree/$build" && unzip -qqo "$portable" -d "$work/portable" && cd "$work/portable"/* && find . -type f; echo ./uninstall.exe) | sort >"$work/expected"
+diff "$work/expected" "$work/installed" >&2 || fail "the installer and the portable folder differ"
+owned || fail "FRQ files do not belong to the program"
+[ -n "$(find "$drive/users" -ipath '*Start Menu*Zephyrgraph.lnk')" ] || fail "the Start menu has no entry"
+[ "$(ls "$place/licenses" | wc -l)" -ge 12 ] || fail "licences are missing"
+# This Wine does not show the user's kinds of files among those of all users.
+for key in .frq Zephyrgraph.FRQ; do wine reg copy "HKCU\\Software\\Classes\\$key" "HKLM\\Software\\Classes\\$key" /s /f >/dev/null; done
+programs installed "$place" start "Z:${sample//\//\\}"
+for key in .frq Zephyrgraph.FRQ; do wine reg delete "HKLM\\Software\\Classes\\$key" /f >/dev/null; done
+
+status=0
+wine "$installer" /S || status=$?
+[ $status -eq 2 ] || fail "the installer went on although the program was running: $status"
+finish_programs
+
+# What belongs to the user: settings, own files, a changed table.
+echo "Mine,999999,0,0,,,,45,7,WGS-84" >>"$place/Station_Data.csv"
+cp "$place/Station_Data.csv" "$work/Station_Data.csv"
+cp "$sample" "$place/samples/mine.frq"
+wine "$installer" /S || fail "the update failed"
+cmp "$work/Station_Data.csv" "$place/Station_Data.csv" || fail "the update lost the user's table"
+owned || fail "FRQ files do not belong to the program after the update"
+(cd "$place" && find . -type f) | sort | comm -13 "$work/installed" - >"$work/own"
+grep -qx ./Zephyrgraph.cfg "$work/own" || fail "the update lost the settings"
+{ cat "$work/own"; echo ./Station_Data.csv; } | sort >"$work/kept"
+
+wine "$place/uninstall.exe" /S
+# The removal goes on in a copy of itself.
+for _ in $(seq 60); do [ -e "$place/uninstall.exe" ] || break; sleep 0.5; done
+sleep 1
+(cd "$place" && find . -type f) | sort >"$work/left"
+diff "$work/kept" "$work/left" >&2 || fail "after the removal other files than the user's are left"
+cmp "$work/Station_Data.csv" "$place/Station_Data.csv" || fail "the removal changed the user's table"
+rm -r "$place/samples" "$place"/*.*
+rmdir "$place" || fail "directories are left"
+grep -q Other.Program <<<"$(query 'HKCU\Software\Classes\.frq' /ve)" || fail "FRQ files were not given back"
+for key in 'Classes\Zephyrgraph.FRQ' 'Microsoft\Windows\CurrentVersion\Uninstall\Zephyrgraph'; do
+    ! wine reg query "HKCU\Software\$key" >/dev/null 2>&1 || fail "$key is still registered"
+done
+[ -z "$(find "$drive/users" -iname '*zephyrgraph*')" ] || fail "left: $(find "$drive/users" -iname '*zephyrgraph*')"
+echo "updated and removed: only the user's files were left: $(tr '\n' ' ' <"$work/kept")"
 
 # The portable folder, where names have blanks and letters of other alphabets.
 odd="$drive/Würzburg Вена"
 mkdir -p "$odd"
 (cd "$odd" && unzip -q "$portable")
-programs portable "$(dirname "$(find "$odd" -name zephyrgraph.exe)")"
+place=$(dirname "$(find "$odd" -name zephyrgraph.exe)")
+programs portable "$place" "$place/zephyrgraph.exe" "Z:$sample"
+finish_programs

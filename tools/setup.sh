@@ -15,7 +15,7 @@ e2e=(xvfb openbox xdotool imagemagick)
 checks=(clang-format clang-tidy cppcheck git debootstrap dpkg-dev file chromium-headless-shell)
 # An npm that is not Debian's, with its own Node, is as good, and Debian's cannot be installed beside it.
 command -v npm >/dev/null 2>&1 || checks+=(npm)
-windows=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine wine64 libgtest-dev python3 unzip dpkg-dev tcl sqlite3)
+windows=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine wine64 nsis librsvg2-bin libgtest-dev python3 unzip dpkg-dev tcl sqlite3)
 cluster=(slurmctld slurmd slurm-client munge python3)
 
 case "${1:-}" in
@@ -27,7 +27,7 @@ case "${1:-}" in
         "$0" --cluster || echo "tools/setup.sh: no Slurm can be had here: tests/cluster/slurm.sh will be skipped" >&2
         ;;
     --cluster) packages=("${cluster[@]}") ;;
-    --windows) packages+=("${windows[@]}") ;;
+    --windows) packages+=("${e2e[@]}" "${windows[@]}") ;;
     *) echo "tools/setup.sh: unknown option $1" >&2; exit 2 ;;
 esac
 

@@ -6,8 +6,8 @@
 #                checkout, else built from Debian's source packages (half an hour on two cores)
 #     core       what needs no toolkit, with its tests under Wine
 #     programs   everything, with its tests under Wine
-#     packages   the portable folder of the programs
-#     check      that folder in a fresh Windows of Wine
+#     packages   the installer and the portable folder
+#     check      both in a fresh Windows of Wine
 # The cache is ZG_WINDOWS_CACHE, or zephyrgraph-windows in the user's cache; it is outside the checkout and can be kept or deleted at will.
 set -euo pipefail
 cd "$(dirname "$0")/.."
