@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QTest>
 #include <algorithm>
 
@@ -206,6 +207,22 @@ TEST_F(FrmProperties, OnlyDigitsAndForTheStepAPointAreTyped) {
     showOptions();
     EXPECT_EQ(left("txtAngle_1", "1-2.5x"), "125");
     EXPECT_EQ(left("txtStep", "1-.5x"), "1.5");
+}
+
+TEST_F(FrmProperties, TheDelaySaysWhatItHoldsAndTheNoteWhereItsMenuIs) {
+    open();
+    showOptions();
+    EXPECT_EQ(box("txtDelay").toolTip(),
+              "Milliseconds from one point to the next when the curve is played, at most 32,767");
+    std::vector<std::string> tips;
+    for (const QLabel* label : form_->findChildren<QLabel*>())
+        if (label->text() == "To turn on animation set delay > 0. At the main menu, click Graph->Play.")
+            tips.push_back(label->toolTip().toStdString());
+    EXPECT_EQ(tips, std::vector<std::string>{
+                        "A right click on the curve's row in the list opens the menu with Play"});
+    left("txtDelay", "32767");
+    click("cmdApply");
+    EXPECT_EQ(graph_.Delay, 32'767) << "the largest that it holds";
 }
 
 TEST_F(FrmProperties, ADelayBeyondItsWidthOverflowsAtApply) {
