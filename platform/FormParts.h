@@ -51,6 +51,19 @@ inline QLineEdit* enteredBox(const char* name, KeyFunction keys = nullptr) {
     return box;
 }
 
+/// From now on a pasted line end or tab is shown as a blank: the text becomes a part of one line in a file.
+inline void keepOneLine(QLineEdit& box) {
+    QObject::connect(&box, &QLineEdit::textChanged, &box, [&box](const QString& text) {
+        QString line = text;
+        for (QChar& character : line)
+            if (character < QLatin1Char(' ')) character = QLatin1Char(' ');
+        if (line == text) return;
+        const int cursor = box.cursorPosition();
+        box.setText(line);
+        box.setCursorPosition(cursor);
+    });
+}
+
 /// The label of a control; its accelerator moves the focus there.
 inline QLabel* labelFor(const char* text, QWidget* buddy) {
     auto* label = new QLabel(QString::fromLatin1(text));

@@ -1,6 +1,8 @@
 #include "platform/UtcTip.h"
 
 #include <cmath>
+#include <initializer_list>
+#include <optional>
 #include <string>
 
 #include "base/Numbers.h"

@@ -120,6 +120,7 @@ void GridForm::addMethods(QGridLayout& grid) {
     grid.addWidget(labelFor("Number &of Locations:", number), row, 2, 1, 2);
     grid.addWidget(number, row++, 4);
     auto* title = enteredBox("txtTitleLine");
+    keepOneLine(*title);
     grid.addWidget(labelFor("&Title Line (Optional):", title), row, 0);
     grid.addWidget(title, row++, 1, 1, 4);
     auto* settingsRow = new QHBoxLayout;
@@ -245,7 +246,6 @@ QGroupBox* GridForm::makeStep4() {
     auto* directory = enteredBox("txtOutputDirectory");
     auto* status = named(new QLabel, "lblStatus");
     status->setTextFormat(Qt::PlainText);
-    status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* grid = new QGridLayout(step);
     grid->addWidget(labelFor("&Output Directory:", directory), 0, 0);
     grid->addWidget(directory, 0, 1);

@@ -65,6 +65,7 @@ QGroupBox* PointDialog::makePeriod(bool withHeadings) {
 QGroupBox* PointDialog::makeOutput() {
     auto* frame = new QGroupBox(QStringLiteral("Output:"));
     txtTitleLine = named(new QLineEdit, "txtTitleLine");
+    keepOneLine(*txtTitleLine);
     txtFRQOutputFilename = named(new QLineEdit, "txtFRQOutputFilename");
     txtOutputDirectory = named(new QLineEdit, "txtOutputDirectory");
     cmdBrowseDirectory = browseButton("B&rowse", "cmdBrowseDirectory", "Browse for the output directory");
@@ -94,8 +95,6 @@ QLayout* PointDialog::makeButtons() {
     cmdExit = namedButton("Cancel", "cmdExit");
     lblStatus = named(new QLabel, "lblStatus");
     lblStatus->setTextFormat(Qt::PlainText);
-    // The name of a station may be longer than the screen is wide.
-    lblStatus->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     connect(cmdSetSeasons, &QPushButton::clicked, this, guarded(host_, [this] { window_.setSeasons(); }));
     connect(cmdSetWindSpeedClasses, &QPushButton::clicked, this,
             guarded(host_, [this] { window_.setWindSpeedClasses(); }));

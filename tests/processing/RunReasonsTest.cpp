@@ -23,7 +23,7 @@ TEST(ForeseenTrouble, SaysWhereTheBlankInTheNameComesFrom) {
         ControlFile control;
         control.type = InputKind::AermSfc;
         control.base = base;
-        control.inputFiles = {"/some where/" + input};
+        control.inputFiles = {std::string("some where") + pathSeparator + input};
         control.outputs = {{"1", base, "", "0, 0, 0", height}};
         const std::string text = foreseenTrouble(planOf("/out/", control));
         const std::string start = "a blank in the name: the processor cannot find its control file; ";

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "base/Text.h"
+#include "platform/QtText.h"
 #include "platform/ReasonLabel.h"
 #include "tests/road/RoadFixture.h"
 
@@ -324,6 +325,24 @@ TEST_F(OddNamesRoad, OfInputsNameTheRun) {
         else
             EXPECT_EQ(outcome(), ofRun(output, "rename the input")) << name;
         std::filesystem::remove(data);
+    }
+}
+
+TEST_F(OddNamesRoad, TypedAsTitlesAreThoseOfTheRose) {
+    for (const std::string& title :
+         {std::string("New York!"), std::string("a;b, c"), std::string("it's \"q\""),
+          std::string("50% & <b>x</b>"), std::string("\xD0\x9C\xD0\xBE"), std::string("Z\xC3\xBCrich"),
+          std::string(" lead "), std::string(".."), std::string("a/b:c"), tooLongName, emptyValue,
+          std::string("a\nb"), std::string("a\tb"), std::string("x ! MDATA = TSF ! y")}) {
+        openWith<frmOpenAERMETFile>("AERMET2.PFL", InputKind::AermPfl);
+        fill("txtStationID", "1");
+        fill("txtTitleLine", title);
+        EXPECT_EQ(outcome(), "made: AERMET2_AERMETPFL_19880301-19880305_10m.frq") << title;
+        std::string oneLine = trim(title);
+        for (char& c : oneLine)
+            if (c < ' ' && c > 0) c = ' ';
+        EXPECT_EQ(shown(modPolarGraph.FrqTitle1).toStdString(), oneLine);
+        EXPECT_EQ(box("txtTitleLine").text().toStdString().size(), title.size());
     }
 }
 

@@ -1,6 +1,8 @@
 // The wizards through their controls: keys, Cancel, going back, the wait for the processor, names that are
 // not ASCII.
 
+#include <QClipboard>
+
 #include "settings/CfgFile.h"
 #include "tests/dialogs/gridded/GridForms.h"
 
@@ -219,6 +221,16 @@ TEST_F(GridFields, ByStationAfterGridCellsSaysThatTheCellsCount) {
     click("optByStation");
     click("cmdNext2");
     EXPECT_FALSE(note()->isVisible()) << "the last answer was No";
+}
+
+TEST_F(GridFields, APastedTitleBecomesOneLine) {
+    toStep2(m3dVariation, m3dText());
+    box("txtTitleLine").setFocus();
+    QApplication::clipboard()->setText("two\nlines and\ta tab");
+    box("txtTitleLine").paste();
+    EXPECT_EQ(box("txtTitleLine").text(), "two lines and a tab");
+    QTest::keyClicks(&box("txtTitleLine"), "!");
+    EXPECT_EQ(box("txtTitleLine").text(), "two lines and a tab!") << "the cursor stays after it";
 }
 
 TEST_F(GridFields, EveryPickerOfThePeriodSaysItInUtc) {
