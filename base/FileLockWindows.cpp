@@ -49,17 +49,6 @@ FileLock::Outcome FileLock::takeAny() {
     return isHeld ? Outcome::Held : Outcome::Failed;
 }
 
-FileLock::Outcome FileLock::take(const std::string& name, Of kind) {
-    release();
-    name_ = name;
-    if (name.find('\0') != std::string::npos) {
-        errno = ENOENT;
-        return Outcome::Failed;
-    }
-    if (kind == Of::NewFile) return takeNew();
-    return kind == Of::OldFile ? takeOld() : takeAny();
-}
-
 void FileLock::release() {
     if (isTaken()) CloseHandle(handleOf(handle_));
     handle_ = none;
