@@ -2,6 +2,7 @@
 
 #include <QProcess>
 
+#include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "platform/BatchScript.h"
 #include "platform/BatchStarter.h"
@@ -11,6 +12,7 @@ namespace zg {
 
 /// The shell's console is a window of its own, or none at all.
 void BatchStarter::start(const std::string& batchFile, WindowStyle style) {
+    if (!fileExists(batchFile)) raise(ErrorNumber::FileNotFound);
     QProcess shell;
     shell.setProgram(QStringLiteral("cmd.exe"));
     // As they stand: the toolkit would put the quotes of the path in quotes of its own.

@@ -1,46 +1,21 @@
 // Bitmap, clipboard and print of the page in its widget.
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPrinter>
 #include <QTest>
-#include <csignal>
 #include <filesystem>
 
-#include "base/Paths.h"
-#include "graph/frq/ModPolarGraph.h"
-#include "platform/PolarGraphWidget.h"
 #include "platform/QtPicture.h"
+#include "tests/platform/PageFixture.h"
 #include "tests/support/Pixels.h"
 #include "tests/support/Raises.h"
-#include "tests/support/TempDirectory.h"
-#include "tests/support/TestHost.h"
 
 namespace zg {
 namespace {
-
-class PageOutput : public ::testing::Test {
- protected:
-    void SetUp() override {
-        modPolarGraph = ModPolarGraph();
-        applicationDirectory = directory_.path();
-        widget_ = std::make_unique<PolarGraphWidget>(host_, modPolarGraph, PropertyBag());
-        widget_->resize(400, 400);
-        widget_->show();
-        plot().Zoom(100);
-        plot().OpenFreqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
-    }
-
-    PolarGraph& plot() { return widget_->graph(); }
-
-    TempDirectory directory_;
-    TestHost host_;
-    std::unique_ptr<PolarGraphWidget> widget_;
-};
 
 TEST_F(PageOutput, ABitmapIsTheWholePageAsItWasPaintedWithoutTheToolsShapes) {
     const QImage before = widget_->pageImage().copy();
@@ -82,19 +57,6 @@ TEST_F(PageOutput, AFailedSaveIsToldAndLeavesTheOldFile) {
         << "no half file is left";
 }
 
-TEST_F(PageOutput, AFileThatCannotGrowIsToldAndTheOldOneStays) {
-    const std::string path = directory_.write("rose.bmp", "old");
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit small{10'000, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
-    EXPECT_THROW(plot().EditCopyTo(path), RunTimeError);
-    setrlimit(RLIMIT_FSIZE, &before);
-    EXPECT_EQ(directory_.read("rose.bmp"), "old");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(directory_.path()), {}), 1);
-}
-
 TEST_F(PageOutput, ABitmapMayHaveAnyNameAndIsReadBackByIt) {
     const std::string path = directory_.file("\xC9t\xE9.bmp");
     plot().EditCopyTo(path);
@@ -103,21 +65,6 @@ TEST_F(PageOutput, ABitmapMayHaveAnyNameAndIsReadBackByIt) {
     const PicturePointer read = loadPicture(path);
     EXPECT_EQ(read->width(), 600);
     EXPECT_EQ(read->height(), 600);
-}
-
-TEST_F(PageOutput, AFileThatIsReplacedKeepsWhoMayReadItAndItsLink) {
-    const std::string path = directory_.write("rose.bmp", "old");
-    std::filesystem::permissions(path,
-                                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
-    std::filesystem::create_symlink("rose.bmp", directory_.file("link.bmp"));
-    directory_.write("link.bmp.new1", "of another program");
-    directory_.write("rose.bmp.new1", "of another program");
-    plot().EditCopyTo(directory_.file("link.bmp"));
-    EXPECT_TRUE(std::filesystem::is_symlink(directory_.file("link.bmp")));
-    EXPECT_EQ(directory_.read("rose.bmp").substr(0, 2), "BM");
-    EXPECT_EQ(std::filesystem::status(path).permissions(),
-              std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
-    EXPECT_EQ(directory_.read("rose.bmp.new1"), "of another program");
 }
 
 TEST_F(PageOutput, APrintIsCentredKeepsItsProportionsAndIsSharp) {

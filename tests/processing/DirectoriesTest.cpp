@@ -113,8 +113,8 @@ TEST(AskCreateWorkDirTest, DirectoryThatCannotBeMadeIsToldByTheCallerWithoutABox
     Calls calls;
     std::string told;
     calls.caller.tellFailure = [&told](const std::string& reason) { told = reason; };
-    AskCreateWorkDir(host, calls.caller, temp.file("file/new"));
-    EXPECT_EQ(told.substr(0, told.find(':')), temp.file("file")) << told;
+    AskCreateWorkDir(host, calls.caller, temp.file("file") + pathSeparator + "new");
+    EXPECT_EQ(told.substr(0, told.rfind(':')), temp.file("file")) << told;
     EXPECT_EQ(host.boxes.size(), 1U) << "the question alone";
     EXPECT_EQ(calls.order, "");
 }

@@ -85,17 +85,18 @@ TEST(RunPlan, APeriodHasHoursAndTheSecondsWithinThem) {
 }
 
 TEST(RunPlan, TheBaseOfAFileLosesFourCharactersWhateverTheyAre) {
-    EXPECT_EQ(fileBaseOf("/data/wind.dat"), "wind");
-    EXPECT_EQ(fileBaseOf("/data/wind.data"), "wind.");
-    EXPECT_EQ(fileBaseOf("/da.ta/.sfc"), "");
-    EXPECT_RAISES(5, "Invalid procedure call or argument", fileBaseOf("/data/abc"));
+    const std::string data = withSeparator("/da.ta");
+    EXPECT_EQ(fileBaseOf(data + "wind.dat"), "wind");
+    EXPECT_EQ(fileBaseOf(data + "wind.data"), "wind.");
+    EXPECT_EQ(fileBaseOf(data + ".sfc"), "");
+    EXPECT_RAISES(5, "Invalid procedure call or argument", fileBaseOf(data + "abc"));
 }
 
 TEST(RunPlan, ItsFilesAreWrittenLookedForAndRemovedOneByOne) {
     const TempDirectory out;
     ControlFile control = controlOf(InputKind::Surf);
     control.outputs = {{"1", " one ", "", "1001, 0, 0", "10"}};
-    const RunPlan plan = planOf(out.path() + "/", control);
+    const RunPlan plan = planOf(withSeparator(out.path()), control);
     writeControlFile(plan);
     EXPECT_EQ(out.read("B_tempoline.inp"), controlFileBytes(plan.control));
     writeBatchFile(plan);

@@ -155,11 +155,11 @@ TEST_F(StartSequenceTest, BackgroundPictureIsTheFirstOfTheFour) {
         std::filesystem::equivalent(findBackgroundPicture()->path, directory_.file("Bitmap/WP4.pgw")));
 
     directory_.write("Bitmap/WP2.pgw", "");
-    std::filesystem::create_directory(directory_.file("Bitmap/WP1.pgw"));
+    std::filesystem::create_directory(directory_.file("Bitmap") + pathSeparator + "WP1.pgw");
     EXPECT_EQ(findBackgroundPicture()->style, 1) << "a directory is no picture";
     EXPECT_EQ(backgroundPicturePath("WP3.pgw"), "");
 
-    std::filesystem::remove(directory_.file("Bitmap/WP1.pgw"));
+    std::filesystem::remove(directory_.file("Bitmap") + pathSeparator + "WP1.pgw");
     directory_.write("Bitmap/WP1.pgw", "");
     EXPECT_EQ(findBackgroundPicture()->style, 0);
 }
@@ -189,7 +189,7 @@ TEST_F(StartSequenceTest, ANewBackgroundPictureHasThePlaceOfItsStyle) {
     const auto nameOf = [](std::int32_t style) {
         return std::filesystem::path(newBackgroundPicturePath(style)).filename().string();
     };
-    EXPECT_EQ(newBackgroundPicturePath(0), directory_.file("Bitmap/WP1.pgw"));
+    EXPECT_EQ(newBackgroundPicturePath(0), directory_.file("Bitmap") + pathSeparator + "WP1.pgw");
     EXPECT_TRUE(std::filesystem::is_directory(directory_.file("Bitmap")));
     EXPECT_EQ(nameOf(1), "WP2.pgw");
     EXPECT_EQ(nameOf(3), "WP4.pgw");
