@@ -63,8 +63,8 @@ std::optional<Palette> paletteNamed(const std::string& name) {
 }
 
 Palette readPalette(const std::string& path) {
-    constexpr std::size_t longestLine = 4096;
-    LineReader reader(path, longestLine);
+    constexpr std::size_t longestPaletteLine = 4096;
+    LineReader reader(path, longestPaletteLine);
     Palette colours{};
     for (std::size_t found = 0; found < colours.size();) {
         const std::string_view line = reader.readLine();
