@@ -20,6 +20,9 @@ function(zg_test_library name)
     endif()
 endfunction()
 
+# All test programs that need no toolkit.
+add_custom_target(fast_tests)
+
 # zg_test(NAME [QT] SOURCES a.cpp ... LINKS zg_base ... [NEEDS target ...] [PARTS n])
 # One test program, which can also be run by itself. ctest runs it whole, or in n parts side by side. Its labels are the folders on its path
 # below tests/ and "toolkit" or "fast". NEEDS names the programs and libraries that it starts or loads: they are built with it.
@@ -39,6 +42,7 @@ function(zg_test name)
         target_link_libraries(${name} PRIVATE zg_test_main)
         target_link_options(${name} PRIVATE ${ZG_ALONE})
         zg_compile_together(${name} zg_pch_test)
+        add_dependencies(fast_tests ${name})
         set(kind fast)
     endif()
 
@@ -68,7 +72,7 @@ function(zg_add_test_run run program kind)
     add_test(NAME ${run} COMMAND ${program} --gtest_brief=1)
     zg_label(${run} ${kind})
     set_property(TEST ${run} PROPERTY ENVIRONMENT "QT_QPA_PLATFORM=offscreen"
-                 "GTEST_OUTPUT=xml:${PROJECT_BINARY_DIR}/Testing/cases/${run}.xml" ${ARGN})
+                 "GTEST_OUTPUT=xml:${ZG_DRIVE}${PROJECT_BINARY_DIR}/Testing/cases/${run}.xml" ${ARGN})
     set_property(TEST ${run} PROPERTY TIMEOUT 600)
     if(ZG_CASES_LEFT_OUT_OF_${program})
         set_property(TEST ${run} APPEND PROPERTY ENVIRONMENT "GTEST_FILTER=-${ZG_CASES_LEFT_OUT_OF_${program}}")

@@ -8,6 +8,8 @@
 #     programs   everything, with its tests under Wine
 #     packages   the installer and the portable folder
 #     check      both in a fresh Windows of Wine
+#     quick      what fits among the checks of every change: core; if the toolkit for Windows is there or lies beside the checkout, also the
+#                programs, packages and check, without the tests that need the toolkit
 # The cache is ZG_WINDOWS_CACHE, or zephyrgraph-windows in the user's cache; it is outside the checkout and can be kept or deleted at will.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -17,7 +19,14 @@ export ZG_WINDOWS_CACHE=$cache
 kit=$cache/kit
 mkdir -p "$cache"
 
-say() { printf -- '-- %s\n' "$*"; }
+say() { printf -- '-- %s (after %d s)\n' "$*" "$SECONDS"; }
+
+# Whatever happens, nothing of Wine is left running.
+trap 'WINEPREFIX=$cache/wine wineserver -k 2>/dev/null || true' EXIT
+# limited SECONDS COMMAND...: a Wine that hangs fails after that time.
+limited() {
+    timeout --kill-after=10 "$@" </dev/null || { local status=$?; [ $status -ne 124 ] || echo "tools/windows.sh: not done after $1 s: ${*:2}" >&2; return $status; }
+}
 
 # sources PACKAGE: fetches and unpacks Debian's source package, its signature checked, and says where. The lists of sources are the script's own.
 sources() {
@@ -74,41 +83,75 @@ build_toolkit() {
         -DQT_BUILD_TESTS=OFF -DQT_BUILD_EXAMPLES=OFF
 }
 
+# The faster packer of PNG pictures. Without it the toolkit packs them.
+build_deflate() {
+    [ -e "$kit/lib/libdeflate.a" ] && return
+    say "libdeflate from Debian's source package"
+    local from
+    from=$(sources libdeflate) && [ -n "$from" ] &&
+        (cd "$from" && x86_64-w64-mingw32-gcc-posix -O2 -I. -c lib/*.c lib/x86/*.c && x86_64-w64-mingw32-ar rcs "$kit/lib/libdeflate.a" ./*.o &&
+         cp libdeflate.h "$kit/include") ||
+        say "libdeflate cannot be had here: the toolkit packs the pictures"
+}
+
 # Libraries that are headers alone: as Debian has them, but away from its other headers.
 copy_headers() {
+    [ -e "$kit/share/cmake/CLI11" ] && return
     mkdir -p "$kit/include" "$kit/share/cmake"
     cp -r /usr/include/nlohmann /usr/include/CLI "$kit/include"
     cp -r /usr/share/cmake/nlohmann_json /usr/share/cmake/CLI11 "$kit/share/cmake"
 }
 
-make_kit() {
-    [ -e "$cache/kit-is-whole" ] && return
+unpack_kit() {
+    mkdir -p "$kit"
+    [ -e "$kit/bin" ] && return
     local archive
     archive=$(find ../shared/windows -maxdepth 1 -name '*.tar.xz' 2>/dev/null | sort | tail -1 || true)
-    mkdir -p "$kit"
-    if [ -n "$archive" ] && [ ! -e "$kit/bin" ]; then
-        say "the kit from $archive"
-        mkdir -p "$cache/unpacked"
-        tar -xJf "$archive" -C "$cache/unpacked"
-        # Its folders are at the top, or in one folder.
-        local top=$cache/unpacked
-        [ -e "$top/lib" ] || top=$(find "$top" -mindepth 1 -maxdepth 1 -type d | head -1)
-        cp -r "$top/." "$kit"
-        rm -rf "$cache/unpacked"
-    fi
-    build_sqlite
-    build_proj
-    build_toolkit
-    copy_headers
-    touch "$cache/kit-is-whole"
+    [ -n "$archive" ] || return 0
+    say "the kit from $archive"
+    rm -rf "$cache/unpacked"
+    mkdir -p "$cache/unpacked"
+    tar -xJf "$archive" -C "$cache/unpacked"
+    # Its folders are at the top, or in one folder.
+    local top=$cache/unpacked
+    [ -e "$top/lib" ] || top=$(find "$top" -mindepth 1 -maxdepth 1 -type d | head -1)
+    cp -r "$top/." "$kit"
+    rm -rf "$cache/unpacked"
 }
 
-# built PRESET: configured, built, and tested under Wine.
+# What the processor and the libraries below the toolkit need.
+make_core_kit() {
+    unpack_kit
+    build_sqlite
+    build_proj
+}
+
+make_kit() {
+    make_core_kit
+    build_toolkit
+    build_deflate
+    copy_headers
+}
+
+# built PRESET [TARGET...]
 built() {
+    say "$1: building"
     cmake --preset "$1" --log-level=WARNING
-    cmake --build --preset "$1"
-    tools/wine.sh cmd /c ver >/dev/null
-    ctest --preset "$1" -j "$(nproc)"
+    cmake --build --preset "$1" --target "${@:2}"
+}
+
+# tested PRESET WORDS...: the tests under Wine, with words for ctest. A program that ended well without a word about its cases has not run.
+tested() {
+    local preset=$1 cases=build/$1/Testing/cases run
+    say "$preset: tests under Wine"
+    limited 120 tools/wine.sh cmd /c ver >/dev/null
+    rm -rf "$cases"
+    limited 1500 ctest --preset "$preset" -j "$(nproc)" "${@:2}"
+    for run in $(ctest --preset "$preset" "${@:2}" -N | sed -n 's/^ *Test *#[0-9]*: \(zg_.*\)$/\1/p'); do
+        grep -qs '^<testsuites tests="[1-9]' "$cases/$run.xml" || { echo "tools/windows.sh: $run gave no result" >&2; return 1; }
+    done
+    run=$(sed -n 's/^<testsuites tests="\([0-9]*\)".*/\1/p' "$cases"/*.xml | paste -sd+ -)
+    say "$preset: $((run)) cases ran under Wine"
 }
 
 pack() {
@@ -117,15 +160,31 @@ pack() {
     (cd build/windows && rm -f zephyrgraph-*-windows-* && cpack)
 }
 
+quick() {
+    make_core_kit
+    if [ ! -e "$kit/lib/cmake/Qt6/Qt6Config.cmake" ]; then
+        say "the toolkit for Windows is neither in the cache nor beside the checkout: only what needs none"
+        built windows-core all
+        tested windows-core
+        return
+    fi
+    make_kit
+    built windows fast_tests zephyrgraph zephyrgraph-export tempoline
+    tested windows -L '^(fast|program)$'
+    pack
+    limited 300 tools/check_windows_packages.sh build/windows
+}
+
 [ $# -gt 0 ] || set -- kit core programs packages check
 tools/setup.sh --windows
 for step in "$@"; do
     case "$step" in
         kit) make_kit ;;
-        core) make_kit; built windows-core ;;
-        programs) make_kit; built windows ;;
+        core) make_core_kit; built windows-core all; tested windows-core ;;
+        programs) make_kit; built windows all; tested windows ;;
         packages) make_kit; pack ;;
-        check) tools/check_windows_packages.sh build/windows ;;
+        check) limited 300 tools/check_windows_packages.sh build/windows ;;
+        quick) quick ;;
         *) echo "tools/windows.sh: there is no step $step" >&2; exit 2 ;;
     esac
 done
