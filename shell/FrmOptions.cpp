@@ -38,6 +38,7 @@ std::unique_ptr<PolarGraphWidget> makePreview(Host& host, ModPolarGraph& tables)
     bag.WriteProperty("ScrollBars", "0");
     auto preview = std::make_unique<PolarGraphWidget>(host, tables, bag);
     preview->setObjectName(QStringLiteral("pgPreview"));
+    preview->graph().shrinkTexts(true);
     preview->setMinimumSize(310, 310);
     return preview;
 }

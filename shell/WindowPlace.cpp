@@ -28,7 +28,7 @@ QByteArray savedPlace() {
 
 QSize startSizeOn(const QSize& available) {
     const QSize wholePage(740, 880);
-    const QSize part(available.width() * 55 / 100, available.height() * 85 / 100);
+    const QSize part(available.width() * 54 / 100, available.height() * 85 / 100);
     return wholePage.expandedTo(part).boundedTo(available - QSize(40, 60));
 }
 

@@ -50,6 +50,7 @@ done <<'STEPS'
 aermet surface
 batch batch
 curves curve
+main rose
 monitor monitor
 processed surf_window
 profile profile

@@ -18,7 +18,7 @@ class Desk:
         self.shots.mkdir(parents=True, exist_ok=True)
         self.children = []
         read, write = os.pipe()
-        self.children.append(subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "1366x900x24", "-nolisten", "tcp"],
+        self.children.append(subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "1366x980x24", "-nolisten", "tcp"],
                                               pass_fds=[write], stderr=subprocess.DEVNULL))
         os.close(write)
         with os.fdopen(read) as pipe:

@@ -405,6 +405,7 @@ TEST_F(PlotOptions, ThePreviewShowsTheRoseOnShowFromTablesOfItsOwn) {
     modPolarGraph.ClassesInKnots = true;
     open<frmOptions>();
     EXPECT_FALSE(modPolarGraph.KnotTableReady) << "the preview made the table of its own legend";
+    plot().shrinkTexts(true);  // as in the main window
     plot().Refresh();
     EXPECT_TRUE(modPolarGraph.KnotTableReady);
     EXPECT_EQ(child<PolarGraphWidget>("pgPreview")->pageImage(), page());
