@@ -27,9 +27,13 @@ std::string batchNote(const std::string& directory, const std::vector<std::strin
     const auto taken = std::count_if(names.begin(), names.end(), isNamedFrq);
     const std::size_t all = filesMatching(withSeparator(directory) + "*.frq").size();
     std::string note;
-    if (all > static_cast<std::size_t>(taken))
-        note = "BEGIN exports all " + std::to_string(all) + " FRQ files of this directory, not only the " +
-               std::to_string(taken) + " that were dropped.\n";
+    if (all > static_cast<std::size_t>(taken)) {
+        note += "BEGIN exports all ";
+        note += std::to_string(all);
+        note += " FRQ files of this directory, not only the ";
+        note += std::to_string(taken);
+        note += " that were dropped.\n";
+    }
     for (const std::string& name : names)
         if (!isNamedFrq(name)) note += "Not exported, since its name does not end in .frq: " + name + "\n";
     return note;

@@ -250,10 +250,10 @@ TEST_F(FrmBatchMode, AnErrorOfTheRunIsShownAndTheStatusDoesNotStayAtRunning) {
 TEST_F(FrmBatchMode, OpenedForADirectoryNeedsOnlyItsButton) {
     const std::string frq = directory_.file("frq");
     std::filesystem::create_directory(frq);
-    std::filesystem::copy(sample, frq + "/a.frq");
+    std::filesystem::copy(sample, frq + pathSeparator + "a.frq");
     form_->openDirectory(frq, "A note.\n");
     EXPECT_TRUE(child<QRadioButton>("optDirectory")->isChecked());
-    EXPECT_EQ(box("txtDirectory").text().toStdString(), frq + "/");
+    EXPECT_EQ(box("txtDirectory").text().toStdString(), frq + pathSeparator);
     EXPECT_EQ(box("txtWorkDirectory").text().toStdString(), out_ + "/") << "the last-used directory";
     EXPECT_EQ(child<QPlainTextEdit>("txtNotes")->toPlainText(), "A note.\n");
     EXPECT_EQ(form_->focusWidget(), child("cmdBeginBatchMode"));
@@ -266,9 +266,9 @@ TEST_F(FrmBatchMode, OpenedForADirectoryNeedsOnlyItsButton) {
 TEST_F(FrmBatchMode, OpenedForADirectoryWithoutALastUsedOneWritesThere) {
     modPolarGraph.WorkDir.clear();
     open();
-    form_->openDirectory(out_ + "/", "");
-    EXPECT_EQ(box("txtDirectory").text().toStdString(), out_ + "/");
-    EXPECT_EQ(box("txtWorkDirectory").text().toStdString(), out_ + "/");
+    form_->openDirectory(out_ + pathSeparator, "");
+    EXPECT_EQ(box("txtDirectory").text().toStdString(), out_ + pathSeparator);
+    EXPECT_EQ(box("txtWorkDirectory").text().toStdString(), out_ + pathSeparator);
 }
 
 }  // namespace

@@ -12,10 +12,7 @@ namespace {
 
 class DroppedFiles : public ::testing::Test {
  protected:
-    std::string frq(const std::string& name) {
-        std::filesystem::create_directories(DirOf(directory_.file(name)));
-        return directory_.write(name, "WIND.FRQ 2.0\r\n");
-    }
+    std::string frq(const std::string& name) const { return directory_.write(name, "WIND.FRQ 2.0\r\n"); }
     std::string place() const { return directory_.path() + pathSeparator; }
     static std::string sample(const char* name) { return std::string(ZG_SOURCE_DIR "/data/samples/") + name; }
 
@@ -47,8 +44,10 @@ TEST_F(DroppedFiles, TheNoteTellsWhatElseIsExportedAndWhatIsNot) {
 }
 
 TEST_F(DroppedFiles, FilesOfTwoDirectoriesOrWithoutAnFrqFileAreNoBatch) {
-    EXPECT_FALSE(droppedBatch({frq("a.frq"), frq("other/b.frq")}));
-    EXPECT_FALSE(droppedBatch({frq("a.frq"), directory_.file("other")}));
+    const std::string other = directory_.file("other");
+    std::filesystem::create_directory(other);
+    EXPECT_FALSE(droppedBatch({frq("a.frq"), frq(std::string("other") + pathSeparator + "b.frq")}));
+    EXPECT_FALSE(droppedBatch({frq("a.frq"), other}));
     EXPECT_FALSE(droppedBatch({frq("a.txt"), frq("b.txt")}));
     EXPECT_FALSE(droppedBatch({}));
 }
