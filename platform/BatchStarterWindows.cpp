@@ -20,6 +20,8 @@ void BatchStarter::start(const std::string& batchFile, WindowStyle style) {
     shell.setCreateProcessArgumentsModifier([style](QProcess::CreateProcessArguments* process) {
         process->flags &= ~static_cast<unsigned long>(CREATE_NO_WINDOW);
         process->flags |= style == WindowStyle::Hidden ? CREATE_NO_WINDOW : CREATE_NEW_CONSOLE;
+        // Those of a program with windows lead nowhere: "pause" would not wait.
+        process->startupInfo->dwFlags &= ~static_cast<unsigned long>(STARTF_USESTDHANDLES);
     });
     if (!shell.startDetached()) raise(ErrorNumber::InvalidProcedureCall);
 }
