@@ -13,7 +13,9 @@ if [ ! -e "$WINEPREFIX/system.reg" ]; then
     mkdir -p "$WINEPREFIX"
     exec 9>"$WINEPREFIX.lock"
     flock 9
-    [ -e "$WINEPREFIX/system.reg" ] || { wine wineboot -i && wineserver -w; } >/dev/null 2>&1 9>&-
+    # Smooth letters as on every desk: without, thin strokes such as that of "I" vanish.
+    [ -e "$WINEPREFIX/system.reg" ] ||
+        { wine wineboot -i && wine reg add 'HKCU\Control Panel\Desktop' /v FontSmoothing /d 2 /f && wineserver -w; } >/dev/null 2>&1 9>&-
     exec 9>&-
 fi
 exec wine "$@"
