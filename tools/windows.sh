@@ -8,6 +8,7 @@
 #     programs   everything, with its tests under Wine
 #     packages   the installer and the portable folder
 #     check      both in a fresh Windows of Wine
+#     walk       the walk of tests/e2e through the portable folder, in a real window; pictures in out/e2e-windows
 #     quick      what fits among the checks of every change: core; if the toolkit for Windows is there or lies beside the checkout, also the
 #                programs, packages and check, without the tests that need the toolkit
 # The cache is ZG_WINDOWS_CACHE, or zephyrgraph-windows in the user's cache; it is outside the checkout and can be kept or deleted at will.
@@ -187,7 +188,15 @@ quick() {
     limited 900 tools/check_windows_packages.sh build/windows
 }
 
-[ $# -gt 0 ] || set -- kit core programs packages check
+walk() {
+    local place=build/windows/walk
+    rm -rf "$place"
+    mkdir -p "$place"
+    unzip -q build/windows/zephyrgraph-*-windows-*.zip -d "$place"
+    limited 900 python3 -B tests/e2e/walk.py --wine "$place"/zephyrgraph-* out/e2e-windows
+}
+
+[ $# -gt 0 ] || set -- kit core programs packages check walk
 tools/setup.sh --windows
 for step in "$@"; do
     case "$step" in
@@ -196,6 +205,7 @@ for step in "$@"; do
         programs) make_kit; built windows all; tested windows ;;
         packages) make_kit; pack ;;
         check) limited 900 tools/check_windows_packages.sh build/windows ;;
+        walk) walk ;;
         quick) quick ;;
         *) echo "tools/windows.sh: there is no step $step" >&2; exit 2 ;;
     esac

@@ -13,9 +13,9 @@ if [ ! -e "$WINEPREFIX/system.reg" ]; then
     mkdir -p "$WINEPREFIX"
     exec 9>"$WINEPREFIX.lock"
     flock 9
-    # Smooth letters as on every desk: without, thin strokes such as that of "I" vanish.
-    [ -e "$WINEPREFIX/system.reg" ] ||
-        { wine wineboot -i && wine reg add 'HKCU\Control Panel\Desktop' /v FontSmoothing /d 2 /f && wineserver -w; } >/dev/null 2>&1 9>&-
+    # Letters as on the desks of Windows: with Wine's own choice the thin stroke of a capital I vanishes.
+    smooth() { wine reg add 'HKCU\Control Panel\Desktop' /v FontSmoothingType /t REG_DWORD /d 2 /f; }
+    [ -e "$WINEPREFIX/system.reg" ] || { wine wineboot -i && smooth && wineserver -w; } >/dev/null 2>&1 9>&-
     exec 9>&-
 fi
 exec wine "$@"
