@@ -32,6 +32,7 @@ class Browser:
 
     def __init__(self, program, scratch):
         its_input, self._to = map(_high, os.pipe())
+        os.set_blocking(self._to, False)
         self._from, its_output = map(_high, os.pipe())
         words = [program, "--headless", "--no-sandbox", "--disable-gpu", "--hide-scrollbars", "--remote-debugging-pipe",
                  "--user-data-dir=" + os.path.join(scratch, "browser"), "about:blank"]
@@ -41,10 +42,14 @@ class Browser:
         os.close(its_input)
         os.close(its_output)
         self._bytes, self._events, self._count, self._session = b"", [], 0, None
-        target = self.call("Target.createTarget", url="about:blank")["targetId"]
-        self._session = self.call("Target.attachToTarget", targetId=target, flatten=True)["sessionId"]
-        self.call("Page.enable")
-        self.window(1000, 800)
+        try:
+            target = self.call("Target.createTarget", url="about:blank")["targetId"]
+            self._session = self.call("Target.attachToTarget", targetId=target, flatten=True)["sessionId"]
+            self.call("Page.enable")
+            self.window(1000, 800)
+        except BaseException:
+            self.__exit__()
+            raise
 
     def __enter__(self):
         return self
@@ -57,6 +62,15 @@ class Browser:
         os.waitpid(self._process, 0)
         os.close(self._to)
         os.close(self._from)
+
+    def _send(self, rest, deadline):
+        while rest:
+            if not select.select([], [self._to], [], max(0, deadline - time.monotonic()))[1]:
+                raise BrowserFault("the browser does not listen")
+            try:
+                rest = rest[os.write(self._to, rest):]
+            except BrokenPipeError as gone:
+                raise BrowserFault("the browser has ended") from gone
 
     def _message(self, deadline):
         while b"\0" not in self._bytes:
@@ -75,10 +89,8 @@ class Browser:
         message = {"id": self._count, "method": method, "params": parameters}
         if self._session:
             message["sessionId"] = self._session
-        rest = json.dumps(message).encode() + b"\0"
-        while rest:
-            rest = rest[os.write(self._to, rest):]
         deadline = time.monotonic() + LONGEST_ANSWER
+        self._send(json.dumps(message).encode() + b"\0", deadline)
         while True:
             answer = self._message(deadline)
             if answer.get("id") == self._count:
