@@ -23,5 +23,8 @@ if ! is_whole "$archive"; then
     is_whole "$scratch/axe-core-$version.tgz" || fail "what npm fetched is not axe-core $version as published: its sum differs"
     mv "$scratch/axe-core-$version.tgz" "$archive"
 fi
-tar -xzf "$archive" -C "$cache" --strip-components=1 package/axe.min.js
+# In one step: another check may be reading it.
+part=$(mktemp "$cache/axe.min.js.XXXXXX")
+tar -xzOf "$archive" package/axe.min.js >"$part" && mv "$part" "$cache/axe.min.js" ||
+    { rm -f "$part"; fail "$archive cannot be unpacked"; }
 echo "$cache/axe.min.js"
