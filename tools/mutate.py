@@ -34,7 +34,7 @@ from code_changes import KINDS, changes_of  # noqa: E402
 
 ROOT = Path(__file__).resolve().parent.parent
 OPTIONS = ["-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0 -D_GLIBCXX_ASSERTIONS", "-DZG_BENCH=OFF",
-           "-DZG_FUZZ=OFF", "-DZG_UNITY=OFF"]
+           "-DZG_UNITY=OFF"]
 MOST_MEMORY = 4 << 30  # bytes, for a loop that a change made endless
 MOST_FILE = 4 << 30
 

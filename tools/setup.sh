@@ -10,9 +10,9 @@ set -euo pipefail
 
 packages=(g++ cmake ninja-build qt6-base-dev libcli11-dev nlohmann-json3-dev libproj-dev zlib1g-dev libdeflate-dev
           fonts-liberation fonts-dejavu-core libreoffice-impress-nogui libreoffice-writer-nogui)
-tests=(libgtest-dev libbenchmark-dev libmuparser-dev parallel python3 clang libclang-rt-14-dev librsvg2-bin)
+tests=(libgtest-dev libbenchmark-dev libmuparser-dev parallel python3 librsvg2-bin)
 e2e=(xvfb openbox xdotool imagemagick)
-checks=(clang-format clang-tidy cppcheck git debootstrap dpkg-dev file chromium-headless-shell)
+checks=(clang libclang-rt-14-dev clang-format clang-tidy cppcheck git debootstrap dpkg-dev file chromium-headless-shell)
 # An npm that is not Debian's, with its own Node, is as good, and Debian's cannot be installed beside it.
 command -v npm >/dev/null 2>&1 || checks+=(npm)
 windows=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine wine64 nsis librsvg2-bin libgtest-dev python3 unzip dpkg-dev tcl sqlite3)

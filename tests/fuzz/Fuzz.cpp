@@ -1,45 +1,14 @@
-// zg_fuzz TARGET [options of the fuzzer] [directories]: all fuzz targets in one program.
-
 #include "tests/fuzz/Fuzz.h"
-
-#include <cstdio>
-#include <cstdlib>
-#include <map>
-#include <string>
 
 namespace {
 
-std::map<std::string, FuzzFunction>& targets() {
-    static std::map<std::string, FuzzFunction> known;
-    return known;
+std::map<std::string, FuzzFunction>& known() {
+    static std::map<std::string, FuzzFunction> targets;
+    return targets;
 }
-
-FuzzFunction chosen = nullptr;
 
 }  // namespace
 
-FuzzTarget::FuzzTarget(const char* name, FuzzFunction function) { targets()[name] = function; }
+const std::map<std::string, FuzzFunction>& fuzzTargets() { return known(); }
 
-extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
-    // The fuzzer starts itself again for some work, with the remaining arguments: without the target.
-    const char* inherited = std::getenv("ZG_FUZZ_TARGET");
-    const std::string name = inherited != nullptr ? inherited : *argc > 1 ? (*argv)[1] : "";
-    const auto target = targets().find(name);
-    if (target == targets().end()) {
-        std::fprintf(stderr, "usage: zg_fuzz TARGET [options of the fuzzer] [directories]\ntargets:");
-        for (const auto& [known, function] : targets()) std::fprintf(stderr, " %s", known.c_str());
-        std::fprintf(stderr, "\n");
-        std::exit(2);
-    }
-    chosen = target->second;
-    if (inherited != nullptr) return 0;
-    setenv("ZG_FUZZ_TARGET", name.c_str(), 1);
-    for (int i = 1; i + 1 < *argc; ++i) (*argv)[i] = (*argv)[i + 1];
-    --*argc;
-    (*argv)[*argc] = nullptr;
-    return 0;
-}
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    return chosen(data, size);
-}
+FuzzTarget::FuzzTarget(const char* name, FuzzFunction function) { known()[name] = function; }

@@ -2,9 +2,14 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <map>
+#include <string>
 
 /// Runs a target on one input and returns 0; on a defect it ends the program.
 using FuzzFunction = int (*)(const std::uint8_t* data, std::size_t size);
+
+/// All targets by name.
+const std::map<std::string, FuzzFunction>& fuzzTargets();
 
 /// Registers a target by name before main starts.
 struct FuzzTarget {
