@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Prints the path of axe.min.js, the script of axe-core that searches web pages for barriers: for check_pages.py in tests/export.
 # The package comes once by npm, in this version and no other, and stays in the user's cache (ZG_AXE_CACHE names another directory);
-# the tree is not written to. No code of the package runs here.
+# the tree is not written to. Ends with 77 where the package cannot be fetched. No code of the package runs here.
 set -euo pipefail
 
 version=4.14.1
@@ -11,7 +11,8 @@ cache=${ZG_AXE_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/zephyrgraph-axe}/$version
 archive=$cache/axe-core-$version.tgz
 
 is_whole() { echo "$sum  $1" | sha512sum --check --status 2>/dev/null; }
-fail() { printf 'tools/axe.sh: %s\n' "$*" >&2; exit 1; }
+status=1
+fail() { printf 'tools/axe.sh: %s\n' "$*" >&2; exit $status; }
 
 if ! is_whole "$archive"; then
     command -v npm >/dev/null 2>&1 || fail "npm is missing, which fetches axe-core (tools/setup.sh --checks installs it)"
@@ -19,7 +20,7 @@ if ! is_whole "$archive"; then
     scratch=$(mktemp -d "$cache/fetched.XXXXXX")
     trap 'rm -rf "$scratch"' EXIT
     (cd "$scratch" && npm_config_cache=$scratch/npm npm pack --silent --fetch-retries=1 "axe-core@$version" >/dev/null 2>&1) ||
-        fail "npm could not fetch axe-core $version; is there a network? A copy of the package may be put at $archive"
+        { status=77; fail "npm could not fetch axe-core $version; is there a network? A copy of the package may be put at $archive"; }
     is_whole "$scratch/axe-core-$version.tgz" || fail "what npm fetched is not axe-core $version as published: its sum differs"
     mv "$scratch/axe-core-$version.tgz" "$archive"
 fi
