@@ -25,6 +25,7 @@ cmake --build --preset test --target "$target"
 if [ "${1:-}" = --e2e ]; then exec python3 -B tests/e2e/walk.py build/test/bin "${2:-out/e2e}"; fi
 
 rm -rf build/test/Testing/cases
-QT_QPA_PLATFORM=offscreen ctest --test-dir "build/test/$folder" --output-on-failure -j "$(nproc)" "$@"
+# One more than there are cores: some tests wait for other programs.
+QT_QPA_PLATFORM=offscreen ctest --test-dir "build/test/$folder" --output-on-failure -j "$(($(nproc) + 1))" "$@"
 cases=$(cat build/test/Testing/cases/*.xml 2>/dev/null | sed -n 's/^<testsuites tests="\([0-9]*\)".*/\1/p' | paste -sd+ -)
 echo "The test programs among them ran $((${cases:-0})) cases."

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Runs the processor on a year of every kind of input and compares every cell of every rose with plain_roses.py.
+"""Runs the processor on a year of every kind of input (a quarter on other maps) and compares every cell of every rose with plain_roses.py.
 
 check_roses.py PROCESSOR WORK_DIRECTORY [CASE ...]
 """
@@ -15,6 +15,7 @@ from control_files import write_control
 
 SAMPLES = Path(__file__).resolve().parent.parent.parent / "data" / "samples"
 YEAR = [2004, 1, 1, 0, 0, 2005, 1, 1, 0, 0]
+QUARTER = [2004, 1, 1, 0, 0, 2004, 4, 1, 0, 0]  # for other maps of the same data
 
 
 def roses_of_frq(path):
@@ -216,26 +217,26 @@ def case_m3d_cells(d):
 
 def case_m3d_direct(d):
     """Degrees on the models' own sphere, the nearest cell, 10 m winds."""
-    make_inputs.m3d([d / "a.dat", d / "b.dat"])
+    make_inputs.m3d([d / "a.dat", d / "b.dat"], count=make_inputs.HOURS_OF_A_QUARTER)
     outputs = [(1, "near", "", -74.3, 40.4, 10), (2, "above", "", -74.49, 40.74, 50)]
     keys = {"METSIM": 2, "MPROF": 4, "MCELL": 0, "PMAP": "LL", "DATUM": "NWS-84"}
-    write_control(d / "c.inp", "m3d_cell.inp", ["a.dat", "b.dat"], outputs, YEAR, gridded=True, keys=keys)
+    write_control(d / "c.inp", "m3d_cell.inp", ["a.dat", "b.dat"], outputs, QUARTER, gridded=True, keys=keys)
 
 
 def case_m3d_cone(d):
     """Degrees of the usual datum on a conical grid of the models' sphere."""
-    make_inputs.m3d([d / "a.dat", d / "b.dat"], make_inputs.CONE)
+    make_inputs.m3d([d / "a.dat", d / "b.dat"], make_inputs.CONE, count=make_inputs.HOURS_OF_A_QUARTER)
     outputs = [(1, "one", "", -97.25, 39.7, 10), (2, "two", "", -96.8, 39.9, 60)]
     keys = {"METSIM": 1, "MPROF": 2, "MCELL": 0, "PMAP": "LL", "DATUM": "WGS-84"}
-    write_control(d / "c.inp", "m3d_cell.inp", ["a.dat", "b.dat"], outputs, YEAR, gridded=True, keys=keys)
+    write_control(d / "c.inp", "m3d_cell.inp", ["a.dat", "b.dat"], outputs, QUARTER, gridded=True, keys=keys)
 
 
 def case_m3d_mercator(d):
     """X and Y on the map of the data, whose true parallel a control file cannot state."""
-    make_inputs.m3d([d / "a.dat", d / "b.dat"], make_inputs.MERCATOR)
+    make_inputs.m3d([d / "a.dat", d / "b.dat"], make_inputs.MERCATOR, count=make_inputs.HOURS_OF_A_QUARTER)
     outputs = [(1, "centre", "", 630, 2010, 10), (2, "between", "", 607.5, 1995, 60)]
     keys = {"METSIM": 1, "MPROF": 3, "MCELL": 0, "PMAP": "EM", "RLAT0": "0.0N", "RLON0": "97.0W", "DATUM": "NWS-84"}
-    write_control(d / "c.inp", "m3d_cell.inp", ["a.dat", "b.dat"], outputs, YEAR, gridded=True, keys=keys)
+    write_control(d / "c.inp", "m3d_cell.inp", ["a.dat", "b.dat"], outputs, QUARTER, gridded=True, keys=keys)
 
 
 def case_ventos(d):
@@ -246,19 +247,19 @@ def case_ventos(d):
 
 
 def case_ventos_nearest(d):
-    make_inputs.ventos([d / "a.dat", d / "b.dat"])
+    make_inputs.ventos([d / "a.dat", d / "b.dat"], count=make_inputs.HOURS_OF_A_QUARTER)
     outputs = [(1, "centre", "", 503.9, 4503.9, 10), (2, "border", "", 507.99, 4505.99, 60)]
-    write_control(d / "c.inp", "ventos_ll.inp", ["a.dat", "b.dat"], outputs, YEAR, gridded=True,
+    write_control(d / "c.inp", "ventos_ll.inp", ["a.dat", "b.dat"], outputs, QUARTER, gridded=True,
                   keys={"METSIM": 2, "PMAP": "UTM", "IUTMZN": 18, "UTMHEM": "S", "DATUM": "NAR-C"})
 
 
 def case_ventos_cone(d):
     """Far east of the meridian of a conical grid, where grid north differs from true north."""
-    make_inputs.ventos([d / "a.dat", d / "b.dat"], make_inputs.LAMBERT)
+    make_inputs.ventos([d / "a.dat", d / "b.dat"], make_inputs.LAMBERT, count=make_inputs.HOURS_OF_A_QUARTER)
     outputs = [(1, "centre", "", 1718, 118, 10), (2, "between", "", 1727.5, 113, 35), (3, "low", "", 1740, 130, 2)]
     keys = {"METSIM": 1, "PMAP": "LCC", "DATUM": "NWS-84", "FEAST": 12.5, "FNORTH": -7.5, "RLAT0": "40.0N",
             "RLON0": "97.0W", "XLAT1": "30.0N", "XLAT2": "60.0N"}
-    write_control(d / "c.inp", "ventos_utm.inp", ["a.dat", "b.dat"], outputs, YEAR, gridded=True, keys=keys)
+    write_control(d / "c.inp", "ventos_utm.inp", ["a.dat", "b.dat"], outputs, QUARTER, gridded=True, keys=keys)
 
 
 def case_monitor_ten_minutes(d):

@@ -7,6 +7,7 @@ SPEEDS = [0.0, 0.0, 0.49, 0.499999, 0.5, 1.79, 1.8, 3.29, 3.3, 5.39, 5.4, 8.49, 
 DIRECTIONS = [0.0, 360.0, 11.24, 11.25, 33.74, 33.75, 101.25, 191.25, 348.74, 348.75, 359.99, 360.01, -0.5]
 FIRST = datetime(2003, 12, 30, 0)
 HOURS = 24 * 370  # across the leap day and past the end of 2004
+HOURS_OF_A_QUARTER = 24 * 95  # past the end of March
 
 
 class Winds:
@@ -31,9 +32,14 @@ class Winds:
         return self.random.random() < 0.01
 
 
-def hours():
+def hours(count=HOURS):
     """Begins of hours."""
-    return [FIRST + i * HOUR for i in range(HOURS)]
+    return [FIRST + i * HOUR for i in range(count)]
+
+
+def halves(count):
+    moments = hours(count)
+    return moments[:count // 2], moments[count // 2:]
 
 
 def ending(moment):
@@ -189,12 +195,11 @@ DEGREES = "LL 40.0 -97.0 30.0 60.0 -75.0 40.0 0.25 20 20 30"
 CONE = "LCC 40.0 -97.0 30.0 60.0 -120.0 -90.0 30.0 20 20 30"
 
 
-def m3d(paths, projection=DEGREES):
+def m3d(paths, projection=DEGREES, count=HOURS):
     """Two consecutive files."""
     winds = Winds(7, 9999.0, 9999.0)
-    half = hours()[:HOURS // 2], hours()[HOURS // 2:]
     cells = [(i, j) for j in range(2, 5) for i in range(3, 7)]
-    for path, moments in zip(paths, half):
+    for path, moments in zip(paths, halves(count)):
         lines = ["3D.DAT          2.1             Header", "1", "a comment", "1 1 1 1 0 1",
                  projection, "1 2 3",
                  "%s %d 4 3 2" % (moments[0].strftime("%Y%m%d%H"), len(moments)), "3 2 6 4 1 2 -75 -73 40 41", "0.99", "0.95"]
@@ -214,12 +219,11 @@ ZONE = "UTM NAR-C S 18 0 0 NONE NONE NONE NONE", "4 3 2 500.0 4500.0 2.0"
 LAMBERT = "LCC NWS-84 N NONE 12.5 -7.5 40.0 -97.0 30.0 60.0", "4 3 2 1700.0 100.0 12.0"
 
 
-def ventos(paths, grid=ZONE):
+def ventos(paths, grid=ZONE, count=HOURS):
     """Two consecutive files; some components give speeds exactly on class limits."""
     winds = Winds(8, 0, 0)
     pairs = [(0.0, 0.0), (0.3, 0.4), (-0.3, -0.4), (3.24, 4.32), (-1.08, 1.44), (0.0, -8.5), (10.8, 0.0), (99.0, 99.0)]
-    half = hours()[:HOURS // 2], hours()[HOURS // 2:]
-    for path, moments in zip(paths, half):
+    for path, moments in zip(paths, halves(count)):
         last = moments[-1] + HOUR
         stamp = lambda m: "%d %d %d %d 0" % (m.year, m.month, m.day, m.hour)
         lines = ["VENTOS.DAT      2.1             Header", "1", "a comment",
