@@ -47,7 +47,7 @@ endif()
 include(${CMAKE_CURRENT_LIST_DIR}/Precompiled.cmake)
 
 option(ZG_UNITY "Compile several sources of a library at once" ON)
-set(ZG_UNITY_SOURCES 8)
+set(ZG_UNITY_SOURCES 16 CACHE STRING "So many sources of a library, or all: 0")
 
 # zg_compile_together(TARGET KIND): for a fast build, sources of one library are compiled in groups, so names in their unnamed namespaces
 # must differ, and headers that nearly all of them include are precompiled.
@@ -56,10 +56,10 @@ function(zg_compile_together target kind)
     zg_precompile(${target} ${kind})
 endfunction()
 
-# zg_library(NAME [QT] [HOT] SOURCES a.cpp ... LINKS zg_base ...)   HOT: runs for every point or record
+# zg_library(NAME [QT] [SOURCES a.cpp ...] [HOT b.cpp ...] LINKS zg_base ...)   HOT: what runs for every point or record
 # Headers are included by their path from the project's root.
 function(zg_library name)
-    cmake_parse_arguments(ARG "QT;HOT" "" "SOURCES;LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "QT" "" "SOURCES;HOT;LINKS" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE zg_flags)
@@ -69,9 +69,15 @@ function(zg_library name)
     if(ARG_QT)
         set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)
         zg_compile_together(${name} zg_pch_qt)
-    elseif(ARG_HOT)
-        zg_compile_together(${name} zg_pch_hot)
     else()
         zg_compile_together(${name} zg_pch_plain)
+    endif()
+    if(ARG_HOT)
+        add_library(${name}_hot OBJECT ${ARG_HOT})
+        target_include_directories(${name}_hot PRIVATE ${PROJECT_SOURCE_DIR})
+        target_link_libraries(${name}_hot PRIVATE ${ARG_LINKS} zg_flags)
+        zg_compile_together(${name}_hot zg_pch_hot)
+        target_sources(${name} PRIVATE $<TARGET_OBJECTS:${name}_hot>)
+        set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
     endif()
 endfunction()

@@ -1,5 +1,5 @@
 # Fewer than in a library: tests are changed more often than they are built from scratch.
-set(ZG_UNITY_SOURCES 5)
+set(ZG_UNITY_SOURCES 10)
 
 # Under Wine this system's root is a drive.
 if(CMAKE_CROSSCOMPILING)

@@ -13,7 +13,6 @@ namespace zg {
 
 namespace {
 
-constexpr std::int32_t centred = 18;
 constexpr int styles = 6;
 constexpr int weights = 10;
 constexpr QSize linePicture(72, 14);
@@ -51,7 +50,7 @@ CurveSample::CurveSample() {
 
 void CurveSample::show(const Series& series, const MarkerPictures& pictures) {
     series_ = series;
-    series_.Marker.setAlignment(centred);
+    series_.Marker.setAlignment(Marker::centred);
     pictures_ = pictures;
     update();
 }

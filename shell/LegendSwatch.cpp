@@ -10,7 +10,6 @@ namespace zg {
 
 namespace {
 
-constexpr std::int32_t centred = 18;
 constexpr std::int32_t smallPicture = 15;
 constexpr double ghostOpacity = 0.35;
 
@@ -30,7 +29,7 @@ QPixmap legendSwatch(const Series& series, QSize size, double deviceScale) {
     image.fill(Qt::transparent);
     if (series.AllowMarker) {
         Marker marker = series.Marker;
-        marker.setAlignment(centred);
+        marker.setAlignment(Marker::centred);
         fitPicture(marker);
         MarkerPictures pictures;
         if (marker.UsePicture)

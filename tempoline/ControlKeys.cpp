@@ -23,11 +23,6 @@ constexpr std::array<std::string_view, 59> singleKeys = {
 constexpr std::array<std::string_view, 9> repeatedKeys = {"METINP", "AQINP",  "TSFID",    "TSFOUT", "LOCMET",
                                                           "MET",    "IDSEAS", "SEASNAME", "HR"};
 
-template <std::size_t N>
-bool isAmong(const std::array<std::string_view, N>& keys, std::string_view key) {
-    return std::find(keys.begin(), keys.end(), key) != keys.end();
-}
-
 std::string inQuotes(std::string_view text) { return "\"" + std::string(text.substr(0, 60)) + "\""; }
 
 }  // namespace

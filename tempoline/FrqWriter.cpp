@@ -7,7 +7,6 @@ namespace zg::tempoline {
 
 namespace {
 
-constexpr const char* lineEnd = "\r\n";
 
 std::string classLimits(const RoseRules& rules) {
     std::string text = rules.limitTexts[0];

@@ -14,10 +14,9 @@ namespace zg::tempoline {
 namespace {
 
 constexpr std::string_view kindLine = "WIND.TAB        1.0             Zephyrgraph counts of winds";
-constexpr const char* lineEnd = "\r\n";
 constexpr std::size_t labelWidth = 5;
 constexpr std::size_t countWidth = 12;
-constexpr std::int64_t mostSteps = std::int64_t{1} << 53;
+constexpr std::int64_t mostStepsCounted = std::int64_t{1} << 53;
 
 std::string limitsText(const RoseRules& rules) {
     std::string text;
@@ -32,7 +31,7 @@ std::string monthsText(const RoseRules& rules) {
     return text;
 }
 
-void appendRose(std::string& text, const RoseCounts& rose) {
+void appendCounts(std::string& text, const RoseCounts& rose) {
     text += lineEnd;
     text += "Rose: " + rose.key + lineEnd + "Name: " + oneLine(rose.title) + lineEnd;
     text += "Total: " + std::to_string(rose.total) + lineEnd + "Valid: " + std::to_string(rose.valid) +
@@ -52,9 +51,9 @@ void appendRose(std::string& text, const RoseCounts& rose) {
     }
 }
 
-class Reader {
+class TabReader {
  public:
-    Reader(std::string_view text, const std::string& file) : rest_(text), file_(file) {}
+    TabReader(std::string_view text, const std::string& file) : rest_(text), file_(file) {}
 
     RoseReport read() {
         if (line() != kindLine) throw failure("the first line is not that of a TAB file of version 1.0");
@@ -165,7 +164,7 @@ class Reader {
         line();
         rose.key = value("Rose");
         rose.title = value("Name");
-        rose.total = number(value("Total"), "Total", 0, mostSteps);
+        rose.total = number(value("Total"), "Total", 0, mostStepsCounted);
         rose.valid = number(value("Valid"), "Valid", 0, rose.total);
         rose.calm = number(value("Calm"), "Calm", 0, rose.valid);
         line();
@@ -182,8 +181,8 @@ class Reader {
             throw failure("a row of " + std::string(sectorLabels[sector]) + " with 7 counts is needed");
         std::int64_t sum = 0;
         for (std::size_t i = 0; i < classCount; ++i)
-            sum += rose.cells[sector][i] = number(fields[i + 1], "count", 0, mostSteps);
-        if (sum != number(fields[classCount + 1], "all", 0, mostSteps))
+            sum += rose.cells[sector][i] = number(fields[i + 1], "count", 0, mostStepsCounted);
+        if (sum != number(fields[classCount + 1], "all", 0, mostStepsCounted))
             throw failure("the counts of the row do not sum to its last");
         return sum;
     }
@@ -214,10 +213,10 @@ std::string tabText(const RoseReport& report) {
         entry("Run", periodText(run.begin) + " " + periodText(run.end) + " " + oneLine(run.what));
     entry("Roses", std::to_string(report.roses.size()));
     text += lineEnd;
-    for (const RoseCounts& rose : report.roses) appendRose(text, rose);
+    for (const RoseCounts& rose : report.roses) appendCounts(text, rose);
     return text;
 }
 
-RoseReport readTab(std::string_view text, const std::string& file) { return Reader(text, file).read(); }
+RoseReport readTab(std::string_view text, const std::string& file) { return TabReader(text, file).read(); }
 
 }  // namespace zg::tempoline

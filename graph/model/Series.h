@@ -26,7 +26,9 @@ struct MarkerFont {
 /// Marker style of a curve. Alignment is the sum of a horizontal flag (0 left, 1 right, 2 centre) and a
 /// vertical one (4 top, 8 bottom, 16 centre).
 struct Marker {
-    std::int32_t Alignment = 18;
+    static constexpr std::int32_t centred = 18;
+
+    std::int32_t Alignment = centred;
     std::int32_t AutoSize = -1;  ///< -1 is true
     Colour FillColor = rgb(0, 0, 255);
     MarkerFont Font;

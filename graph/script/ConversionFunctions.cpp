@@ -101,7 +101,7 @@ Value typeNameOf(HostContext& context, Arguments arguments) {
     return context.text(typeName(arguments[0].type()));
 }
 
-constexpr HostFunction functions[] = {
+constexpr HostFunction conversionTable[] = {
     {"cbool", 1, 1, cBool, plainBool},
     {"cbyte", 1, 1, cByte, plainByte},
     {"cdbl", 1, 1, cDbl, plainDbl},
@@ -121,6 +121,6 @@ constexpr HostFunction functions[] = {
 
 }  // namespace
 
-std::span<const HostFunction> conversionFunctions() { return functions; }
+std::span<const HostFunction> conversionFunctions() { return conversionTable; }
 
 }  // namespace zg::script

@@ -79,7 +79,7 @@ Value randomize(HostContext& context, Arguments arguments) {
     return {};
 }
 
-constexpr HostFunction functions[] = {
+constexpr HostFunction numericTable[] = {
     {"abs", 1, 1, keepingType<absolute>, absolute},
     {"atn", 1, 1, real<arcTangent>, arcTangent},
     {"cos", 1, 1, real<cosine>, cosine},
@@ -98,6 +98,6 @@ constexpr HostFunction functions[] = {
 
 }  // namespace
 
-std::span<const HostFunction> numericFunctions() { return functions; }
+std::span<const HostFunction> numericFunctions() { return numericTable; }
 
 }  // namespace zg::script

@@ -196,7 +196,7 @@ Value strComp(HostContext& context, Arguments arguments) {
     return {ValueType::Integer, signOf(first.compare(foldedText(arguments[1], ignoreCase)))};
 }
 
-constexpr HostFunction functions[] = {
+constexpr HostFunction textTable[] = {
     {"asc", 1, 1, asc},
     {"chr", 1, 1, chr},
     {"instr", 2, 4, inStr},
@@ -219,6 +219,6 @@ constexpr HostFunction functions[] = {
 
 }  // namespace
 
-std::span<const HostFunction> textFunctions() { return functions; }
+std::span<const HostFunction> textFunctions() { return textTable; }
 
 }  // namespace zg::script

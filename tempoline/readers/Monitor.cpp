@@ -17,11 +17,6 @@ constexpr double missingMark = -999;
 constexpr std::array<std::string_view, 4> directionNames = {"WDIR", "WD", "WIND_DIR", "WINDDIRECTION"};
 constexpr std::array<std::string_view, 5> speedNames = {"WSPD", "WSPEED", "WS", "WIND_SPEED", "WINDSPEED"};
 
-template <std::size_t N>
-bool isAmong(const std::array<std::string_view, N>& names, std::string_view name) {
-    return std::find(names.begin(), names.end(), name) != names.end();
-}
-
 /// Comma-separated records of several stations, stamped with the end of their averaging time, in the zone of
 /// the run.
 class Monitor : public InputReader {

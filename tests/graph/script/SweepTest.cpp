@@ -5,9 +5,9 @@
 
 namespace {
 
-class Sweep : public ::testing::TestWithParam<const char*> {};
+class SweptFormula : public ::testing::TestWithParam<const char*> {};
 
-TEST_P(Sweep, TheCompiledFormAgreesWithTheGeneralOne) {
+TEST_P(SweptFormula, TheCompiledFormAgreesWithTheGeneralOne) {
     zg::ScriptEngine engine;
     engine.AddObject("MathLib", zg::MathLibrary{});
     engine.AddCode("a = 2: b = 0.5: c = True");
@@ -36,7 +36,7 @@ TEST_P(Sweep, TheCompiledFormAgreesWithTheGeneralOne) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Formulas, Sweep,
+INSTANTIATE_TEST_SUITE_P(Formulas, SweptFormula,
                          ::testing::Values("4", "t", "sin(5*t)", "4*sin(2*t)", "t*5", "2*sin(3*t)+cos(t)^2",
                                            "exp(cos(t))-2*cos(4*t)+sin(t/12)^5", "1/t", "1/sin(t)", "log(t)",
                                            "sqr(t)", "sqr(abs(cos(2*t)))", "exp(t*200)", "1/exp(t*200)",
