@@ -7,7 +7,6 @@ namespace zg::tempoline {
 
 namespace {
 
-
 std::string classLimits(const RoseRules& rules) {
     std::string text = rules.limitTexts[0];
     for (const std::string& limit : rules.limitTexts) text += "," + limit;
