@@ -31,7 +31,7 @@ const char* remedyOf(const ControlFile& control) {
 }  // namespace
 
 std::string foreseenTrouble(const std::string& base, const std::string& programDirectory) {
-    if (hasBlank(base)) return blankInName(renameInput);
+    if (hasBlank(base)) return blankInName("rename the input or the station");
     if (!fileExists(programDirectory + pathSeparator + "tempoline.exe"))
         return "tempoline.exe is missing in " + programDirectory;
     return {};

@@ -77,6 +77,25 @@ class FrmCreateReport : public ::testing::Test {
     std::unique_ptr<frmCreateReport> form_;
 };
 
+TEST_F(FrmCreateReport, AnyNameIsTakenAsItIsTyped) {
+    for (const std::string& name : {std::string("my report"), std::string(" lead"), std::string(".."),
+                                    std::string("50% & <b>x"), std::string("a\"b'c!"), std::string("a,b;c:d"),
+                                    std::string("\xD0\x9C\xD0\xBE"), std::string(" ")}) {
+        set("txtSaveFilename", name);
+        calls_.clear();
+        create("optPPT");
+        ASSERT_FALSE(calls_.empty()) << name;
+        EXPECT_EQ(calls_.back(), "save " + at("") + name + ".ppt");
+        EXPECT_EQ(status(), "PowerPoint Report successfully created.") << name;
+        directory_.write(name + ".ppt", "");
+        host_.boxes.clear();
+        host_.boxAnswers = {BoxAnswer::No};
+        create("optPPT");
+        EXPECT_EQ(host_.boxes.at(0).text, "The file " + name + ".ppt already exists in " + at("") +
+                                              ". Would you like to overwrite it?");
+    }
+}
+
 TEST_F(FrmCreateReport, StartsInTheLastUsedDirectory) {
     EXPECT_EQ(form_->windowTitle(), "Create Report");
     EXPECT_EQ(child<QLineEdit>("txtBMPDirectory")->text().toStdString(), directory_.path() + "/");

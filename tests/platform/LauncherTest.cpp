@@ -102,7 +102,9 @@ TEST_F(Launcher, TellsOfAMissingProcessorACrashABlankAndASilentEnd) {
     start();
     EXPECT_EQ(outcome(), "tempoline.exe ended with status 0 and left no listing");
     start("my B");
-    EXPECT_EQ(outcome(), "a blank in the name: the processor cannot find its control file; rename the input");
+    EXPECT_EQ(
+        outcome(),
+        "a blank in the name: the processor cannot find its control file; rename the input or the station");
     EXPECT_TRUE(carryOut("my B").ends_with(outcome() + "\n"));
     processor("echo listing > B_tempoline.lst\n");
     std::filesystem::create_directory(out_ + "/finished.txt");

@@ -12,8 +12,9 @@ TEST(ForeseenTrouble, IsABlankInTheNameOrAMissingProcessor) {
     EXPECT_EQ(foreseenTrouble("B", directory.path()), "tempoline.exe is missing in " + directory.path());
     directory.write("tempoline.exe", "");
     EXPECT_EQ(foreseenTrouble("B", directory.path()), "");
-    EXPECT_EQ(foreseenTrouble("my B", directory.path()),
-              "a blank in the name: the processor cannot find its control file; rename the input");
+    EXPECT_EQ(
+        foreseenTrouble("my B", directory.path()),
+        "a blank in the name: the processor cannot find its control file; rename the input or the station");
     EXPECT_EQ(foreseenTrouble("my B", "/no/such/place"), foreseenTrouble("my B", directory.path()))
         << "even a processor that is there could not work";
 }
