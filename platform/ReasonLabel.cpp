@@ -1,6 +1,7 @@
 #include "platform/ReasonLabel.h"
 
 #include <QLayout>
+#include <limits>
 
 #include "platform/QtText.h"
 
@@ -23,8 +24,14 @@ void makeRoom(QWidget& window) {
 ReasonLabel::ReasonLabel(const char* name, QWidget* parent) : QLabel(parent) {
     setObjectName(QString::fromLatin1(name));
     setTextFormat(Qt::PlainText);
-    wrapWithin(*this);
+    setWordWrap(true);
     hide();
+}
+
+QSize ReasonLabel::minimumSizeHint() const {
+    constexpr int longestWord = 70;  // letters
+    return QLabel::minimumSizeHint().boundedTo(
+        {longestWord * fontMetrics().averageCharWidth(), std::numeric_limits<int>::max()});
 }
 
 void ReasonLabel::setReason(const std::string& text) {

@@ -12,6 +12,9 @@ class ReasonLabel : public QLabel {
  public:
     explicit ReasonLabel(const char* name, QWidget* parent = nullptr);
 
+    /// As wide as its longest word, but not so wide that a path could widen the window beyond the screen.
+    QSize minimumSizeHint() const override;
+
     /// The text wraps and is also the tool tip; "" hides the label.
     void setReason(const std::string& text);
 };

@@ -20,5 +20,15 @@ TEST(ReasonLabel, ItsTipKeepsTheLinesOfTheText) {
     EXPECT_EQ(label.toolTip(), QString());
 }
 
+TEST(ReasonLabel, ShowsTheNameOfAControlFileWholeButNeedsNoRoomForAnyPath) {
+    ReasonLabel label("lblReason");
+    const std::string name = "3DDAT_valley_model20231201-20231208_tempoline.inp";
+    label.setReason("ERROR: " + name + ":43: x");
+    EXPECT_GE(label.minimumSizeHint().width(),
+              label.fontMetrics().horizontalAdvance(QString::fromStdString(name)));
+    label.setReason("tempoline.exe is missing in " + std::string(300, 'w'));
+    EXPECT_LE(label.minimumSizeHint().width(), 70 * label.fontMetrics().averageCharWidth());
+}
+
 }  // namespace
 }  // namespace zg
