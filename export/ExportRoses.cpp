@@ -30,7 +30,7 @@ namespace zg {
 
 namespace {
 
-std::atomic<bool> stopped = false;
+std::atomic<bool> isStopped = false;
 
 /// Side of a rose in a report for print, whose pages are scaled to the paper.
 constexpr int reportSide = 600;
@@ -166,7 +166,8 @@ class Export {
         drawFound();
         queue_.finish();
         bar_.clear();
-        if (stopped) throw ExportFailure{"the run was stopped after " + std::to_string(drawn_) + " pictures"};
+        if (isStopped)
+            throw ExportFailure{"the run was stopped after " + std::to_string(drawn_) + " pictures"};
         return failed_ ? exportFailed : exportDone;
     }
 
@@ -186,7 +187,7 @@ class Export {
         }
     }
 
-    bool isOver() const { return stopped || ended_; }
+    bool isOver() const { return isStopped || ended_; }
 
     void loadAndDraw(const std::string& file) {
         auto tables = std::make_shared<ModPolarGraph>();
@@ -335,10 +336,10 @@ class Export {
 
 }  // namespace
 
-void stopExport() { stopped = true; }
+void stopExport() { isStopped = true; }
 
 int runExport(const ExportJob& job, std::ostream& out, std::ostream& errors) {
-    stopped = false;
+    isStopped = false;
     int status = exportDone;
     try {
         status = Export(job, out, errors).run();
