@@ -46,6 +46,7 @@ sources() {
                -o APT::Sandbox::User=)
     [ -e "$apt/fresh" ] || apt-get "${own[@]}" update -qq || return 1
     (cd "$cache/src" && apt-get "${own[@]}" source -qq "$package" >/dev/null) || return 1
+    rm "$apt/sources.list"
     found=$(find "$cache/src" -maxdepth 1 -type d -name "$package-*" | sort | tail -1)
     [ -n "$found" ] || { echo "tools/windows.sh: no source of $package" >&2; return 1; }
     # An update that reached nothing may end well too: what could be fetched by its lists proves them.

@@ -32,7 +32,7 @@ namespace zg {
 class CopyingProcessor : public ProcessStarter {
  public:
     void start(const std::string& program, WindowStyle) override {
-        directory_ = program.substr(0, program.rfind('/') + 1);
+        directory_ = program.substr(0, program.find_last_of("/\\") + 1);
         if (!isSlow) finish();
     }
     void finish() {
