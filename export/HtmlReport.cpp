@@ -29,9 +29,9 @@ figure svg{display:block;width:100%;height:auto;background:#fff}
 summary{cursor:pointer;color:var(--link)}
 summary:focus-visible,select:focus-visible,.scroll:focus-visible{outline:3px solid var(--link);outline-offset:2px}
 .scroll{overflow-x:auto}
-table{border-collapse:collapse;font-size:.85rem;font-variant-numeric:tabular-nums}
+table{border-collapse:collapse;font-size:.8rem;font-variant-numeric:tabular-nums}
 caption{text-align:left;padding:.4rem 0}
-th,td{padding:.1rem .4rem;text-align:right;border-bottom:1px solid var(--line)}
+th,td{padding:.1rem .25rem;text-align:right;border-bottom:1px solid var(--line)}
 tbody th{text-align:left}
 @page{margin:12mm}
 @media print{:root{--ink:#000;--paper:#fff;--soft:#fff;--line:#666;--link:#000}

@@ -86,6 +86,8 @@ PictureLook lookOf(const StyleRequest& request) {
     if (request.sameScale && !request.radius.empty() && request.radius != "auto")
         throw WrongStyle{"--same-scale: a radius of " + request.radius +
                          " percent is the same for all pictures as it is"};
+    if (request.besideTable && !request.panel.empty())
+        throw WrongStyle{"--beside-table: a page of several roses (--panel) has no room for tables"};
     const bool isUsual = request.radius.empty() && request.rings == 0;
     if (!look.scalesItself && !isUsual)
         look.scale = ringsTo(request.radius.empty() ? usualRings * percentPerUnit : radiusOf(request.radius),

@@ -98,6 +98,11 @@ TEST(StyleRequests, WithoutSenseAreTold) {
     EXPECT_EQ(wrongOf(request), "--same-scale: a radius of 30 percent is the same for all pictures as it is");
     request.radius = "auto";
     EXPECT_EQ(wrongOf(request), "");
+    request.besideTable = true;
+    EXPECT_EQ(wrongOf(request), "");
+    request.panel = "2x2";
+    EXPECT_EQ(wrongOf(request), "--beside-table: a page of several roses (--panel) has no room for tables");
+    request.besideTable = false;
     request.palette = "rainbow";
     EXPECT_EQ(wrongOf(request),
               "--palette: rainbow is neither a file nor one of factory, viridis, cividis, okabe-ito, greys");

@@ -59,6 +59,29 @@ TEST_F(StyledRose, RingsOfOtherSharesScaleBarsAndLabels) {
     EXPECT_EQ(canvas.all<drawn::Circle>().size(), 5U);
 }
 
+TEST_F(StyledRose, LabelsOfNarrowRingsLeaveOthersOutAndLieOverNone) {
+    const auto percents = [&] {
+        std::vector<drawn::Text> found;
+        for (const drawn::Text& text : canvas.all<drawn::Text>())
+            if (text.text.back() == '%') found.push_back(text);
+        return found;
+    };
+    polar.Radius = 20;
+    redraw();
+    EXPECT_EQ(percents().size(), 21U) << "the usual look labels each ring; one is of the calms";
+    settings.Style.percentPerRing = 1;
+    redraw();
+    std::vector<drawn::Text> labels;
+    for (const drawn::Text& text : percents())
+        if (text.text.find(' ') == std::string::npos) labels.push_back(text);
+    ASSERT_GE(labels.size(), 5U);
+    ASSERT_LT(labels.size(), 15U);
+    EXPECT_EQ(labels.back().text, "20%") << "the outer ring always has one";
+    for (std::size_t i = 1; i + 1 < labels.size(); ++i)
+        EXPECT_LE(labels[i].at.x + canvas.measure(labels[i].text, labels[i].style).width, labels[i + 1].at.x)
+            << labels[i].text;
+}
+
 TEST_F(StyledRose, SectorsMayBeWiderUpToTheirNeighbours) {
     settings.Style.sectorWidth = 22.5;
     redraw();
