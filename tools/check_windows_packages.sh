@@ -87,7 +87,10 @@ owned() { grep -q Zephyrgraph.FRQ <<<"$(query 'HKCU\Software\Classes\.frq' /ve)"
 
 # The installer.
 wine reg add 'HKCU\Software\Classes\.frq' /ve /d Other.Program /f >/dev/null
-wine "$installer" /S || fail "the installer failed"
+# No program of another has to do with a first installation.
+cp "$drive/windows/system32/whoami.exe" "$drive/uninstall.exe"
+(cd "$drive" && wine "$installer" /S) || fail "the installer failed"
+rm "$drive/uninstall.exe" || fail "the installer removed a program that is not its own"
 place=$(dirname "$(find "$drive/users" -name zephyrgraph.exe -print -quit)")
 [ -f "$place/zephyrgraph.exe" ] || fail "nothing was installed"
 (cd "$place" && find . -type f) | sort >"$work/installed"
@@ -116,6 +119,11 @@ cp "$sample" "$place/samples/mine.frq"
 wine "$installer" /S || fail "the update failed"
 cmp "$work/Station_Data.csv" "$place/Station_Data.csv" || fail "the update lost the user's table"
 owned || fail "FRQ files do not belong to the program after the update"
+# As an installation leaves it that is broken off.
+mv "$place/Station_Data.csv" "$place/Station_Data.csv.kept"
+echo "Half" >"$place/Station_Data.csv"
+wine "$installer" /S || fail "the update after one that was broken off failed"
+cmp "$work/Station_Data.csv" "$place/Station_Data.csv" || fail "the update after one that was broken off lost the user's table"
 (cd "$place" && find . -type f) | sort | comm -13 "$work/installed" - >"$work/own"
 grep -qx ./Zephyrgraph.cfg "$work/own" || fail "the update lost the settings"
 { cat "$work/own"; echo ./Station_Data.csv; } | sort >"$work/kept"
