@@ -84,7 +84,9 @@ std::optional<FontRecord> nativeFont(const FontRecord& current, QWidget* window)
     pick.Flags = CF_SCREENFONTS | CF_INITTOLOGFONTSTRUCT | CF_NOVERTFONTS;
     if (ChooseFontW(&pick) == FALSE) return {};
     const double size = static_cast<double>(pick.iPointSize) / tenthsOfPoint;
-    return FontRecord{current.colour, typed(QString::fromWCharArray(font.lfFaceName)), toInt16(size),
+    // Without a choice in the list of faces, which lacks those of the program's own, the face stays.
+    const std::string name = typed(QString::fromWCharArray(font.lfFaceName));
+    return FontRecord{current.colour, name.empty() ? current.name : name, toInt16(size),
                       font.lfWeight > FW_MEDIUM, font.lfItalic != FALSE};
 }
 

@@ -29,6 +29,7 @@ class Desk:
         self.env.pop("QT_QPA_PLATFORM", None)
         self.env.pop("WAYLAND_DISPLAY", None)
         self.helpers = list  # numbers of more processes that work for the program
+        self.pause = 0.03  # seconds between keys
         self.idle = 0  # what all of them use between two looks although there is nothing to do
         self.start(["openbox"])
         self.count = 0
@@ -116,7 +117,7 @@ class Desk:
         self.settle()
         for name in names:
             self.tool("xdotool", "key", "--delay", "30", name)
-            time.sleep(0.03)
+            time.sleep(self.pause)
 
     def type(self, text):
         self.settle()

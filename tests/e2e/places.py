@@ -39,6 +39,9 @@ class Debian:
         walk.desk.keys("Return")
         walk.desk.gone("Select Color")
 
+    def look_at_fonts(self, walk):
+        """The toolkit's dialog, which tests open without a display."""
+
     def show_text(self, walk):
         """The desktop decides which program shows texts; this one has none."""
 
@@ -73,6 +76,7 @@ class Wine:
     def start(self, desk, scratch, out):
         program = desk.start([str(TREE / "tools/wine.sh"), str(self.home / "zephyrgraph.exe")], cwd=out, env=self.env)
         desk.helpers = self.servers
+        desk.pause = 0.15  # on a busy machine it loses keys that come faster
         desk.idle = 2_000_000  # the server looks after itself now and then
         return program
 
@@ -107,6 +111,14 @@ class Wine:
         walk.desk.shot("colour")
         walk.desk.keys("Return")
         walk.desk.gone("Color")
+
+    def look_at_fonts(self, walk):
+        walk.desk.window("Edit Grid Fonts and Colors")
+        walk.desk.keys("alt+f")
+        number = walk.desk.window("Font")
+        walk.desk.shot("font", number)
+        walk.desk.keys("Escape")
+        walk.desk.gone("Font")
 
     def show_text(self, walk):
         walk.menu("v", 1)
