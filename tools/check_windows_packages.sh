@@ -20,8 +20,9 @@ fail() { echo "check_windows_packages: $*" >&2; exit 1; }
 if [ -z "${DISPLAY:-}" ]; then
     Xvfb -displayfd 3 -screen 0 1280x1024x24 3>"$work/display" 2>/dev/null &
     server=$!
-    for _ in $(seq 50); do [ -s "$work/display" ] && break; sleep 0.1; done
-    export DISPLAY=:$(cat "$work/display")
+    for _ in $(seq 600); do [ -s "$work/display" ] && break; sleep 0.1; done
+    DISPLAY=:$(cat "$work/display")
+    export DISPLAY
 fi
 finish() {
     WINEPREFIX=$ZG_WINE_PREFIX wineserver -k 2>/dev/null || true
@@ -58,7 +59,7 @@ programs() {
     # Still on show, with the file in its title and its rose, after some seconds.
     wine "$@" >/dev/null 2>"$work/start.log" &
     opener=$!
-    for _ in $(seq 60); do
+    for _ in $(seq 240); do
         title=$(xdotool search --onlyvisible --name 'Zephyrgraph - LOVETT_1988.frq' 2>/dev/null || true)
         [ -n "$title" ] && break
         sleep 0.5
@@ -130,7 +131,7 @@ grep -qx ./Zephyrgraph.cfg "$work/own" || fail "the update lost the settings"
 
 wine "$place/uninstall.exe" /S
 # The removal goes on in a copy of itself.
-for _ in $(seq 60); do [ -e "$place/uninstall.exe" ] || break; sleep 0.5; done
+for _ in $(seq 240); do [ -e "$place/uninstall.exe" ] || break; sleep 0.5; done
 sleep 1
 (cd "$place" && find . -type f) | sort >"$work/left"
 diff "$work/kept" "$work/left" >&2 || fail "after the removal other files than the user's are left"
