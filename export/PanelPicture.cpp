@@ -4,6 +4,7 @@
 #include <cmath>
 #include <map>
 #include <memory>
+#include <string_view>
 
 #include "base/Encoding.h"
 #include "base/Paths.h"
@@ -21,14 +22,16 @@ std::string measureOf(const RoseOfFile& rose) { return trim(rose.tables->FrqMeas
 std::string graphTitleOf(const RoseOfFile& rose) { return rose.tables->GraphTitle; }
 std::string fileNameOf(const RoseOfFile& rose) { return rose.source.substr(folderOf(rose.source).size()); }
 
-/// "Jan 1, 1988 to Jan 1, 1989" of "Jan 1, 1988 - 12:00:00 AM to Jan 1, 1989 - 12:00:00 AM (UTC-0500)".
+/// "Jan 1, 1988 to Jan 1, 1989" of "Jan 1, 1988 - 12:00:00 AM to Jan 1, 1989 - 12:00:00 AM (UTC-0500)" and of
+/// "Jan 1, 1988 - HR00 to Jan 1, 1989 - HR00".
 std::string datesOf(const RoseOfFile& rose) {
-    std::string text = rose.tables->FrqPeriodText;
-    for (std::size_t at = text.find(" - "); at != std::string::npos; at = text.find(" - ", at)) {
-        const std::size_t half = text.find('M', at);
-        text.erase(at, half == std::string::npos ? half : half + 1 - at);
-    }
-    return trim(text.substr(0, text.find('(')));
+    constexpr std::string_view between = " to ";
+    const auto dateOf = [](std::string_view end) { return end.substr(0, end.find(" - ")); };
+    const std::string_view text = rose.tables->FrqPeriodText;
+    const std::size_t middle = text.find(between);
+    std::string dates(dateOf(text.substr(0, middle)));
+    if (middle == std::string_view::npos) return dates;
+    return dates.append(between).append(dateOf(text.substr(middle + between.size())));
 }
 
 bool isCommon(const std::vector<RoseOfFile>& roses, RoseText text) {

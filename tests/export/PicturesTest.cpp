@@ -14,6 +14,7 @@
 #include "graph/render/Hatch.h"
 #include "platform/QtCanvas.h"
 #include "platform/QtText.h"
+#include "tests/support/FreqText.h"
 #include "tests/support/Pixels.h"
 #include "tests/support/TempDirectory.h"
 
@@ -168,6 +169,17 @@ TEST_F(Pictures, APanelNamesWhatItsFilesDifferIn) {
         EXPECT_EQ(run(), exportDone) << errors_.str();
         return bytes("panel_01.svg");
     };
+    const auto panelOfHours = [&](const std::vector<std::string>& periods) {
+        job_.inputs.clear();
+        for (std::size_t i = 0; i < periods.size(); ++i) {
+            freqtext::Lines lines = freqtext::file("2.0", 1);
+            lines.at(7) = periods[i];
+            job_.inputs.push_back(
+                directory_.write("hours" + std::to_string(i) + ".frq", freqtext::bytes(lines)));
+        }
+        EXPECT_EQ(run(), exportDone) << errors_.str();
+        return bytes("panel_01.svg");
+    };
     job_.format = "svg";
     job_.style.panel = "auto";
     job_.rose = "1";
@@ -177,6 +189,9 @@ TEST_F(Pictures, APanelNamesWhatItsFilesDifferIn) {
     EXPECT_EQ(count(years, ">Jan 1, 1989 to Jan 1, 1990<"), 1U);
     EXPECT_EQ(count(years, ">Lovett, New York - Hourly surface winds</text>"), 1U) << "above the page";
     EXPECT_EQ(count(years, ">Lovett, New York<"), 0U);
+    const std::string hours = panelOfHours({"2001 1 1 0 2001 3 31 23", "2002 1 1 0 2002 4 30 24"});
+    EXPECT_EQ(count(hours, ">Jan 1, 2001 to Mar 31, 2001<"), 1U) << "of the first version of the format";
+    EXPECT_EQ(count(hours, ">Jan 1, 2002 to May 1, 2002<"), 1U);
     const std::string heights = panelOf({{"50.0 m", "10.0 m"}, {"50.0 m", "50.0 m"}});
     EXPECT_EQ(count(heights, ">Height = 10.0 m<"), 1U);
     EXPECT_EQ(count(heights, "to Jan 1, 1989<"), 0U);
