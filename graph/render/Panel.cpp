@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "base/Encoding.h"
 #include "graph/render/Legend.h"
 #include "graph/render/PartCanvas.h"
 #include "graph/render/RedrawGraph.h"
@@ -19,24 +20,51 @@ constexpr double narrowPage = 600;  // below this, title and legend shrink with 
 constexpr double titleHeight = 30;
 constexpr double legendHeight = 62;
 constexpr double sideMargin = 4;  // between a title and its neighbour
-constexpr std::string_view dots = "...";
+constexpr std::string_view ellipsis = "...";
 
 TextStyle panelStyle(const FontRecord& font, bool bold) {
     return {font.name, static_cast<double>(font.size), bold, font.italic, paintedColour(font.colour)};
+}
+
+/// The length of the UTF-8 text's first whole letters, at most that many bytes.
+std::size_t wholeLetters(const std::string& text, std::size_t most) {
+    while (most > 0 && most < text.size() && (static_cast<unsigned char>(text[most]) & 0xC0U) == 0x80U)
+        --most;
+    return most;
+}
+
+/// The longest begin of the UTF-8 text that is no wider than the room with an ellipsis after it, at least one
+/// letter.
+std::string cutToFit(const Canvas& canvas, const std::string& text, const TextStyle& style, double room) {
+    std::size_t fits = 0;
+    for (std::size_t tooLong = text.size(); tooLong > fits + 1;) {
+        const std::size_t middle = fits + (tooLong - fits) / 2;
+        std::string begin = text.substr(0, wholeLetters(text, middle));
+        begin += ellipsis;
+        (canvas.measure(begin, style).width > room ? tooLong : fits) = middle;
+    }
+    std::size_t length = wholeLetters(text, fits);
+    for (std::size_t first = 1; length == 0; ++first)
+        if (wholeLetters(text, first) == first) length = first;
+    std::string fitting = text.substr(0, length);
+    return fitting += ellipsis;
 }
 
 /// A text that is too wide becomes smaller, by a third at most; one that is wider still loses its end.
 void writeCentred(Canvas& canvas, double y, const std::string& text, TextStyle style) {
     constexpr double smallest = 2.0 / 3;
     const double room = canvas.width() - 2 * sideMargin;
-    const double width = canvas.measure(text, style).width;
-    if (width > room) style.size *= std::max(smallest, room / width);
-    std::string fitting = text;
-    while (canvas.measure(fitting, style).width > room && fitting.size() > dots.size() + 1) {
-        fitting.resize(fitting.size() - dots.size() - 1);
-        fitting += dots;
+    std::string fitting = toUtf8(text);
+    double width = canvas.measure(fitting, style).width;
+    if (width > room) {
+        style.size *= std::max(smallest, room / width);
+        width = canvas.measure(fitting, style).width;
     }
-    canvas.setTextPosition({(canvas.width() - canvas.measure(fitting, style).width) / 2, y});
+    if (width > room && fitting.size() > ellipsis.size() + 1) {
+        fitting = cutToFit(canvas, fitting, style, room);
+        width = canvas.measure(fitting, style).width;
+    }
+    canvas.setTextPosition({(canvas.width() - width) / 2, y});
     canvas.text(fitting, style);
 }
 

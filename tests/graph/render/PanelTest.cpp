@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/Encoding.h"
 #include "graph/render/PartCanvas.h"
 #include "tests/graph/render/RoseTables.h"
 #include "tests/support/RecordingCanvas.h"
@@ -84,6 +85,50 @@ TEST(Panel, LongTitlesStayInTheirCells) {
         EXPECT_LE(text.at.x + widthOf(text), place.right) << text.text;
         EXPECT_GT(widthOf(text), (place.right - place.left) * 0.9) << text.text;
     }
+}
+
+/// Counts how often texts are measured.
+class CountingCanvas : public RecordingCanvas {
+ public:
+    using RecordingCanvas::RecordingCanvas;
+    TextSize measure(const std::string& text, const TextStyle& style) const override {
+        ++measures;
+        return RecordingCanvas::measure(text, style);
+    }
+    mutable int measures = 0;
+};
+
+TEST(Panel, VeryLongTitlesAreMeasuredAFewTimes) {
+    const PanelLayout layout = panelLayout(600, 1, 1, 2, true);
+    std::vector<PanelRose> roses = panelOf(1);
+    const auto measuresOf = [&](std::size_t length) {
+        roses[0].titles = {std::string(length, 'o')};
+        CountingCanvas canvas(600, 900);
+        drawPanel(canvas, layout, roses, "");
+        return canvas.measures;
+    };
+    EXPECT_LE(measuresOf(20'000) - measuresOf(1), 20);
+}
+
+TEST(Panel, TitlesAreCutBetweenLetters) {
+    const PanelLayout layout = panelLayout(600, 1, 1, 2, true);
+    std::vector<PanelRose> roses = panelOf(1);
+    const auto firstTitle = [&](const std::string& title) {
+        roses[0].titles = {title};
+        RecordingCanvas canvas(600, 900);
+        drawPanel(canvas, layout, roses, "");
+        for (const std::string& text : canvas.texts())
+            if (text.size() > 20 && text.find("...") == text.size() - 3) return text;
+        return std::string("none");
+    };
+    std::string umlauts;
+    while (umlauts.size() < 600) umlauts += "\xC3\xB6";
+    for (const std::string before : {"", "x"}) {
+        const std::string cut = firstTitle(before + umlauts);
+        EXPECT_TRUE(isUtf8(cut)) << cut;
+        EXPECT_EQ(cut, before + umlauts.substr(0, cut.size() - before.size() - 3) + "...");
+    }
+    EXPECT_EQ(firstTitle(std::string(300, '\xF6')), firstTitle(umlauts)) << "however the file has it";
 }
 
 TEST(Panel, DrawsNoMoreThanItHasCellsFor) {
