@@ -156,7 +156,7 @@ void addChunk(std::string& png, const char* name, std::string_view content) {
                        crc32(crc32(0, nullptr, 0), named, static_cast<uInt>(png.size() - begin))));
 }
 
-std::string head(const PixelPage& page, bool numbered) {
+std::string headerOf(const PixelPage& page, bool numbered) {
     std::string content;
     addNumber(content, static_cast<std::uint32_t>(page.width));
     addNumber(content, static_cast<std::uint32_t>(page.height));
@@ -166,14 +166,14 @@ std::string head(const PixelPage& page, bool numbered) {
     return content;
 }
 
-std::string dots(const PixelPage& page) {
+std::string physicalSize(const PixelPage& page) {
     std::string content;
     addNumber(content, page.dotsPerMetreX);
     addNumber(content, page.dotsPerMetreY);
     return content += '\x01';
 }
 
-std::string table(const std::vector<std::uint32_t>& colours) {
+std::string paletteOf(const std::vector<std::uint32_t>& colours) {
     std::string content;
     for (const std::uint32_t colour : colours)
         for (const unsigned shift : {16U, 8U, 0U}) content += static_cast<char>(colour >> shift & 0xFFU);
@@ -190,9 +190,9 @@ std::string pngOf(const PixelPage& page) {
     if (lines.size() == 0) return {};
     std::string png = "\x89PNG\r\n\x1A\n";
     png.reserve(lines.size() + 2048);
-    addChunk(png, "IHDR", head(page, numbered.has_value()));
-    addChunk(png, "pHYs", dots(page));
-    if (numbered) addChunk(png, "PLTE", table(colours.colours()));
+    addChunk(png, "IHDR", headerOf(page, numbered.has_value()));
+    addChunk(png, "pHYs", physicalSize(page));
+    if (numbered) addChunk(png, "PLTE", paletteOf(colours.colours()));
     addChunk(png, "IDAT", {lines.begin(), lines.size()});
     addChunk(png, "IEND", {});
     return png;
