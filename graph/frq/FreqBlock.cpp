@@ -76,6 +76,8 @@ std::string foundShares(std::string_view cells) {
         cells.remove_prefix(end + 1);
         ++count;
     }
+    // The last number needs no "%".
+    if (count < static_cast<std::size_t>(speedClasses) && isNumber(cells)) ++count;
     return freqNumber(count);
 }
 

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "base/Encoding.h"
 #include "base/Text.h"
 
 namespace zg {
@@ -35,11 +36,11 @@ void placeFreqEnd(RunTimeError& error, const LineReader& reader, std::string_vie
 }
 
 std::string freqQuote(std::string_view text) {
-    text = trimmed(text);
-    if (text.empty()) return "an empty line";
-    const bool isLong = text.size() > longestQuote;
+    const std::string words = toUtf8(trimmed(text));
+    if (words.empty()) return "an empty line";
+    const bool isLong = words.size() > longestQuote;
     std::string quote = "\"";
-    quote.append(text.substr(0, isLong ? cutAt(text, longestQuote) : text.size()));
+    quote.append(words, 0, isLong ? cutAt(words, longestQuote) : words.size());
     for (char& c : quote)
         if (static_cast<unsigned char>(c) < ' ') c = ' ';
     if (isLong) quote += "...";

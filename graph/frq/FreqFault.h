@@ -20,7 +20,8 @@ void placeFreqError(RunTimeError& error, const LineReader& reader, std::string_v
 void placeFreqEnd(RunTimeError& error, const LineReader& reader, std::string_view expected,
                   std::string_view found = "the end of the file");
 
-/// The text in double quotes, without the blanks around it and cut if it is long; "an empty line" for blanks.
+/// The text as UTF-8 in double quotes, without the blanks around it and cut if it is long; "an empty line"
+/// for blanks.
 std::string freqQuote(std::string_view text);
 
 /// The number as a word, from "none" to "twelve", and larger ones as digits.

@@ -13,8 +13,8 @@ namespace zg {
 namespace {
 
 constexpr std::int16_t fieldLines = 6;  // lines of a one-count header, up to and including the period line
-constexpr const char* commentLines = "comment lines";
-constexpr const char* headerLines = "header lines";
+constexpr const char* commentLines = "comment line";
+constexpr const char* headerLines = "header line";
 
 /// The sum in 16 bits; raises 6 if it does not fit.
 std::int16_t sum16(std::int16_t a, std::int16_t b) { return toInt16(static_cast<double>(a + b)); }
@@ -41,7 +41,9 @@ void skipFreqLines(LineReader& reader, std::int16_t count, const char* what) {
     try {
         for (; skipped < count; ++skipped) reader.readLine();
     } catch (RunTimeError& error) {
-        const std::string expected = std::to_string(count) + " " + what;
+        std::string expected = std::to_string(count);
+        expected.append(" ").append(what);
+        if (count != 1) expected += "s";
         placeFreqEnd(error, reader, expected, freqNumber(static_cast<std::size_t>(skipped)));
         throw;
     }

@@ -52,6 +52,8 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"2.2", 13, "", "13: a direction, a colon and six percentages, found an empty line"},
         Fault{"2.2", 14, "NNE: 1.00% 2.00% 3.00% 4.00% 5.00%", "14: six percentages, found five"},
         Fault{"2.2", 14, "NNE: 1.00% 2.00% 3.00% 4.00% 5.00% x", "14: six percentages, found five"},
+        Fault{"2.2", 14, "NNE: 5.4% 2.3% 0.5% 0.0% 5", "14: six percentages, found five"},
+        Fault{"2.2", 14, "NNE: 5.4% 2.3% 0.5% 0.0% ", "14: six percentages, found four"},
         Fault{"2.2", 36, "NNE: 1% : 3% 4% 5% 6%", "36: six percentages, found one"},
         Fault{"2.2", 28, "NNW: ", "28: six percentages, found none"},
         Fault{"2.2", 15, "NE: 1% 2% 3% four% 5% 6%", "15: six percentages, found \"four%\" among them"},
@@ -80,7 +82,7 @@ TEST_F(FreqFault, OfAFileThatEndsEarlySaysWhatIsMissing) {
     };
     EXPECT_EQ(placeAfter(0), "1: the version of the format, found the end of the file");
     EXPECT_EQ(placeAfter(1), "2: the number of comment lines, up to 32767, found the end of the file");
-    EXPECT_EQ(placeAfter(2), "3: 1 comment lines, found none");
+    EXPECT_EQ(placeAfter(2), "3: 1 comment line, found none");
     EXPECT_EQ(placeAfter(3), "4: the number of header lines, up to 32767, found the end of the file");
     EXPECT_EQ(placeAfter(8), "9: 5 header lines, found four");
     EXPECT_EQ(placeAfter(30), "31: the total, valid and calm periods, found the end of the file");
@@ -114,6 +116,8 @@ TEST(FreqQuote, IsOneShortLine) {
     std::string umlauts;
     while (umlauts.size() < 80) umlauts += "\xC3\xA4";
     EXPECT_EQ(freqQuote("x" + umlauts), "\"x" + umlauts.substr(0, 58) + "...\"") << "no half letter";
+    EXPECT_EQ(freqQuote("Z\xFCrich"), "\"Z\xC3\xBCrich\"") << "the name of the file is UTF-8 too";
+    EXPECT_EQ(freqQuote(std::string(61, '\xE4')), "\"" + umlauts.substr(0, 60) + "...\"");
 }
 
 TEST(FreqNumber, IsAWordUpToTwelve) {
