@@ -38,6 +38,10 @@ std::optional<FileState> stateOfName(const std::string& name);
 /// Whether both lead to the same existing file.
 bool isOneFile(const std::string& name, const std::string& other);
 
+/// Whether no file can have that name, without a directory, since it is longer than 255 bytes, on Windows
+/// 255 units of UTF-16.
+bool isTooLongName(std::string_view name);
+
 /// The names in a directory, in no order, without "." and ".."; none if it cannot be read.
 std::vector<std::string> namesIn(const std::string& directory);
 

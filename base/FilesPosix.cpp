@@ -17,6 +17,8 @@ namespace zg {
 
 namespace {
 
+constexpr std::size_t longestPart = 255;  // bytes
+
 /// The system would look up only the part of such a name before the NUL.
 bool holdsNul(const std::string& name) {
     if (name.find('\0') == std::string::npos) return false;
@@ -46,6 +48,8 @@ std::optional<FileState> stateOfName(const std::string& name) {
     if (holdsNul(name) || lstat(name.c_str(), &found) != 0) return {};
     return stateOf(found);
 }
+
+bool isTooLongName(std::string_view name) { return name.size() > longestPart; }
 
 std::vector<std::string> namesIn(const std::string& directory) {
     std::vector<std::string> names;

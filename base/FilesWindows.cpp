@@ -33,9 +33,10 @@ class Handle {
     HANDLE handle_;
 };
 
+constexpr std::size_t longestPart = 255;  // units
+
 /// Such a name is not passed to the system; errno says why.
 bool isHopeless(const std::string& name) {
-    constexpr std::size_t longestPart = 255;  // units
     if (name.find('\0') != std::string::npos) {
         errno = ENOENT;
         return true;
@@ -137,6 +138,8 @@ std::optional<FileState> stateOfFile(const std::string& name) { return stateBy(n
 std::optional<FileState> stateOfName(const std::string& name) {
     return stateBy(name, FILE_FLAG_OPEN_REPARSE_POINT);
 }
+
+bool isTooLongName(std::string_view name) { return wideUnits(name).size() > longestPart; }
 
 std::vector<std::string> namesIn(const std::string& directory) {
     std::vector<std::string> names;

@@ -13,7 +13,6 @@ namespace zg {
 namespace {
 
 constexpr std::size_t extensionLength = 4;
-constexpr std::size_t longestName = 255;  // bytes of a file's name
 constexpr const char* markerName = "finished.txt";
 
 /// The lines of the batch file as the shell reads them.
@@ -62,7 +61,7 @@ void needBatchNames(const RunPlan& plan) {
     };
     // A station's name may lead to another directory, or be of any length.
     if (!isPlainName(plan.controlName())) refuse("is no plain file name");
-    if (plan.controlName().size() > longestName) refuse("is too long for a file");
+    if (isTooLongName(plan.controlName())) refuse("is too long for a file");
 }
 
 void writeControlFile(const RunPlan& plan) { WriteControlFile(plan.directory, plan.control); }

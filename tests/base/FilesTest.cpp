@@ -163,6 +163,21 @@ TEST(Files, PlainNamesLeadNowhereElse) {
     EXPECT_TRUE(isPlainName("console"));
 }
 
+TEST(Files, NamesAreTooLongIfTheSystemTakesThemForNoFile) {
+    const TempDirectory directory;
+    const auto repeated = [](const char* letter, std::size_t count) {
+        std::string name;
+        for (std::size_t i = 0; i < count; ++i) name += letter;
+        return name;
+    };
+    for (const std::string& name :
+         {repeated("x", 255), repeated("x", 256), repeated("\xC3\xA4", 127), repeated("\xC3\xA4", 128),
+          repeated("\xC3\xA4", 255), repeated("\xC3\xA4", 256)})
+        EXPECT_EQ(isTooLongName(name), !makeFile(directory.file(name))) << name.size();
+    EXPECT_FALSE(isTooLongName(repeated("x", 255)));
+    EXPECT_TRUE(isTooLongName(repeated("x", 256)));
+}
+
 TEST(Files, NamesAreComparedAsTheSystemComparesThem) {
     const TempDirectory directory;
     directory.write("W\xC3\xBCrz.frq", "");
