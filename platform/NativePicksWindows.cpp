@@ -4,7 +4,9 @@
 #include <QWidget>
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include <commdlg.h>
 
