@@ -382,20 +382,5 @@ TEST_F(FrmProperties, ACancelledColourChangesNothing) {
     EXPECT_FALSE(canApply());
 }
 
-TEST_F(FrmProperties, TipsSayWhatTheDelayCanBeAndWhereTheMenuWithPlayIs) {
-    open();
-    showOptions();
-    EXPECT_TRUE(box("txtDelay").toolTip().contains(QLatin1String("at most 32,767")));
-    left("txtDelay", "32767");
-    click("cmdApply");
-    EXPECT_EQ(graph_.Delay, 32767) << "the largest that is promised";
-    const auto labels = form_->findChildren<QLabel*>();
-    const auto note = std::find_if(labels.begin(), labels.end(), [](const QLabel* label) {
-        return label->text().startsWith(QLatin1String("To turn on animation"));
-    });
-    ASSERT_NE(note, labels.end());
-    EXPECT_EQ((*note)->toolTip(), "A right click on the curve's row in the list opens the menu with Play");
-}
-
 }  // namespace
 }  // namespace zg
