@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <utility>
 
 #include "base/RunTimeError.h"
 #include "platform/PolarGraphWidget.h"
@@ -16,14 +17,11 @@ namespace {
 
 constexpr int printerError = 482;
 
-}  // namespace
-
-PicturePointer PolarGraphWidget::copyPage(const Rect& part) {
+PicturePointer partOf(QImage page, const Rect& part) {
     const QRect area(
         QPoint(static_cast<int>(part.left), static_cast<int>(part.top)),
         QSize(static_cast<int>(part.right - part.left), static_cast<int>(part.bottom - part.top)));
     if (area.isEmpty()) return nullptr;
-    QImage page = pageImage();
     if (page.devicePixelRatio() != 1) {
         // A screen of higher resolution has more pixels per unit than the picture.
         page = page.scaled(page.deviceIndependentSize().toSize(), Qt::IgnoreAspectRatio,
@@ -31,6 +29,20 @@ PicturePointer PolarGraphWidget::copyPage(const Rect& part) {
         page.setDevicePixelRatio(1);
     }
     return std::make_shared<QtPicture>(area == page.rect() ? page : page.copy(area));
+}
+
+}  // namespace
+
+PicturePointer PolarGraphWidget::copyPage(const Rect& part) { return partOf(pageImage(), part); }
+
+PicturePointer PolarGraphWidget::paintPage(double side, const Rect& part,
+                                           const std::function<void(Canvas&)>& paint) {
+    QImage page = makePageImage(static_cast<int>(side), static_cast<int>(side), devicePixelRatioF());
+    {
+        QtCanvas canvas(page, side, side);
+        paint(canvas);
+    }
+    return partOf(std::move(page), part);
 }
 
 void PolarGraphWidget::pictureToClipboard(const Picture& picture) {

@@ -68,6 +68,8 @@ class PolarGraphWidget : public QWidget, private ControlWindow {
     void propertyChanged() override {}
     void pointerChanged() override;
     PicturePointer copyPage(const Rect& part) override;
+    PicturePointer paintPage(double side, const Rect& part,
+                             const std::function<void(Canvas&)>& paint) override;
     void pictureToClipboard(const Picture& picture) override;
     void saveBitmap(const Picture& picture, const std::string& path) override;
     void print(double side, const std::function<void(Canvas&)>& paint) override;

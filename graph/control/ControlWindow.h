@@ -47,6 +47,10 @@ class ControlWindow {
     /// an empty part.
     virtual PicturePointer copyPage(const Rect& part) = 0;
 
+    /// The same of a page of that many scale units a side that is not shown, but painted by the function.
+    virtual PicturePointer paintPage(double side, const Rect& part,
+                                     const std::function<void(Canvas&)>& paint) = 0;
+
     /// Replaces the contents of the clipboard by the picture.
     virtual void pictureToClipboard(const Picture& picture) = 0;
 

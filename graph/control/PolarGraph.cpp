@@ -113,10 +113,12 @@ void PolarGraph::StopAni(bool value) {
 }
 
 void PolarGraph::ClearGraph() {
-    if (window_.restorePicture())
+    if (window_.restorePicture()) {
         record_.restore();
-    else
+    } else {
+        configured_.reset();
         page().clear(settings_.BackColor);
+    }
     window_.pagePainted();
 }
 
@@ -134,6 +136,7 @@ void PolarGraph::ShowAbout() { window_.showAbout("About"); }
 void PolarGraph::RedrawGraph(std::int16_t mode) {
     if (!own_.AutoUpdate || suspended_) return;
     try {
+        paintConfigured();
         RecordedCanvas canvas = page();
         redrawFrame(settings_, polar_, tables_, canvas, geometry_);
     } catch (...) {
@@ -145,6 +148,21 @@ void PolarGraph::RedrawGraph(std::int16_t mode) {
     if (after.curves && !isPutOff()) drawAll(CurveSweep::AtOnce);
     if (after.rulers) window_.rulersChanged();
     raiseFailure();
+}
+
+/// The page is painted at once again, smaller.
+void PolarGraph::paintConfigured() {
+    constexpr std::int16_t fullZoom = 100;
+    configured_.reset();
+    if (!settings_.Style.shrinkTexts || settings_.Zoom >= fullZoom) return;
+    PlotSettings settings = settings_;
+    settings.Style.shrinkTexts = false;
+    RecordedCanvas canvas(window_.pageCanvas(), configured_.emplace());
+    try {
+        redrawFrame(settings, polar_, tables_, canvas, geometry_);
+    } catch (const RunTimeError&) {
+        configured_.reset();  // that page has the same error, and raises it
+    }
 }
 
 void PolarGraph::keepPicture() {

@@ -118,8 +118,9 @@ class PolarGraph {
     std::int16_t Zoom() const { return settings_.Zoom; }
     void Zoom(std::int16_t value);
 
-    /// Below a zoom of 100 percent the lines of legend and titles become smaller with the page, so that they
-    /// do not overlap. From the next redraw on.
+    /// Below a zoom of 100 percent the lines of legend and titles on the shown page become smaller with it,
+    /// so that they do not overlap. Copies, saved bitmaps and prints have the fonts as configured. From the
+    /// next redraw on.
     void shrinkTexts(bool value) { settings_.Style.shrinkTexts = value; }
 
     /// Puts the page in the middle of its work area and keeps it there when either changes its size. A page
@@ -239,6 +240,9 @@ class PolarGraph {
     Rect onPage(const ChildSurface& shape) const;
     PicturePointer FillBuffer(bool selectionOnly);
     void print(Canvas& canvas) const;
+    void paintConfigured();
+    bool showsOtherFonts() const { return configured_ && record_.isComplete(); }
+    void replayConfigured(Canvas& canvas) const;
     RecordedCanvas page() { return {window_.pageCanvas(), record_}; }
     void keepPicture();
     MarkerPictures markerPictures(const Series& series);
@@ -259,7 +263,8 @@ class PolarGraph {
     ScrollRange horizontalScroll_;
     ScrollRange verticalScroll_;
     PolarGeometry geometry_;
-    CanvasRecord record_;  ///< of the page's content
+    CanvasRecord record_;                     ///< of the page's content
+    std::optional<CanvasRecord> configured_;  ///< the page without curves, if its fonts are shown smaller
 
     PageTools tools_{{window_, surfaces_, page_, geometry_, own_},
                      [this](double x, double y) { movePageTo(x, y); }};

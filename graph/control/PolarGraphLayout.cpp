@@ -67,6 +67,7 @@ void PolarGraph::resizePage() {
     page_.page = pageSize(settings_.Zoom);
     window_.pageResized(page_.page, page_.page);
     record_.reset();
+    configured_.reset();
     arrangeChildren();
 }
 

@@ -27,6 +27,8 @@ PicturePointer PolarGraph::FillBuffer(bool selectionOnly) {
     const auto side = static_cast<double>(page_.page);
     Rect part{0, 0, side, side};
     if (selectionOnly) part = onPage(surfaces_.shpSelect);
+    if (showsOtherFonts())
+        return window_.paintPage(side, part, [this](Canvas& canvas) { replayConfigured(canvas); });
     return window_.copyPage(part);
 }
 
@@ -54,10 +56,17 @@ void PolarGraph::SentToPrinter() {
 /// The content of the page stroke by stroke, or as pixels if there are more strokes than anyone could
 /// distinguish.
 void PolarGraph::print(Canvas& canvas) const {
+    if (showsOtherFonts()) return replayConfigured(canvas);
     if (record_.isComplete()) return record_.replay(canvas);
     const auto side = static_cast<double>(page_.page);
     const Rect whole{0, 0, side, side};
     if (const PicturePointer picture = window_.copyPage(whole)) canvas.blit(picture, whole);
+}
+
+/// The content of the page with the fonts as configured.
+void PolarGraph::replayConfigured(Canvas& canvas) const {
+    if (configured_) configured_->replay(canvas);
+    record_.replayAfterKept(canvas);
 }
 
 MarkerPictures PolarGraph::markerPictures(const Series& series) {

@@ -69,6 +69,10 @@ void CanvasRecord::replay(Canvas& canvas) const {
     for (const drawn::Command& command : commands_) drawn::replay(command, canvas);
 }
 
+void CanvasRecord::replayAfterKept(Canvas& canvas) const {
+    for (std::size_t i = kept_; i < commands_.size(); ++i) drawn::replay(commands_[i], canvas);
+}
+
 void RecordedCanvas::clear(Colour colour) {
     canvas_.clear(colour);
     record_.add(drawn::Clear{colour});

@@ -107,6 +107,8 @@ class CanvasRecord {
     const std::vector<drawn::Command>& commands() const { return commands_; }
 
     void replay(Canvas& canvas) const;
+    /// Only what restore would remove.
+    void replayAfterKept(Canvas& canvas) const;
 
  private:
     std::vector<drawn::Command> commands_;

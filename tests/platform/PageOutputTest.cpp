@@ -81,8 +81,10 @@ TEST_F(PageOutput, APrintIsCentredKeepsItsProportionsAndIsSharp) {
     EXPECT_EQ(pdf.find("/Subtype /Image"), std::string::npos) << "drawn, not copied as a picture";
 }
 
-TEST_F(PageOutput, APrintShowsWhatThePageShowsWhateverHasBeenSetSince) {
-    const auto printed = [this](const char* name) {
+/// What a print writes, without its date.
+class PrintBytes : public PageOutput {
+ protected:
+    std::string bytesOfPrint(const char* name) {
         const std::string path = directory_.file(name);
         widget_->askPrinter = [&path](QPrinter& printer) {
             printer.setOutputFormat(QPrinter::PdfFormat);
@@ -94,13 +96,46 @@ TEST_F(PageOutput, APrintShowsWhatThePageShowsWhateverHasBeenSetSince) {
         const std::size_t date = pdf.find("/CreationDate");
         if (date != std::string::npos) pdf.erase(date, pdf.find('\n', date) - date);
         return pdf;
-    };
-    const std::string before = printed("a.pdf");
+    }
+};
+
+TEST_F(PrintBytes, ShowWhatThePageShowsWhateverHasBeenSetSince) {
+    const std::string before = bytesOfPrint("a.pdf");
     modPolarGraph.ClassesFromFile = false;
     modPolarGraph.GraphTitle = "not painted yet";
-    EXPECT_EQ(printed("b.pdf"), before);
+    EXPECT_EQ(bytesOfPrint("b.pdf"), before);
     plot().Refresh();
-    EXPECT_NE(printed("c.pdf"), before);
+    EXPECT_NE(bytesOfPrint("c.pdf"), before);
+}
+
+TEST_F(PrintBytes, AndPicturesOfASmallPageHaveTheFontsAsConfigured) {
+    plot().Zoom(50);
+    plot().Plot().Add("", "2", rgb(0, 0, 255), rgb(0, 0, 255));
+    const auto outputs = [this](const std::string& name, const QImage& shown) {
+        plot().EditCopyTo(directory_.file(name + ".bmp"));
+        plot().EditCopy();
+        const QImage copied = QGuiApplication::clipboard()->image();
+        EXPECT_EQ(copied.size(), shown.size());
+        return std::pair{directory_.read(name + ".bmp") + bytesOfPrint((name + ".pdf").c_str()), copied};
+    };
+    const auto outputsOf = [&](const std::string& name, bool shrinks) {
+        plot().shrinkTexts(shrinks);
+        plot().Refresh();
+        plot().DrawGraph();
+        return outputs(name, widget_->pageImage().copy());
+    };
+    const auto [configured, copied] = outputsOf("large", false);
+    const QImage large = widget_->pageImage().copy();
+    const auto [shrunk, copiedShrunk] = outputsOf("small", true);
+    const QImage small = widget_->pageImage().copy();
+    EXPECT_FALSE(samePicture(small, large)) << "the window has smaller texts";
+    EXPECT_TRUE(shrunk == configured);
+    EXPECT_TRUE(samePicture(copiedShrunk, copied));
+    EXPECT_TRUE(samePicture(copied, large));
+    plot().Plot().Item(1).Visible = false;
+    plot().DrawGraph();
+    EXPECT_FALSE(samePicture(widget_->pageImage(), small));
+    EXPECT_FALSE(outputs("without", small).first == configured) << "what the page shows, without the curve";
 }
 
 TEST_F(PageOutput, ACancelledPrinterDialogEndsSilently) {

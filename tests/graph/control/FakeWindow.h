@@ -65,6 +65,13 @@ class FakeWindow : public zg::ControlWindow {
         copied.push_back(part);
         return std::make_shared<CopiedPage>(part);
     }
+    zg::PicturePointer paintPage(double side, const zg::Rect& part,
+                                 const std::function<void(zg::Canvas&)>& paint) override {
+        painted.commands.clear();
+        painted.resize(side, side);
+        paint(painted);
+        return std::make_shared<CopiedPage>(part);
+    }
     void pictureToClipboard(const zg::Picture& picture) override {
         clipboard.emplace_back(picture.width(), picture.height());
     }
@@ -85,6 +92,7 @@ class FakeWindow : public zg::ControlWindow {
     std::vector<zg::Rect> copied;
     std::vector<std::pair<int, int>> clipboard;
     std::vector<std::pair<std::string, int>> saved;
+    RecordingCanvas painted{1, 1};  ///< the last page that was not shown
     RecordingCanvas printed{1, 1};
     std::vector<std::string> trackAngles;
     std::map<std::string, zg::PicturePointer> pictures;
