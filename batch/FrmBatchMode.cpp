@@ -60,7 +60,7 @@ frmBatchMode::frmBatchMode(Host& host, BatchHooks hooks, QWidget* parent)
         browseButton("Br&owse...", "cmdBrowseWorkDirectory", "Browse for a working directory");
     txtPercentValidLimit = enteredBox("txtPercentValidLimit", keyOfLimit);
     txtPercentValidLimit->setToolTip(
-        QStringLiteral("A whole number from 0 to 100; roses with just this percentage are exported too"));
+        QStringLiteral("A whole number from 0 to 100; roses with exactly this percentage are exported too"));
     cmdBeginBatchMode = namedButton("BEGIN", "cmdBeginBatchMode");
     cmdBeginBatchMode->setDefault(true);
     txtNotes = named(new QPlainTextEdit, "txtNotes");

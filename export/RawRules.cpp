@@ -68,7 +68,7 @@ std::string classesOf(const std::string& wish) {
     if (wish.empty()) return usualClasses;
     const std::vector<std::string> items = itemsAt(wish, ',');
     if (items.size() != classesOfRoses)
-        refuseWish("--classes: " + std::to_string(items.size()) + " speeds stand where 6 are needed");
+        refuseWish("--classes: found " + std::to_string(items.size()) + " speeds, 6 are needed");
     std::string text;
     double before = 0;
     for (std::size_t i = 0; i < items.size(); ++i) {
@@ -94,8 +94,8 @@ RawSeasons seasonsOf(const std::string& wish) {
     }
     const std::vector<std::string> months = itemsAt(text, ',');
     if (months.size() != monthsAYear)
-        refuseWish("--seasons: " + std::to_string(months.size()) +
-                   " seasons stand where 12 are needed, one a month from January on");
+        refuseWish("--seasons: found " + std::to_string(months.size()) +
+                   " seasons, 12 are needed, one a month from January on");
     RawSeasons seasons;
     for (const std::string& name : months) {
         if (name.empty() || name.find('!') != std::string::npos)

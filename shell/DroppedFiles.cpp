@@ -32,7 +32,7 @@ std::string batchNote(const std::string& directory, const std::vector<std::strin
         note += std::to_string(all);
         note += " FRQ files of this directory, not only the ";
         note += std::to_string(taken);
-        note += " that were dropped.\n";
+        note += taken == 1 ? " that was dropped.\n" : " that were dropped.\n";
     }
     for (const std::string& name : names)
         if (!isNamedFrq(name)) note += "Not exported, since its name does not end in .frq: " + name + "\n";

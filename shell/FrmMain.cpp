@@ -99,7 +99,8 @@ void frmMain::keyPressEvent(QKeyEvent* event) {
 
 void frmMain::PlotFrqFile(const std::string& path) {
     QString name = shown(FileNameOf(path));
-    name.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));  // which stands for a mark of changes
+    // The toolkit shows its mark of changes for a single one.
+    name.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
     setWindowTitle(QStringLiteral("Zephyrgraph - ") + name);
     settings.CurrentFrqPath = path;
     pgPolarGraph().OpenFreqFile(path);

@@ -111,8 +111,8 @@ void frmMain::openDropped(const std::vector<std::string>& paths) {
         form.exec();
     } else if (paths.size() > 1 && !commonGriddedKind(paths)) {
         host_.showBox(
-            {"Several files at once: FRQ files of one directory for batch mode, or the files of one "
-             "3D.DAT or VENTOS.DAT run. Please drop other files one by one.",
+            {"Several files can be dropped together if they are FRQ files of one directory (batch mode) or "
+             "the 3D.DAT or VENTOS.DAT files of one run. Please drop other files one by one.",
              "Open", BoxIcon::Information, BoxButtons::Ok});
     } else if (const auto kind = droppedKind(paths.front())) {
         processRawFiles(paths, *kind);

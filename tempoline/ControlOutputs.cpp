@@ -67,7 +67,7 @@ class OutputReader {
     }
 
     int needId(const Assignment& entry) const {
-        if (!id_) throw keys_.failure(entry, "a TSFID of its own must stand before it");
+        if (!id_) throw keys_.failure(entry, "a TSFID of its own must come before it");
         return *id_;
     }
 
@@ -102,7 +102,7 @@ class OutputReader {
         const std::vector<std::string> items = keys_.itemsOf(entry);
         const std::size_t first = items.size() == stationValues ? 1 : 0;
         if (first == 0 && !(gridded && items.size() == placeValues))
-            throw keys_.failure(entry, std::to_string(items.size()) + " values stand where " +
+            throw keys_.failure(entry, "found " + std::to_string(items.size()) + " values, " +
                                            std::to_string(gridded ? placeValues : stationValues) +
                                            " are needed");
         if (first == 1) output.station = items[0];

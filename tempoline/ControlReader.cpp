@@ -160,7 +160,7 @@ class Reader {
     void readClasses() {
         const std::vector<std::string> items = keys_.items("WSBIN", "0.5, 1.8, 3.3, 5.4, 8.5, 10.8");
         if (items.size() != classCount)
-            throw keys_.failure("WSBIN", std::to_string(items.size()) + " speeds stand where 6 are needed");
+            throw keys_.failure("WSBIN", "found " + std::to_string(items.size()) + " speeds, 6 are needed");
         std::array<double, classCount>& limits = control_.rules.classLimits;
         for (std::size_t i = 0; i < classCount; ++i) {
             limits[i] = keys_.number("WSBIN", items[i]);
@@ -187,7 +187,7 @@ class Reader {
                     throw keys_.failure(entry, std::to_string(id) + " has been given before");
                 rules.seasons.push_back({id, ""});
             } else if (entry.key == "SEASNAME") {
-                if (open == nullptr) throw keys_.failure(entry, "an IDSEAS must stand before it");
+                if (open == nullptr) throw keys_.failure(entry, "an IDSEAS must come before it");
                 rules.seasons.back().name = entry.value;
                 open = nullptr;
             }
@@ -203,7 +203,7 @@ class Reader {
     void readMonths(const std::set<int>& ids, bool defaults) {
         const std::vector<std::string> items = keys_.items("MSN", "1 1 2 2 2 3 3 3 4 4 4 1");
         if (items.size() != 12)
-            throw keys_.failure("MSN", std::to_string(items.size()) + " seasons stand where 12 are needed");
+            throw keys_.failure("MSN", "found " + std::to_string(items.size()) + " seasons, 12 are needed");
         std::set<int> unknown;
         for (std::size_t month = 0; month < 12; ++month) {
             const int id = keys_.wholeIn("MSN", items[month], 0, 2'000'000'000);

@@ -62,7 +62,7 @@ std::string_view LineSource::need(std::string_view what) {
     std::string_view line;
     if (!next(line))
         throw Failure(ExitStatus::Failed, path_ + ":" + std::to_string(lineNumber_ + 1) +
-                                              ": the file ends where " + std::string(what) + " should stand");
+                                              ": the file ends where " + std::string(what) + " should be");
     return line;
 }
 

@@ -35,7 +35,7 @@ void tellError(const std::string& message) { std::fprintf(stderr, "tempoline: %s
 void tellRemarks(const std::vector<std::string>& remarks) {
     for (std::size_t i = 0; i < remarks.size() && i < mostRemarks; ++i) tellError(remarks[i]);
     if (remarks.size() > mostRemarks)
-        tellError(std::to_string(remarks.size() - mostRemarks) + " more remarks stand in the listing");
+        tellError(std::to_string(remarks.size() - mostRemarks) + " more remarks are in the listing");
 }
 
 std::string readControlText(const std::string& path) {

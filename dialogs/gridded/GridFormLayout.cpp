@@ -155,12 +155,12 @@ QGroupBox* GridForm::makeStations() {
     grid->addWidget(namedButton("&Deselect All", "cmdDeselectAll"), 1, 1);
     grid->setRowStretch(2, 1);
     if (!variation_.offersCells) return stationsFrame;
-    auto* note =
-        named(new QLabel(QStringLiteral(
-                  "The question about grid cells was answered Yes: the first station selected is "
-                  "processed at the cell typed for location 1, the second at that for location 2, and "
-                  "so on. For the places of the stations, answer it No under By Location before.")),
-              "lblCellsOfStations");
+    auto* note = named(
+        new QLabel(QStringLiteral(
+            "The question about grid cells was answered Yes: the first station selected is "
+            "processed at the cell typed for location 1, the second at that for location 2, and "
+            "so on. To use the coordinates of the stations instead, go back to By Location and answer No.")),
+        "lblCellsOfStations");
     note->setWordWrap(true);
     note->hide();
     grid->addWidget(note, 3, 0, 1, 2);

@@ -181,7 +181,7 @@ class M3d : public InputReader {
             if (found != columns.end()) needed_.push_back({order, found->second, cell.first, cell.second});
         }
         if (needed_.size() != columns.size())
-            throw lines.failure("cells", "a cell of the extract is missing or there twice");
+            throw lines.failure("cells", "a cell of the extract is missing or occurs twice");
         columnOf_ = std::move(columns);
     }
 
@@ -230,7 +230,7 @@ class M3d : public InputReader {
             throw lines.failure("time", "the cells of an hour have different times");
         if (wholeField(lines, fields[1], "i") != cell.i || wholeField(lines, fields[2], "j") != cell.j)
             throw lines.failure("cell",
-                                std::to_string(cell.i) + " " + std::to_string(cell.j) + " should stand here");
+                                std::to_string(cell.i) + " " + std::to_string(cell.j) + " was expected here");
         Column& column = columns_[cell.column];
         column.tenMetres = {valueField(lines, fields[11], "ws10"), valueField(lines, fields[10], "wd10")};
         column.levels.clear();

@@ -121,7 +121,7 @@ class Up : public InputReader {
         std::size_t onLine = 0;
         for (int i = 0; i < count; ++i) {
             if (stripped(line).empty() || onLine == levelsALine) {
-                if (!stripped(line).empty()) throw lines.failure("levels", "more than four stand on a line");
+                if (!stripped(line).empty()) throw lines.failure("levels", "more than four are on a line");
                 line = lines.need("a level");
                 onLine = 0;
             }

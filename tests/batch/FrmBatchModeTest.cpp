@@ -141,7 +141,7 @@ TEST_F(FrmBatchMode, TheLimitThatCountsIsTheOneOnShow) {
     EXPECT_EQ(box("txtPercentValidLimit").text(), "1,000") << "refused as it is";
     EXPECT_TRUE(marked("txtPercentValidLimit"));
     EXPECT_EQ(box("txtPercentValidLimit").toolTip(),
-              "A whole number from 0 to 100; roses with just this percentage are exported too");
+              "A whole number from 0 to 100; roses with exactly this percentage are exported too");
 }
 
 TEST_F(FrmBatchMode, AnEmptyLimitIsFilledAndTheRunFinishes) {

@@ -203,7 +203,7 @@ TEST(RawExport, WishesThatTheDataContradictAreRefusedInTheDialogsWords) {
               "--classes: The Wind Speed Class 2 minimum range value must be less than that of Wind Speed "
               "Class 3.\n");
     EXPECT_EQ(refusal({"--seasons", "A,B"}),
-              "--seasons: 2 seasons stand where 12 are needed, one a month from January on\n");
+              "--seasons: found 2 seasons, 12 are needed, one a month from January on\n");
     EXPECT_EQ(refusal({"--height", "low"}), "--height: \"low\" is no height in metres\n");
     EXPECT_EQ(refusal({"--zone", "EST"}), "--zone: \"EST\" is no zone such as UTC-0500\n");
     EXPECT_EQ(refusal({"--begin", "yesterday"}),

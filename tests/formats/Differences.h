@@ -21,13 +21,13 @@ inline constexpr const char* periodIsShown =
     "the records";
 inline constexpr const char* zoneIsKept =
     "a dialog must keep the zone that it shows if the file's is not in its list; the processor needs one";
-inline constexpr const char* countAlone = "in these headers the number of comments must stand alone";
+inline constexpr const char* countAlone = "in these headers the number of comments must be alone on its line";
 inline constexpr const char* countBeforeHyphen =
-    "a dialog must take all that stands before the hyphen for the number";
+    "a dialog must take all that comes before the hyphen for the number";
 inline constexpr const char* stationLine =
     "a dialog must find a colon in the line of the station unless it is blank";
 inline constexpr const char* oldConversion = "a dialog must round a count, and take one below 1 for none";
-inline constexpr const char* timeOfDay = "a dialog must refuse hour 24 where it stands in a time of day";
+inline constexpr const char* timeOfDay = "a dialog must refuse hour 24 where it is part of a time of day";
 inline constexpr const char* secondsWithin = "a dialog must take seconds without their whole hours";
 inline constexpr const char* finalPoint =
     "a dialog must refuse a part of a date or time that is not digits alone";

@@ -223,7 +223,7 @@ TEST_F(OddNamesRoad, TypedForStationsAreAskedOfTheProcessor) {
     for (const std::string& name :
          {std::string("a b"), std::string(" 10011 "), std::string("a,b"), std::string(), std::string("!"),
           std::string("a/b"), std::string(".."), std::string("\xD0\x9C"), tooLongName}) {
-        const std::string commas = "_tempoline.inp:193: MET: 8 values stand where 7 are needed";
+        const std::string commas = "_tempoline.inp:193: MET: found 8 values, 7 are needed";
         openWith<frmOpenUPDATFile>("valley_up.dat");
         fill("txtStationID", name);
         EXPECT_EQ(outcome(),
@@ -260,7 +260,7 @@ TEST_F(OddNamesRoad, InTheDataAreShownWholeAndAskedOfTheProcessor) {
     for (const InData& odd :
          {same("a b"), same("hey!"), same("\xD0\x9C"), InData{"\"q\"", "\"q\"", "q", "", ""},
           InData{"a,b", "a,b", "a",
-                 "s_SURF_20231201-20240201_tempoline.inp:196: MET: 8 values stand where 7 are needed",
+                 "s_SURF_20231201-20240201_tempoline.inp:196: MET: found 8 values, 7 are needed",
                  "m.csv:2: wind direction: \"b\" is no number"},
           InData{"<b>x</b>", "<b>x</b>", "<b>x</b>",
                  "s_SURF_20231201-20240201_tempoline.inp:81: TSFOUT: "

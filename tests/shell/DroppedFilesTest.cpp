@@ -43,6 +43,15 @@ TEST_F(DroppedFiles, TheNoteTellsWhatElseIsExportedAndWhatIsNot) {
               "Not exported, since its name does not end in .frq: roses.txt\n");
 }
 
+TEST_F(DroppedFiles, TheNoteTellsOfOneFileAsOfOne) {
+    frq("b.frq");
+    const auto batch = droppedBatch({frq("a.frq"), frq("roses.txt")});
+    ASSERT_TRUE(batch);
+    EXPECT_EQ(batch->note,
+              "BEGIN exports all 2 FRQ files of this directory, not only the 1 that was dropped.\n"
+              "Not exported, since its name does not end in .frq: roses.txt\n");
+}
+
 TEST_F(DroppedFiles, FilesOfTwoDirectoriesOrWithoutAnFrqFileAreNoBatch) {
     const std::string other = directory_.file("other");
     std::filesystem::create_directory(other);

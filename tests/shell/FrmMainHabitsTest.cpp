@@ -226,8 +226,8 @@ TEST_F(FrmMainHabits, OtherSeveralFilesAreTold) {
     ASSERT_EQ(host_.boxes.size(), 1U);
     EXPECT_EQ(
         host_.boxes[0].text,
-        "Several files at once: FRQ files of one directory for batch mode, or the files of one 3D.DAT or "
-        "VENTOS.DAT run. Please drop other files one by one.");
+        "Several files can be dropped together if they are FRQ files of one directory (batch mode) or the "
+        "3D.DAT or VENTOS.DAT files of one run. Please drop other files one by one.");
     EXPECT_EQ(window_->windowTitle(), "Zephyrgraph");
 }
 

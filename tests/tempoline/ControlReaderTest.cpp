@@ -163,7 +163,7 @@ TEST(ControlReader, BadValuesAreNamed) {
     EXPECT_EQ(refused(with(text, "RLAT0", "91N")), "c.inp:289: RLAT0: \"91N\" is out of range");
     EXPECT_EQ(refused(with(text, "RLON0", "west")), "c.inp:290: RLON0: \"WEST\" is no number");
     EXPECT_EQ(refused(with(text, "METSIM", "3")), "c.inp:180: METSIM: 3 is not between 1 and 2");
-    EXPECT_EQ(refused(with(text, "MET", "1, 2")), "c.inp:196: MET: 2 values stand where 6 are needed");
+    EXPECT_EQ(refused(with(text, "MET", "1, 2")), "c.inp:196: MET: found 2 values, 6 are needed");
     EXPECT_EQ(refused(with(text, "MET", "1, 2, -1., -1., -1., -1.")),
               "c.inp:196: MET: a height for the wind is needed");
     EXPECT_EQ(refused(with(text, "NSECDT", "")), "c.inp:168: NSECDT: the value is missing");

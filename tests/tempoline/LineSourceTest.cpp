@@ -60,7 +60,7 @@ TEST_P(LineSourceTest, SkipsLinesOverTheEndsOfBlocks) {
             ASSERT_EQ(source.lineNumber(), number + step + 1);
         }
         EXPECT_EQ(failureOf([&] { source.skip(step + 1, "a line"); }),
-                  path + ":" + std::to_string(count + 1) + ": the file ends where a line should stand");
+                  path + ":" + std::to_string(count + 1) + ": the file ends where a line should be");
     }
 }
 
@@ -103,7 +103,7 @@ TEST_P(LineSourceTest, SaysWhatIsMissingAtTheEnd) {
     LineSource source(directory_.write("a", "1\n"), GetParam());
     EXPECT_EQ(source.need("the header"), "1");
     EXPECT_EQ(failureOf([&] { source.need("the period"); }),
-              directory_.file("a") + ":2: the file ends where the period should stand");
+              directory_.file("a") + ":2: the file ends where the period should be");
 }
 
 INSTANTIATE_TEST_SUITE_P(Threads, LineSourceTest, testing::Values(ReadAhead::No, ReadAhead::Yes),

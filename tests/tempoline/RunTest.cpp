@@ -57,7 +57,7 @@ TEST(Run, SaysWhatIsWrongInASurfFile) {
     EXPECT_EQ(last(head + "2004 367 0 0 2004 1 1 0\n"),
               "ERROR: in.dat:8: Julian day: 367 is not in the year 2004");
     EXPECT_EQ(last(head + "2004 1 0 0 2004 1 1 0\n1 2 3 4 5 6 7 8\n"),
-              "ERROR: in.dat:10: the file ends where a station's values should stand");
+              "ERROR: in.dat:10: the file ends where a station's values should be");
     EXPECT_EQ(last(head + "2004 1 0 0 2004 1 1 0\n1 2 3 4 5 6 7 8\n1 2 3\n"),
               "ERROR: in.dat:10: the line has 3 of at least 8 fields");
     EXPECT_EQ(last(head + "2004 1 0 0 2004 1 2 0\n1 2 3 4 5 6 7 8\n1 2 3 4 5 6 7 8\n"),
@@ -74,8 +74,7 @@ TEST(Run, SaysWhatIsWrongInASounding) {
               "ERROR: in.dat:9: height: the levels of the sounding do not rise");
     EXPECT_EQ(last(stamp + "1000,10,280,90,3 990,20,280,90,3 980,30,280,90,3\n"),
               "ERROR: in.dat:9: levels: more of them than the sounding has");
-    EXPECT_EQ(last(stamp + "1000,10,280,90,3\n"),
-              "ERROR: in.dat:10: the file ends where a level should stand");
+    EXPECT_EQ(last(stamp + "1000,10,280,90,3\n"), "ERROR: in.dat:10: the file ends where a level should be");
     EXPECT_EQ(last(stamp + "1000, 10., 280., 90, 3.,\n 990/ 200./ / 90/ 3.\n"), "RUN COMPLETED");
 }
 
@@ -122,7 +121,7 @@ TEST(Run, SaysWhatIsWrongInGriddedFiles) {
     EXPECT_EQ(ventos(good + "2004 1 1 0 0\n1 2\nx\n3 4\nx\n"), "RUN COMPLETED")
         << "the second row is not needed";
     EXPECT_EQ(ventos(good + "2004 1 1 0 0\n1 2\n"),
-              "ERROR: in.dat:9: the file ends where a row of u should stand");
+              "ERROR: in.dat:9: the file ends where a row of u should be");
     EXPECT_EQ(ventos(good + "2004 1 1 0 0\n1\n"), "ERROR: in.dat:8: a row of u: it has 1 of 2 values");
 }
 

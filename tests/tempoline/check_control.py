@@ -66,7 +66,7 @@ def case_bad_control(processor, directory):
             ("NSECDT", 0, "NSECDT: 0 is not between 1 and 86400"), ("NSECDT", "nan", "NSECDT: \"nan\" is no whole"),
             ("WSBIN", "0.5,1.8,1.7,5.4,8.5,10.8", "WSBIN: the speeds must not fall: \"1.7\""),
             ("WSBIN", "0.5,nan,1.8,5.4,8.5,10.8", "WSBIN: \"nan\" is no number"),
-            ("WSBIN", "0.5,1.8,3.3", "WSBIN: 3 speeds stand where 6"), ("MSN", "1,1,2", "MSN: 3 seasons stand where 12"),
+            ("WSBIN", "0.5,1.8,3.3", "WSBIN: found 3 speeds, 6"), ("MSN", "1,1,2", "MSN: found 3 seasons, 12"),
             ("TSFLST", "../x.lst", "TSFLST: \"../x.lst\" is no plain file name"),
             ("TSFOUT", "sub/out", "TSFOUT: \"sub/out\" is no plain file name"),
             ("NTSFOUT", 2, "NTSFOUT"), ("NMETINP", 2, "NMETINP: AERMSFC takes one file"),

@@ -41,7 +41,7 @@ def case_bad_data(processor, directory):
     needs_failure(processor, directory, r"a\.sfc: Is a directory")
     (directory / "a.sfc").rmdir()
     (directory / "a.sfc").write_bytes(b"")
-    needs_failure(processor, directory, r"a\.sfc:1: the file ends where the header should stand")
+    needs_failure(processor, directory, r"a\.sfc:1: the file ends where the header should be")
     # missing or repeated values are counted, not refused
     surface(directory, day[:5] + [day[4]] + [surface_line(2004, 1, 1, 6, "NaN", "nan")] + [surface_line(2004, 1, 1, 7, "*****")] + day[7:])
     assert run(processor, directory, "c.inp").returncode == 0

@@ -202,8 +202,8 @@ TEST_F(GridFields, ByStationAfterGridCellsSaysThatTheCellsCount) {
     EXPECT_EQ(
         note()->text(),
         "The question about grid cells was answered Yes: the first station selected is processed at the "
-        "cell typed for location 1, the second at that for location 2, and so on. For the places of the "
-        "stations, answer it No under By Location before.");
+        "cell typed for location 1, the second at that for location 2, and so on. To use the coordinates "
+        "of the stations instead, go back to By Location and answer No.");
     EXPECT_GE(note()->height(), note()->heightForWidth(note()->width())) << "no line is cut off";
     list("lstStations").item(0)->setSelected(true);
     click("cmdNext3");
