@@ -51,7 +51,8 @@ frmGuide::frmGuide(const std::string& path, QWidget* parent) : QDialog(parent) {
     layout->addLayout(buttons);
     txtGuide->setSource(QUrl::fromLocalFile(fileName(path)));
     txtGuide->setFocus();
-    resize(guideSize.boundedTo(screen()->availableSize() - QSize(40, 60)));
+    const QScreen* on = screen();
+    resize(on == nullptr ? guideSize : guideSize.boundedTo(on->availableSize() - QSize(40, 60)));
 }
 
 }  // namespace zg

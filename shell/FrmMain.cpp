@@ -45,7 +45,7 @@ frmMain::frmMain(Host& host) : host_(host) {
     pgPolarGraph().shrinkTexts(true);
     pgPolarGraph().keepPageCentred();
     makeHabits();
-    resize(startSizeOn(screen()->availableSize()));
+    if (const QScreen* on = screen()) resize(startSizeOn(on->availableSize()));
 }
 
 void frmMain::Form_Load() {

@@ -60,7 +60,7 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) return false;
     const auto* key = static_cast<const QKeyEvent*>(event);
     if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier) return false;
-    guarded(host_, [this] { showGuide(); })();
+    if (!key->isAutoRepeat()) guarded(host_, [this] { showGuide(); })();
     return true;
 }
 
@@ -74,7 +74,12 @@ void frmMain::showGuide() {
     }
     QWidget* dialog = QApplication::activeModalWidget();
     QWidget* parent = dialog == nullptr ? this : dialog;
-    if (guide_ && guide_->parentWidget() != parent) delete guide_.data();
+    if (guide_ && guide_->parentWidget() != parent) {
+        // It may be the receiver of the key that brought us here.
+        guide_->hide();
+        guide_->deleteLater();
+        guide_.clear();
+    }
     if (!guide_) {
         guide_ = new frmGuide(path, parent);
         guide_->setAttribute(Qt::WA_DeleteOnClose);

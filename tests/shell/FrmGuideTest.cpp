@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <QKeyEvent>
+#include <QPointer>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTimer>
@@ -61,6 +63,35 @@ TEST_F(GuideKey, WorksInADialogAndTheGuideCanBeReadThere) {
     });
     entry("mnuSetSeasons").trigger();
     EXPECT_TRUE(usable);
+}
+
+TEST_F(GuideKey, InADialogReplacesTheGuideThatIsOpenAlready) {
+    deliverGuide();
+    QTest::keyClick(child("picGraph"), Qt::Key_F1);
+    const QPointer<frmGuide> first = guide();
+    ASSERT_FALSE(first.isNull());
+    bool isReplaced = false;
+    QTimer::singleShot(0, window_.get(), [&] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        QKeyEvent key(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+        QCoreApplication::sendEvent(first, &key);
+        EXPECT_FALSE(first.isNull()) << "the receiver of a key lives until the key has been served";
+        const frmGuide* shown = guide();
+        isReplaced = shown != nullptr && shown != first && shown->parentWidget() == dialog;
+        qobject_cast<QDialog*>(dialog)->reject();
+    });
+    entry("mnuSetSeasons").trigger();
+    EXPECT_TRUE(isReplaced);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(first.isNull());
+}
+
+TEST_F(GuideKey, HeldDownOpensNothingMore) {
+    deliverGuide();
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier, {}, true);
+    QCoreApplication::sendEvent(child("picGraph"), &repeated);
+    EXPECT_EQ(guide(), nullptr);
+    EXPECT_TRUE(host_.boxes.empty());
 }
 
 TEST_F(GuideKey, WithoutTheGuideSaysWhereItWasExpected) {
