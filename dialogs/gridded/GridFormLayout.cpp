@@ -246,6 +246,7 @@ QGroupBox* GridForm::makeStep4() {
     auto* directory = enteredBox("txtOutputDirectory");
     auto* status = named(new QLabel, "lblStatus");
     status->setTextFormat(Qt::PlainText);
+    status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* grid = new QGridLayout(step);
     grid->addWidget(labelFor("&Output Directory:", directory), 0, 0);
     grid->addWidget(directory, 0, 1);

@@ -95,6 +95,8 @@ QLayout* PointDialog::makeButtons() {
     cmdExit = namedButton("Cancel", "cmdExit");
     lblStatus = named(new QLabel, "lblStatus");
     lblStatus->setTextFormat(Qt::PlainText);
+    // The name of a station may be longer than the screen is wide.
+    lblStatus->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     connect(cmdSetSeasons, &QPushButton::clicked, this, guarded(host_, [this] { window_.setSeasons(); }));
     connect(cmdSetWindSpeedClasses, &QPushButton::clicked, this,
             guarded(host_, [this] { window_.setWindSpeedClasses(); }));

@@ -306,6 +306,21 @@ TEST_F(OddNamesRoad, InTheDataAreShownWholeAndAskedOfTheProcessor) {
     }
 }
 
+TEST_F(OddNamesRoad, InTheStatusLeaveTheFormsAsWideAsTheyAre) {
+    const auto expectSameWidth = [this] {
+        const int width = form_->width();
+        child<QLabel>("lblStatus")
+            ->setText(QString::fromStdString("Error processing Station " + tooLongName));
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(child("lblStatus")->isVisible());
+        EXPECT_EQ(form_->width(), width) << form_->objectName().toStdString();
+    };
+    open<frmOpenSURFDATFile>();
+    expectSameWidth();
+    openModelGrid("1.5", "2.25", "x");
+    expectSameWidth();
+}
+
 TEST_F(OddNamesRoad, OfInputsNameTheRun) {
     Texts names = fewOddStations();
     names.emplace_back("a\nb");
