@@ -44,6 +44,9 @@ if(WIN32)
     set(CMAKE_AUTORCC_OPTIONS --no-zstd)
 endif()
 
+# The toolkit's meta-object code is made of a library's own sources, so it need not wait for the libraries that it links.
+set(CMAKE_AUTOGEN_ORIGIN_DEPENDS OFF)
+
 include(${CMAKE_CURRENT_LIST_DIR}/Precompiled.cmake)
 
 option(ZG_UNITY "Compile several sources of a library at once" ON)
