@@ -156,11 +156,10 @@ TEST_F(SeriesTest, WholeRecordsThatBeginWithinAStepAreCounted) {
 TEST_F(SeriesTest, DisorderIsAFailure) {
     Series series(control_);
     add(series, 60, 120, {2, 90});
-    EXPECT_EQ(
-        failureOf([&] {
-            add(series, 0, 60, {2, 90});
-        }),
-        path_ + ":1: time: records are out of order: 2004-02-29 00:00:00 follows 2004-02-29 01:00:00");
+    EXPECT_EQ(failureOf([&] {
+                  add(series, 0, 60, {2, 90});
+              }),
+              path_ + ":1: time: records are out of order: 2004-02-29 00:00:00 follows 2004-02-29 01:00:00");
     EXPECT_EQ(failureOf([&] {
                   add(series, 90, 150, {2, 90});
               }),
