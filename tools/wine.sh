@@ -18,4 +18,6 @@ if [ ! -e "$WINEPREFIX/system.reg" ]; then
     [ -e "$WINEPREFIX/system.reg" ] || { wine wineboot -i && smooth && wineserver -w; } >/dev/null 2>&1 9>&-
     exec 9>&-
 fi
+# Wine's server outlives a program by some seconds only, and a program that starts just as it ends fails.
+wineserver -p60 </dev/null >/dev/null 2>&1 || true
 exec wine "$@"
