@@ -96,7 +96,7 @@ def path_without_parallel(directory):
     """A directory with the programs that the fallback needs."""
     programs = directory / "programs"
     programs.mkdir()
-    for name in ("bash", "sh", "sed", "xargs", "nproc"):
+    for name in ("bash", "sh", "sed", "xargs", "nproc", "mv"):
         (programs / name).symlink_to(shutil.which(name))
     return programs
 
@@ -114,18 +114,31 @@ def check_parallel(processor, directory, path):
     assert done.returncode == 0, done.stderr
     assert roses_of_tab(directory / "joined.tab") == roses_of_tab(directory / "again.tab")
     # a failed run ends all others, and no further one starts
-    (directory / "joined.frq").unlink()
+    older = (directory / "joined.frq").read_bytes(), (directory / "joined.tab").read_bytes()
     last = ["last%d.inp" % number for number in range(40)]
     for control in last:
         text = (directory / "part0.inp").read_bytes().decode("latin-1")
         (directory / control).write_bytes(set_key(text, "TSFLST", control[:-4] + ".lst").encode("latin-1"))
     (directory / "broken.inp").write_bytes(b"broken\n\n! TSFOUT = broken !\n")
     done = parallel_script(directory, processor, "broken.inp", *last, path=path)
-    assert done.returncode != 0 and not (directory / "joined.frq").exists(), done.stderr
+    kept = "the results of an earlier run are kept as joined.previous.frq, joined.previous.tab"
+    assert done.returncode != 0 and done.stderr.splitlines()[-1] == kept, done.stderr
+    assert [name for name in names(directory) if name.startswith("joined")] == ["joined.previous.frq", "joined.previous.tab"]
+    assert older == ((directory / "joined.previous.frq").read_bytes(), (directory / "joined.previous.tab").read_bytes())
     assert len(list(directory.glob("last*.lst"))) < 20, names(directory)
     (directory / "broken.inp").write_bytes(b"broken")
     done = parallel_script(directory, processor, "part0.inp", "broken.inp", path=path)
     assert done.returncode == 1 and done.stderr.startswith("broken.inp: there is no TSFOUT"), done.stderr
+    done = parallel_script(directory, processor, path=path)
+    assert done.returncode == 2 and done.stderr.startswith("usage: "), done.stderr
+    # what a killed run left does not replace a whole result that is aside, and success removes it
+    (directory / "joined.tab").write_bytes(b"of a killed run")
+    done = parallel_script(directory, processor, "part0.inp", "broken.inp", path=path)
+    assert done.returncode == 1 and older[1] == (directory / "joined.previous.tab").read_bytes(), done.stderr
+    done = parallel_script(directory, processor, *controls, path=path)
+    assert done.returncode == 0, done.stderr
+    same_results(directory, "joined", "whole")
+    assert not [name for name in names(directory) if "previous" in name], names(directory)
 
 
 def case_parallel(processor, directory):
