@@ -11,6 +11,7 @@
 #include "base/Paths.h"
 #include "graph/frq/ModPolarGraph.h"
 #include "tests/support/FreqText.h"
+#include "tests/support/Places.h"
 #include "tests/support/TempDirectory.h"
 
 namespace zg {
@@ -164,8 +165,10 @@ TEST_F(ExportRoses, OneBrokenFileOfADirectoryIsToldAndTheOthersAreDrawn) {
     job_.rose = "1";
     EXPECT_EQ(run(), exportFailed);
     EXPECT_EQ(out_.str(), picture("b_01.png") + "\n");
-    EXPECT_NE(errors_.str().find("in/a.frq is not in the correct data format."), std::string::npos);
-    EXPECT_NE(errors_.str().find("in/c.frq:1: the version of the format, found the end of the file: "
+    EXPECT_NE(errors_.str().find(nativePath("in/a.frq") + " is not in the correct data format."),
+              std::string::npos);
+    EXPECT_NE(errors_.str().find(nativePath("in/c.frq") +
+                                 ":1: the version of the format, found the end of the file: "
                                  "Input past end of file (error 62)"),
               std::string::npos);
 }

@@ -49,6 +49,7 @@
 #include "shell/FrmZoom.h"
 #include "shell/StartSequence.h"
 #include "tests/headers/GridFiles.h"
+#include "tests/support/Places.h"
 
 namespace zg {
 
@@ -106,7 +107,7 @@ FormPointer ofAermet(FormWorld& world) {
 FormPointer mainWindow(FormWorld& world) {
     auto window = std::make_unique<frmMain>(world.host);
     window->Form_Load();
-    window->PlotFrqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
+    window->PlotFrqFile(inSources("data/samples/LOVETT_1988.frq"));
     return window;
 }
 
@@ -122,7 +123,7 @@ std::function<void(QWidget&)> withClickOn(const char* control) {
 std::function<void(QWidget&)> withRefusal(const char* field, const char* text, const char* button) {
     return [=](QWidget& form) {
         auto* file = form.findChild<QLineEdit*>(QStringLiteral("txtSingleFRQFile"));
-        if (file != nullptr) file->setText(QStringLiteral(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq"));
+        if (file != nullptr) file->setText(QString::fromStdString(inSources("data/samples/LOVETT_1988.frq")));
         form.findChild<QLineEdit*>(QLatin1String(field))->setText(QLatin1String(text));
         form.findChild<QAbstractButton*>(QLatin1String(button))->click();
         EXPECT_NE(form.findChild<QLabel*>(QStringLiteral("lblStatus"))->text(), QString());
@@ -168,7 +169,7 @@ FormPointer refusingBatchForm(FormWorld& world) {
 
 void runBatchOfSample(QWidget& form) {
     form.findChild<QLineEdit*>(QStringLiteral("txtSingleFRQFile"))
-        ->setText(QStringLiteral(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq"));
+        ->setText(QString::fromStdString(inSources("data/samples/LOVETT_1988.frq")));
     form.findChild<QAbstractButton*>(QStringLiteral("cmdBeginBatchMode"))->click();
     EXPECT_NE(form.findChild<QPlainTextEdit*>(QStringLiteral("txtNotes"))->toPlainText(), QString());
 }
@@ -185,7 +186,7 @@ FormPointer tableForm(FormWorld& world) {
 
 FormPointer directoryForm(FormWorld& world) {
     std::string start = world.chosenDirectory;
-    if (start.empty()) start = world.directory.path() + "/met data/Lovett";
+    if (start.empty()) start = world.directory.file("met data/Lovett");
     std::filesystem::create_directories(start);
     return std::make_unique<frmChangeDir>(world.host, world.chosenDirectory, start);
 }
@@ -263,7 +264,8 @@ FormPointer projectionForm(FormWorld& world) {
 
 FormPointer deepDirectoryForm(FormWorld& world) {
     world.chosenDirectory = world.directory.path();
-    for (int level = 0; level < 12; ++level) world.chosenDirectory += "/directory_within_directory";
+    for (int level = 0; level < 12; ++level)
+        world.chosenDirectory += nativePath("/directory_within_directory");
     return directoryForm(world);
 }
 
@@ -277,8 +279,8 @@ FormPointer longTableForm(FormWorld& world) {
 FormWorld::FormWorld()
     : plot((startProgramIn(directory), host), modPolarGraph, PropertyBag()), graph(curve()) {
     plot.resize(500, 500);
-    plot.graph().OpenFreqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
-    modPolarGraph.WorkDir = directory.path() + "/";
+    plot.graph().OpenFreqFile(inSources("data/samples/LOVETT_1988.frq"));
+    modPolarGraph.WorkDir = directory.path() + pathSeparator;
 }
 
 const std::vector<FormRow>& forms() {
@@ -296,7 +298,7 @@ const std::vector<FormRow>& forms() {
         {"frmBatchMode", "Dropped", batchForm,
          [](QWidget& form) {
              dynamic_cast<frmBatchMode&>(form).openDirectory(
-                 ZG_SOURCE_DIR "/data/samples",
+                 inSources("data/samples"),
                  "BEGIN exports all 12 FRQ files of this directory, not only the 2 that were dropped.\n");
          }},
         {"frmBatchMode", "Refused", batchForm,
@@ -313,8 +315,7 @@ const std::vector<FormRow>& forms() {
         {"frmExpr", "", ofHost<frmExpr>},
         {"frmExpr", "Add", ofHost<frmExpr>, withClickOn("cmdAdd")},
         {"frmGridFonts", "", ofPlot<frmGridFonts>},
-        {"frmGuide", "",
-         [](FormWorld&) { return std::make_unique<frmGuide>(ZG_SOURCE_DIR "/docs/guide.md"); }},
+        {"frmGuide", "", [](FormWorld&) { return std::make_unique<frmGuide>(inSources("docs/guide.md")); }},
         {"frmOpenAERMETPFLFile", "", ofAermet<InputKind::AermPfl>},
         {"frmOpenAERMETSFCFile", "", ofAermet<InputKind::AermSfc>},
         {"frmOpenAERMETSFCFile", "Reason", ofAermet<InputKind::AermSfc>, waitWithReason},

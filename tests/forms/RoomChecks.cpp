@@ -13,6 +13,7 @@
 #include <QTabBar>
 #include <QTreeView>
 
+#include "base/Paths.h"
 #include "tests/forms/Checks.h"
 
 namespace zg {
@@ -74,7 +75,7 @@ void checkBox(Findings& found, const QLineEdit& box) {
     const int margins = box.width() - box.contentsRect().width() + 8;
     needWidth(found, box, box.width(),
               margins + box.fontMetrics().horizontalAdvance(QStringLiteral("000000")));
-    const bool path = box.text().contains(QLatin1Char('/'));
+    const bool path = box.text().contains(QLatin1Char(pathSeparator));
     if (!path) needWidth(found, box, box.width(), margins + box.fontMetrics().horizontalAdvance(box.text()));
 }
 

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "base/Paths.h"
+#include "tests/support/Places.h"
 #include "tests/support/TempDirectory.h"
 
 namespace zg {
@@ -14,7 +15,7 @@ class DroppedFiles : public ::testing::Test {
  protected:
     std::string frq(const std::string& name) const { return directory_.write(name, "WIND.FRQ 2.0\r\n"); }
     std::string place() const { return directory_.path() + pathSeparator; }
-    static std::string sample(const char* name) { return std::string(ZG_SOURCE_DIR "/data/samples/") + name; }
+    static std::string sample(const char* name) { return inSources("data/samples/") + name; }
 
     TempDirectory directory_;
 };

@@ -13,6 +13,7 @@
 #include "base/Paths.h"
 #include "settings/CfgFile.h"
 #include "tests/shell/MainWindow.h"
+#include "tests/support/Places.h"
 
 namespace zg {
 namespace {
@@ -110,7 +111,7 @@ TEST_F(FrmMainCommands, TheOpenButtonRunsTheFileEntry) {
 
 TEST_F(FrmMainCommands, InBatchModeTheOpenCommandAsksNothing) {
     settings.BatchMode = true;
-    settings.BatchFRQFilename = ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq";
+    settings.BatchFRQFilename = inSources("data/samples/LOVETT_1988.frq");
     window_->mnuFileOption_Click(1);
     EXPECT_TRUE(host_.openPicks.empty());
     EXPECT_TRUE(modPolarGraph.FrqLoaded);
@@ -118,9 +119,9 @@ TEST_F(FrmMainCommands, InBatchModeTheOpenCommandAsksNothing) {
 }
 
 TEST_F(FrmMainCommands, InBatchModeTheSaveCommandAsksNothing) {
-    window_->PlotFrqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
+    window_->PlotFrqFile(inSources("data/samples/LOVETT_1988.frq"));
     settings.BatchMode = true;
-    settings.BatchDirectory = directory_.path() + "/";
+    settings.BatchDirectory = directory_.path() + pathSeparator;
     settings.BatchRootFilename = "R_";
     window_->mnuFileOption_Click(12);
     EXPECT_TRUE(host_.savePicks.empty());
@@ -257,15 +258,18 @@ TEST_F(FrmMainCommands, TheFrqViewDoesNothingWithoutAFile) {
     EXPECT_TRUE(host_.boxes.empty());
 }
 
-TEST_F(FrmMainCommands, AFileOfATwoLineNameIsShownButNeverHandedToTheViewer) {
-    const std::string path = directory_.file("roses\n\"touch\" PWNED.frq");
+/// A name that the shell would read as something else.
+TEST_F(FrmMainCommands, AFileOfAnEvilNameIsShownButNeverHandedToTheViewer) {
+    const std::string place = directory_.path() + pathSeparator;
+    const std::string path = place + (onWindows ? "50%PATH%.frq" : "roses\n\"touch\" PWNED.frq");
     std::filesystem::copy(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq", path);
     window_->PlotFrqFile(path);
     host_.boxAnswers = {BoxAnswer::Ok};
     choose("mnuViewFRQFile");
     ASSERT_EQ(host_.boxes.size(), 1U);
-    EXPECT_EQ(host_.boxes[0].text, "Run-time error '52':\n\nBad file name or number: \"" + directory_.path() +
-                                       "/roses<LF>\"touch\" PWNED.frq\" has a line end in it");
+    EXPECT_EQ(host_.boxes[0].text, "Run-time error '52':\n\nBad file name or number: \"" + place +
+                                       (onWindows ? "50%PATH%.frq\" has a % in it"
+                                                  : "roses<LF>\"touch\" PWNED.frq\" has a line end in it"));
     EXPECT_FALSE(std::filesystem::exists(directory_.file("open_file.bat")));
 }
 
@@ -276,7 +280,7 @@ TEST_F(FrmMainCommands, TheFrqViewWritesItsBatchFileWhereTheSettingsAre) {
                                  std::filesystem::perms::owner_all);
     const QByteArray path = qgetenv("PATH");
     qputenv("PATH", QByteArray::fromStdString(directory_.path()) + ':' + path);
-    window_->PlotFrqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
+    window_->PlotFrqFile(inSources("data/samples/LOVETT_1988.frq"));
     bool isThere = false;
     host_.onPump = [&] {
         isThere = isThere || std::filesystem::exists(directory_.file("home/open_file.bat"));

@@ -15,6 +15,7 @@
 #include "base/Lines.h"
 #include "platform/QtText.h"
 #include "tests/shell/MainWindow.h"
+#include "tests/support/Places.h"
 
 namespace zg {
 namespace {
@@ -424,7 +425,7 @@ TEST_F(FrmMainGraphs, ALoadListsWhatThePlotHolds) {
     plotCurve("2", "a=1");
     plotCurve("3", "a=2");
     graph(2).Visible = false;
-    host_.openAnswers.push_back(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
+    host_.openAnswers.push_back(inSources("data/samples/LOVETT_1988.frq"));
     window_->menuAction("mnuFileOption_1")->trigger();
     EXPECT_EQ(table().topLevelItemCount(), 2);
     EXPECT_EQ(equation().text(), "2");
@@ -437,7 +438,7 @@ TEST_F(FrmMainGraphs, ALoadListsWhatThePlotHolds) {
 TEST_F(FrmMainGraphs, ALoadWithoutCurvesDisablesBothButtons) {
     type(equation(), "7");
     EXPECT_TRUE(child("cmdPlot")->isEnabled());
-    host_.openAnswers.push_back(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
+    host_.openAnswers.push_back(inSources("data/samples/LOVETT_1988.frq"));
     window_->menuAction("mnuFileOption_1")->trigger();
     EXPECT_FALSE(child("cmdPlot")->isEnabled());
     EXPECT_FALSE(child("cmdReplace")->isEnabled());
@@ -468,7 +469,7 @@ TEST_F(FrmMainGraphs, ACommentIsShownAfterALoad) {
         box->setPlainText("  second ");
         QTest::mouseClick(dialog->findChild<QWidget*>("cmdOk"), Qt::LeftButton);
     });
-    window_->PlotFrqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
+    window_->PlotFrqFile(inSources("data/samples/LOVETT_1988.frq"));
     EXPECT_EQ(seen, "  first  ");
     EXPECT_EQ(plot().Comment(), "second");
 }
@@ -481,7 +482,7 @@ TEST_F(FrmMainGraphs, ACancelledCommentStays) {
         dialog->findChild<QPlainTextEdit*>("txtComment")->setPlainText("second");
         QTest::mouseClick(dialog->findChild<QWidget*>("cmdCancel"), Qt::LeftButton);
     });
-    window_->PlotFrqFile(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq");
+    window_->PlotFrqFile(inSources("data/samples/LOVETT_1988.frq"));
     EXPECT_EQ(plot().Comment(), "first");
 }
 

@@ -24,6 +24,7 @@
 #include "shell/RecentFiles.h"
 #include "shell/WindowPlace.h"
 #include "tests/shell/MainWindow.h"
+#include "tests/support/Places.h"
 
 namespace zg {
 namespace {
@@ -105,7 +106,7 @@ TEST_F(FrmMainHabits, ForDroppedRawDataTheirDialogOpensWithTheFile) {
             dialog->reject();
         });
         look.start(5);
-        const std::string path = std::string(ZG_SOURCE_DIR "/data/samples/") + row.sample;
+        const std::string path = inSources("data/samples/") + row.sample;
         EXPECT_TRUE(drop({path}));
         EXPECT_EQ(form.toStdString(), row.form);
         EXPECT_EQ(text.toStdString(), path);
@@ -140,7 +141,7 @@ TEST_F(FrmMainHabits, ForDroppedGriddedDataTheirWizardOpensWithTheFileInItsList)
         QTimer::singleShot(5000, &look, [] {
             if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) dialog->reject();
         });
-        const std::string path = std::string(ZG_SOURCE_DIR "/data/samples/") + row.sample;
+        const std::string path = inSources("data/samples/") + row.sample;
         EXPECT_TRUE(drop({path}));
         EXPECT_EQ(form.toStdString(), row.form);
         EXPECT_EQ(text.toStdString(), path);
@@ -222,7 +223,7 @@ TEST_F(FrmMainHabits, SeveralDroppedFilesOfAGridAreListedInTheirWizard) {
 
 TEST_F(FrmMainHabits, OtherSeveralFilesAreTold) {
     host_.boxAnswers = {BoxAnswer::Ok};
-    EXPECT_TRUE(drop({sample("one.frq"), ZG_SOURCE_DIR "/data/samples/valley_surf.dat"}));
+    EXPECT_TRUE(drop({sample("one.frq"), inSources("data/samples/valley_surf.dat")}));
     ASSERT_EQ(host_.boxes.size(), 1U);
     EXPECT_EQ(
         host_.boxes[0].text,

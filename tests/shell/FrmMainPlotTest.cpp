@@ -16,11 +16,12 @@
 #include "settings/CfgFile.h"
 #include "shell/Resources.h"
 #include "tests/shell/MainWindow.h"
+#include "tests/support/Places.h"
 
 namespace zg {
 namespace {
 
-const std::string lovett = ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq";
+const std::string lovett = inSources("data/samples/LOVETT_1988.frq");
 
 class FrmMainPlot : public MainWindow {
  protected:

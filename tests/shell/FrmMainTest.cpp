@@ -6,18 +6,20 @@
 #include <QWindow>
 #include <filesystem>
 
+#include "base/Files.h"
 #include "base/Lines.h"
 #include "base/Paths.h"
 #include "settings/Settings.h"
 #include "shell/StartSequence.h"
 #include "tests/support/FreshProgram.h"
 #include "tests/support/Pixels.h"
+#include "tests/support/Places.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
 namespace {
 
-const std::string sample = ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq";
+const std::string sample = inSources("data/samples/LOVETT_1988.frq");
 
 class FrmMainTest : public ::testing::Test {
  protected:
@@ -56,9 +58,9 @@ TEST_F(FrmMainTest, OpeningAFileNamesItAndShowsItsFirstRose) {
 
 TEST_F(FrmMainTest, TheNextPickerStartsWhereTheLastFileLay) {
     open(sample);
-    EXPECT_EQ(modPolarGraph.WorkDir, ZG_SOURCE_DIR "/data/samples/");
+    EXPECT_EQ(modPolarGraph.WorkDir, inSources("data/samples/"));
     open("");
-    EXPECT_EQ(host_.openPicks[1].directory, ZG_SOURCE_DIR "/data/samples/");
+    EXPECT_EQ(host_.openPicks[1].directory, inSources("data/samples/"));
 }
 
 TEST_F(FrmMainTest, ACancelledPickerChangesNothing) {
@@ -132,6 +134,7 @@ TEST_F(FrmMainTest, ARowThatLacksAPercentageIsToldWithItsLine) {
 
 TEST_F(FrmMainTest, TheTitleHasTheFilesNameAsItIs) {
     for (const char* name : {"a[*]b.frq", "[*][*].frq", "& <b>x.frq", "two  words .frq", "%1 %n.frq"}) {
+        if (!isPlainName(name)) continue;  // Windows has no such name
         const std::string path = directory_.file(name);
         std::filesystem::copy(sample, path);
         open(path);

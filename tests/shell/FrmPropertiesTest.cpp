@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "base/Paths.h"
+#include "tests/support/Places.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 
@@ -147,7 +148,7 @@ TEST_F(FrmProperties, EveryFieldReachesTheGraph) {
     EXPECT_TRUE(series.Marker.UsePicture);
     EXPECT_EQ(series.Marker.PictureWidth, 24);
     EXPECT_EQ(series.Marker.PictureHeight, 12);
-    EXPECT_EQ(series.Marker.PicturePath, "/pictures/one.bmp");
+    EXPECT_EQ(series.Marker.PicturePath, nativePath("/pictures/one.bmp"));
     EXPECT_EQ(graph_.StartingAngle, 10);
     EXPECT_EQ(graph_.EndingAngle, 200);
     EXPECT_EQ(graph_.Step, 2.5F);

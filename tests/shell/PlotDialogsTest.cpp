@@ -22,13 +22,14 @@
 #include "shell/StartSequence.h"
 #include "tests/support/FormDriver.h"
 #include "tests/support/FreshProgram.h"
+#include "tests/support/Places.h"
 #include "tests/support/Raises.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
 namespace {
 
-const std::string sample = ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq";
+const std::string sample = inSources("data/samples/LOVETT_1988.frq");
 
 std::string readBytes(const std::string& path) {
     std::ifstream file(path, std::ios::binary);

@@ -13,6 +13,7 @@
 #include "shell/FrmMain.h"
 #include "shell/StartSequence.h"
 #include "tests/support/FreshProgram.h"
+#include "tests/support/Places.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
@@ -84,7 +85,7 @@ TEST_F(ProgramStart, ExitAfterTheSplashEndsTheProgram) {
 }
 
 TEST_F(ProgramStart, AFileThatIsGivenIsOpenedInTheWindow) {
-    const std::string file = std::string(ZG_SOURCE_DIR) + "/data/samples/LOVETT_1988.frq";
+    const std::string file = inSources("data/samples/LOVETT_1988.frq");
     QString title;
     QTimer user;
     QObject::connect(&user, &QTimer::timeout, [&title] {

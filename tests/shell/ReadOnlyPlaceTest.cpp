@@ -8,11 +8,20 @@
 #include "settings/CfgFile.h"
 #include "settings/Settings.h"
 #include "shell/StartSequence.h"
+#include "tests/support/Places.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
 namespace {
+
+/// Places in which not even the superuser can make a file; elsewhere than on Linux they are files themselves.
+struct ClosedPlaces {
+    TempDirectory directory;
+    std::string one = onWindows ? directory.write("one", "") : "/proc";
+    std::string other = onWindows ? directory.write("other", "") : "/proc/self";
+    std::string missing = one + pathSeparator + "nowhere";
+};
 
 TEST(ReadOnlyPlace, IsTriedWithAFileThatIsRemovedAgain) {
     const TempDirectory directory;
@@ -20,7 +29,9 @@ TEST(ReadOnlyPlace, IsTriedWithAFileThatIsRemovedAgain) {
     EXPECT_TRUE(std::filesystem::is_empty(directory.path()));
     EXPECT_FALSE(canWriteIn(directory.file("no such directory")));
     EXPECT_FALSE(canWriteIn(directory.write("a file", "")));
-    EXPECT_FALSE(canWriteIn("/proc")) << "not even the superuser can";
+    const ClosedPlaces closed;
+    EXPECT_FALSE(canWriteIn(closed.one));
+    EXPECT_FALSE(canWriteIn(closed.missing));
 }
 
 TEST(ReadOnlyPlace, IsToldOnceForEachPlace) {
@@ -31,16 +42,17 @@ TEST(ReadOnlyPlace, IsToldOnceForEachPlace) {
     tellReadOnlyPlace(host, notes);
     EXPECT_TRUE(host.boxes.empty());
     EXPECT_FALSE(std::filesystem::exists(notes));
-    for (const char* place : {"/proc", "/proc", "/proc/self", "/proc", "/proc/self"}) {
+    const ClosedPlaces closed;
+    for (const std::string& place : {closed.one, closed.one, closed.other, closed.one, closed.other}) {
         applicationDirectory = place;
         host.boxAnswers = {BoxAnswer::Ok};
         tellReadOnlyPlace(host, notes);
         host.boxAnswers.clear();
     }
     ASSERT_EQ(host.boxes.size(), 2U);
-    EXPECT_NE(host.boxes[0].text.find("cannot be made in /proc."), std::string::npos);
-    EXPECT_NE(host.boxes[1].text.find("cannot be made in /proc/self."), std::string::npos);
-    EXPECT_EQ(directory.read("config/zephyrgraph/told-places"), "/proc\r\n/proc/self\r\n");
+    EXPECT_NE(host.boxes[0].text.find("cannot be made in " + closed.one + "."), std::string::npos);
+    EXPECT_NE(host.boxes[1].text.find("cannot be made in " + closed.other + "."), std::string::npos);
+    EXPECT_EQ(directory.read("config/zephyrgraph/told-places"), closed.one + "\r\n" + closed.other + "\r\n");
 }
 
 /// Leaves the process-wide directories as they were.
@@ -49,6 +61,7 @@ class SettingsHome : public ::testing::Test {
     ~SettingsHome() override { settingsDirectory.clear(); }
 
     TempDirectory directory_;
+    ClosedPlaces closed_;
 };
 
 TEST_F(SettingsHome, IsBesideTheProgramWhereThatCanBeWritten) {
@@ -59,7 +72,7 @@ TEST_F(SettingsHome, IsBesideTheProgramWhereThatCanBeWritten) {
 }
 
 TEST_F(SettingsHome, IsTheUsersWhereTheProgramsCannotBeWritten) {
-    applicationDirectory = "/proc";
+    applicationDirectory = closed_.one;
     chooseSettingsDirectory(directory_.file("config/Zephyrgraph"));
     EXPECT_EQ(inSettingsDirectory("expr.dat"), directory_.file("config/Zephyrgraph/expr.dat"));
     TestHost host;
@@ -72,7 +85,7 @@ TEST_F(SettingsHome, IsTheUsersWhereTheProgramsCannotBeWritten) {
 }
 
 TEST_F(SettingsHome, KeepsTheSettingsFromOneStartToTheNext) {
-    applicationDirectory = "/proc";
+    applicationDirectory = closed_.one;
     for (const char* radius : {"25%", "40%"}) {
         settings = Settings();
         chooseSettingsDirectory(directory_.file("config"));
@@ -85,17 +98,18 @@ TEST_F(SettingsHome, KeepsTheSettingsFromOneStartToTheNext) {
 }
 
 TEST_F(SettingsHome, ThatCannotBeWrittenEitherIsNone) {
-    applicationDirectory = "/proc";
-    chooseSettingsDirectory("/proc/nowhere");
+    applicationDirectory = closed_.one;
+    chooseSettingsDirectory(closed_.missing);
     EXPECT_EQ(settingsDirectory, "");
 }
 
 TEST(ReadOnlyPlace, WithoutAPlaceForTheNoteItIsToldAgain) {
     TestHost host;
-    applicationDirectory = "/proc";
+    const ClosedPlaces closed;
+    applicationDirectory = closed.one;
     for (int start = 0; start < 2; ++start) {
         host.boxAnswers = {BoxAnswer::Ok};
-        tellReadOnlyPlace(host, "/proc/nowhere");
+        tellReadOnlyPlace(host, closed.missing);
     }
     EXPECT_EQ(host.boxes.size(), 2U);
 }

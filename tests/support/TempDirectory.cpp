@@ -8,6 +8,7 @@
 #include "base/Files.h"
 #include "base/Lines.h"
 #include "base/Paths.h"
+#include "tests/support/Places.h"
 
 TempDirectory::TempDirectory() {
     static int count = 0;
@@ -23,7 +24,7 @@ TempDirectory::TempDirectory() {
 TempDirectory::~TempDirectory() { zg::removeTree(path_); }
 
 std::string TempDirectory::file(std::string_view name) const {
-    return path_ + zg::pathSeparator + std::string(name);
+    return path_ + zg::pathSeparator + nativePath(std::string(name));
 }
 
 std::string TempDirectory::write(std::string_view name, std::string_view bytes) const {

@@ -13,7 +13,7 @@ class TempDirectory {
 
     const std::string& path() const { return path_; }
 
-    /// Full path of a name in it.
+    /// Full path of a name in it, in which "/" is the system's own separator.
     std::string file(std::string_view name) const;
 
     /// Writes a file with exactly these bytes and returns its full path.
