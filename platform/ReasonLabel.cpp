@@ -35,10 +35,17 @@ QSize ReasonLabel::minimumSizeHint() const {
 }
 
 void ReasonLabel::setReason(const std::string& text) {
-    setText(shown(text));
+    setText(withBreaks(shown(text)));
     setPlainTip(*this, text);
     setVisible(!text.empty());
     if (isVisible()) makeRoom(*window());
+}
+
+QString withBreaks(const QString& text) {
+    if constexpr (pathSeparator != '\\') return text;
+    constexpr char16_t zeroWidthSpace = 0x200B;
+    const QLatin1Char separator(pathSeparator);
+    return QString(text).replace(separator, QString(separator) + QChar(zeroWidthSpace));
 }
 
 void wrapWithin(QLabel& label) {

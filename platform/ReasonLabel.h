@@ -19,6 +19,10 @@ class ReasonLabel : public QLabel {
     void setReason(const std::string& text);
 };
 
+/// The text with places where a line can end after each "\" that separates directories: the toolkit breaks
+/// lines after "/" only. To be shown, not to be read back.
+QString withBreaks(const QString& text);
+
 /// Wraps the text of a label. A word that is longer than the label, such as a path, does not widen the
 /// window.
 void wrapWithin(QLabel& label);

@@ -1,5 +1,8 @@
 #include "shell/FrmChangeDir.h"
 
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QStorageInfo>
 #include <QVBoxLayout>
 
@@ -9,6 +12,7 @@
 #include "platform/Errors.h"
 #include "platform/FormParts.h"
 #include "platform/QtText.h"
+#include "platform/ReasonLabel.h"
 
 namespace zg {
 
@@ -30,13 +34,14 @@ frmChangeDir::frmChangeDir(Host& host, std::string& directory, const std::string
     model_->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot | QDir::Drives);
     model_->setRootPath(QString());
     lblCurDir = named(new QLabel, "lblCurDir");
-    lblCurDir->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    letCopy();
     lblCurDir->setTextFormat(Qt::PlainText);
     lblCurDir->setWordWrap(true);  // a deep directory takes more lines, not a wider window
     Drive1 = named(new QComboBox, "Drive1");
     Drive1->setAccessibleName(QStringLiteral("Drive"));
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes())
-        if (volume.isValid() && volume.isReady()) Drive1->addItem(volume.rootPath());
+        if (volume.isValid() && volume.isReady())
+            Drive1->addItem(QDir::toNativeSeparators(volume.rootPath()));
     Dir1 = named(new QTreeView, "Dir1");
     Dir1->setAccessibleName(QStringLiteral("Directory"));
     Dir1->setModel(model_);
@@ -76,12 +81,26 @@ frmChangeDir::frmChangeDir(Host& host, std::string& directory, const std::string
     connect(cmdCancel, &QPushButton::clicked, this, &frmChangeDir::reject);
 }
 
+/// What is shown may have breaks that are no part of the path.
+void frmChangeDir::letCopy() {
+    if constexpr (pathSeparator == '/') return lblCurDir->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* copy = new QAction(QStringLiteral("&Copy"), lblCurDir);
+    connect(copy, &QAction::triggered, this, [this] { QGuiApplication::clipboard()->setText(choice_); });
+    lblCurDir->addAction(copy);
+    lblCurDir->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
 void frmChangeDir::goTo(const QString& path) {
     const QModelIndex index = model_->index(path);
     Dir1->setCurrentIndex(index);
     Dir1->expand(index);
     showCurrent();
-    lblCurDir->setText(QDir::toNativeSeparators(path));
+    choose(path);
+}
+
+void frmChangeDir::choose(const QString& path) {
+    choice_ = QDir::toNativeSeparators(path);
+    lblCurDir->setText(withBreaks(choice_));
 }
 
 /// In the middle, so that the directories below it are visible too.
@@ -91,7 +110,7 @@ void frmChangeDir::showCurrent() {
 
 /// The drive box starts at the drive of the directory, even if the desktop does not list it.
 void frmChangeDir::showDriveOf(const QString& path) {
-    const QString drive = QStorageInfo(path).rootPath();
+    const QString drive = QDir::toNativeSeparators(QStorageInfo(path).rootPath());
     if (drive.isEmpty()) return;
     if (Drive1->findText(drive) < 0) Drive1->addItem(drive);
     Drive1->setCurrentText(drive);
@@ -104,12 +123,12 @@ void frmChangeDir::Drive1_Change() {
 
 void frmChangeDir::Dir1_Change() {
     if (!Dir1->currentIndex().isValid()) return;  // if the directory has disappeared, the choice is unchanged
-    lblCurDir->setText(QDir::toNativeSeparators(model_->filePath(Dir1->currentIndex())));
+    choose(model_->filePath(Dir1->currentIndex()));
 }
 
 void frmChangeDir::cmdOK_Click() {
     try {
-        directory_ = withSeparator(filePath(lblCurDir->text()));
+        directory_ = withSeparator(filePath(choice_));
         accept();
     } catch (const RunTimeError& error) {
         host_.showBox({"Error: " + error.description, "", BoxIcon::None, BoxButtons::Ok});

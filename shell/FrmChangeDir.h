@@ -29,12 +29,15 @@ class frmChangeDir : public QDialog {
     void Dir1_Change();
     void cmdOK_Click();
     void goTo(const QString& path);
+    void choose(const QString& path);
+    void letCopy();
     void showCurrent();
     void showDriveOf(const QString& path);
 
     Host& host_;
     std::string& directory_;
     std::string start_;
+    QString choice_;
     QFileSystemModel* model_;
     QComboBox* Drive1;
     QTreeView* Dir1;

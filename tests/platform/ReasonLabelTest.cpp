@@ -4,6 +4,8 @@
 
 #include <QTextDocument>
 
+#include "tests/support/Places.h"
+
 namespace zg {
 namespace {
 
@@ -28,6 +30,17 @@ TEST(ReasonLabel, ShowsTheNameOfAControlFileWholeButNeedsNoRoomForAnyPath) {
               label.fontMetrics().horizontalAdvance(QString::fromStdString(name)));
     label.setReason("tempoline.exe is missing in " + std::string(300, 'w'));
     EXPECT_LE(label.minimumSizeHint().width(), 70 * label.fontMetrics().averageCharWidth());
+}
+
+TEST(ReasonLabel, ADeepDirectoryBreaksAtItsSeparators) {
+    ReasonLabel label("lblReason");
+    std::string path;
+    for (int level = 0; level < 12; ++level) path += nativePath("/directory_within_directory");
+    label.setReason("tempoline.exe is missing in " + path);
+    const int width = 60 * label.fontMetrics().averageCharWidth();
+    EXPECT_LE(label.minimumSizeHint().width(), width);
+    EXPECT_GE(label.heightForWidth(width), 4 * label.fontMetrics().height()) << "nothing is cut off";
+    EXPECT_TRUE(label.toolTip().contains(QString::fromStdString(path))) << "whole, without the breaks";
 }
 
 }  // namespace
