@@ -9,36 +9,48 @@ namespace zg {
 
 namespace {
 
-bool hasBlank(const std::string& text) { return text.find(' ') != std::string::npos; }
+/// What splits a name into several words of a command line, 0 if nothing does. For the copy of the listing
+/// the shell of Windows, identified by its separator, takes more signs than the blank.
+char splitterIn(const std::string& name, char separator) {
+    if (name.find(' ') != std::string::npos) return ' ';
+    const std::size_t at = separator == '\\' ? name.find_first_of(";,=") : std::string::npos;
+    return at == std::string::npos ? '\0' : name[at];
+}
 
-std::string blankInName(const char* remedy) {
-    return std::string("a blank in the name: the processor cannot find its control file; ") + remedy;
+std::string splitName(char splitter, const char* remedy) {
+    if (splitter == ' ')
+        return std::string("a blank in the name: the processor cannot find its control file; ") + remedy;
+    return std::string("a ") + splitter +
+           " in the name: the command shell cannot copy the processor's listing; " + remedy;
 }
 
 constexpr const char* renameInput = "rename the input";
 
 /// The name begins with that of the station or of the input, and may end with the height.
-const char* remedyOf(const ControlFile& control) {
+const char* remedyOf(const ControlFile& control, char splitter) {
     if (control.inputFiles.empty()) return renameInput;
+    const auto has = [splitter](const std::string& text) { return text.find(splitter) != std::string::npos; };
     const std::string input = fileBaseOf(control.inputFiles.front());
-    if (hasBlank(input) && control.base.find(input) != std::string::npos) return renameInput;
+    if (has(input) && control.base.find(input) != std::string::npos) return renameInput;
     for (const ControlOutput& output : control.outputs)
-        if (hasBlank(output.height) && control.base.ends_with("_" + output.height + "m"))
+        if (splitter == ' ' && has(output.height) && control.base.ends_with("_" + output.height + "m"))
             return "take the blank out of the height";
     return "rename the station in Station_Data.csv";
 }
 
 }  // namespace
 
-std::string foreseenTrouble(const std::string& base, const std::string& programDirectory) {
-    if (hasBlank(base)) return blankInName("rename the input or the station");
+std::string foreseenTrouble(const std::string& base, const std::string& programDirectory, char separator) {
+    if (const char splitter = splitterIn(base, separator))
+        return splitName(splitter, "rename the input or the station");
     if (!fileExists(programDirectory + pathSeparator + "tempoline.exe"))
         return "tempoline.exe is missing in " + programDirectory;
     return {};
 }
 
 std::string foreseenTrouble(const RunPlan& plan) {
-    if (hasBlank(plan.control.base)) return blankInName(remedyOf(plan.control));
+    if (const char splitter = splitterIn(plan.control.base, pathSeparator))
+        return splitName(splitter, remedyOf(plan.control, splitter));
     return foreseenTrouble(plan.control.base, plan.programDirectory);
 }
 

@@ -19,6 +19,19 @@ TEST(ForeseenTrouble, IsABlankInTheNameOrAMissingProcessor) {
         << "even a processor that is there could not work";
 }
 
+TEST(ForeseenTrouble, IsASignThatSplitsACommandOfTheShellOfWindows) {
+    const TempDirectory directory;
+    directory.write("tempoline.exe", "");
+    for (const std::string sign : {";", ",", "="}) {
+        EXPECT_EQ(foreseenTrouble("a" + sign + "b", directory.path(), '\\'),
+                  "a " + sign +
+                      " in the name: the command shell cannot copy the processor's listing; rename the input "
+                      "or the station");
+        EXPECT_EQ(foreseenTrouble("a" + sign + "b", directory.path(), '/'), "");
+    }
+    EXPECT_EQ(foreseenTrouble("a-b_(c)+[d]{e}'f'~#@$.g", directory.path(), '\\'), "");
+}
+
 TEST(ForeseenTrouble, SaysWhereTheBlankInTheNameComesFrom) {
     const auto remedyOf = [](const std::string& base, const std::string& input, const std::string& height) {
         ControlFile control;
