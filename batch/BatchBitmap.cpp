@@ -1,5 +1,6 @@
 #include "batch/BatchBitmap.h"
 
+#include "base/Encoding.h"
 #include "base/Files.h"
 #include "base/Paths.h"
 #include "graph/frq/ModPolarGraph.h"
@@ -7,8 +8,16 @@
 
 namespace zg {
 
+namespace {
+
+constexpr bool onWindows = pathSeparator == '\\';
+
+/// Windows has no names of bytes: what is not UTF-8 would spoil what stands before it.
+std::string asPartOfName(const std::string& text) { return onWindows ? toUtf8(text) : text; }
+
+}  // namespace
+
 std::string asFileName(std::string_view text) {
-    constexpr bool onWindows = pathSeparator == '\\';
     // "\" separates directories everywhere in this program.
     constexpr std::string_view refused = onWindows ? "/\\:*?\"<>|" : "/\\";
     constexpr char lowest = onWindows ? ' ' : '\x01';
@@ -23,7 +32,7 @@ std::string asFileName(std::string_view text) {
 }
 
 std::string batchBitmapPath(const std::string& directory, const std::string& root, const std::string& title) {
-    return directory + asFileName(root + title) + ".bmp";
+    return directory + asFileName(asPartOfName(root) + asPartOfName(title)) + ".bmp";
 }
 
 std::string batchBitmapPath() {
