@@ -82,6 +82,11 @@ std::string withSeparator(std::string_view directory, char separator) {
     return out;
 }
 
+std::string withOwnSeparators(std::string path, char separator) {
+    std::replace(path.begin(), path.end(), '/', separator);
+    return path;
+}
+
 std::string folderOf(const std::string& path) {
     const std::size_t at = pathSeparator == '\\' ? path.find_last_of("/\\:") : path.rfind(pathSeparator);
     return at == std::string::npos ? "" : path.substr(0, at + 1);

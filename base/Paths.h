@@ -38,6 +38,9 @@ bool endsInSeparator(std::string_view path, char separator = pathSeparator);
 /// The path with the separator at its end; a final separator or "\" that is already there is not doubled.
 std::string withSeparator(std::string_view directory, char separator = pathSeparator);
 
+/// The path with the platform's own separators, for people to read: Windows takes "/" as well.
+std::string withOwnSeparators(std::string path, char separator = pathSeparator);
+
 /// The part of a path up to the name, with its separator, by the rules of the platform; "" for a name alone.
 std::string folderOf(const std::string& path);
 

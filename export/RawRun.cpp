@@ -3,10 +3,10 @@
 #include <QCoreApplication>
 #include <QProcess>
 #include <algorithm>
-#include <cstdio>
 #include <filesystem>
 #include <system_error>
 
+#include "base/Files.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "export/PictureFile.h"
@@ -40,6 +40,17 @@ std::vector<std::string> linesOf(const std::string& text) {
         at = end + 1;
     }
     return lines;
+}
+
+/// For a person to run in the shell of the platform.
+std::string commandLine(const std::string& directory, const std::string& processor,
+                        const std::string& controlName) {
+    constexpr bool onWindows = pathSeparator == '\\';
+    const char quote = onWindows ? '"' : '\'';
+    const auto quoted = [quote](const std::string& word) { return quote + word + quote; };
+    std::string line = onWindows ? "cd /d " : "cd ";
+    line += quoted(directory) + " && " + quoted(processor) + " ";
+    return line + quoted(controlName);
 }
 
 class RawRunner {
@@ -79,8 +90,7 @@ class RawRunner {
         const std::string processor = inApplicationDirectory("tempoline.exe");
         if (wishes_.onlyPlans) {
             result_.kept.push_back(directory + controlName);
-            result_.told.push_back("would run: cd '" + directory + "' && '" + processor + "' '" +
-                                   controlName + "'");
+            result_.told.push_back("would run: " + commandLine(directory, processor, controlName));
             return;
         }
         runIn(directory, processor, controlName);
@@ -103,9 +113,8 @@ class RawRunner {
             return;
         }
         if (wishes_.keepsFrq)
-            result_.kept.push_back(copied(path + ".frq", (fs::path(output_) / (name + ".frq")).string()));
-        for (const char* const kind : {".tab", ".tsf"})
-            std::remove((path + kind).c_str());  // of many files much
+            result_.kept.push_back(copied(path + ".frq", withSeparator(output_) + name + ".frq"));
+        for (const char* const kind : {".tab", ".tsf"}) removeFile(path + kind);  // of many files much
     }
 
     static std::string copied(const std::string& from, const std::string& to) {

@@ -124,6 +124,8 @@ int runCommand(int argc, char** argv) {
         return app.exit(error) == 0 ? zg::exportDone : zg::exportWrongUsage;
     }
 
+    for (std::string& input : job.inputs) input = zg::withOwnSeparators(input);
+    job.directory = zg::withOwnSeparators(job.directory);
     job.tables = !formOfTables.empty();
     job.tablesAsCsv = formOfTables == "csv";
     job.progress = !quiet && zg::isTerminal(stderr);

@@ -45,6 +45,11 @@ TEST(Paths, ThePlatformsSeparatorIsTheDefault) {
     EXPECT_EQ(DirOf(path), "a");
 }
 
+TEST(Paths, AreShownWithThePlatformsOwnSeparators) {
+    EXPECT_EQ(withOwnSeparators("C:/a\\b/c/", '\\'), "C:\\a\\b\\c\\");
+    EXPECT_EQ(withOwnSeparators("/a\\b/c", '/'), "/a\\b/c");
+}
+
 TEST(Paths, DrivesEndAtTheFirstColon) {
     EXPECT_EQ(DriveOf(" D:\\x "), "D:");
     EXPECT_EQ(DriveOf("/home"), "/home:");

@@ -8,6 +8,7 @@
 
 #include "base/Lines.h"
 #include "tests/support/Gzip.h"
+#include "tests/support/Places.h"
 #include "tests/support/TempDirectory.h"
 
 namespace {
@@ -159,9 +160,14 @@ TEST(RawExport, OptionsReachTheControlFileAndADryRunRunsNothing) {
                                     "--station", "S1"},
                                    directory.path());
     EXPECT_EQ(outcome.status, 0) << outcome.errors;
-    EXPECT_EQ(outcome.out, "plans/mast_tempoline.inp\n");
+    EXPECT_EQ(outcome.out, nativePath("plans/mast_tempoline.inp\n"));
     EXPECT_EQ(namesIn(directory.file("plans")), "mast_tempoline.inp ");
-    EXPECT_TRUE(holds(outcome.errors, "would run: cd 'plans/' && '")) << outcome.errors;
+    EXPECT_TRUE(holds(outcome.errors,
+                      onWindows ? "would run: cd /d \"plans\\\" && \"" : "would run: cd 'plans/' && '"))
+        << outcome.errors;
+    EXPECT_TRUE(holds(outcome.errors, onWindows ? "\\tempoline.exe\" \"mast_tempoline.inp\"\n"
+                                                : "/tempoline.exe' 'mast_tempoline.inp'\n"))
+        << outcome.errors;
     const std::string control = directory.read("plans/mast_tempoline.inp");
     for (const char* const line :
          {"\r\nHill\r\n", "! MDATA = CSV !", "! IBHR  = 1 !", "! IEHR  = 3 !", "! NSECDT = 1800 !",
@@ -228,7 +234,7 @@ TEST(RawExport, OneFaultyFileIsToldAndTheOthersAreDrawn) {
     const Outcome outcome =
         runRaw({"a.csv", "b.csv", "c.txt", "--rose", "1", "--size", "50", "--jobs", "2"}, directory.path());
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.out, "./a_01.png\n");
+    EXPECT_EQ(outcome.out, nativePath("./a_01.png\n"));
     EXPECT_TRUE(holds(outcome.errors, "\nb.csv:3: column 2 (ws): \"fast\" is no speed\n")) << outcome.errors;
     EXPECT_TRUE(
         holds(outcome.errors, "\nc.txt: no line of names with a time, a wind speed and a wind direction"))
@@ -244,7 +250,7 @@ TEST(RawExport, FilesOfOneNameAndTwoKindsKeepTheirExtensions) {
     const Outcome outcome =
         runRaw({"A.SFC", "A.PFL", "--height", "10", "--rose", "1", "--size", "50"}, directory.path());
     EXPECT_EQ(outcome.status, 0) << outcome.errors;
-    EXPECT_EQ(outcome.out, "./A_SFC_01.png\n./A_PFL_01.png\n");
+    EXPECT_EQ(outcome.out, nativePath("./A_SFC_01.png\n./A_PFL_01.png\n"));
 }
 
 TEST(RawExport, TablesOfRawDataAreTidyRows) {
@@ -263,6 +269,20 @@ TEST(RawExport, TablesOfRawDataAreTidyRows) {
     const Outcome json = runRaw({"mast.csv", "--tables"}, directory.path());
     EXPECT_EQ(json.status, 0);
     EXPECT_TRUE(json.out.starts_with("{")) << json.out.substr(0, 50);
+}
+
+TEST(RawExport, AStationInAnotherEncodingNamesItsRose) {
+    const TempDirectory directory;
+    std::string text = zg::readWholeFile(samples + "valley_surf.dat");
+    text.replace(text.find("10011"), 5, "Z\xFCri");
+    directory.write("s.dat", text);
+    const Outcome outcome =
+        runRaw({"s.dat", "--frq", "--rose", "1", "--size", "50", "--quiet"}, directory.path());
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    const std::vector<std::string> names = zg::filesMatching(directory.file("s_Z*.frq"));
+    ASSERT_EQ(names.size(), 1U);
+    EXPECT_TRUE(names[0].starts_with(onWindows ? "s_Z\xC3\xBCri" : "s_Z\xFCri")) << names[0];
+    EXPECT_EQ(zg::filesMatching(directory.file("s_Z*.png")).size(), 1U);
 }
 
 TEST(RawExport, AReportNamesTheFileThatWasGiven) {
