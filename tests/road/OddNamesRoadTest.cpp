@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "base/Encoding.h"
 #include "base/Text.h"
 #include "platform/QtText.h"
 #include "platform/ReasonLabel.h"
@@ -97,7 +98,8 @@ class OddNamesRoad : public WholeRoad {
         else if (!waits_.empty())
             text = "waits: " + waits_;
         else if (status() == "Finished" && !settings.CurrentFrqPath.empty())
-            text = "made: " + settings.CurrentFrqPath.substr(settings.CurrentFrqPath.rfind('/') + 1);
+            text =
+                "made: " + settings.CurrentFrqPath.substr(settings.CurrentFrqPath.rfind(pathSeparator) + 1);
         else
             text = status() + " " + plain(child("lblStatus")->toolTip());
         expectNothingHalf();
@@ -110,7 +112,7 @@ class OddNamesRoad : public WholeRoad {
     }
     /// The text without the directories of the test and of the samples.
     std::string withoutPlace(std::string text) const {
-        for (const std::string& place : {directory_.path() + "/", samples})
+        for (const std::string& place : {directory_.path() + pathSeparator, samples})
             for (std::size_t at = 0; (at = text.find(place)) != std::string::npos;)
                 text.erase(at, place.size());
         return text;
@@ -138,12 +140,22 @@ class OddNamesRoad : public WholeRoad {
     std::string waits_;
 };
 
+/// Whether no file can have the name, for its characters.
+bool isNoFile(const std::string& name) {
+    return name == "." || name == ".." ||
+           name.find_first_of(onWindows ? "/\\:*?\"<>|" : "/") != std::string::npos;
+}
+
+/// The file of that name, whose letters Windows keeps in its own encoding.
+std::string made(const std::string& output) {
+    return "made: " + (onWindows ? toUtf8(output) : output) + ".frq";
+}
+
 /// Why the processor makes no file of that name; "" if it does.
 std::string faultOf(const std::string& output) {
-    if (output.find('/') != std::string::npos || output == "." || output == "..")
-        return "TSFOUT: \"" + output + "\" is no plain file name";
     if (output.starts_with(emptyValue)) return "TSFOUT: a name is missing";
     if (output.find('\t') != std::string::npos) return "TSFOUT: the value holds a control character";
+    if (isNoFile(output)) return "TSFOUT: \"" + output + "\" is no plain file name";
     return {};
 }
 
@@ -157,7 +169,7 @@ std::string ofOutput(const std::string& status, const std::string& control, cons
         std::replace(words.begin(), words.end(), '\t', ' ');  // as a tool tip shows it
         return words;
     }
-    return "made: " + output + ".frq";
+    return made(output);
 }
 
 /// The name of a table's station as the program knows it: a comma ends it, and then its code is another.
@@ -165,17 +177,36 @@ bool isInTable(const std::string& name) { return name.find(',') == std::string::
 
 const std::string blankOf = "waits: a blank in the name: the processor cannot find its control file; ";
 
+/// Why the lines of the batch file cannot hold the name in the shell of Windows; "" if they can.
+std::string shellFaultOf(const std::string& output) {
+    if (!onWindows) return {};
+    const std::size_t at = output.find_first_of("%&^!\"|<>\t");
+    if (at == std::string::npos) return {};
+    return output[at] == '\t' ? "a control character" : std::string("a ") + output[at];
+}
+
 /// What a run says about a name that begins the names of all of its files.
 std::string ofRun(const std::string& output, const std::string& remedy) {
-    const std::string refused = "refused: The following error has occurred: \"Bad file name or number: \"";
+    const std::string refused = "refused: The following error has occurred: \"Bad file name or number: ";
+    const std::string number = "\".  (Error Number = 52)";
+    if (const std::string fault = shellFaultOf(output); !fault.empty()) {
+        std::string name = output;
+        if (const std::size_t tab = name.find('\t'); tab != std::string::npos) name.replace(tab, 1, "<09>");
+        return refused + "\"" + name + "\" has " + fault + " in it" + number;
+    }
+    if (onWindows && output.find('\xD0') != std::string::npos)
+        return refused + "the command shell has no characters for \"\"the program\\tempoline.exe\" " +
+               output + "_tempoline.inp\"" + number;
+    if (isNoFile(output)) return refused + "\"" + output + "\" is no plain file name" + number;
+    if (output.size() > 240) return refused + "\"" + output + "\" is too long for a file" + number;
     if (output.find(' ') != std::string::npos) return blankOf + remedy;
-    if (output.find('/') != std::string::npos)
-        return refused + output + "\" is no plain file name\".  (Error Number = 52)";
-    if (output.size() > 240) return refused + output + "\" is too long for a file\".  (Error Number = 52)";
+    if (const std::size_t at = output.find_first_of(";,="); onWindows && at != std::string::npos)
+        return std::string("waits: a ") + output[at] +
+               " in the name: the command shell cannot copy the processor's listing; " + remedy;
     if (output.find('\t') != std::string::npos)
         return "waits: tempoline.exe ended with status 2: " + output +
                "_tempoline.inp:21: TSFLST: the value holds a control character";
-    return "made: " + output + ".frq";
+    return made(output);
 }
 
 TEST_F(OddNamesRoad, OfStationsInTheTableNameTheRosesOfSurf) {
@@ -325,7 +356,8 @@ TEST_F(OddNamesRoad, OfInputsNameTheRun) {
     Texts names = fewOddStations();
     names.emplace_back("a\nb");
     for (const std::string& name : names) {
-        if (name.find('/') != std::string::npos || name.size() > 200) continue;  // no file has such a name
+        const bool hasControl = onWindows && name.find_first_of("\t\n") != std::string::npos;
+        if (isNoFile(name + ".pfl") || hasControl || name.size() > 200) continue;  // no file has such a name
         const std::string data = directory_.file(name + ".pfl");
         std::filesystem::copy(samples + "AERMET2.PFL", data);
         open<frmOpenAERMETFile>(InputKind::AermPfl);

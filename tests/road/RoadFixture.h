@@ -31,11 +31,12 @@
 #include "shell/StartSequence.h"
 #include "tests/support/FormDriver.h"
 #include "tests/support/FreshProgram.h"
+#include "tests/support/Places.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
 
-inline const std::string samples = ZG_SOURCE_DIR "/data/samples/";
+inline const std::string samples = inSources("data/samples/");
 
 class WholeRoad : public ::testing::Test, protected FormDriver {
  protected:
@@ -74,7 +75,7 @@ class WholeRoad : public ::testing::Test, protected FormDriver {
     }
     QWidget& driven() override { return *form_; }
     void browse(const std::string& file) {
-        host_.openAnswers.push_back(file.starts_with("/") ? file : samples + file);
+        host_.openAnswers.push_back(file.starts_with(directory_.path()) ? file : samples + file);
         click("cmdBrowseFile");
         fill("txtOutputDirectory", out_);
     }
