@@ -212,11 +212,16 @@ TEST_F(FrmMainHabits, SeveralDroppedFilesOfAGridAreListedInTheirWizard) {
     for (const std::string& path : {first, second})
         std::filesystem::copy(ZG_SOURCE_DIR "/data/samples/valley_model.m3d", path);
     QStringList rows;
-    inModalDialog([&](QDialog& dialog) {
-        EXPECT_EQ(dialog.objectName(), "frmProcess3DDATFiles");
-        const auto* list = dialog.findChild<QListWidget*>("lst3DDATFiles");
+    QTimer look;  // the wizard is filled in when it is open
+    QObject::connect(&look, &QTimer::timeout, &look, [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        const auto* list = dialog == nullptr ? nullptr : dialog->findChild<QListWidget*>("lst3DDATFiles");
+        if (list == nullptr || list->count() == 0) return;
+        EXPECT_EQ(dialog->objectName(), "frmProcess3DDATFiles");
         for (int row = 0; row < list->count(); ++row) rows.append(list->item(row)->text());
+        dialog->reject();
     });
+    look.start(5);
     EXPECT_TRUE(drop({first, second}));
     EXPECT_EQ(rows, (QStringList{QString::fromStdString(first), QString::fromStdString(second)}));
 }
