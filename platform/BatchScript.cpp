@@ -38,21 +38,22 @@ constexpr const char* tellFunction = R"sh(tell() {
 )sh";
 
 /// The processor's messages go to the terminal and are also kept for the reason; this writes its exit status.
-/// A Windows executable is run by wine, if installed.
+/// A Windows executable is run by wine, if installed. Only the processor itself takes the signals of the
+/// terminal.
 constexpr const char* workFunction = R"sh(work() {
     if [ "$(head -c 2 "$program" 2>/dev/null)" = MZ ] && command -v wine >/dev/null; then
         set -- wine "$program" "$@"
     else
         set -- "$program" "$@"
     fi
-    { { "$@" 3>&-; echo $? >&4; } 2>&1 >&3 3>&- | (trap '' HUP INT QUIT; exec tee "$said" >&2); } 4>&1
+    { { (trap - HUP INT QUIT; exec "$@" 3>&- 4>&-); echo $? >&4; } 2>&1 >&3 3>&- | tee "$said" >&2; } 4>&1
 }
 )sh";
 
 constexpr const char* reasonFunction = R"sh(reason() {
     last=$(tail -n 1 "$said" 2>/dev/null)
     last=${last#tempoline: }
-    if [ -z "$1" ]; then
+    if [ -z "$1" ] || { [ "$1" -ge 129 ] && [ "$1" -le 131 ]; }; then
         echo 'tempoline.exe was interrupted, or its window was closed'
     elif [ "$1" -gt 128 ] && signal=$(kill -l "$1" 2>/dev/null); then
         printf '%s\n' "tempoline.exe was ended by the signal $signal${last:+: $last}"
@@ -68,25 +69,28 @@ constexpr const char* reasonFunction = R"sh(reason() {
 constexpr const char* stateFunction = R"sh(state() { stat -c '%d %i %s %.Z' "./$listing" 2>/dev/null; }
 )sh";
 
+/// The marker appears with all its lines.
 constexpr const char* finishFunction = R"sh(finish() {
     after=$(state)
     if [ -n "$foreseen" ]; then
         tell "$foreseen"
     elif [ -z "$after" ] || [ "$after" = "$before" ]; then
         tell "$(reason "$1")"
-    elif ! cp -T "./$listing" finished.txt; then
+    elif ! { cp -T "./$listing" .finished.part && mv -fT .finished.part finished.txt; }; then
+        rm -f .finished.part
         tell "finished.txt cannot be written in $directory"
     fi
 }
 )sh";
 
-/// Closing the terminal or pressing Ctrl-C ends the processor, but its output is still examined: by the part
-/// after the pipe, which waits until everything before it has ended.
+/// Closing the terminal or pressing Ctrl-C ends the processor, but its output is still examined: by a shell
+/// that ignores these signals before the processor starts. The shell around it must not, since a closed
+/// terminal tells only the first process, and the others when that one has ended.
 constexpr const char* runFunction = R"sh(run() {
     cd -- "$directory" || { tell "the directory $directory cannot be entered"; return; }
     before=$(state)
     [ -e "$program" ] || { tell "tempoline.exe is missing in $programs"; return; }
-    work "$@" | { trap '' HUP INT QUIT; finish "$(cat)"; }
+    (trap '' HUP INT QUIT; finish "$(work "$@")")
 }
 )sh";
 
