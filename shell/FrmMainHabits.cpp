@@ -100,6 +100,7 @@ void frmMain::showRecentFiles() {
     for (const std::string& path : recentFiles()) {
         QString caption = shown(path);
         caption.replace(QLatin1Char('&'), QStringLiteral("&&"));
+        caption.replace(QLatin1Char('\t'), QLatin1Char(' '));  // what follows it would be the entry's key
         connect(menu->addAction(caption), &QAction::triggered, this,
                 guarded(host_, [this, path] { chooseFrqFile(path); }));
     }

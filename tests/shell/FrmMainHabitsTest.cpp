@@ -287,6 +287,22 @@ TEST_F(FrmMainHabits, TheArrowBesideOpenOffersTheFilesOpenedLast) {
     EXPECT_EQ(recentFiles().size(), 1U) << "what is gone is not offered";
 }
 
+TEST_F(FrmMainHabits, ATabInANameDoesNotSplitItsEntry) {
+    const std::string path = sample("summer\tonly.frq");
+    drop({path});
+    auto* menu = child<QToolButton>("tblToolbar_open")->menu();
+    emit menu->aboutToShow();
+    ASSERT_EQ(menu->actions().size(), 1);
+    const QString text = menu->actions().constFirst()->text();
+    EXPECT_TRUE(text.endsWith(QLatin1String("summer only.frq")))
+        << text.toStdString() << ": what follows a tab is a key of the entry";
+    start();
+    menu = child<QToolButton>("tblToolbar_open")->menu();
+    emit menu->aboutToShow();
+    menu->actions().constFirst()->trigger();
+    EXPECT_EQ(window_->windowTitle(), "Zephyrgraph - summer\tonly.frq") << "listed by its own name";
+}
+
 TEST_F(FrmMainHabits, OnlyTheLatestFilesAreKept) {
     for (int i = 0; i < 12; ++i) rememberFile(sample(("f" + std::to_string(i) + ".frq").c_str()));
     ASSERT_EQ(recentFiles().size(), 8U);
