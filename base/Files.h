@@ -35,6 +35,10 @@ std::optional<FileState> stateOfFile(const std::string& name);
 /// Status of the name itself, which may be a symbolic link.
 std::optional<FileState> stateOfName(const std::string& name);
 
+/// Whether the name itself, which may be a link, belongs to the user of this process. On Windows always,
+/// since there each user has a directory of temporary files.
+bool isOwnFile(const std::string& name);
+
 /// Whether both lead to the same existing file.
 bool isOneFile(const std::string& name, const std::string& other);
 

@@ -49,6 +49,11 @@ std::optional<FileState> stateOfName(const std::string& name) {
     return stateOf(found);
 }
 
+bool isOwnFile(const std::string& name) {
+    struct stat found = {};
+    return !holdsNul(name) && lstat(name.c_str(), &found) == 0 && found.st_uid == geteuid();
+}
+
 bool isTooLongName(std::string_view name) { return name.size() > longestPart; }
 
 std::vector<std::string> namesIn(const std::string& directory) {

@@ -139,6 +139,8 @@ std::optional<FileState> stateOfName(const std::string& name) {
     return stateBy(name, FILE_FLAG_OPEN_REPARSE_POINT);
 }
 
+bool isOwnFile(const std::string& name) { return stateOfName(name).has_value(); }
+
 bool isTooLongName(std::string_view name) { return wideUnits(name).size() > longestPart; }
 
 std::vector<std::string> namesIn(const std::string& directory) {

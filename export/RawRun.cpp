@@ -1,6 +1,5 @@
 #include "export/RawRun.h"
 
-#include <QCoreApplication>
 #include <QProcess>
 #include <algorithm>
 #include <filesystem>
@@ -164,26 +163,6 @@ class RawRunner {
 };
 
 }  // namespace
-
-RunDirectory::RunDirectory() {
-    static std::atomic<int> count = 0;
-    std::error_code error;
-    const fs::path parent = fs::temp_directory_path(error);
-    if (error) throw RawFault("there is no directory for temporary files: " + error.message(), false);
-    for (bool isMade = false; !isMade;) {
-        const std::string name = "zephyrgraph-" + std::to_string(QCoreApplication::applicationPid()) + "-" +
-                                 std::to_string(++count);
-        const fs::path directory = parent / name;
-        isMade = fs::create_directory(directory, error);
-        if (error) throw RawFault(directory.string() + ": " + error.message(), false);
-        if (isMade) path_ = directory.string();
-    }
-}
-
-RunDirectory::~RunDirectory() {
-    std::error_code ignored;
-    fs::remove_all(path_, ignored);
-}
 
 RawResult rosesOfRaw(const RawInput& input, const RawWishes& wishes, const std::string& directory,
                      const std::atomic<bool>& stopped) {

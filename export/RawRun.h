@@ -8,24 +8,10 @@
 #include <vector>
 
 #include "export/RawWishes.h"
+#include "export/RunDirectory.h"
 #include "formats/Kinds.h"
 
 namespace zg {
-
-/// A directory for one run, removed with its contents at the end.
-class RunDirectory {
- public:
-    /// Throws a RawFault if it cannot be created.
-    RunDirectory();
-    ~RunDirectory();
-    RunDirectory(const RunDirectory&) = delete;
-    RunDirectory& operator=(const RunDirectory&) = delete;
-
-    const std::string& path() const { return path_; }
-
- private:
-    std::string path_;
-};
 
 /// The results of a file: its FRQ files exist as long as this object.
 struct RawResult {
