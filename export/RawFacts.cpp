@@ -50,12 +50,16 @@ std::vector<std::string> heightsOfProfile(const std::string& path) {
 }
 
 void readTable(const std::string& path, const RawWishes& wishes, RawFacts& facts) {
+    TableWishes wished = wishes.table;
+    if (wishes.stations.size() == 1) wished.station = wishes.stations.front();
     try {
-        facts.table = guessTable(path, wishes.table);
+        facts.table = guessTable(path, wished);
     } catch (const TableProblem& problem) {
         throw RawFault(problem.what(), problem.isWrongWish);
     }
     const TableFacts& table = facts.table;
+    if (table.layout.station.find('!') != std::string::npos)
+        throw RawFault("--station: a \"!\" ends a value of the control file", true);
     facts.begin = DateTime{table.begin + epochFrom1899};
     facts.end = DateTime{table.end + epochFrom1899};
     if (table.zone) facts.zone = zoneWord(*table.zone);

@@ -18,13 +18,6 @@ constexpr const char* zoneOfSilentData = "UTC+0000";
     throw RawFault(path + ": " + text, true);
 }
 
-/// A name of a file may hold neither separators nor what ends a value of the control file.
-std::string inName(std::string text) {
-    for (char& c : text)
-        if (c == '/' || c == '\\' || c == '!' || c == ',' || static_cast<unsigned char>(c) < ' ') c = '_';
-    return trim(text);
-}
-
 bool makesOneOutput(InputKind kind) {
     return kind == InputKind::MonitorW || kind == InputKind::AermSfc || kind == InputKind::Csv ||
            kind == InputKind::Tsf;
@@ -156,8 +149,8 @@ class Planner {
     std::string nameOf(const std::string& station, const std::string& height, bool severalStations,
                        bool severalHeights) const {
         std::string name = stem_;
-        if (severalStations) name += "_" + inName(station);
-        if (severalHeights) name += "_" + inName(height) + "m";
+        if (severalStations) name += "_" + partOfName(station);
+        if (severalHeights) name += "_" + partOfName(height) + "m";
         return name;
     }
 
@@ -173,7 +166,7 @@ class Planner {
         for (const std::string& station : stations) {
             ControlFile v = shared;
             v.base = nameOf(station, height, stations.size() > 1, false);
-            v.outputs = {{"1", v.base, locationOf(station), inName(station) + ", 0, 0", height}};
+            v.outputs = {{"1", v.base, locationOf(station), partOfName(station) + ", 0, 0", height}};
             all.push_back(std::move(v));
         }
         return all;
@@ -227,6 +220,13 @@ class Planner {
 std::vector<ControlFile> controlFilesOf(const std::string& path, const std::string& stem,
                                         const RawFacts& header, const RawWishes& wishes) {
     return Planner(path, stem, header, wishes).all();
+}
+
+/// It may hold neither separators nor what ends a value of the control file.
+std::string partOfName(std::string text) {
+    for (char& c : text)
+        if (c == '/' || c == '\\' || c == '!' || c == ',' || static_cast<unsigned char>(c) < ' ') c = '_';
+    return trim(text);
 }
 
 void needPlainWishes(const RawWishes& wishes) {

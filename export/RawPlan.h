@@ -16,6 +16,9 @@ namespace zg {
 std::vector<ControlFile> controlFilesOf(const std::string& path, const std::string& stem,
                                         const RawFacts& header, const RawWishes& wishes);
 
+/// The text as part of the name of a result.
+std::string partOfName(std::string text);
+
 /// Checks requests that are wrong whatever the data are. Throws a RawFault.
 void needPlainWishes(const RawWishes& wishes);
 

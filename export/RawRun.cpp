@@ -63,9 +63,7 @@ class RawRunner {
           whole_(fs::absolute(input.path).lexically_normal().string()) {}
 
     RawResult run() {
-        const RawFacts header = rawFactsOf(input_.path, input_.kind, wishes_);
-        if (!header.told.empty()) result_.told.push_back(header.told);
-        std::vector<ControlFile> controls = controlFilesOf(input_.path, input_.stem, header, wishes_);
+        std::vector<ControlFile> controls = planned();
         if (wishes_.keeps || wishes_.onlyPlans || wishes_.keepsFrq) makeOutputDirectory();
         if (!wishes_.keeps && !wishes_.onlyPlans) result_.directory = std::make_unique<RunDirectory>();
         const std::string directory = result_.directory ? result_.directory->path() : output_;
@@ -77,6 +75,29 @@ class RawRunner {
     }
 
  private:
+    std::vector<ControlFile> plannedFor(const std::string& stem, const RawFacts& header,
+                                        const RawWishes& wishes) {
+        if (!header.told.empty()) result_.told.push_back(header.told);
+        return controlFilesOf(input_.path, stem, header, wishes);
+    }
+
+    /// Each station of a table has a period and a step of its own.
+    std::vector<ControlFile> planned() {
+        const bool areSeveral = input_.kind == InputKind::Csv && wishes_.stations.size() > 1;
+        std::vector<ControlFile> controls;
+        for (const std::string& station : areSeveral ? wishes_.stations : std::vector<std::string>()) {
+            RawWishes one = wishes_;
+            one.stations = {station};
+            const RawFacts header = rawFactsOf(input_.path, input_.kind, one);
+            if (header.table.layout.stationColumn == 0) return plannedFor(input_.stem, header, wishes_);
+            const std::vector<ControlFile> more =
+                plannedFor(input_.stem + "_" + partOfName(station), header, one);
+            controls.insert(controls.end(), more.begin(), more.end());
+        }
+        if (areSeveral) return controls;
+        return plannedFor(input_.stem, rawFactsOf(input_.path, input_.kind, wishes_), wishes_);
+    }
+
     void makeOutputDirectory() const {
         std::error_code error;
         fs::create_directories(output_, error);

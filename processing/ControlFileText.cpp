@@ -539,6 +539,9 @@ INPUT GROUP: 8 -- Layout of a table of winds (Used only if MDATA=CSV)
      (CSVDIR)                        No Default
      A text that stands for a missing value, beside the usual ones
      (CSVMISS)                       Default: none
+     Column of the stations and the one to take, of a table with several
+     (CSVSTN)                        Default: none
+     (CSVID)                         Default: none
      Zone of times that name none themselves
      (CSVZONE)                       Default: that of ABTZ
 

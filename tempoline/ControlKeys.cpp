@@ -12,14 +12,14 @@ namespace zg::tempoline {
 
 namespace {
 
-constexpr std::array<std::string_view, 59> singleKeys = {
+constexpr std::array<std::string_view, 61> singleKeys = {
     "TSFLST",  "ROSEPLT", "NMETINP", "NAQINP",  "NTSFOUT", "LCFILES", "MROSE",   "MDATA",   "IBYR",
     "IBMO",    "IBDY",    "IBHR",    "IBSEC",   "IEYR",    "IEMO",    "IEDY",    "IEHR",    "IESEC",
     "ABTZ",    "NSECDT",  "METSIM",  "NSPEC",   "PMAP",    "FEAST",   "FNORTH",  "IUTMZN",  "UTMHEM",
     "RLAT0",   "RLON0",   "XLAT1",   "XLAT2",   "DATUM",   "MPROF",   "MCELL",   "NLU3D",   "XYCELL1",
     "DXYCELL", "WSBIN",   "NSEASN",  "NTPD",    "NWSP",    "MSN",     "PSPEC",   "PUNIT",   "RROSE",
     "CROSE",   "CSVSEP",  "CSVDEC",  "CSVHEAD", "CSVNAME", "CSVTIME", "CSVFORM", "CSVSTMP", "CSVLEN",
-    "CSVSPD",  "CSVUNIT", "CSVDIR",  "CSVMISS", "CSVZONE"};
+    "CSVSPD",  "CSVUNIT", "CSVDIR",  "CSVMISS", "CSVSTN",  "CSVID",   "CSVZONE"};
 constexpr std::array<std::string_view, 9> repeatedKeys = {"METINP", "AQINP",  "TSFID",    "TSFOUT", "LOCMET",
                                                           "MET",    "IDSEAS", "SEASNAME", "HR"};
 

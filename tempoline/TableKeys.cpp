@@ -60,6 +60,10 @@ TableLayout readTableLayout(ControlKeys& keys) {
     layout.unit = *unit;
     layout.directionColumn = columnOfKey(keys, "CSVDIR");
     if (keys.has("CSVMISS")) layout.missing = keys.text("CSVMISS");
+    if (keys.has("CSVSTN")) {
+        layout.stationColumn = columnOfKey(keys, "CSVSTN");
+        layout.station = keys.text("CSVID");
+    }
     if (!keys.has("CSVZONE")) return layout;
     layout.zone = zoneOffset(keys.text("CSVZONE"));
     if (!layout.zone)

@@ -10,6 +10,7 @@
 #include "windtable/TableHead.h"
 #include "windtable/TableReadings.h"
 #include "windtable/TableRecords.h"
+#include "windtable/TableStations.h"
 #include "windtable/TableTimes.h"
 #include "windtable/TableValues.h"
 
@@ -46,6 +47,11 @@ class Guess {
         } catch (RunTimeError& error) {
             throw TableProblem(
                 path_ + ":" + std::to_string(lines_.lineNumber() + 1) + ": " + error.description, false);
+        }
+        if (facts_.records == 0 && choosesStation() && !stations_.areSeveral()) {
+            TableWishes rest = wishes_;
+            rest.station.clear();
+            return guessTable(path_, rest);
         }
         finish();
         return std::move(facts_);
@@ -107,6 +113,7 @@ class Guess {
         }
         readings_.emplace(forms, layout.timePattern);
         columns_ = layout.columns();
+        stations_ = TableStations(head.stationColumn, head.stationName);
     }
 
     void beginIsdLite(std::string_view line) {
@@ -125,21 +132,33 @@ class Guess {
 
     void readLine(std::string_view line) {
         TableLayout& layout = facts_.layout;
-        if (!fields_.cut(line, layout.delimiter, columns_))
+        if (!fields_.cut(line, layout.delimiter, std::max(columns_, stations_.column())))
             fail(lines_.lineNumber(), "a quote is not closed");
         if (isEmptyLine(line, layout.delimiter)) return;
+        const std::string_view station = fields_.at(stations_.column());
+        if (choosesStation() && station != wishes_.station) return passOver(station);
         if (fields_.size() < columns_ && (facts_.records > 0 || layout.namesLine == 0))
             fail(lines_.lineNumber(), "the line has " + std::to_string(fields_.size()) + " of at least " +
                                           std::to_string(columns_) + " values");
         const TimeValues times(fields_, layout.timeColumns);
-        if (!readings_->add(times.values())) {
+        if (!readings_->add(times.values(), stations_.isOther(station))) {
             if (takeUnits()) return;
             fail(lines_.lineNumber(),
                  facts_.timeName + ": " + quotedValue(times.text()) + " is no time" + formsText());
         }
         ++facts_.records;
+        stations_.add(station);
         decideComma(fields_.at(layout.speedColumn));
         decideComma(fields_.at(layout.directionColumn));
+    }
+
+    bool choosesStation() const { return !wishes_.station.empty() && stations_.column() != 0; }
+
+    /// A line of units, or a record of a station that was not asked for.
+    void passOver(std::string_view station) {
+        TimeReadings trial = *readings_;
+        const TimeValues times(fields_, facts_.layout.timeColumns);
+        if (facts_.records > 0 || trial.add(times.values()) || !takeUnits()) stations_.add(station);
     }
 
     /// A line after the names with units or the like; false for a record whose time cannot be read.
@@ -177,6 +196,18 @@ class Guess {
     }
 
     void finish() {
+        const std::vector<std::string>& stations = stations_.all();
+        if (facts_.records == 0 && choosesStation())
+            fail(0,
+                 "--station: there is no station " + quotedValue(wishes_.station) + "; the file has " +
+                     stationsText(stations),
+                 true);
+        if (stations_.areSeveral() && readings_->overlap())
+            fail(0,
+                 "the column " + quotedValue(stations_.name()) + " names " + std::to_string(stations.size()) +
+                     " stations, whose times overlap: " + stationsText(stations) + "; --station " +
+                     quotedValue(stations.front()) + " takes one of them",
+                 true);
         if (facts_.records == 0) fail(lines_.lineNumber(), "there is no record after the columns' names");
         const TimeReading* reading = readings_->best();
         if (reading == nullptr) fail(0, bothReadings());
@@ -187,6 +218,7 @@ class Guess {
         if (length > longestRecord)
             fail(0, "the records lie " + std::to_string(length) + " seconds apart, more than a day");
         TableLayout& layout = facts_.layout;
+        takeStation();
         layout.unit = unit_.value_or(WindUnit::MetresASecond);
         layout.timeForm = reading->form;
         layout.recordSeconds = length;
@@ -199,6 +231,16 @@ class Guess {
         if (facts_.end <= facts_.begin)
             fail(0, "the last record, of " + timeText(reading->last) + ", is earlier than the first, of " +
                         timeText(reading->first) + ": the records need to be sorted");
+    }
+
+    void takeStation() {
+        if (!stations_.areSeveral()) return;
+        if (!choosesStation()) {
+            facts_.stations = stations_.all();
+            return;
+        }
+        facts_.layout.stationColumn = stations_.column();
+        facts_.layout.station = wishes_.station;
     }
 
     std::string bothReadings() const {
@@ -217,6 +259,7 @@ class Guess {
     TableFacts facts_;
     TableFields fields_;
     std::optional<TimeReadings> readings_;
+    TableStations stations_;
     std::optional<WindUnit> unit_;
     std::size_t columns_ = 0;
     bool isCommaDecided_ = false;
@@ -281,9 +324,13 @@ std::string takenText(const TableFacts& facts) {
         ", the " + (layout.stampsEnd ? "end" : "begin") + " of a record), speed \"" + facts.speedName +
         "\" in " + wordOf(layout.unit);
     if (facts.height) text += " at " + heightShown(*facts.height) + " m";
-    text += ", direction \"" + facts.directionName + "\", " + records;
+    text += ", direction \"" + facts.directionName + "\", ";
+    if (layout.stationColumn != 0) text += "station " + quotedValue(layout.station) + ", ";
+    text += records;
     for (std::size_t i = 0; i < facts.otherSpeeds.size() && i < 8; ++i)
         text += (i == 0 ? "; not \"" : ", \"") + facts.otherSpeeds[i] + "\"";
+    if (!facts.stations.empty())
+        text += "; stations one after the other (--station takes one): " + stationsText(facts.stations);
     return text;
 }
 

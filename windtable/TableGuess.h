@@ -24,6 +24,7 @@ struct TableWishes {
     std::optional<char> delimiter;
     std::string missing;
     bool stampsEnd = false;
+    std::string station;  ///< whose records are read if the table has several stations; else only a name
 };
 
 struct TableFacts {
@@ -33,6 +34,7 @@ struct TableFacts {
     std::string speedName;
     std::string directionName;
     std::vector<std::string> otherSpeeds;  ///< those that were not chosen
+    std::vector<std::string> stations;     ///< of a table with several whose times do not overlap
     std::optional<double> height;          ///< metres, if a name states it
     std::int64_t begin = 0;                ///< of the first record, by the clock of the file
     std::int64_t end = 0;                  ///< of the last record

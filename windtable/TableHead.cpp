@@ -120,6 +120,8 @@ std::optional<TableHead> TableHeadSearch::lookBy(char delimiter, std::string_vie
     head.direction = nearestTo(head.speed.height, found.directions);
     for (const WindColumn& other : allSpeeds)
         if (other.column != head.speed.column) head.otherSpeeds.push_back(other.name);
+    head.stationColumn = found.station;
+    if (found.station != 0) head.stationName = names[found.station - 1];
     return head;
 }
 

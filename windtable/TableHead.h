@@ -22,6 +22,8 @@ struct TableHead {
     WindColumn speed;
     WindColumn direction;
     std::vector<std::string> otherSpeeds;
+    std::size_t stationColumn = 0;  ///< 0 for none
+    std::string stationName;
 };
 
 /// Examines the first lines of a file one by one.

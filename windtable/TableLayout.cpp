@@ -98,7 +98,7 @@ bool setTimeForm(std::string_view word, TimeForm& form, std::string& pattern) {
 }
 
 std::size_t TableLayout::columns() const {
-    std::size_t last = std::max(speedColumn, directionColumn);
+    std::size_t last = std::max({speedColumn, directionColumn, stationColumn});
     for (const std::size_t column : timeColumns) last = std::max(last, column);
     return last;
 }
@@ -121,6 +121,10 @@ std::vector<TableKey> keysOf(const TableLayout& layout) {
                                   {"CSVUNIT", wordOf(layout.unit)},
                                   {"CSVDIR", std::to_string(layout.directionColumn)}};
     if (!layout.missing.empty()) keys.push_back({"CSVMISS", layout.missing});
+    if (layout.stationColumn != 0) {
+        keys.push_back({"CSVSTN", std::to_string(layout.stationColumn)});
+        keys.push_back({"CSVID", layout.station});
+    }
     if (layout.zone) keys.push_back({"CSVZONE", zoneWord(*layout.zone)});
     return keys;
 }

@@ -60,6 +60,8 @@ struct TableLayout {
     bool stampsEnd = false;             ///< a time is the end of its record rather than the begin
     std::int64_t recordSeconds = 3600;  ///< how long a record lasts
     std::string missing;                ///< a text that is missing beside those that always are; "" for none
+    std::size_t stationColumn = 0;      ///< 0 if all records are read
+    std::string station;                ///< else only those with this text there are
     std::optional<std::int64_t> zone;   ///< seconds east of Greenwich of times that name no zone themselves
 
     /// The last column that is needed.

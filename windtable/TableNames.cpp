@@ -178,6 +178,9 @@ TableNames tableNamesOf(const std::vector<std::string>& names) {
     for (const std::string& name : names) words.push_back(wordsOf(name));
     TableNames found;
     findTime(words, found);
+    found.station = columnNamed(words, {"station", "stationid", "stationsid", "stationcode", "stationname",
+                                        "stationnumber", "stationno", "stn", "stnid", "stid", "site",
+                                        "siteid", "sitecode", "sitename", "icao", "wmo", "wmoid"});
     for (std::size_t i = 0; i < names.size(); ++i) {
         if (std::find(found.time.begin(), found.time.end(), i + 1) != found.time.end()) continue;
         if (isDirection(words[i]))

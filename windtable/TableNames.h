@@ -26,6 +26,7 @@ struct TableNames {
     bool timeIsParts = false;
     std::vector<WindColumn> speeds;
     std::vector<WindColumn> directions;
+    std::size_t station = 0;  ///< the column that names the station of a record; 0 for none
 
     bool isComplete() const { return !time.empty() && !speeds.empty() && !directions.empty(); }
 };

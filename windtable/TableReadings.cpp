@@ -36,7 +36,8 @@ TimeReadings::TimeReadings(const std::vector<TimeForm>& forms, std::string patte
     for (const TimeForm form : forms) readings_.emplace_back().form = form;
 }
 
-bool TimeReadings::take(TimeReading& reading, std::span<const std::string_view> values) const {
+bool TimeReadings::take(TimeReading& reading, std::span<const std::string_view> values,
+                        bool isOtherStation) const {
     const std::optional<TableTime> time = tableTime(reading.form, pattern_, values);
     if (!time) return false;
     if (!begun_) {
@@ -47,6 +48,7 @@ bool TimeReadings::take(TimeReading& reading, std::span<const std::string_view> 
     // Setting a clock forward or back causes no gap if the times state their zone.
     const std::int64_t moment =
         time->seconds - (time->zone && reading.zone ? *time->zone - *reading.zone : 0);
+    if (begun_ && isOtherStation && moment <= reading.last) reading.overlaps = true;
     if (begun_ && moment != reading.last) {
         ++reading.distances;
         const std::int64_t distance = moment - reading.last;
@@ -59,14 +61,19 @@ bool TimeReadings::take(TimeReading& reading, std::span<const std::string_view> 
     return true;
 }
 
-bool TimeReadings::add(std::span<const std::string_view> values) {
+bool TimeReadings::add(std::span<const std::string_view> values, bool isOtherStation) {
     std::vector<bool> read;
-    for (TimeReading& reading : readings_) read.push_back(take(reading, values));
+    for (TimeReading& reading : readings_) read.push_back(take(reading, values, isOtherStation));
     if (std::find(read.begin(), read.end(), true) == read.end()) return false;
     std::size_t at = 0;
     std::erase_if(readings_, [&](const TimeReading&) { return !read[at++]; });
     begun_ = true;
     return true;
+}
+
+bool TimeReadings::overlap() const {
+    return std::all_of(readings_.begin(), readings_.end(),
+                       [](const TimeReading& reading) { return reading.overlaps; });
 }
 
 const TimeReading* TimeReadings::best() const {

@@ -22,6 +22,7 @@ struct TimeReading {
     std::int64_t last = 0;
     std::optional<std::int64_t> zone;  ///< of the first time, if it states one
     bool named = false;                ///< some times state a zone
+    bool overlaps = false;             ///< a record of another station is not later than the one before it
     std::int64_t distances = 0;
     std::map<std::int64_t, std::int64_t> counts;  ///< of intervals; only the first few different ones
 
@@ -37,7 +38,10 @@ class TimeReadings {
     explicit TimeReadings(const std::vector<TimeForm>& forms, std::string pattern = {});
 
     /// Adds the time of a record; false if no form that could read all earlier ones can read it.
-    bool add(std::span<const std::string_view> values);
+    bool add(std::span<const std::string_view> values, bool isOtherStation = false);
+
+    /// Whether times of several stations overlap in every interpretation.
+    bool overlap() const;
 
     std::size_t count() const { return readings_.size(); }
     const std::vector<TimeReading>& readings() const { return readings_; }
@@ -47,7 +51,7 @@ class TimeReadings {
     const TimeReading* best() const;
 
  private:
-    bool take(TimeReading& reading, std::span<const std::string_view> values) const;
+    bool take(TimeReading& reading, std::span<const std::string_view> values, bool isOtherStation) const;
 
     std::vector<TimeReading> readings_;
     std::string pattern_;

@@ -33,6 +33,8 @@ TableLine TableRecords::fail(std::size_t column, std::string text) {
 
 TableLine TableRecords::read(std::string_view line) {
     if (!fields_.cut(line, layout_.delimiter, columns_)) return fail(0, "a quote is not closed");
+    if (layout_.stationColumn != 0 && fields_.at(layout_.stationColumn) != layout_.station)
+        return TableLine::Empty;
     if (fields_.size() < columns_) {
         if (isEmptyLine(line, layout_.delimiter)) return TableLine::Empty;
         return fail(0, "the line has " + std::to_string(fields_.size()) + " of at least " +

@@ -27,7 +27,7 @@ struct TableFault {
     std::string text;
 };
 
-enum class TableLine { Record, Empty, Fault };
+enum class TableLine { Record, Empty, Fault };  ///< Empty: also one of another station
 
 class TableRecords {
  public:

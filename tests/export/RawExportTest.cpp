@@ -141,6 +141,41 @@ TEST(RawExport, ATableIsToldAndDrawnPackedOrNot) {
               from(directory.read("mast.frq"), "All Periods"));
 }
 
+TEST(RawExport, OneOrMoreStationsOfATableAreTaken) {
+    const TempDirectory directory;
+    std::string text = "station,time,ws,wd\n";
+    for (int hour = 0; hour < 10; ++hour)
+        for (const char* const rest : {"A,2016-01-01 0%:00,3,90\n", "B B,2016-01-01 0%:00,4,180\n"})
+            text += std::string(rest).replace(std::string(rest).find('%'), 1, std::to_string(hour));
+    directory.write("net.csv", text);
+    const Outcome all = runRaw({"net.csv"}, directory.path());
+    EXPECT_EQ(all.status, 2);
+    EXPECT_EQ(
+        all.errors,
+        "net.csv: the column \"station\" names 2 stations, whose times overlap: \"A\", \"B B\"; --station "
+        "\"A\" takes one of them\n");
+    const Outcome one =
+        runRaw({"net.csv", "--station", "B B", "--frq", "--rose", "1", "--size", "50"}, directory.path());
+    EXPECT_EQ(one.status, 0) << one.errors;
+    EXPECT_EQ(one.out, "./net.frq\n./net_01.png\n");
+    EXPECT_TRUE(holds(directory.read("net.frq"), "Total Periods = 10; Valid Periods = 10;"))
+        << directory.read("net.frq");
+    EXPECT_TRUE(holds(directory.read("net.frq"), "  S :    0.0000%    0.0000%  100.0000%"))
+        << directory.read("net.frq");
+    const Outcome both =
+        runRaw({"net.csv", "--station", "A", "--station", "B B", "--frq", "--rose", "1", "--size", "50"},
+               directory.path());
+    EXPECT_EQ(both.status, 0) << both.errors;
+    EXPECT_EQ(both.out, "./net_A.frq\n./net_B B.frq\n./net_A_01.png\n./net_B B_01.png\n");
+    EXPECT_TRUE(holds(directory.read("net_A.frq"), "Total Periods = 10; Valid Periods = 10;"));
+    EXPECT_EQ(from(directory.read("net_B B.frq"), "All Periods"),
+              from(directory.read("net.frq"), "All Periods"));
+    directory.write("mast.csv", table);
+    const Outcome none = runRaw({"mast.csv", "--station", "A", "--station", "B"}, directory.path());
+    EXPECT_EQ(none.status, 2);
+    EXPECT_TRUE(holds(none.errors, "mast.csv: --station: these winds are of one station\n")) << none.errors;
+}
+
 TEST(RawExport, OptionsReachTheControlFileAndADryRunRunsNothing) {
     const TempDirectory directory;
     directory.write("mast.csv", table);

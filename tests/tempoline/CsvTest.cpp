@@ -177,6 +177,17 @@ TEST(Csv, SaysWhatIsWrongWithLineAndColumn) {
               "2: the file ends within the 5 lines before its first record");
 }
 
+TEST(Csv, OfSeveralStationsOnlyOneIsRead) {
+    CsvReading reading;
+    reading.control.table.stationColumn = 4;
+    reading.control.table.station = "B";
+    const std::string rows =
+        hour0 + "3,90,A\n" + hour0 + "4,90,B\n" + hour1 + "fast,90,A\n" + "never\n" + hour1 + "5,90,B\n";
+    EXPECT_EQ(reading.of(rows).valid, 2);
+    reading.control.table.station = "A";
+    EXPECT_EQ(reading.failure(rows), "4: column 2 (ws): \"fast\" is no speed");
+}
+
 TEST(Csv, ADamagedGzipFileIsTold) {
     CsvReading reading;
     const std::string zipped = gzipped("time,ws,wd\n" + hour0 + "3,90\n");

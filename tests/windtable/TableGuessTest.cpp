@@ -193,6 +193,84 @@ TEST(TableGuess, KnowsIsdLiteByItsLook) {
     EXPECT_FALSE(isIsdLiteLine("2016 12 01 00 1 2 3 4 5 6 7"));
 }
 
+namespace {
+
+constexpr std::string_view interleaved =
+    "station,valid,drct,sknt\nJFK,2016-01-01 00:51,350,8\nLGA,2016-01-01 00:51,10,4\nJFK,2016-01-01 "
+    "01:51,340,9\nLGA,2016-01-01 01:51,20,5\n";
+constexpr std::string_view oneAfterTheOther =
+    "valid,drct,sknt,stid\n2016-01-01 00:00,350,8,JFK\n2016-01-01 01:00,340,9,JFK\n2016-01-01 "
+    "02:00,340,9,JFK\n2016-01-01 00:30,10,4,LGA\n2016-01-01 00:50,20,5,LGA\n";
+
+}  // namespace
+
+TEST(TableGuess, NamesTheStationsOfATableWithSeveral) {
+    Table table(interleaved);
+    EXPECT_EQ(table.fault(),
+              ": the column \"station\" names 2 stations, whose times overlap: \"JFK\", \"LGA\"; --station "
+              "\"JFK\" takes one of them");
+    EXPECT_TRUE(table.isWrongWish);
+    EXPECT_EQ(faultIn(oneAfterTheOther),
+              ": the column \"stid\" names 2 stations, whose times overlap: \"JFK\", \"LGA\"; --station "
+              "\"JFK\" takes one of them");
+    std::string many = "site_id,time,ws,wd\n";
+    for (int i = 1; i <= 25; ++i) many += "S" + std::to_string(i) + ",2016-01-01 00:00,1,2\n";
+    EXPECT_TRUE(
+        Table(many).fault().ends_with("\"S19\", \"S20\" and 5 more; --station \"S1\" takes one of them"))
+        << Table(many).fault();
+}
+
+TEST(TableGuess, TakesTheStationThatIsAskedFor) {
+    Table table(interleaved);
+    table.wishes.station = "LGA";
+    EXPECT_EQ(
+        table.taken(),
+        "a table by COMMA, time \"valid\" (year first, the begin of a record), speed \"sknt\" in KNOTS, "
+        "direction \"drct\", station \"LGA\", 2 records of 1 h from 2016-01-01 00:51 to 2016-01-01 02:51, "
+        "no zone named");
+    EXPECT_EQ(keysText(table.layout()),
+              "CSVSEP=COMMA CSVDEC=POINT CSVHEAD=1 CSVNAME=1 CSVTIME=2 CSVFORM=YMD CSVSTMP=BEGIN CSVLEN=3600 "
+              "CSVSPD=4 CSVUNIT=KNOTS CSVDIR=3 CSVSTN=1 CSVID=LGA ");
+    Table other(oneAfterTheOther);
+    other.wishes.station = "LGA";
+    EXPECT_EQ(other.layout().recordSeconds, 1200) << "each station has a length of its own";
+    other.wishes.station = "EWR";
+    EXPECT_EQ(other.fault(), ": --station: there is no station \"EWR\"; the file has \"JFK\", \"LGA\"");
+    EXPECT_TRUE(other.isWrongWish);
+}
+
+TEST(TableGuess, WhatIsWrongWithAnotherStationMakesNoDifference) {
+    Table table(
+        "station,time,ws,wd\n-,UTC,mph,deg\nA,yesterday,4,y\nA\nB,2016-01-01 00:00,1,2\nA,,,\nB,2016-01-01 "
+        "01:00,1,2\n");
+    table.wishes.station = "B";
+    EXPECT_EQ(table.fault(), "no fault");
+    EXPECT_EQ(table.layout().unit, WindUnit::MilesAnHour) << "of the line of units, which names no station";
+    EXPECT_EQ(table.layout().headLines, 2U);
+}
+
+TEST(TableGuess, AStationIsOnlyANameWhereTheTableHasOne) {
+    for (const char* text : {"time,ws,wd\n2016-01-01 00:00,1,2\n2016-01-01 01:00,1,2\n",
+                             "time,ws,wd,station\n2016-01-01 00:00,1,2,A\n2016-01-01 01:00,1,2,A\n"}) {
+        Table table(text);
+        for (const char* station : {"", "A", "S1"}) {
+            table.wishes.station = station;
+            EXPECT_EQ(table.fault(), "no fault") << text;
+            EXPECT_EQ(table.layout().stationColumn, 0U) << text;
+        }
+    }
+}
+
+TEST(TableGuess, AStationThatFollowsAnotherIsTold) {
+    Table table(
+        "time,ws,wd,station\n2016-01-01 00:00,1,2,KJFK\n2016-01-01 01:00,1,2,KJFK\n2016-01-01 "
+        "02:00,1,2,JFK\n");
+    EXPECT_EQ(table.fault(), "no fault") << "perhaps it was only given another name";
+    EXPECT_TRUE(table.taken().ends_with(
+        "no zone named; stations one after the other (--station takes one): \"KJFK\", \"JFK\""))
+        << table.taken();
+}
+
 TEST(TableGuess, SaysWhatIsWantingAndWhere) {
     EXPECT_EQ(faultIn("time,ws,temp\n2016-01-01 00:00,1,2\n"),
               ":1: the columns' names have no wind direction (--direction NAME): they are \"time\" \"ws\" "

@@ -1,0 +1,28 @@
+#include "windtable/TableStations.h"
+
+#include "windtable/TableRecords.h"
+
+namespace zg {
+
+namespace {
+
+constexpr std::size_t mostStations = 1000;
+constexpr std::size_t mostNamed = 20;
+
+}  // namespace
+
+void TableStations::add(std::string_view station) {
+    if (station.empty() || station == last_) return;
+    last_ = station;
+    if (all_.size() < mostStations && known_.emplace(station).second) all_.emplace_back(station);
+}
+
+std::string stationsText(const std::vector<std::string>& stations) {
+    std::string text;
+    for (std::size_t i = 0; i < stations.size() && i < mostNamed; ++i)
+        text.append(i == 0 ? "" : ", ").append(quotedValue(stations[i]));
+    if (stations.size() > mostNamed) text += " and " + std::to_string(stations.size() - mostNamed) + " more";
+    return text;
+}
+
+}  // namespace zg
