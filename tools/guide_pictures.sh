@@ -26,6 +26,7 @@ comment frmComment
 error frmError
 expressions frmExpr
 grid_fonts frmGridFonts
+knots frmMain_Knots
 labels frmAddLabel
 legend frmOptionsLegend
 options frmOptions_Details

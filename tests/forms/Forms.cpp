@@ -10,6 +10,7 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
+#include <array>
 #include <filesystem>
 
 #include "base/Paths.h"
@@ -186,7 +187,11 @@ FormPointer tableForm(FormWorld& world) {
 
 FormPointer directoryForm(FormWorld& world) {
     std::string start = world.chosenDirectory;
-    if (start.empty()) start = world.directory.file("met data/Lovett");
+    if (start.empty()) {
+        for (const char* name : {"Albany", "Boston", "Lovett/1988", "Lovett/1989", "Valley"})
+            std::filesystem::create_directories(world.directory.file(std::string("data/met data/") + name));
+        start = world.directory.file("data/met data/Lovett");
+    }
     std::filesystem::create_directories(start);
     return std::make_unique<frmChangeDir>(world.host, world.chosenDirectory, start);
 }
@@ -199,6 +204,21 @@ FormPointer refusingUpForm(FormWorld& world) {
 
 void click(QWidget& form, const char* button) {
     form.findChild<QAbstractButton*>(QLatin1String(button))->click();
+}
+
+/// High enough for the whole page with the legend.
+FormPointer knotsWindow(FormWorld& world) {
+    constexpr int height = 880;
+    FormPointer window = mainWindow(world);
+    window->resize(window->width(), height);
+    const std::array<Colour, 6> colours = {rgb(42, 121, 180), rgb(4, 164, 200),  rgb(149, 233, 155),
+                                           rgb(249, 208, 87), rgb(242, 158, 46), rgb(215, 25, 28)};
+    for (std::size_t i = 0; i < colours.size(); ++i)
+        modPolarGraph.WindClassColor.at(i) = static_cast<float>(colours.at(i));
+    frmOptionsLegend legend(world.host, dynamic_cast<frmMain&>(*window).pgPolarGraph());
+    click(legend, "optKnots");
+    click(legend, "cmdApply");
+    return window;
 }
 
 /// A wizard at the given step with one file.
@@ -288,6 +308,7 @@ const std::vector<FormRow>& forms() {
         {"frmMain", "", mainWindow},
         {"frmMain", "Aspect", mainWindow, withTool(Tool::Aspect)},
         {"frmMain", "Zoom", mainWindow, withTool(Tool::Zoom)},
+        {"frmMain", "Knots", knotsWindow},
         {"frmSplashScreen", "",
          [](FormWorld& world) { return std::make_unique<frmSplashScreen>(world.host, [] {}); }},
         {"frmAboutZephyrgraph", "", [](FormWorld&) { return std::make_unique<frmAboutZephyrgraph>(); }},

@@ -2,10 +2,13 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFileSystemModel>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPixmap>
+#include <QTest>
+#include <QTreeView>
 #include <cstdio>
 #include <cstring>
 
@@ -14,10 +17,24 @@
 
 namespace {
 
+/// A tree shows the scratch directory as if it were the whole disk.
+void showOnly(const QString& scratch, QTreeView& tree) {
+    auto* model = dynamic_cast<QFileSystemModel*>(tree.model());
+    const QModelIndex current = tree.currentIndex();
+    const QDir inside(model->filePath(current));
+    const auto expected = static_cast<int>(inside.entryList(QDir::AllDirs | QDir::NoDotAndDotDot).size());
+    tree.setRootIndex(model->index(scratch));
+    if (!QTest::qWaitFor([&] { return model->rowCount(current) == expected; })) std::exit(1);
+    tree.scrollTo(current);
+    QCoreApplication::processEvents();
+}
+
 /// The guide must not show this scratch directory.
 void hideScratch(QWidget& form, const zg::FormWorld& world) {
     const QString scratch = QString::fromStdString(world.directory.path());
-    const QString instead = QStringLiteral("/data");
+    if (auto* tree = form.findChild<QTreeView*>(QStringLiteral("Dir1"))) showOnly(scratch, *tree);
+    const QString instead =
+        QDir(scratch + QStringLiteral("/data")).exists() ? QString() : QStringLiteral("/data");
     for (auto* box : form.findChildren<QLineEdit*>())
         if (box->text().contains(scratch)) box->setText(box->text().replace(scratch, instead));
     for (auto* list : form.findChildren<QListWidget*>())
