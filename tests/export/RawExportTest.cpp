@@ -157,7 +157,7 @@ TEST(RawExport, OneOrMoreStationsOfATableAreTaken) {
     const Outcome one =
         runRaw({"net.csv", "--station", "B B", "--frq", "--rose", "1", "--size", "50"}, directory.path());
     EXPECT_EQ(one.status, 0) << one.errors;
-    EXPECT_EQ(one.out, "./net.frq\n./net_01.png\n");
+    EXPECT_EQ(one.out, nativePath("./net.frq\n./net_01.png\n"));
     EXPECT_TRUE(holds(directory.read("net.frq"), "Total Periods = 10; Valid Periods = 10;"))
         << directory.read("net.frq");
     EXPECT_TRUE(holds(directory.read("net.frq"), "  S :    0.0000%    0.0000%  100.0000%"))
@@ -166,7 +166,7 @@ TEST(RawExport, OneOrMoreStationsOfATableAreTaken) {
         runRaw({"net.csv", "--station", "A", "--station", "B B", "--frq", "--rose", "1", "--size", "50"},
                directory.path());
     EXPECT_EQ(both.status, 0) << both.errors;
-    EXPECT_EQ(both.out, "./net_A.frq\n./net_B B.frq\n./net_A_01.png\n./net_B B_01.png\n");
+    EXPECT_EQ(both.out, nativePath("./net_A.frq\n./net_B B.frq\n./net_A_01.png\n./net_B B_01.png\n"));
     EXPECT_TRUE(holds(directory.read("net_A.frq"), "Total Periods = 10; Valid Periods = 10;"));
     EXPECT_EQ(from(directory.read("net_B B.frq"), "All Periods"),
               from(directory.read("net.frq"), "All Periods"));
