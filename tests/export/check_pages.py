@@ -1,12 +1,13 @@
 #!/usr/bin/env python3
-# Looks at the companion's SVG and web report by the programs that people open them with: rsvg-convert, and Chromium without a window
-# (Debian's librsvg2-bin and chromium-headless-shell). What is missing is said and left out.
+# Looks at the companion's SVG and web report by the programs that people open them with: rsvg-convert, LibreOffice, and Chromium without a
+# window (Debian's librsvg2-bin, libreoffice-impress-nogui and chromium-headless-shell). What is missing is said and left out.
 #   check_pages.py COMPANION SAMPLES
 #   check_pages.py COMPANION SAMPLES AXE     only searches reports for barriers, by axe.min.js of axe-core; nothing may be missing
 import glob
 import os
 import re
 import shutil
+import struct
 import subprocess
 import sys
 import tempfile
@@ -15,6 +16,7 @@ import browser
 
 COMPANION, SAMPLES = os.path.abspath(sys.argv[1]), os.path.abspath(sys.argv[2])
 AXE = sys.argv[3] if len(sys.argv) > 3 else ""
+CELL = 15  # pixels
 PRINTED_WIDTH = 703  # pixels of A4, which is narrower than Letter, between its margins
 SHOWN = "[].filter.call(document.querySelectorAll('.rose'),function(r){return r.offsetHeight>0})"
 FOCUS = ("(function(e){var s=getComputedStyle(e);return {what:e.name||e.className||e.tagName,seen:s.outlineStyle!='none'&&"
@@ -44,6 +46,44 @@ def report(scratch, name, *words):
     return path
 
 
+def cells_of(path, shift=0):
+    """Mean colours of the squares of 15 pixels of a bitmap of 600 pixels, which begin so far from its corner."""
+    with open(path, "rb") as file:
+        data = file.read()
+    begin, width, height, depth = struct.unpack_from("<I4xiixxH", data, 10)
+    line = (width * depth // 8 + 3) // 4 * 4
+    lines = [data[begin + y * line:begin + (y + 1) * line] for y in range(abs(height))]
+    if height > 0:
+        lines.reverse()
+    cells = {}
+    for y in range(0, 600, CELL):
+        for x in range(0, 600, CELL):
+            part = b"".join(row[(x + shift) * depth // 8:(x + shift + CELL) * depth // 8] for row in lines[y + shift:y + shift + CELL])
+            cells[x, y] = [sum(part[channel::depth // 8]) / CELL**2 for channel in range(3)]
+    return cells
+
+
+def look_by_office(scratch):
+    """LibreOffice shows bars, texts and patterns where the program's own picture has them."""
+    looks = {"LOVETT_1988": ([], 20), "mountain_valley": (["--hatch", "--numbers", "--calm-circle", "--units", "knots"], 35)}
+    for name, (words, _) in looks.items():
+        for kind in ("svg", "bmp"):
+            companion(sample(name), "--rose", "1", *words, "--format", kind, "--out", scratch)
+    pictures = [os.path.join(scratch, name + "_01") for name in looks]
+    place = os.path.join(scratch, "office")
+    done = subprocess.run(["soffice", "-env:UserInstallation=file://" + os.path.join(scratch, "profile"), "--headless", "--convert-to", "bmp",
+                           "--outdir", place] + [picture + ".svg" for picture in pictures], capture_output=True, check=False)
+    for picture, (_, limit) in zip(pictures, looks.values()):
+        shown = os.path.join(place, os.path.basename(picture) + ".bmp")
+        if not os.path.exists(shown):
+            check(False, "LibreOffice opens %s: %s" % (picture, done.stderr.decode()))
+            continue
+        own, others = cells_of(picture + ".bmp"), cells_of(shown, 1)  # its page is a pixel larger
+        away, at = max((abs(a - b), at) for at in own for a, b in zip(own[at], others[at]))
+        check(away < limit, "LibreOffice draws %s as the program does (at most %.0f of 255 another colour, at %s)" % (
+            os.path.basename(picture), away, at))
+
+
 def look_at_svg(scratch, shown):
     svg = os.path.join(scratch, "LOVETT_1988_01.svg")
     companion(sample("LOVETT_1988"), "--rose", "1", "--format", "svg", "--out", scratch)
@@ -53,6 +93,10 @@ def look_at_svg(scratch, shown):
         check(done.returncode == 0 and not done.stderr and os.path.getsize(png) > 10000, "rsvg-convert draws the picture")
     else:
         print("left out: rsvg-convert is missing (librsvg2-bin)")
+    if shutil.which("soffice"):
+        look_by_office(scratch)
+    else:
+        print("left out: LibreOffice is missing (libreoffice-impress-nogui)")
     if shown:
         png = os.path.join(scratch, "browser.png")
         shown.window(600, 600)
