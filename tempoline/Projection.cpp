@@ -3,15 +3,17 @@
 #include <proj.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <map>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include "base/Files.h"
 #include "base/Paths.h"
 #include "base/Text.h"
-#include "tempoline/DatumShifts.h"
+#include "formats/Datums.h"
 #include "tempoline/Texts.h"
 
 namespace zg::tempoline {
@@ -23,74 +25,63 @@ constexpr double sevenDigits = 1e-6;
 constexpr double smallAngle = 1e-4;  // degrees: the uncertainty of seven digits, about 10 m
 constexpr double poleWidth = 1e-7;   // degrees: about a centimetre
 
-struct DatumRow {
-    const char* code;
-    const char* definition;
+struct Definition {
+    std::string_view name;
+    const char* text;
 };
 
-// Datums that are more than a shift, and three whose results must not change: PROJ's Clarke 1880 has the
-// flattening 1/293.4663, the table's 1/293.465, which moves a pole by 0.1 m. For spheres latitude and
-// longitude are unchanged, because the models that use them do the same.
-constexpr DatumRow datumRows[] = {
-    {"WGS-84", "+datum=WGS84"},
-    {"WGS-72", "+ellps=WGS72 +towgs84=0,0,4.5,0,0,0.554,0.2263"},
-    {"NWS-84", "+R=6370000 +nadgrids=@null"},
-    {"ESR-S", "+R=6371000 +nadgrids=@null"},
-    {"ADI-M", "+ellps=clrk80 +towgs84=-166,-15,204"},
-    {"ARF-M", "+ellps=clrk80 +towgs84=-143,-90,-294"},
-    {"CAP", "+ellps=clrk80 +towgs84=-136,-108,-292"},
-};
+// Datums that are more than a shift. For spheres latitude and longitude are unchanged, because the models
+// that use them do the same.
+constexpr std::array<Definition, 4> ownDefinitions = {
+    {{"WGS-84", "+datum=WGS84"},
+     {"WGS-72", "+ellps=WGS72 +towgs84=0,0,4.5,0,0,0.554,0.2263"},
+     {"NWS-84", "+R=6370000 +nadgrids=@null"},
+     {"ESR-S", "+R=6371000 +nadgrids=@null"}}};
 
-struct EllipsoidRow {
-    Ellipsoid ellipsoid;
-    const char* definition;
-};
+// By their names in the table. Axis and flattening are given if PROJ has no name for exactly this ellipsoid.
+constexpr std::array<Definition, 21> ellipsoids = {{{"Airy 1830", "+ellps=airy"},
+                                                    {"Australian National", "+ellps=aust_SA"},
+                                                    {"Bessel 1841", "+ellps=bessel"},
+                                                    {"Bessel 1841 (Namibia)", "+ellps=bess_nam"},
+                                                    {"Clarke 1866", "+ellps=clrk66"},
+                                                    {"Clarke 1880", "+a=6378249.145 +rf=293.465"},
+                                                    {"Everest 1830", "+ellps=evrst30"},
+                                                    {"Everest 1948", "+ellps=evrst48"},
+                                                    {"Everest 1956", "+ellps=evrst56"},
+                                                    {"Everest (Pakistan)", "+a=6377309.613 +rf=300.8017"},
+                                                    {"Everest (Sabah, Sarawak)", "+ellps=evrstSS"},
+                                                    {"GRS 80", "+ellps=GRS80"},
+                                                    {"Helmert 1906", "+ellps=helmert"},
+                                                    {"Hough 1960", "+ellps=hough"},
+                                                    {"Indonesian 1974", "+a=6378160 +rf=298.247"},
+                                                    {"International 1924", "+ellps=intl"},
+                                                    {"Krassovsky 1940", "+ellps=krass"},
+                                                    {"Modified Airy", "+ellps=mod_airy"},
+                                                    {"Modified Fischer 1960", "+ellps=fschr60m"},
+                                                    {"South American 1969", "+ellps=aust_SA"},
+                                                    {"WGS 84", "+ellps=WGS84"}}};
 
-// Axis and flattening are given if PROJ has no name for exactly this ellipsoid.
-constexpr EllipsoidRow ellipsoidRows[] = {
-    {Ellipsoid::Airy1830, "+ellps=airy"},
-    {Ellipsoid::AustralianNational, "+ellps=aust_SA"},
-    {Ellipsoid::Bessel1841, "+ellps=bessel"},
-    {Ellipsoid::BesselNamibia, "+ellps=bess_nam"},
-    {Ellipsoid::Clarke1866, "+ellps=clrk66"},
-    {Ellipsoid::Clarke1880, "+a=6378249.145 +rf=293.465"},
-    {Ellipsoid::Everest1830, "+ellps=evrst30"},
-    {Ellipsoid::Everest1948, "+ellps=evrst48"},
-    {Ellipsoid::Everest1956, "+ellps=evrst56"},
-    {Ellipsoid::EverestPakistan, "+a=6377309.613 +rf=300.8017"},
-    {Ellipsoid::EverestSabahSarawak, "+ellps=evrstSS"},
-    {Ellipsoid::Grs80, "+ellps=GRS80"},
-    {Ellipsoid::Helmert1906, "+ellps=helmert"},
-    {Ellipsoid::Hough1960, "+ellps=hough"},
-    {Ellipsoid::Indonesian1974, "+a=6378160 +rf=298.247"},
-    {Ellipsoid::International1924, "+ellps=intl"},
-    {Ellipsoid::Krassovsky1940, "+ellps=krass"},
-    {Ellipsoid::ModifiedAiry, "+ellps=mod_airy"},
-    {Ellipsoid::ModifiedFischer1960, "+ellps=fschr60m"},
-    {Ellipsoid::SouthAmerican1969, "+ellps=aust_SA"},
-    {Ellipsoid::Wgs84, "+ellps=WGS84"},
-};
+// Datums whose results must not change: PROJ's Clarke 1880 has the flattening 1/293.4663, the table's
+// 1/293.465, which moves a pole by 0.1 m.
+constexpr std::array<std::string_view, 3> ofOtherClarke = {"ADI-M", "ARF-M", "CAP"};
 
-std::string ellipsoidDefinition(Ellipsoid ellipsoid) {
-    for (const EllipsoidRow& row : ellipsoidRows) {
-        if (row.ellipsoid == ellipsoid) return row.definition;
-    }
+std::string ellipsoidDefinition(const DatumRegion& row) {
+    if (std::find(ofOtherClarke.begin(), ofOtherClarke.end(), row.code) != ofOtherClarke.end())
+        return "+ellps=clrk80";
+    constexpr std::string_view mark = " - ";
+    const std::size_t at = row.ellipsoid.rfind(mark);
+    const std::string name = at == std::string::npos ? row.ellipsoid : row.ellipsoid.substr(at + mark.size());
+    for (const Definition& ellipsoid : ellipsoids)
+        if (name == ellipsoid.name) return ellipsoid.text;
     return {};
 }
 
-std::string shiftDefinition(const DatumShift& shift) {
-    return ellipsoidDefinition(shift.ellipsoid) + " +towgs84=" + std::to_string(shift.x) + "," +
-           std::to_string(shift.y) + "," + std::to_string(shift.z);
+std::optional<std::string> shiftDefinition(const DatumRegion& row) {
+    const std::string ellipsoid = ellipsoidDefinition(row);
+    if (!row.shift || ellipsoid.empty()) return {};
+    const auto& [x, y, z] = *row.shift;
+    return ellipsoid + " +towgs84=" + std::to_string(x) + "," + std::to_string(y) + "," + std::to_string(z);
 }
-
-struct DatumAlias {
-    const char* spelling;
-    const char* code;
-};
-constexpr DatumAlias datumAliases[] = {{"NAD27", "NAS-C"},  {"NAD-27", "NAS-C"},  {"NAD 27", "NAS-C"},
-                                       {"NAD83", "NAR-C"},  {"NAD-83", "NAR-C"},  {"NAD 83", "NAR-C"},
-                                       {"WGS84", "WGS-84"}, {"WGS 84", "WGS-84"}, {"WGS72", "WGS-72"},
-                                       {"WGS 72", "WGS-72"}};
 
 struct ContextCloser {
     void operator()(PJ_CONTEXT* context) const { proj_context_destroy(context); }
@@ -225,16 +216,11 @@ MapPoint polarOrigin(const MapSetting& map) {
 }  // namespace
 
 std::optional<std::string> datumDefinition(const std::string& code) {
-    std::string wanted = ucase(trimmed(code));
-    for (const DatumAlias& alias : datumAliases) {
-        if (wanted == alias.spelling) wanted = alias.code;
-    }
-    for (const DatumRow& row : datumRows) {
-        if (wanted == row.code) return row.definition;
-    }
-    for (const DatumShift& shift : datumShifts()) {
-        if (wanted == shift.code) return shiftDefinition(shift);
-    }
+    const std::string wanted = datumOfSpelling(ucase(trimmed(code)));
+    for (const Definition& own : ownDefinitions)
+        if (wanted == own.name) return own.text;
+    for (const DatumRegion& row : builtInDatums().rows)
+        if (wanted == row.code) return shiftDefinition(row);
     return {};
 }
 

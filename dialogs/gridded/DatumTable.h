@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "formats/Datums.h"
+
 namespace zg {
 
 /// One record as the operation returns it.
@@ -23,13 +25,6 @@ struct InitResult {
 
 /// Returns record number 1 and up. Raises a RunTimeError if the data file is missing or invalid.
 using InitOperation = std::function<void(std::int32_t record, InitResult& result)>;
-
-struct DatumRegion {
-    std::string continent;  ///< continent or ocean
-    std::string ellipsoid;  ///< geoid and ellipsoid
-    std::string region;
-    std::string code;  ///< such as "NAS-C"
-};
 
 /// The table, in file order: all regions of a continent are consecutive.
 struct ModDatums {

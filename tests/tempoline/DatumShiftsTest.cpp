@@ -1,5 +1,3 @@
-#include "tempoline/DatumShifts.h"
-
 #include <gtest/gtest.h>
 #include <proj.h>
 
@@ -14,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "formats/Datums.h"
 #include "tempoline/Projection.h"
 
 namespace zg::tempoline {
@@ -60,6 +59,20 @@ const std::set<std::string> moreThanAShift = {"WGS-84", "WGS-72", "NWS-84", "ESR
 const std::set<std::string> unknown = {"NAP"};
 /// These have PROJ's own flattening: 1/293.4663.
 const std::set<std::string> otherClarke = {"ADI-M", "ARF-M", "CAP"};
+
+struct DatumShift {
+    std::string code;
+    int x = 0;  // m
+    int y = 0;
+    int z = 0;
+};
+
+std::vector<DatumShift> datumShifts() {
+    std::vector<DatumShift> shifts;
+    for (const DatumRegion& row : builtInDatums().rows)
+        if (row.shift) shifts.push_back({row.code, row.shift->at(0), row.shift->at(1), row.shift->at(2)});
+    return shifts;
+}
 
 /// The fields between commas; double quotes protect a comma.
 std::vector<std::string> fieldsOf(const std::string& line) {
@@ -158,7 +171,7 @@ TEST(DatumShifts, EachCodeStandsOnceAndIsOneOfTheDialogs) {
         EXPECT_TRUE(codes.insert(shift.code).second) << shift.code;
         EXPECT_EQ(datums.count(shift.code), 1U) << shift.code;
     }
-    EXPECT_EQ(codes.size(), 204U);
+    EXPECT_EQ(codes.size(), 207U);
 }
 
 TEST(DatumShifts, EveryDatumOfTheDialogIsKnownButOne) {
@@ -183,6 +196,7 @@ TEST(DatumShifts, TheEllipsoidIsTheOneOfTheDialog) {
 TEST(DatumShifts, PointsMoveByTheShift) {
     const std::map<std::string, std::string> datums = deliveredDatums();
     for (const DatumShift& shift : datumShifts()) {
+        if (otherClarke.count(shift.code) > 0) continue;
         const MapPoint from{35, 30};
         const MapPoint to = converted(from, degrees(shift.code), degrees("WGS-84"));
         const MapPoint expected = shifted(from, figures.at(datums.at(shift.code)), shift);

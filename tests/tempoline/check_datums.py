@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Compares every shift in DatumShifts.cpp with the transformations in the database that comes with PROJ.
+"""Compares every shift in data/datums.csv with the transformations in the database that comes with PROJ.
 
 check_datums.py
 
@@ -16,7 +16,7 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parent.parent.parent
 SKIPPED = 77
 
-# As in the table of shifts.
+# By their names in the table.
 ELLIPSOIDS = {
     "Airy 1830": (6377563.396, 299.3249646),
     "Australian National": (6378160, 298.25),
@@ -88,18 +88,11 @@ def database():
     return None
 
 
-def dialog_rows():
-    """Code -> (ellipsoid, region)."""
+def table_rows():
+    """Code -> (ellipsoid, region, shift), of the datums that have one."""
     with open(ROOT / "data" / "datums.csv", newline="") as file:
         rows = list(csv.reader(file))[2:]
-    return {code: (text.rsplit(" - ", 1)[1], region) for _, text, region, code in rows}
-
-
-def processor_rows():
-    text = (ROOT / "tempoline" / "DatumShifts.cpp").read_text()
-    rows = re.findall(r'\{"([^"]+)", \w+, (-?\d+), (-?\d+), (-?\d+)\}', text)
-    assert len(rows) == text.count('{"') > 0, "a row of DatumShifts.cpp is not understood"
-    return {code: tuple(map(int, shift)) for code, *shift in rows}
+    return {code: (text.rsplit(" - ", 1)[1], region, tuple(map(int, shift))) for _, text, region, code, *shift in rows if shift[0]}
 
 
 def words(text):
@@ -109,9 +102,8 @@ def words(text):
     return {word for word in re.findall(r"[a-z]{3,}", text.lower()) if word not in common}
 
 
-def problem(code, shift, dialog, transformations):
+def problem(code, ellipsoid, region, shift, transformations):
     """What is wrong with the row, "" if nothing."""
-    ellipsoid, region = dialog
     same = [t for t in transformations if t.shift == shift]
     if not same:
         return "no transformation has these numbers"
@@ -130,10 +122,10 @@ def main():
         print("no database of PROJ")
         return SKIPPED
     transformations = [Transformation(row) for row in db.execute(QUERY)]
-    dialog, rows = dialog_rows(), processor_rows()
+    rows = table_rows()
     wrong = 0
-    for code, shift in rows.items():
-        text = problem(code, shift, dialog[code], transformations)
+    for code, (ellipsoid, region, shift) in rows.items():
+        text = problem(code, ellipsoid, region, shift, transformations)
         if text:
             wrong += 1
             print("%s %s: %s" % (code, shift, text))

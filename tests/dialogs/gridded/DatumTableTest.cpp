@@ -14,7 +14,7 @@ namespace zg {
 namespace {
 
 const std::string heading =
-    "DATUMS.CSV,V1.0,2026-11-20\nContinent or ocean,Geoid and ellipsoid,Region,Code\n";
+    "DATUMS.CSV,V1.0,2026-11-22\nContinent or ocean,Geoid and ellipsoid,Region,Code\n";
 
 class DatumTable : public ::testing::Test {
  protected:
@@ -72,8 +72,8 @@ TEST_F(DatumTable, BrokenFilesAreToldWithTheirLine) {
                   ReadDatumTable());
     directory_.write("datums.csv", heading + "AFRICA,A - B,C,CODE-TOO-LONG\n");
     EXPECT_RAISES(13, "datums.csv, line 3: field 4 is empty or too long", ReadDatumTable());
-    for (const char* first : {"whatever", "DATUMS.CSV", "DATUMS.CSV,V1.0", "DATUMS.CSV,V1.1,2026-11-20",
-                              "OTHER.CSV,V1.0,2026-11-20", "DATUMS.CSV,V1.0,2026-11-20,more"}) {
+    for (const char* first : {"whatever", "DATUMS.CSV", "DATUMS.CSV,V1.0", "DATUMS.CSV,V1.1,2026-11-22",
+                              "OTHER.CSV,V1.0,2026-11-22", "DATUMS.CSV,V1.0,2026-11-22,more"}) {
         directory_.write("datums.csv", std::string(first) + "\nx\nAFRICA,A - B,C,D\n");
         EXPECT_RAISES(13, "datums.csv, line 1: DATUMS.CSV,V1.0 and a date are wanted", ReadDatumTable());
     }
