@@ -1,9 +1,8 @@
 // What a companion that was killed leaves among the temporary files.
 
-#include <signal.h>
-
 #include <QTest>
 #include <algorithm>
+#include <csignal>
 #include <filesystem>
 
 #include "base/Files.h"
