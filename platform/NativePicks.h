@@ -8,7 +8,8 @@ class QWidget;
 
 namespace zg {
 
-/// Whether this system has colour and font dialogs of its own that the toolkit does not use.
+/// Whether dialogs are the system's own; those for colours and fonts are here, as the toolkit does not use
+/// them.
 bool hasNativePicks();
 
 /// Those dialogs, over the window; they start with the given choice. Nothing if cancelled. No other window of

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "base/RunTimeError.h"
+#include "platform/NativePicks.h"
 #include "platform/PolarGraphWidget.h"
 #include "platform/QtPicture.h"
 #include "platform/WholeFile.h"
@@ -29,6 +30,19 @@ PicturePointer partOf(QImage page, const Rect& part) {
         page.setDevicePixelRatio(1);
     }
     return std::make_shared<QtPicture>(area == page.rect() ? page : page.copy(area));
+}
+
+/// The system's own dialog opens for real printers alone; without one the toolkit would pass over it
+/// silently.
+bool lacksPrinter(const QPrinter& printer) {
+    return hasNativePicks() && printer.outputFormat() != QPrinter::NativeFormat;
+}
+
+bool showPrintDialog(QPrinter& printer, QWidget* window) {
+    if (lacksPrinter(printer)) throw RunTimeError(printerError, "Printer error: no printer is installed");
+    QPrintDialog dialog(&printer, window);
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);  // there is one page
+    return dialog.exec() == QDialog::Accepted;
 }
 
 }  // namespace
@@ -60,8 +74,7 @@ void PolarGraphWidget::saveBitmap(const Picture& picture, const std::string& pat
 
 void PolarGraphWidget::print(double side, const std::function<void(Canvas&)>& paint) {
     QPrinter printer(QPrinter::HighResolution);
-    const bool agreed =
-        askPrinter ? askPrinter(printer) : QPrintDialog(&printer, window()).exec() == QDialog::Accepted;
+    const bool agreed = askPrinter ? askPrinter(printer) : showPrintDialog(printer, window());
     if (!agreed) return;
     QPainter painter;
     if (!painter.begin(&printer)) throw RunTimeError(printerError, "Printer error");
