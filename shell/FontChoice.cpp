@@ -16,8 +16,6 @@ FontChoice::FontChoice(Host& host, const FontRecord& font, const FontRecord& fac
     QPushButton* cmdReset = namedButton(captions.reset, ("cmdResetToDefaults" + suffix).c_str());
     sample_->setObjectName(QString::fromStdString("lblSample" + suffix));
     sample_->setAutoFillBackground(true);
-    sample_->setAlignment(Qt::AlignCenter);
-    sample_->setMinimumSize(150, 30);
     sample_->setFrameShape(QFrame::StyledPanel);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -55,6 +53,13 @@ void FontChoice::showSample() {
     colours.setColor(QPalette::WindowText, toQColor(paintedColour(font_.colour)));
     sample_->setPalette(colours);
     sample_->setText(shown(font_.name) + QLatin1Char(' ') + QString::number(font_.size));
+    sample_->setToolTip(sample_->text());
+    // The dialog grows with it; of a text that is larger still at least the beginning is shown.
+    const QSize whole = sample_->sizeHint();
+    const QSize largest(420, 90);
+    sample_->setMinimumSize(whole.expandedTo(QSize(150, 30)).boundedTo(largest));
+    sample_->setAlignment(Qt::AlignVCenter |
+                          (whole.width() > largest.width() ? Qt::AlignLeft : Qt::AlignHCenter));
 }
 
 }  // namespace zg
