@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Checks the packages for Windows in a fresh Windows of Wine. The installer: installed silently, started by an FRQ file, used, updated, removed. The
-# portable folder: unpacked and used. Used means: roses drawn, a rose made of raw data, a file opened in the window.
+# portable folder: unpacked and used. Used means: roses drawn, a rose made of raw data by the processor, roses made and drawn of raw data by the
+# companion, a file opened in the window.
 # Needs an X server for the window: one of its own is started where there is none.
 #     tools/check_windows_packages.sh [BUILD]   the packages in that build directory; by default build/windows
 set -euo pipefail
@@ -43,19 +44,58 @@ run_directory() {
         "$tree/tests/processing/control/tsf.inp" >"$1/run.inp"
 }
 
+# with_classes WHAT PICTURE: four classes of a rose have their colours in the picture.
+with_classes() {
+    local colours colour
+    colours=$(convert "$2" -depth 8 -format %c histogram:info:-)
+    for colour in FF0000 00FF00 0000FF FFFF00; do
+        grep -q "#$colour" <<<"$colours" || fail "$1: the rose has no class in #$colour; see $2"
+    done
+}
+
+# companion WHAT FOLDER WORDS...: its status is also 0 if a thread breaks after the work. Its messages are in $work/errors.
+companion() {
+    local what=$1 place=$2
+    shift 2
+    wine "$place/zephyrgraph-export.exe" "$@" >/dev/null 2>"$work/errors" || { cat "$work/errors" >&2; fail "$what: the companion failed"; }
+    ! grep 'wine: Unhandled' "$work/errors" >&2 || fail "$what: the companion crashed"
+}
+
+first_rose() { tr -d '\r' <"$1" | sed -n '/All Periods/,$p' | head -n 18; }
+
+# raw_data WHAT FOLDER: the companion alone, by the processor beside it, from raw data to pictures: a logger's table and an AERMET surface file, of
+# which another program has made a rose too.
+raw_data() {
+    local what=$1 place=$2 out=$work/raw
+    rm -rf "$out"
+    mkdir -p "$out"
+    awk 'BEGIN {
+        print "Timestamp,Speed,Direction"
+        for (i = 0; i < 744; i++) printf "2023-01-%02d %02d:00,%.1f,%d\n", i / 24 + 1, i % 24, i % 13 + 0.5, i * 37 % 360
+    }' >"$out/mast.csv"
+    (cd "$out" && companion "$what" "$place" mast.csv "Z:$tree/data/samples/LOVETT.SFC" --frq --rose 1 --out roses)
+    grep -q '^mast.csv: a table by COMMA, .* 744 records of 1 h ' "$work/errors" || fail "$what: the table was not read as expected"
+    grep -q 'Total Periods = 744; Valid Periods = 744;' "$out/roses/mast.frq" || fail "$what: not every hour of the table was counted"
+    diff <(first_rose "$tree/tests/tempoline/data/LOVETT_1988.frq") <(first_rose "$out/roses/LOVETT.frq") >&2 ||
+        fail "$what: the rose of the surface file is not the one of another program"
+    with_classes "$what" "$out/roses/mast_01.png"
+    with_classes "$what" "$out/roses/LOVETT_01.png"
+}
+
 # programs WHAT FOLDER COMMAND...: all three programs of a folder; the command opens the sample in the window.
 programs() {
     local what=$1 place=$2 out=$work/out title=
     shift 2
     rm -rf "$out"
     run_directory "$out"
-    (cd "$out" && wine "$place/zephyrgraph-export.exe" "Z:$sample" --rose all --out "Z:$out/roses" >/dev/null 2>"$work/errors") ||
-        fail "$what: the companion failed"
-    # Its status is also 0 if a thread breaks after the work.
-    grep 'wine: Unhandled' "$work/errors" >&2 && fail "$what: the companion crashed"
+    (cd "$out" && companion "$what" "$place" "Z:$sample" --rose all --out "Z:$out/roses")
     [ "$(ls "$out/roses" | wc -l)" -eq 9 ] || fail "$what: nine pictures were expected"
+    # The names of the directories show in no picture, but what cannot be read from them is missing: fonts.
+    [ -e "$work/first" ] || cp -r "$out/roses" "$work/first"
+    diff -r "$work/first" "$out/roses" >&2 || fail "$what: the pictures differ from those of the first place"
     (cd "$out" && wine "$place/tempoline.exe" run.inp) || fail "$what: the processor failed"
     [ -s "$out/out.frq" ] || fail "$what: the processor made no rose"
+    raw_data "$what" "$place"
     # Still on show, with the file in its title and its rose, after some seconds.
     wine "$@" >/dev/null 2>"$work/start.log" &
     opener=$!
@@ -66,15 +106,12 @@ programs() {
     done
     [ -n "$title" ] || fail "$what: no window shows the file that was given"
     sleep 2
-    local shot=$work/$what.png colours colour
+    local shot=$work/$what.png
     import -window root "$shot"
     xdotool search --onlyvisible --name 'Zephyrgraph - LOVETT_1988.frq' >/dev/null || fail "$what: the program ended by itself"
-    colours=$(convert "$shot" -depth 8 -format %c histogram:info:-)
-    for colour in FF0000 00FF00 0000FF FFFF00; do
-        grep -q "#$colour" <<<"$colours" || fail "$what: the rose has no class in #$colour; see $shot"
-    done
+    with_classes "$what" "$shot"
     [ -s "$place/docs/guide.md" ] || fail "$what: no user guide"
-    echo "$what: nine roses drawn, a rose made of raw data, a file opened in the window"
+    echo "$what: nine roses drawn, roses of raw data made and drawn, a file opened in the window"
 }
 
 # The programs of this Windows end, whatever they do.
