@@ -29,8 +29,8 @@ class Desk:
         self.env.pop("QT_QPA_PLATFORM", None)
         self.env.pop("WAYLAND_DISPLAY", None)
         self.helpers = list  # numbers of more processes that work for the program
-        self.pause = 0.03  # seconds between keys
-        self.idle = 0  # what all of them use between two looks although there is nothing to do
+        self.delay = 60  # milliseconds between keys
+        self.idle = 0  # share of one processor that all of them use although there is nothing to do
         self.start(["openbox"])
         self.count = 0
 
@@ -53,8 +53,13 @@ class Desk:
                     child.kill()
 
     def tool(self, *words):
-        done = subprocess.run(["timeout", "10", *map(str, words)], env=self.env, capture_output=True, text=True)
-        return done.stdout.strip()
+        return self.output(*words).strip()
+
+    def output(self, *words):
+        try:
+            return subprocess.run([*map(str, words)], env=self.env, capture_output=True, text=True, timeout=10).stdout
+        except subprocess.TimeoutExpired:
+            return ""
 
     def work(self):
         """Nanoseconds of the processor used so far by the display, the window manager and the program; None while one of them is busy."""
@@ -72,22 +77,26 @@ class Desk:
     def settle(self, seconds=10):
         """Waits until earlier input has been processed completely, however slow the machine is. A blinking caret does not count."""
         end = time.monotonic() + seconds
-        before = None
+        before = since = None
         while time.monotonic() < end:
+            look = time.monotonic_ns()
             now = self.work()
-            if now is not None and before is not None and now - before <= self.idle:
+            if now is not None and before is not None and now - before <= self.idle * (look - since):
                 return
-            before = now
+            before, since = now, look
             time.sleep(0.06)
 
     def windows(self):
         """Titles of the visible windows, by number."""
-        found = {}
-        for number in self.tool("xdotool", "search", "--onlyvisible", "--name", "").split():
-            title = self.tool("xdotool", "getwindowname", number)
-            if title:
-                found[number] = title
-        return found
+        search = ("xdotool", "search", "--onlyvisible", "--name", "")
+        before = self.tool(*search).split()
+        while True:
+            # One call for all titles, between two lists: windows come and go.
+            titles = self.output(*search, "getwindowname", "%@").splitlines()
+            after = self.tool(*search).split()
+            if before == after and len(titles) == len(after):
+                return {number: title.strip() for number, title in zip(after, titles) if title.strip()}
+            before = after
 
     def wait(self, what, test, seconds=20):
         """Polls until the test returns something; otherwise reports what was expected and what is displayed."""
@@ -115,9 +124,8 @@ class Desk:
 
     def keys(self, *names):
         self.settle()
-        for name in names:
-            self.tool("xdotool", "key", "--delay", "30", name)
-            time.sleep(self.pause)
+        self.tool("xdotool", "key", "--delay", self.delay, *names)
+        time.sleep(self.delay / 1000)
 
     def type(self, text):
         self.settle()

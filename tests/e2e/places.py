@@ -4,6 +4,7 @@ import pathlib
 import shutil
 import subprocess
 
+import printer
 from desk import Failed
 
 TREE = pathlib.Path(__file__).resolve().parents[2]
@@ -13,17 +14,21 @@ class Debian:
     """BIN is a build directory's."""
     needs = ()
     to_play = ["Down"] * 4  # in the context menu of a curve
+    font_title = "Select Font"
+    folder_title = "Select a Working Directory:"
     left_out = {}
 
     def __init__(self, programs, scratch):
         self.home = scratch / "program"
+        self.printed = scratch / "printed.pdf"
         self.home.mkdir()
         for name in ("zephyrgraph", "tempoline.exe", "TimeZones.txt", "Station_Data.csv", "datums.csv"):
             shutil.copy2(pathlib.Path(programs) / name, self.home / name)
         shutil.copytree(pathlib.Path(programs) / "samples", self.home / "samples")
 
     def start(self, desk, scratch, out):
-        return desk.start([str(self.home / "zephyrgraph")], cwd=out, env={"HOME": str(scratch)})
+        # No printer of this machine gets a page.
+        return desk.start([str(self.home / "zephyrgraph")], cwd=out, env={"HOME": str(scratch), "CUPS_SERVER": "localhost:1"})
 
     def name(self, path):
         """The path as this system's users type it."""
@@ -39,8 +44,20 @@ class Debian:
         walk.desk.keys("Return")
         walk.desk.gone("Select Color")
 
-    def look_at_fonts(self, walk):
-        """The toolkit's dialog, which tests open without a display."""
+    def choose_font(self, walk):
+        walk.fill("f", "DejaVu Sans")
+        walk.fill("s", "20")
+
+    def print_page(self, walk):
+        """Into a file: there is no printer."""
+        walk.desk.window(r"Zephyrgraph - .*")
+        walk.desk.keys("ctrl+p")
+        number = walk.desk.window("Print")
+        walk.fill("f", self.name(self.printed))
+        walk.desk.shot("print", number)
+        walk.desk.keys("Return")
+        walk.desk.gone("Print")
+        return self.printed
 
     def show_text(self, walk):
         """The desktop decides which program shows texts; this one has none."""
@@ -60,37 +77,47 @@ class Wine:
     """BIN is the unpacked portable folder. This Windows is a new one, in the scratch directory."""
     needs = ("wine", "wineserver")
     to_play = ["Down"] * 5  # disabled entries are on the way
+    font_title = "Font"
+    folder_title = "Select Folder"  # Wine puts it in place of the title as soon as folders are asked for
     left_out = {"report": "needs an office suite for Windows; tests/batch has one that records what it is asked"}
 
     def __init__(self, programs, scratch):
         self.home = scratch / "program"
+        self.printed = scratch / "printed.ps"
+        self.known = {}  # whether a process belongs to this Windows, by its number
         shutil.copytree(programs, self.home)
         self.env = {"ZG_WINE_PREFIX": str(scratch / "wine"), "WINEPREFIX": str(scratch / "wine")}
         self.run("cmd", "/c", "ver")
 
     def run(self, *words):
-        done = subprocess.run([str(TREE / "tools/wine.sh"), *words], env={**os.environ, **self.env}, capture_output=True)
+        # No pipe: what Wine starts beside the program would keep it open for a minute.
+        done = subprocess.run([str(TREE / "tools/wine.sh"), *words], env={**os.environ, **self.env}, stdin=subprocess.DEVNULL,
+                              stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         if done.returncode != 0:
             raise Failed(f"{' '.join(words)} under Wine ended with {done.returncode}")
 
     def start(self, desk, scratch, out):
         program = desk.start([str(TREE / "tools/wine.sh"), str(self.home / "zephyrgraph.exe")], cwd=out, env=self.env)
         desk.helpers = self.servers
-        desk.pause = 0.15  # on a busy machine it loses keys that come faster
-        desk.idle = 2_000_000  # the server looks after itself now and then
+        desk.delay = 150  # on a busy machine it loses keys that come faster
+        desk.idle = 0.08  # timers make threads of their own there, and the server looks after itself
         return program
 
     def servers(self):
         """What works for the program in other processes."""
         mark = ("WINEPREFIX=" + self.env["WINEPREFIX"]).encode()
-        found = []
-        for process in pathlib.Path("/proc").glob("[0-9]*"):
-            try:
-                if mark in (process / "environ").read_bytes().split(b"\0"):
-                    found.append(int(process.name))
-            except OSError:
-                continue  # it has ended meanwhile, or is another user's
-        return found
+        known = self.known
+        self.known = {}
+        for name in filter(str.isdigit, os.listdir("/proc")):
+            self.known[name] = known[name] if name in known else self.belongs(name, mark)
+        return [int(name) for name, belongs in self.known.items() if belongs]
+
+    @staticmethod
+    def belongs(name, mark):
+        try:
+            return mark in pathlib.Path("/proc", name, "environ").read_bytes().split(b"\0")
+        except OSError:
+            return False  # it has ended meanwhile, or is another user's
 
     def name(self, path):
         return "Z:" + str(path).replace("/", "\\")
@@ -112,13 +139,26 @@ class Wine:
         walk.desk.keys("Return")
         walk.desk.gone("Color")
 
-    def look_at_fonts(self, walk):
-        walk.desk.window("Edit Grid Fonts and Colors")
-        walk.desk.keys("alt+f")
-        number = walk.desk.window("Font")
-        walk.desk.shot("font", number)
-        walk.desk.keys("Escape")
-        walk.desk.gone("Font")
+    def choose_font(self, walk):
+        walk.fill("f", "DejaVu Sans")
+        walk.fill("s", "20")
+
+    def print_page(self, walk):
+        """First without a printer; then one is installed, which prints into a file."""
+        walk.desk.window(r"Zephyrgraph - .*")
+        walk.desk.keys("ctrl+p")
+        walk.desk.wait("the message that there is no printer", lambda: "Zephyrgraph" in walk.desk.windows().values())
+        walk.desk.shot("no_printer")
+        walk.desk.keys("Return")
+        walk.desk.gone("Zephyrgraph")
+        printer.install(self, self.printed)
+        walk.desk.window(r"Zephyrgraph - .*")
+        walk.desk.keys("ctrl+p")
+        number = walk.desk.window("Print")
+        walk.desk.shot("print", number)
+        walk.desk.keys("Return")
+        walk.desk.gone("Print")
+        return self.printed
 
     def show_text(self, walk):
         walk.menu("v", 1)

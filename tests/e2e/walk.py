@@ -52,11 +52,13 @@ class Walk:
     def file_menu(self, entry):
         self.menu("f", FILE_MENU.index(entry))
 
-    def pick(self, title, path):
-        """Types a path into a file dialog."""
+    def pick(self, title, path, shot=None):
+        """Types a path into a dialog for files or folders, with a picture of it if it gets a name."""
         self.desk.window(title)
         self.desk.keys("ctrl+a")
         self.desk.type(path if isinstance(path, str) else self.place.name(path))
+        if shot:
+            self.desk.shot(shot)
         self.desk.keys("Return")
         self.desk.gone(title)
 
@@ -107,7 +109,7 @@ class Walk:
 
     def open_a_file(self):
         self.file_menu("open")
-        self.pick("Open", self.samples / "LOVETT_1988.frq")
+        self.pick("Open", self.samples / "LOVETT_1988.frq", "open")
         self.plotted("LOVETT_1988.frq")
         self.rose = self.page("rose")
         self.changed(self.empty, self.rose, "an opened file")
@@ -131,13 +133,37 @@ class Walk:
         self.desk.window("Edit Grid Fonts and Colors")
         self.desk.keys("alt+g", "Return")
         self.place.pick_colour(self)
-        self.place.look_at_fonts(self)
         self.desk.shot("grid_dialog")
         self.desk.keys("alt+a", "alt+c")
         self.desk.gone("Edit Grid Fonts and Colors")
         after = self.page("red_grid")
         if self.count(after, "C00000") < self.count(before, "C00000") + 100:
             raise Failed("a dark red grid was expected")
+
+    def fonts(self):
+        before = self.page("before_fonts")
+
+        def change(*keys, choose=lambda: None):
+            self.menu("o", 5)
+            self.desk.window("Edit Grid Fonts and Colors")
+            self.desk.keys(*keys)
+            choose()
+            self.desk.window("Edit Grid Fonts and Colors")
+            self.desk.keys("alt+a", "alt+c")
+            self.desk.gone("Edit Grid Fonts and Colors")
+
+        def choose():
+            number = self.desk.window(self.place.font_title)
+            self.place.choose_font(self)
+            self.desk.shot("font", number)
+            self.desk.keys("Return")
+            self.desk.gone(self.place.font_title)
+            self.desk.shot("chosen_font", self.desk.window("Edit Grid Fonts and Colors"))
+        change("alt+f", choose=choose)
+        self.changed(before, self.page("large_font"), "another font")
+        change("alt+d")
+        if not self.same(before, self.page("default_font")):
+            raise Failed("the page of before was expected with the default font")
 
     def radius(self):
         before = self.page("before_radius")
@@ -220,6 +246,12 @@ class Walk:
         if path.read_bytes()[:2] != b"BM":
             raise Failed("page.bmp was expected to be a bitmap")
 
+    def printed(self):
+        path = self.place.print_page(self)
+        begin = self.file(path, 10_000, "the printed page").read_bytes()[:4]
+        if begin not in (b"%PDF", b"%!PS"):
+            raise Failed(f"{path.name} was expected to be a printed page; it begins with {begin}")
+
     def batch(self):
         pictures = self.out / "pictures"
         pictures.mkdir()
@@ -229,7 +261,10 @@ class Walk:
         self.pick("Open", self.samples / "north_sea.frq")
         self.desk.window("Batch Mode")
         self.fill("f", "sea_")
-        self.fill("w", self.place.name(pictures))
+        self.desk.keys("alt+o")
+        self.pick(self.place.folder_title, pictures, "folder")
+        self.desk.window("Batch Mode")
+        self.desk.keys("alt+w")
         self.desk.shot("batch", self.desk.window("Batch Mode"))
         self.desk.keys("Tab", "Tab", "Tab", "Tab", "Return")
         self.desk.wait("25 bitmaps", lambda: len(list(pictures.glob("sea_*.bmp"))) == 25, 120)
@@ -356,8 +391,8 @@ class Walk:
         self.file(self.place.home / "Zephyrgraph.cfg", 100, "the settings")
 
 
-STEPS = ["first_start", "open_a_file", "choose_a_rose", "restyle", "radius", "measure", "annotate", "equation", "animate", "save", "batch",
-         "report", "surface", "profile", "monitor", "surf", "up", "series", "m3d", "ventos", "leave"]
+STEPS = ["first_start", "open_a_file", "choose_a_rose", "restyle", "fonts", "radius", "measure", "annotate", "equation", "animate", "save",
+         "printed", "batch", "report", "surface", "profile", "monitor", "surf", "up", "series", "m3d", "ventos", "leave"]
 
 
 def main():
