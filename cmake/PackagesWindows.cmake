@@ -19,7 +19,7 @@ file(GLOB fonts /usr/share/fonts/truetype/liberation/LiberationSans-*.ttf)
 install(FILES ${fonts} DESTINATION fonts COMPONENT app)
 
 # Whatever is inside, as Debian tells of it.
-foreach(package libqt6core6 libproj25 libsqlite3-0 libz-mingw-w64 libdeflate0 fonts-liberation mingw-w64-common gcc-mingw-w64-base nlohmann-json3-dev
+foreach(package libqt6core6 libproj25 libsqlite3-0 libz-mingw-w64 fonts-liberation mingw-w64-common gcc-mingw-w64-base nlohmann-json3-dev
         libcli11-dev nsis)
     install(FILES /usr/share/doc/${package}/copyright DESTINATION licenses RENAME ${package}.txt COMPONENT app)
 endforeach()

@@ -137,9 +137,6 @@ diff "$work/expected" "$work/installed" >&2 || fail "the installer and the porta
 owned || fail "FRQ files do not belong to the program"
 [ -n "$(find "$drive/users" -ipath '*Start Menu*Zephyrgraph.lnk')" ] || fail "the Start menu has no entry"
 [ "$(ls "$place/licenses" | wc -l)" -ge 12 ] || fail "licences are missing"
-# It is inside if the build found it.
-! grep -qs '^ZG_DEFLATE_LIBRARY:.*/libdeflate' "$tree/$build/CMakeCache.txt" || [ -s "$place/licenses/libdeflate0.txt" ] ||
-    fail "the licence of libdeflate is missing"
 # This Wine does not show the user's kinds of files among those of all users.
 for key in .frq Zephyrgraph.FRQ; do wine reg copy "HKCU\\Software\\Classes\\$key" "HKLM\\Software\\Classes\\$key" /s /f >/dev/null; done
 programs installed "$place" start "Z:${sample//\//\\}"

@@ -8,7 +8,7 @@
 #     tools/setup.sh --cluster  only what tests/cluster/slurm.sh needs
 set -euo pipefail
 
-packages=(g++ cmake ninja-build qt6-base-dev libcli11-dev nlohmann-json3-dev libproj-dev zlib1g-dev libdeflate-dev
+packages=(g++ cmake ninja-build qt6-base-dev libcli11-dev nlohmann-json3-dev libproj-dev zlib1g-dev
           fonts-liberation fonts-dejavu-core libreoffice-impress-nogui libreoffice-writer-nogui)
 tests=(libgtest-dev libbenchmark-dev libmuparser-dev parallel python3 librsvg2-bin)
 e2e=(xvfb openbox xdotool imagemagick)

@@ -96,17 +96,6 @@ build_toolkit() {
         -DQT_BUILD_TESTS=OFF -DQT_BUILD_EXAMPLES=OFF
 }
 
-# The faster packer of PNG pictures. Without it zlib packs them. The library is there last: it says that all is.
-build_deflate() {
-    [ -e "$kit/lib/libdeflate.a" ] && return
-    say "libdeflate from Debian's source package"
-    local from
-    from=$(sources libdeflate) &&
-        (cd "$from" && x86_64-w64-mingw32-gcc-posix -O2 -I. -c lib/*.c lib/x86/*.c && mkdir -p "$kit/lib" "$kit/include" &&
-         cp libdeflate.h "$kit/include" && x86_64-w64-mingw32-ar rcs libdeflate.a ./*.o && mv libdeflate.a "$kit/lib") ||
-        say "libdeflate cannot be had here: zlib packs the pictures"
-}
-
 # Libraries that are headers alone: as Debian has them, but away from its other headers.
 copy_headers() {
     [ -e "$kit/share/cmake/CLI11" ] && return
@@ -142,7 +131,6 @@ make_core_kit() {
 make_kit() {
     make_core_kit
     build_toolkit
-    build_deflate
     copy_headers
 }
 

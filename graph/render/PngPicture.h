@@ -18,8 +18,8 @@ struct PixelPage {
 
 /// The bytes of a PNG picture with exactly these pixels: with a table of colours if it has at most 256, which
 /// loses nothing. Pages are mostly plain areas, which pack best and fastest as they are: without the
-/// differences of neighbouring pixels that suit photographs. "" for no pixels, or if the packer fails; throws
-/// std::bad_alloc if memory does not suffice.
+/// differences of neighbouring pixels that suit photographs. "" for no pixels; throws std::bad_alloc if
+/// memory does not suffice.
 std::string pngOf(const PixelPage& page);
 
 }  // namespace zg
