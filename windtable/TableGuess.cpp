@@ -202,7 +202,7 @@ class Guess {
                  "--station: there is no station " + quotedValue(wishes_.station) + "; the file has " +
                      stationsText(stations),
                  true);
-        if (stations_.areSeveral() && readings_->overlap())
+        if (!choosesStation() && stations_.areSeveral() && (stations_.alternate() || readings_->overlap()))
             fail(0,
                  "the column " + quotedValue(stations_.name()) + " names " + std::to_string(stations.size()) +
                      " stations, whose times overlap: " + stationsText(stations) + "; --station " +

@@ -14,7 +14,12 @@ constexpr std::size_t mostNamed = 20;
 void TableStations::add(std::string_view station) {
     if (station.empty() || station == last_) return;
     last_ = station;
-    if (all_.size() < mostStations && known_.emplace(station).second) all_.emplace_back(station);
+    if (known_.contains(station)) {
+        alternate_ = true;
+    } else if (all_.size() < mostStations) {
+        known_.emplace(station);
+        all_.emplace_back(station);
+    }
 }
 
 std::string stationsText(const std::vector<std::string>& stations) {

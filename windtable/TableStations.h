@@ -3,9 +3,11 @@
 // The stations that a column of a table names.
 
 #include <cstddef>
+#include <functional>
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace zg {
@@ -27,6 +29,9 @@ class TableStations {
 
     bool areSeveral() const { return all_.size() > 1; }
 
+    /// Whether one comes again after another.
+    bool alternate() const { return alternate_; }
+
     /// In the order of the file; only the first thousand.
     const std::vector<std::string>& all() const { return all_; }
 
@@ -36,6 +41,7 @@ class TableStations {
     std::string last_;
     std::vector<std::string> all_;
     std::set<std::string, std::less<>> known_;
+    bool alternate_ = false;
 };
 
 /// Their names in quotes, with commas; of many only the first.

@@ -213,6 +213,11 @@ TEST(TableGuess, NamesTheStationsOfATableWithSeveral) {
     EXPECT_EQ(faultIn(oneAfterTheOther),
               ": the column \"stid\" names 2 stations, whose times overlap: \"JFK\", \"LGA\"; --station "
               "\"JFK\" takes one of them");
+    const std::string alternate =
+        "time,ws,wd,stn\n2016-01-01 00:00,1,2,A\n2016-01-01 00:30,1,2,B\n2016-01-01 01:00,1,2,A\n";
+    EXPECT_TRUE(faultIn(alternate).ends_with(
+        " names 2 stations, whose times overlap: \"A\", \"B\"; --station \"A\" takes one of them"))
+        << "although their order is right";
     std::string many = "site_id,time,ws,wd\n";
     for (int i = 1; i <= 25; ++i) many += "S" + std::to_string(i) + ",2016-01-01 00:00,1,2\n";
     EXPECT_TRUE(
@@ -247,6 +252,15 @@ TEST(TableGuess, WhatIsWrongWithAnotherStationMakesNoDifference) {
     EXPECT_EQ(table.fault(), "no fault");
     EXPECT_EQ(table.layout().unit, WindUnit::MilesAnHour) << "of the line of units, which names no station";
     EXPECT_EQ(table.layout().headLines, 2U);
+}
+
+TEST(TableGuess, ARepeatedHourOfTheStationIsNoOverlap) {
+    Table table(
+        "station,time,ws,wd\nA,2016-01-01 00:00,1,2\nB,2016-01-01 00:00,1,2\nA,2016-01-01 "
+        "00:00,1,2\nA,2016-01-01 01:00,1,2\n");
+    table.wishes.station = "A";
+    EXPECT_EQ(table.fault(), "no fault");
+    EXPECT_EQ(table.layout().recordSeconds, 3600);
 }
 
 TEST(TableGuess, AStationIsOnlyANameWhereTheTableHasOne) {
