@@ -38,6 +38,37 @@ QRectF around(Point centre, double radius) {
     return {bounded(centre.x) - r, bounded(centre.y) - r, 2 * r, 2 * r};
 }
 
+/// The toolkit fills with numbers of 32 bits on Windows, which overflow when a shape reaches farther.
+constexpr double farFilled = 3e4;
+
+bool isNear(const QRectF& bounds) {
+    return bounds.left() >= -farFilled && bounds.top() >= -farFilled && bounds.right() <= farFilled &&
+           bounds.bottom() <= farFilled;
+}
+
+/// The part of a filled shape on one side of a line, on which the distance is not negative.
+template <typename Distance>
+QPolygonF onOneSide(const QPolygonF& shape, Distance distance) {
+    QPolygonF part;
+    for (qsizetype i = 0; i < shape.size(); ++i) {
+        const QPointF from = shape[i];
+        const QPointF to = shape[(i + 1) % shape.size()];
+        const double here = distance(from);
+        const double there = distance(to);
+        if (here >= 0) part.append(from);
+        if ((here >= 0) != (there >= 0)) part.append(from + (to - from) * (here / (here - there)));
+    }
+    return part;
+}
+
+/// The part of a filled shape within a rectangle.
+QPolygonF within(const QPolygonF& shape, const QRectF& rect) {
+    QPolygonF part = onOneSide(shape, [&rect](const QPointF& p) { return p.x() - rect.left(); });
+    part = onOneSide(part, [&rect](const QPointF& p) { return rect.right() - p.x(); });
+    part = onOneSide(part, [&rect](const QPointF& p) { return p.y() - rect.top(); });
+    return onOneSide(part, [&rect](const QPointF& p) { return rect.bottom() - p.y(); });
+}
+
 double toDegrees(double radians) { return radians * 180 / std::numbers::pi; }
 
 QPen outlinePen(Colour colour) { return {toQColor(colour), 1}; }
@@ -129,9 +160,13 @@ void QtCanvas::circle(Point centre, double radius, Colour colour) {
 }
 
 void QtCanvas::disc(Point centre, double radius, Colour fill, Colour outline) {
+    const QRectF bounds = around(centre, radius);
     painter_.setPen(outlinePen(outline));
     painter_.setBrush(toQColor(fill));
-    painter_.drawEllipse(around(centre, radius));
+    if (isNear(bounds)) return painter_.drawEllipse(bounds);
+    QPainterPath path;
+    path.addEllipse(bounds);
+    drawFar(path);
 }
 
 void QtCanvas::line(Point from, Point to, const LineStyle& style) {
@@ -146,12 +181,24 @@ void QtCanvas::pie(Point centre, double radius, double start, double end, Colour
     if (!(radius > 0)) return;
     const double sweep = end < start ? end + 2 * std::numbers::pi - start : end - start;
     QPainterPath path(toQPointF(centre));
-    path.arcTo(around(centre, radius), toDegrees(start), toDegrees(sweep));
+    const QRectF bounds = around(centre, radius);
+    path.arcTo(bounds, toDegrees(start), toDegrees(sweep));
     path.closeSubpath();
     painter_.setPen(outlinePen(outline));
     painter_.setBrush(toQColor(fill));
-    painter_.drawPath(path);
+    if (isNear(bounds)) return painter_.drawPath(path);
+    drawFar(path);
 }
+
+/// Draws a shape by the painter's pen and brush, but fills it only round the page.
+void QtCanvas::drawFar(const QPainterPath& shape) {
+    const QPen pen = painter_.pen();
+    painter_.setPen(Qt::NoPen);
+    painter_.drawPolygon(within(shape.toFillPolygon(), roundPage()));
+    painter_.strokePath(shape, pen);
+}
+
+QRectF QtCanvas::roundPage() const { return {-width_, -height_, 3 * width_, 3 * height_}; }
 
 void QtCanvas::fillPolygon(const std::vector<Point>& corners, Colour colour) {
     QPolygonF polygon;
@@ -159,7 +206,7 @@ void QtCanvas::fillPolygon(const std::vector<Point>& corners, Colour colour) {
     for (const Point& corner : corners) polygon.append(toQPointF(corner));
     painter_.setPen(Qt::NoPen);
     painter_.setBrush(toQColor(colour));
-    painter_.drawPolygon(polygon);
+    painter_.drawPolygon(isNear(polygon.boundingRect()) ? polygon : within(polygon, roundPage()));
 }
 
 QFont QtCanvas::fontOf(const TextStyle& style) const {

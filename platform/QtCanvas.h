@@ -36,6 +36,8 @@ class QtCanvas : public Canvas {
     TextSize measure(const std::string& text, const TextStyle& style) const override;
 
  private:
+    void drawFar(const QPainterPath& shape);
+    QRectF roundPage() const;
     QFont fontOf(const TextStyle& style) const;
 
     QPainter own_;

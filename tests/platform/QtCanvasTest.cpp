@@ -178,6 +178,34 @@ TEST(QtCanvas, NumbersBeyondAnyPageDoNoHarm) {
     EXPECT_TRUE(pixelIs(page, 45, 25, red));
 }
 
+/// From a page's width to what no page has: neither the edges nor the inside of a shape are lost on the way.
+TEST(QtCanvas, ShapesOfAnySizeFillTheirPartOfThePage) {
+    for (const double size : {60.0, 1e3, 2.9e4, 3.1e4, 1e5, 9e5, 1e9, 1e300}) {
+        SCOPED_TRACE(size);
+        QImage page = makePageImage(60, 60);
+        QtCanvas canvas(page, 60, 60);
+        canvas.pie({30, 30}, size, 0, 1, red, black);
+        EXPECT_TRUE(pixelIs(page, 45, 25, red));
+        EXPECT_TRUE(pixelIs(page, 15, 25, white));
+        EXPECT_TRUE(pixelIs(page, 45, 40, white));
+        EXPECT_GT(inkIn(page, QRect(40, 29, 20, 3)), 15) << "its edge";
+        canvas.clear(white);
+        const double radius = std::min(size, 9e5);
+        canvas.disc({30 - radius, 30}, radius, red, black);
+        EXPECT_TRUE(pixelIs(page, 15, 30, red));
+        EXPECT_TRUE(pixelIs(page, 45, 30, white));
+        EXPECT_EQ(pixel(page, 31, 30), white);
+        EXPECT_NE(pixel(page, 29, 30), red) << "its edge";
+        canvas.clear(white);
+        canvas.fillPolygon({{30, 30}, {30 + size, 30 - 0.5 * size}, {30 + size, 30 + 0.25 * size}}, blue);
+        EXPECT_TRUE(pixelIs(page, 45, 28, blue));
+        EXPECT_TRUE(pixelIs(page, 20, 28, white));
+        canvas.clear(white);
+        canvas.fillPolygon({{-size, -size}, {size, -size}, {size, size}, {-size, size}}, blue);
+        EXPECT_TRUE(pixelIs(page, 5, 55, blue));
+    }
+}
+
 TEST(QtCanvas, SharpPageHasMorePixelsForTheSameUnits) {
     QImage page = makePageImage(100, 100, 2);
     EXPECT_EQ(page.width(), 200);
