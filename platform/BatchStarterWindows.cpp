@@ -2,6 +2,7 @@
 
 #include <QProcess>
 
+#include "base/Files.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "platform/BatchScript.h"
@@ -26,7 +27,12 @@ void BatchStarter::start(const std::string& batchFile, WindowStyle style) {
     if (!shell.startDetached()) raise(ErrorNumber::InvalidProcedureCall);
 }
 
-void BatchStarter::startRun(const RunBatch& run) { ProcessStarter::startRun(run); }
+/// The lines copy whatever listing is there to the marker. If the processor is missing or crashes, that of an
+/// earlier run would show its roses as those of this one.
+void BatchStarter::startRun(const RunBatch& run) {
+    removeFile(run.outputDirectory + run.base + "_tempoline.lst");
+    ProcessStarter::startRun(run);
+}
 
 void BatchStarter::startViewer(const std::string& batchFile, const std::string& path) {
     ProcessStarter::startViewer(batchFile, path);

@@ -12,7 +12,7 @@
 namespace zg {
 namespace {
 
-constexpr int longEnoughMs = 60'000;
+constexpr int patienceMs = 60'000;
 
 TEST(BatchStarterOfWindows, StartsAFileWhoseNameHasSignsOfTheShell) {
     const TempDirectory directory;
@@ -20,8 +20,8 @@ TEST(BatchStarterOfWindows, StartsAFileWhoseNameHasSignsOfTheShell) {
         const std::string marker = directory.file(name + ".txt");
         const std::string batchFile = directory.write(name, "@echo ran> \"" + marker + "\"\r\n");
         BatchStarter().start(batchFile, WindowStyle::Hidden);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(marker); }, longEnoughMs)) << name;
-        EXPECT_TRUE(QTest::qWaitFor([&] { return directory.read(name + ".txt") == "ran\r\n"; }, longEnoughMs))
+        ASSERT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(marker); }, patienceMs)) << name;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return directory.read(name + ".txt") == "ran\r\n"; }, patienceMs))
             << name;
     }
 }
@@ -34,13 +34,25 @@ TEST(BatchStarterOfWindows, WaitsForNothing) {
                         "\" goto again\r\n@echo done> \"" + directory.file("done") + "\"\r\n");
     BatchStarter starter;
     starter.start(batchFile, WindowStyle::Hidden);
-    ASSERT_TRUE(
-        QTest::qWaitFor([&] { return std::filesystem::exists(directory.file("ran")); }, longEnoughMs));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(directory.file("ran")); }, patienceMs));
     EXPECT_FALSE(std::filesystem::exists(directory.file("done")));
     EXPECT_EQ(starter.outcome(batchFile), "");
     directory.write("go", "");
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return std::filesystem::exists(directory.file("done")); }, longEnoughMs));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(directory.file("done")); }, patienceMs));
+}
+
+TEST(BatchStarterOfWindows, AListingOfAnEarlierRunMakesNoMarker) {
+    const TempDirectory directory;
+    directory.write("B_tempoline.lst", "of an earlier run");
+    const RunBatch run{directory.file(""), "B", directory.path()};
+    std::string lines;
+    for (const std::string& line : batchLines(run))
+        lines += (line == "pause" ? "echo ran> ended" : line) + "\r\n";
+    directory.write("run_tempoline.bat", lines);
+    BatchStarter().startRun(run);
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return std::filesystem::exists(directory.file("ended")); }, patienceMs));
+    EXPECT_FALSE(std::filesystem::exists(directory.file("finished.txt"))) << "there is no processor";
 }
 
 TEST(BatchStarterOfWindows, RaisesTheErrorOfABatchFileThatIsMissing) {
