@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QProcess>
 #include <QTest>
 #include <filesystem>
 
@@ -10,15 +9,17 @@
 #include "base/Paths.h"
 #include "platform/BatchScript.h"
 #include "platform/BatchStarter.h"
-#include "platform/QtText.h"
 #include "processing/BatchFile.h"
+#include "tests/support/CarriedOut.h"
+#include "tests/support/StandIn.h"
 #include "tests/support/TempDirectory.h"
 
 namespace zg {
 
 constexpr int longEnoughMs = 60'000;
 
-/// The directories of a run, both with shell metacharacters in their names, and a processor that is a script.
+/// The directories of a run, both with shell metacharacters in their names, and what stands for the
+/// processor.
 class BatchRun : public ::testing::Test {
  protected:
     void SetUp() override {
@@ -30,28 +31,29 @@ class BatchRun : public ::testing::Test {
     void executable(const std::string& name, const std::string& content) {
         std::filesystem::permissions(directory_.write(name, content), std::filesystem::perms::owner_all);
     }
+    void standIn(const std::string& lines) {
+        makeStandIn(directory_.file("program's dir/tempoline.exe"), lines);
+    }
     void processor(const std::string& script) {
         executable("program's dir/tempoline.exe", "#!/bin/sh\n" + script);
     }
-    std::string batchFile() const { return out_ + "/run_tempoline.bat"; }
+    std::string batchFile() const { return out_ + pathSeparator + "run_tempoline.bat"; }
     void writeBatchFile(const std::vector<std::string>& lines) {
         LineWriter file(batchFile());
         for (const std::string& line : lines) file.writeLine(line);
         file.close();
     }
+    RunBatch batch(const std::string& base) const { return {out_ + pathSeparator, base, programs_}; }
     void start(const std::string& base = "B") {
-        writeBatchFile(batchLines({out_ + "/", base, programs_}));
-        starter_.startRun({out_ + "/", base, programs_});
+        writeBatchFile(batchLines(batch(base)));
+        starter_.startRun(batch(base));
     }
     /// Runs the lines to their end; returns the text that the terminal shows.
     std::string carryOut(const std::string& base = "B", const std::string& report = "") {
-        QProcess shell;
-        shell.start(QStringLiteral("sh"),
-                    {QStringLiteral("-c"), fileName(asShellScript({out_ + "/", base, programs_}, report))});
-        EXPECT_TRUE(shell.waitForFinished(longEnoughMs));
-        return shell.readAllStandardError().toStdString();
+        if (pathSeparator == '\\') writeBatchFile(batchLines(batch(base)));
+        return carriedOut(batch(base), report);
     }
-    bool isThere(const std::string& name) const { return fileExists(out_ + "/" + name); }
+    bool isThere(const std::string& name) const { return fileExists(out_ + pathSeparator + name); }
     bool comes(const std::string& name) {
         return QTest::qWaitFor([&] { return isThere(name); }, longEnoughMs);
     }

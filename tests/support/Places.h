@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "base/Paths.h"
+#include "base/WideNames.h"
 
 inline constexpr bool onWindows = zg::pathSeparator == '\\';
 
@@ -12,6 +13,11 @@ inline constexpr bool onWindows = zg::pathSeparator == '\\';
 inline std::string nativePath(std::string path) {
     std::replace(path.begin(), path.end(), '/', zg::pathSeparator);
     return path;
+}
+
+/// The name as the system gives it back: Windows has no names of bytes.
+inline std::string nameOnDisk(const std::string& name) {
+    return onWindows ? zg::narrowName(zg::wideName(name)) : name;
 }
 
 /// The full path of a file of the sources, such as "data/samples/LOVETT_1988.frq".

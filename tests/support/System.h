@@ -8,3 +8,9 @@
 bool makePipe(const std::string& path);
 
 void setEnvironment(const char* name, const char* value);
+
+/// On a system where a file needs a permission for it.
+void makeExecutable(const std::string& path);
+
+/// Ends this program as a fault in it would, but without a report of that.
+[[noreturn]] void crashNow();

@@ -9,6 +9,9 @@
 #include "dialogs/point/FrmOpenUPDATFile.h"
 #include "platform/BatchStarter.h"
 #include "tests/dialogs/point/PointDialogs.h"
+#include "tests/support/CarriedOut.h"
+#include "tests/support/Places.h"
+#include "tests/support/StandIn.h"
 
 namespace zg {
 namespace {
@@ -30,14 +33,14 @@ class PointNames : public PointDialogs {
  protected:
     void SetUp() override {
         PointDialogs::SetUp();
-        const std::string processor =
-            directory_.write("tempoline.exe",
-                             "#!/bin/sh\nexport LC_ALL=C\n"
-                             "for name in $(sed -n 's/.*TSFOUT = \\(.*\\) !   !END!.*/\\1/p; s/.*! ROSEPLT = "
-                             "\\(.*\\) !.*/\\1/p' "
-                             "\"$1\"); do\n: > \"$name.FRQ\"; done\necho done > \"${1%.inp}.lst\"\n");
-        std::filesystem::permissions(processor, std::filesystem::perms::owner_all);
-        starter_.onRun = [](const RunBatch& run) { BatchStarter().startRun(run); };
+        makeStandIn(directory_.file("tempoline.exe"), "roses\nlisting\n");
+        starter_.onRun = [](const RunBatch& run) {
+            // On Windows its console would wait for a person.
+            if (onWindows)
+                carriedOut(run);
+            else
+                BatchStarter().startRun(run);
+        };
         host_.onPump = [this] {
             QTest::qWait(2);
             ending_ = host_.pumps >= mostPumps;
@@ -61,12 +64,12 @@ class PointNames : public PointDialogs {
         host_.pumps = 0;
         click("cmdView");
         EXPECT_LT(host_.pumps, mostPumps) << "no marker came";
-        return readWholeFile(out_ + "/" + base + "_tempoline.inp");
+        return readWholeFile(out_ + pathSeparator + base + "_tempoline.inp");
     }
     void expectRun(const std::string& base, const std::string& output, const std::string& key) {
         const std::string text = run(base);
         EXPECT_NE(text.find("! " + key + " = " + output + " !"), std::string::npos) << output;
-        EXPECT_EQ(plotted_, std::vector<std::string>{output + ".FRQ"});
+        EXPECT_EQ(plotted_, std::vector<std::string>{nameOnDisk(output + ".FRQ")});
         EXPECT_EQ(status(), "Finished");
         EXPECT_TRUE(box("txtFRQOutputFilename").text().startsWith(shownName));
     }
@@ -114,7 +117,8 @@ TEST_F(PointNames, TheProcessorIsAskedForTheStationInTheBytesOfItsData) {
         browseTo("s.dat", replacing(surfText, "1001", name));
         EXPECT_EQ(child<QListWidget>("lstSURFDATStationIDs")->item(0)->text(), shownName);
         EXPECT_NE(run("s_SURF_19900108-19900115").find(met), std::string::npos);
-        EXPECT_EQ(plotted_, std::vector<std::string>{"s-" + name + "_SURF_19900108-19900115_10m.FRQ"});
+        EXPECT_EQ(plotted_,
+                  std::vector<std::string>{nameOnDisk("s-" + name + "_SURF_19900108-19900115_10m.FRQ")});
         open<frmOpenUPDATFile>();
         browseTo("u.dat", replacing(upText, "4417", name));
         EXPECT_EQ(box("txtStationID").text(), shownName);
@@ -143,7 +147,7 @@ TEST_F(PointNames, AnIdentifierTypedInsteadIsWrittenAsAnyTypedText) {
 TEST_F(PointNames, ThePathsOfInputAndOutputKeepTheirBytes) {
     for (const std::string& name : montreals) {
         const std::string place = directory_.file("in " + name);
-        std::filesystem::create_directory(place);
+        makeDirectory(place);
         open<frmOpenAERMETFile>(InputKind::AermSfc);
         browse("in " + name + "/" + name + ".sfc", sfcText);
         EXPECT_EQ(box("txtAERMETDataFile").text().toStdString(),
@@ -155,10 +159,10 @@ TEST_F(PointNames, ThePathsOfInputAndOutputKeepTheirBytes) {
         box("txtTitleLine").setText(shownName);
         const std::string base = name + "_AERMETSFC_19880101-19890101_10m";
         const std::string text = run(base);
-        EXPECT_NE(text.find("! METINP = " + place + "/" + name + ".sfc !"), std::string::npos);
+        EXPECT_NE(text.find("! METINP = " + place + pathSeparator + name + ".sfc !"), std::string::npos);
         EXPECT_EQ(text.substr(text.find("\r\n") + 2, montreals[0].size()), montreals[0])
             << "a typed title is windows-1252";
-        EXPECT_EQ(plotted_, std::vector<std::string>{base + ".FRQ"});
+        EXPECT_EQ(plotted_, std::vector<std::string>{nameOnDisk(base + ".FRQ")});
         EXPECT_EQ(status(), "Finished");
     }
 }
