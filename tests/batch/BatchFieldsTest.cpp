@@ -18,6 +18,7 @@
 #include "settings/Settings.h"
 #include "shell/StartSequence.h"
 #include "tests/support/FreshProgram.h"
+#include "tests/support/Places.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
@@ -30,7 +31,7 @@ class OutputFields : public ::testing::Test {
  protected:
     void SetUp() override {
         startSettings();
-        modPolarGraph.WorkDir = directory_.path() + "/";
+        modPolarGraph.WorkDir = directory_.file("");
     }
     void show(std::unique_ptr<QDialog> form) {
         form_ = std::move(form);
@@ -134,7 +135,7 @@ TEST_F(OutputFields, LeavingTheDirectoryOfFilesCompletesAndCleansIt) {
     EXPECT_EQ(status(), "ERROR:  Please select a Directory of FRQ Files.");
     typeInto("txtDirectory", "/some/where");
     leave("txtDirectory", "txtPercentValidLimit");
-    EXPECT_EQ(box("txtDirectory").text(), "/some/where/");
+    EXPECT_EQ(box("txtDirectory").text().toStdString(), nativePath("/some/where/"));
     EXPECT_FALSE(marked("txtDirectory"));
     EXPECT_EQ(status(), "");
 }
@@ -148,18 +149,18 @@ TEST_F(OutputFields, TheFileOfAnotherMachineIsRememberedWithoutASeparator) {
 
 TEST_F(OutputFields, TheReportsDirectoriesAreBrowsedForFromTheirFields) {
     openReport();
-    host_.folderAnswers = {"/picked", "", "/other"};
+    host_.folderAnswers = {nativePath("/picked"), "", nativePath("/other")};
     click("cmdBrowseBMPDirectory");
-    EXPECT_EQ(host_.folderPicks[0].start, directory_.path() + "/");
-    EXPECT_EQ(box("txtBMPDirectory").text(), "/picked/");
-    EXPECT_EQ(box("txtWorkDirectory").text().toStdString(), directory_.path() + "/");
+    EXPECT_EQ(host_.folderPicks[0].start, directory_.file(""));
+    EXPECT_EQ(box("txtBMPDirectory").text().toStdString(), nativePath("/picked/"));
+    EXPECT_EQ(box("txtWorkDirectory").text().toStdString(), directory_.file(""));
     click("cmdBrowseBMPDirectory");
-    EXPECT_EQ(host_.folderPicks[1].start, "/picked/");
-    EXPECT_EQ(box("txtBMPDirectory").text(), "/picked/") << "nothing was picked";
+    EXPECT_EQ(host_.folderPicks[1].start, nativePath("/picked/"));
+    EXPECT_EQ(box("txtBMPDirectory").text().toStdString(), nativePath("/picked/")) << "nothing was picked";
     click("cmdBrowseWorkDirectory");
-    EXPECT_EQ(host_.folderPicks[2].start, directory_.path() + "/");
-    EXPECT_EQ(box("txtWorkDirectory").text(), "/other/");
-    EXPECT_EQ(box("txtBMPDirectory").text(), "/picked/");
+    EXPECT_EQ(host_.folderPicks[2].start, directory_.file(""));
+    EXPECT_EQ(box("txtWorkDirectory").text().toStdString(), nativePath("/other/"));
+    EXPECT_EQ(box("txtBMPDirectory").text().toStdString(), nativePath("/picked/"));
 }
 
 TEST_F(OutputFields, BrowsingForAReportsDirectoryTakesItsMark) {
@@ -167,15 +168,15 @@ TEST_F(OutputFields, BrowsingForAReportsDirectoryTakesItsMark) {
     box("txtBMPDirectory").clear();
     click("cmdCreateReport");
     ASSERT_TRUE(marked("txtBMPDirectory"));
-    host_.folderAnswers = {"/picked"};
+    host_.folderAnswers = {nativePath("/picked")};
     click("cmdBrowseBMPDirectory");
     EXPECT_FALSE(marked("txtBMPDirectory"));
     EXPECT_EQ(status(), "");
 }
 
 TEST_F(OutputFields, ADirectoryThatCannotBeMadeSaysWhy) {
-    const std::string inFile = directory_.write("a file", "") + "/sub/";
-    const std::string tooLong = directory_.file(std::string(300, 'w')) + "/";
+    const std::string inFile = directory_.write("a file", "") + nativePath("/sub/");
+    const std::string tooLong = directory_.file(std::string(300, 'w') + "/");
     for (const std::string& place : {inFile, tooLong}) {
         const std::string level = place == inFile ? directory_.file("a file") : DirOf(place);
         const std::string words = "The Working Directory cannot be created: " + level + ": ";

@@ -8,6 +8,7 @@
 #include "batch/BatchBitmap.h"
 #include "graph/frq/ModPolarGraph.h"
 #include "settings/Settings.h"
+#include "tests/support/Places.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 
@@ -20,8 +21,8 @@ class BatchRun : public ::testing::Test {
     void SetUp() override {
         modPolarGraph = ModPolarGraph();
         settings = Settings();
-        request_.workDirectory = directory_.path() + "/out/";
-        request_.file = "/data/one.frq";
+        request_.workDirectory = directory_.file("out/");
+        request_.file = nativePath("/data/one.frq");
     }
 
     void roses(const char* version, std::vector<float> percentValid) {
@@ -77,7 +78,7 @@ TEST_F(BatchRun, EveryRoseOfAFileIsExportedInOrderUnderItsRoot) {
     load_ = [this] { roses("2.2", {90, 80}); };
     request_.root = "Run1_";
     run();
-    EXPECT_EQ(opened_, Names{"/data/one.frq"});
+    EXPECT_EQ(opened_, Names{nativePath("/data/one.frq")});
     EXPECT_EQ(names(), (Names{"Run1_Rose1.bmp", "Run1_Rose2.bmp"}));
     EXPECT_EQ(captions_, (Names{"Caption1", "Caption2"}));
     EXPECT_FALSE(settings.BatchMode);
@@ -121,7 +122,7 @@ TEST_F(BatchRun, ALimitOf100TakesOnlyFullRoses) {
 TEST_F(BatchRun, ADirectoryIsTakenFileByFileUnderTheirNames) {
     for (const char* name : {"B.FRQ", "A.frq", "other.txt"}) directory_.write(name, "");
     request_.ofDirectory = true;
-    request_.directory = directory_.path() + "/";
+    request_.directory = directory_.file("");
     load_ = [this] { roses("2.2", {100}); };
     run();
     EXPECT_EQ(opened_, (Names{directory_.file("A.frq"), directory_.file("B.FRQ")}));
@@ -133,7 +134,7 @@ TEST_F(BatchRun, ADirectoryIsTakenFileByFileUnderTheirNames) {
 TEST_F(BatchRun, AnEmptyDirectoryExportsNothing) {
     std::filesystem::create_directory(directory_.file("empty"));
     request_.ofDirectory = true;
-    request_.directory = directory_.file("empty") + "/";
+    request_.directory = directory_.file("empty/");
     run();
     EXPECT_TRUE(opened_.empty());
     EXPECT_TRUE(saved_.empty());
@@ -176,7 +177,7 @@ TEST_F(BatchRun, ARunWithoutFaultsHasNoNotes) {
 TEST_F(BatchRun, NotesNameRefusedFilesAndWhatTookTheirPlace) {
     for (const char* name : {"a.frq", "b1.frq", "c.frq"}) directory_.write(name, "");
     request_.ofDirectory = true;
-    request_.directory = directory_.path() + "/";
+    request_.directory = directory_.file("");
     request_.percentValidLimit = 50;
     roses("2.2", {100, 20});
     std::vector<bool> accepted = {false, true, false};
@@ -220,11 +221,13 @@ TEST_F(BatchRun, NotesNameTheRoseThatThePictureShowedLast) {
               "1 file, 0 refused; 3 roses saved in 1 picture, 0 left out.");
 }
 
-/// Two hard links to one file simulate a file system that ignores letter case.
+/// Where letter case counts, two hard links to one file simulate a file system that ignores it.
 TEST_F(BatchRun, NotesFindNamesThatDifferOnlyInTheirCase) {
-    request_.workDirectory = directory_.path() + "/";
+    request_.workDirectory = directory_.file("");
     directory_.write("Rose.bmp", "");
-    std::filesystem::create_hard_link(directory_.file("Rose.bmp"), directory_.file("ROSE.bmp"));
+    const bool countsCase = pathSeparator == '/';
+    if (countsCase)
+        std::filesystem::create_hard_link(directory_.file("Rose.bmp"), directory_.file("ROSE.bmp"));
     load_ = [this] {
         roses("2.2", {100, 100, 100});
         modPolarGraph.FrqRoseTitle(1) = "Rose";
@@ -233,8 +236,10 @@ TEST_F(BatchRun, NotesFindNamesThatDifferOnlyInTheirCase) {
     };
     run();
     EXPECT_EQ(notes_.text(),
-              "ROSE.bmp: rose 2 of one.frq took the place of rose 1 of one.frq.\n"
-              "1 file, 0 refused; 3 roses saved in 2 pictures, 0 left out.");
+              std::string("ROSE.bmp: rose 2 of one.frq took the place of rose 1 of one.frq.\n") +
+                  (countsCase ? "1 file, 0 refused; 3 roses saved in 2 pictures, 0 left out."
+                              : "rose.bmp: rose 3 of one.frq took the place of rose 2 of one.frq.\n"
+                                "1 file, 0 refused; 3 roses saved in 1 picture, 0 left out."));
 }
 
 TEST_F(BatchRun, AnErrorOfAFileNamesItAndItsLine) {
@@ -247,11 +252,11 @@ TEST_F(BatchRun, AnErrorOfAFileNamesItAndItsLine) {
         run();
         FAIL();
     } catch (const RunTimeError& error) {
-        EXPECT_EQ(error.description, "Input past end of file: /data/one.frq, line 206");
+        EXPECT_EQ(error.description, "Input past end of file: " + request_.file + ", line 206");
     }
-    EXPECT_EQ(notes_.text(),
-              "The run ended with an error at /data/one.frq.\n"
-              "0 files, 0 refused; 0 roses saved in 0 pictures, 0 left out.");
+    EXPECT_EQ(notes_.text(), "The run ended with an error at " + request_.file +
+                                 ".\n"
+                                 "0 files, 0 refused; 0 roses saved in 0 pictures, 0 left out.");
 }
 
 TEST_F(BatchRun, NamesLoseOnlyWhatFilesCannotBeCalled) {

@@ -11,19 +11,20 @@
 #include "settings/Settings.h"
 #include "shell/StartSequence.h"
 #include "tests/support/FreshProgram.h"
+#include "tests/support/Places.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
 namespace {
 
-const std::string sample = ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq";
+const std::string sample = inSources("data/samples/LOVETT_1988.frq");
 
 class FrmBatchMode : public ::testing::Test {
  protected:
     void SetUp() override {
         startSettings();
         std::filesystem::create_directory(out_);
-        modPolarGraph.WorkDir = out_ + "/";
+        modPolarGraph.WorkDir = out_ + pathSeparator;
         open();
     }
     void open() {
@@ -63,7 +64,7 @@ TEST_F(FrmBatchMode, StartsForASingleFile) {
     EXPECT_FALSE(box("txtDirectory").isEnabled());
     EXPECT_FALSE(child("cmdBrowseDirectory")->isEnabled());
     EXPECT_EQ(fieldMark(box("txtDirectory")), buttonFaceColour);
-    EXPECT_EQ(box("txtWorkDirectory").text().toStdString(), out_ + "/");
+    EXPECT_EQ(box("txtWorkDirectory").text().toStdString(), out_ + pathSeparator);
     EXPECT_EQ(box("txtRootFilename").text(), "");
     EXPECT_EQ(status(), "");
 }
@@ -183,7 +184,7 @@ TEST_F(FrmBatchMode, LeavingAFieldCompletesAndCleansIt) {
     EXPECT_EQ(status(), "");
     set("txtWorkDirectory", "/some/where");
     child("txtPercentValidLimit")->setFocus();
-    EXPECT_EQ(box("txtWorkDirectory").text(), "/some/where/");
+    EXPECT_EQ(box("txtWorkDirectory").text().toStdString(), nativePath("/some/where/"));
 }
 
 TEST_F(FrmBatchMode, TheLimitIsTypedAsAWholeNumberAndEnterGoesOn) {
@@ -200,22 +201,22 @@ TEST_F(FrmBatchMode, TheFileIsBrowsedForAndItsDirectoryRemembered) {
     host_.openAnswers = {sample, ""};
     QTest::mouseClick(child("cmdBrowseSingleFRQFile"), Qt::LeftButton);
     EXPECT_EQ(box("txtSingleFRQFile").text().toStdString(), sample);
-    EXPECT_EQ(modPolarGraph.WorkDir, ZG_SOURCE_DIR "/data/samples/");
-    EXPECT_EQ(host_.openPicks[0].directory, out_ + "/");
+    EXPECT_EQ(modPolarGraph.WorkDir, inSources("data/samples/"));
+    EXPECT_EQ(host_.openPicks[0].directory, out_ + pathSeparator);
     QTest::mouseClick(child("cmdBrowseSingleFRQFile"), Qt::LeftButton);
     EXPECT_EQ(box("txtSingleFRQFile").text().toStdString(), sample);
 }
 
 TEST_F(FrmBatchMode, DirectoriesAreBrowsedForFromTheirFields) {
     child<QRadioButton>("optDirectory")->click();
-    host_.folderAnswers = {"/picked", ""};
+    host_.folderAnswers = {nativePath("/picked"), ""};
     QTest::mouseClick(child("cmdBrowseDirectory"), Qt::LeftButton);
-    EXPECT_EQ(box("txtDirectory").text(), "/picked/");
+    EXPECT_EQ(box("txtDirectory").text().toStdString(), nativePath("/picked/"));
     EXPECT_EQ(host_.folderPicks[0].title, "Select a Directory of FRQ Files:");
     QTest::mouseClick(child("cmdBrowseWorkDirectory"), Qt::LeftButton);
     EXPECT_EQ(host_.folderPicks[1].title, "Select a Working Directory:");
-    EXPECT_EQ(host_.folderPicks[1].start, out_ + "/");
-    EXPECT_EQ(box("txtWorkDirectory").text().toStdString(), out_ + "/");
+    EXPECT_EQ(host_.folderPicks[1].start, out_ + pathSeparator);
+    EXPECT_EQ(box("txtWorkDirectory").text().toStdString(), out_ + pathSeparator);
 }
 
 TEST_F(FrmBatchMode, DuringARunTheDialogStaysAndASecondStartIsIgnored) {
@@ -254,7 +255,8 @@ TEST_F(FrmBatchMode, OpenedForADirectoryNeedsOnlyItsButton) {
     form_->openDirectory(frq, "A note.\n");
     EXPECT_TRUE(child<QRadioButton>("optDirectory")->isChecked());
     EXPECT_EQ(box("txtDirectory").text().toStdString(), frq + pathSeparator);
-    EXPECT_EQ(box("txtWorkDirectory").text().toStdString(), out_ + "/") << "the last-used directory";
+    EXPECT_EQ(box("txtWorkDirectory").text().toStdString(), out_ + pathSeparator)
+        << "the last-used directory";
     EXPECT_EQ(child<QPlainTextEdit>("txtNotes")->toPlainText(), "A note.\n");
     EXPECT_EQ(form_->focusWidget(), child("cmdBeginBatchMode"));
     QTest::keyClick(form_->focusWidget(), Qt::Key_Space);

@@ -5,9 +5,11 @@
 #include <QTest>
 #include <filesystem>
 
+#include "base/Files.h"
 #include "base/RunTimeError.h"
 #include "graph/frq/ModPolarGraph.h"
 #include "platform/FieldMarks.h"
+#include "tests/support/Places.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
 
@@ -47,7 +49,7 @@ class FrmCreateReport : public ::testing::Test {
  protected:
     void SetUp() override {
         modPolarGraph = ModPolarGraph();
-        modPolarGraph.WorkDir = directory_.path() + "/";
+        modPolarGraph.WorkDir = directory_.file("");
         auto writer = std::make_unique<RecordingWriter>(calls_);
         writer_ = writer.get();
         form_ = std::make_unique<frmCreateReport>(host_, nullptr, std::move(writer));
@@ -81,6 +83,7 @@ TEST_F(FrmCreateReport, AnyNameIsTakenAsItIsTyped) {
     for (const std::string& name : {std::string("my report"), std::string(" lead"), std::string(".."),
                                     std::string("50% & <b>x"), std::string("a\"b'c!"), std::string("a,b;c:d"),
                                     std::string("\xD0\x9C\xD0\xBE"), std::string(" ")}) {
+        if (!isPlainName(name + ".ppt")) continue;  // Windows has no such files
         set("txtSaveFilename", name);
         calls_.clear();
         create("optPPT");
@@ -98,8 +101,8 @@ TEST_F(FrmCreateReport, AnyNameIsTakenAsItIsTyped) {
 
 TEST_F(FrmCreateReport, StartsInTheLastUsedDirectory) {
     EXPECT_EQ(form_->windowTitle(), "Create Report");
-    EXPECT_EQ(child<QLineEdit>("txtBMPDirectory")->text().toStdString(), directory_.path() + "/");
-    EXPECT_EQ(child<QLineEdit>("txtWorkDirectory")->text().toStdString(), directory_.path() + "/");
+    EXPECT_EQ(child<QLineEdit>("txtBMPDirectory")->text().toStdString(), directory_.file(""));
+    EXPECT_EQ(child<QLineEdit>("txtWorkDirectory")->text().toStdString(), directory_.file(""));
     for (const char* option : {"optPPT", "optDOC", "optBothPPTAndDOC"})
         EXPECT_FALSE(child<QRadioButton>(option)->isChecked()) << option;
 }
@@ -170,8 +173,8 @@ TEST_F(FrmCreateReport, ANoToEitherQuestionStopsEverything) {
     set("txtSaveFilename", "r");
     host_.boxAnswers = {BoxAnswer::Yes, BoxAnswer::No, BoxAnswer::No};
     create("optBothPPTAndDOC");
-    EXPECT_EQ(host_.boxes[0].text,
-              "The file r.ppt already exists in " + directory_.path() + "/. Would you like to overwrite it?");
+    EXPECT_EQ(host_.boxes[0].text, "The file r.ppt already exists in " + directory_.file("") +
+                                       ". Would you like to overwrite it?");
     EXPECT_EQ(host_.boxes[0].title, "Overwrite File?");
     EXPECT_EQ(host_.boxes[0].icon, BoxIcon::Information);
     EXPECT_EQ(host_.boxes[0].buttons, BoxButtons::YesNo);
@@ -203,7 +206,7 @@ TEST_F(FrmCreateReport, LeavingAFieldCompletesAndCleansIt) {
     child("txtBMPDirectory")->setFocus();
     QTest::keyClicks(child("txtBMPDirectory"), "/x");
     child("txtSaveFilename")->setFocus();
-    EXPECT_EQ(child<QLineEdit>("txtBMPDirectory")->text(), "/x/");
+    EXPECT_EQ(child<QLineEdit>("txtBMPDirectory")->text().toStdString(), nativePath("/x/"));
     EXPECT_FALSE(marked("txtBMPDirectory"));
     EXPECT_EQ(status(), "");
     EXPECT_EQ(child<QLineEdit>("txtSaveFilename")->text(), "");

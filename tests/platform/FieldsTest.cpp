@@ -24,6 +24,7 @@
 #include "platform/QtText.h"
 #include "platform/ReadText.h"
 #include "processing/KeyFilters.h"
+#include "tests/support/Places.h"
 #include "tests/support/Raises.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
@@ -267,16 +268,16 @@ TEST(Pickers, SeveralFilesGoToTheListAsFullPaths) {
     TestHost host;
     QListWidget list;
     std::string dir = "/start";
-    host.filesAnswers = {{"/data/a.dat", "/data/b.dat"}, {}};
+    host.filesAnswers = {{nativePath("/data/a.dat"), nativePath("/data/b.dat")}, {}};
     SelectFiles(host, list, dir, "Data|*.dat");
     EXPECT_EQ(host.filesPicks[0].title, "Select Files");
     EXPECT_EQ(host.filesPicks[0].directory, "/start");
     ASSERT_EQ(list.count(), 2);
-    EXPECT_EQ(list.item(1)->text(), "/data/b.dat");
-    EXPECT_EQ(dir, "/data");
+    EXPECT_EQ(list.item(1)->text().toStdString(), nativePath("/data/b.dat"));
+    EXPECT_EQ(dir, nativePath("/data"));
     SelectFiles(host, list, dir, "Data|*.dat");
     EXPECT_EQ(list.count(), 2) << "a cancel changes nothing";
-    EXPECT_EQ(dir, "/data");
+    EXPECT_EQ(dir, nativePath("/data"));
 }
 
 TEST(Pickers, AFolderThatIsNotPickedIsTheOneToStartFrom) {
@@ -319,7 +320,7 @@ TEST(ReadTexts, ComeBackInTheBytesOfTheirFileUntilAnotherIsTyped) {
         showPath(box, "/" + bytes);
         EXPECT_EQ(pathIn(box), "/" + bytes);
         box.setText(QString::fromUtf8("/\xC3\xA9"));
-        EXPECT_EQ(pathIn(box), "/\xC3\xA9") << "as the file system has it";
+        EXPECT_EQ(pathIn(box), nativePath("/\xC3\xA9")) << "as the file system has it";
     }
     QComboBox combo;
     combo.setEditable(true);

@@ -11,6 +11,7 @@
 #include "platform/FieldMarks.h"
 #include "platform/Moments.h"
 #include "processing/KeyFilters.h"
+#include "tests/support/Places.h"
 #include "tests/support/Raises.h"
 #include "tests/support/TempDirectory.h"
 #include "tests/support/TestHost.h"
@@ -105,24 +106,24 @@ TEST_F(DirectoryBox, EndsInOneSeparatorOnceItHasAText) {
     for (const char* typed : {"/a", "/a/"}) {
         setText(typed);
         completeDirectory(box_);
-        EXPECT_EQ(text(), "/a/");
+        EXPECT_EQ(text(), nativePath("/a/"));
     }
 }
 
 TEST_F(DirectoryBox, TakesThePickedFolderAndKeepsItsOwnAfterACancel) {
     setText(" /a b ");
-    host_.folderAnswers = {"/picked", ""};
+    host_.folderAnswers = {nativePath("/picked"), ""};
     browseDirectory(host_, box_, "Where?");
-    EXPECT_EQ(host_.folderPicks.at(0).start, "/a b");
+    EXPECT_EQ(host_.folderPicks.at(0).start, nativePath("/a b"));
     EXPECT_EQ(host_.folderPicks.at(0).title, "Where?");
-    EXPECT_EQ(text(), "/picked/");
+    EXPECT_EQ(text(), nativePath("/picked/"));
     browseDirectory(host_, box_, "Where?");
-    EXPECT_EQ(text(), "/picked/");
+    EXPECT_EQ(text(), nativePath("/picked/"));
 }
 
 TEST_F(DirectoryBox, KnowsWhetherAnotherOneThatExistsWasChosen) {
-    const std::string here = directory_.path() + "/";
-    host_.folderAnswers = {here, here, "/no such directory", ""};
+    const std::string here = directory_.file("");
+    host_.folderAnswers = {here, here, nativePath("/no such directory"), ""};
     EXPECT_TRUE(browseOtherDirectory(host_, box_, "Where?"));
     EXPECT_FALSE(browseOtherDirectory(host_, box_, "Where?")) << "the same again";
     EXPECT_FALSE(browseOtherDirectory(host_, box_, "Where?"));

@@ -19,7 +19,7 @@ std::string pathOf(const char* what) {
     std::replace(name.begin(), name.end(), '/', '_');
     const std::filesystem::path folder = std::filesystem::path(ZG_BINARY_DIR) / "pictures";
     std::filesystem::create_directories(folder);
-    return (folder / (name + "." + what + ".png")).string();
+    return (folder / (name + "." + what + ".png")).generic_string();
 }
 
 std::string left(const QImage& picture, const char* what) {

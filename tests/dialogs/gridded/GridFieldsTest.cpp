@@ -314,7 +314,7 @@ TEST_F(GridFields, AStationsNameKeepsTheBytesOfTheTable) {
         const std::string text = controlFile("VENTOS_wind20050307-20051231");
         EXPECT_NE(text.find("! TSFOUT = " + output + " !"), std::string::npos);
         EXPECT_NE(text.find("! LOCMET = " + name + " !"), std::string::npos);
-        EXPECT_EQ(FileNameOf(settings.CurrentFrqPath), output + ".frq");
+        EXPECT_EQ(FileNameOf(settings.CurrentFrqPath), nameOnDisk(output + ".frq"));
         EXPECT_EQ(status(), "Finished");
     }
 }

@@ -11,6 +11,7 @@
 #include <QTimer>
 #include <filesystem>
 
+#include "base/Files.h"
 #include "base/Lines.h"
 #include "base/Paths.h"
 #include "dialogs/gridded/FrmProjectionInfo.h"
@@ -24,6 +25,7 @@
 #include "tests/headers/GridFiles.h"
 #include "tests/support/FormDriver.h"
 #include "tests/support/FreshProgram.h"
+#include "tests/support/Places.h"
 #include "tests/support/TestHost.h"
 
 namespace zg {
@@ -36,8 +38,8 @@ class CopyingProcessor : public ProcessStarter {
         if (!isSlow) finish();
     }
     void finish() {
-        for (const auto& entry : std::filesystem::directory_iterator(directory_))
-            if (entry.path().extension() == ".inp") readOutputs(entry.path().string(), directory_);
+        for (const std::string& name : namesIn(directory_))
+            if (name.ends_with(".inp")) readOutputs(directory_ + name, directory_);
         LineWriter(directory_ + "finished.txt").writeLine("x");
     }
 
@@ -51,8 +53,8 @@ class CopyingProcessor : public ProcessStarter {
             const std::size_t at = line.find(key);
             if (at == std::string::npos) continue;
             const std::string name = line.substr(at + key.size(), line.find(" !", at + 2) - at - key.size());
-            std::filesystem::copy(ZG_SOURCE_DIR "/data/samples/LOVETT_1988.frq", directory + name + ".frq",
-                                  std::filesystem::copy_options::overwrite_existing);
+            LineWriter(directory + name + ".frq")
+                .write(readWholeFile(inSources("data/samples/LOVETT_1988.frq")));
         }
     }
 

@@ -11,6 +11,7 @@
 #include "headers/Stations.h"
 #include "settings/Settings.h"
 #include "tests/dialogs/point/PointDialogs.h"
+#include "tests/support/Places.h"
 
 namespace zg {
 namespace {
@@ -321,12 +322,12 @@ TEST_F(FrmOpenSURFDATFile, LeavingTheDirectoryCompletesIt) {
     box("txtOutputDirectory").setFocus();
     QTest::keyClicks(&box("txtOutputDirectory"), "/a b");
     box("txtTitleLine").setFocus();
-    EXPECT_EQ(box("txtOutputDirectory").text(), "/a b/");
-    host_.folderAnswers = {"/picked"};
+    EXPECT_EQ(box("txtOutputDirectory").text().toStdString(), nativePath("/a b/"));
+    host_.folderAnswers = {nativePath("/picked")};
     click("cmdBrowseDirectory");
-    EXPECT_EQ(host_.folderPicks[0].start, "/a b/");
+    EXPECT_EQ(host_.folderPicks[0].start, nativePath("/a b/"));
     EXPECT_EQ(host_.folderPicks[0].title, "Select a Working Directory:");
-    EXPECT_EQ(box("txtOutputDirectory").text(), "/picked/");
+    EXPECT_EQ(box("txtOutputDirectory").text().toStdString(), nativePath("/picked/"));
 }
 
 TEST_F(FrmOpenSURFDATFile, ItsButtonsOpenSeasonsAndClasses) {

@@ -7,6 +7,8 @@
 #include <QTest>
 #include <filesystem>
 
+#include "base/Files.h"
+#include "base/Lines.h"
 #include "base/Paths.h"
 #include "dialogs/point/PointDialog.h"
 #include "graph/frq/ModPolarGraph.h"
@@ -53,7 +55,10 @@ class PointDialogs : public ::testing::Test, protected FormDriver {
         startSettings();
         std::filesystem::create_directory(directory_.file("out"));
         starter_.onStart = [this](const std::string& out) {
-            std::filesystem::copy(out, directory_.file("seen"), std::filesystem::copy_options::recursive);
+            std::filesystem::create_directory(directory_.file("seen"));
+            for (const std::string& name : namesIn(out))
+                if (name.ends_with(".inp"))
+                    directory_.write("seen/" + name, readWholeFile(out + pathSeparator + name));
             for (const std::string& name : made_) directory_.write("out/" + name + ".frq", "");
             directory_.write("out/finished.txt", "");
         };

@@ -6,6 +6,7 @@
 #include "dialogs/point/FrmOpenTSFDataFile.h"
 #include "dialogs/point/FrmOpenUPDATFile.h"
 #include "tests/dialogs/point/PointDialogs.h"
+#include "tests/support/Places.h"
 
 namespace zg {
 namespace {
@@ -62,7 +63,7 @@ TEST_F(PointFields, LeavingTheDirectoryTakesItsMarkAndTheStatus) {
         leave("txtOutputDirectory", "txtTitleLine");
         EXPECT_FALSE(marked("txtOutputDirectory"));
         EXPECT_EQ(status(), "");
-        EXPECT_EQ(box("txtOutputDirectory").text(), "/x/");
+        EXPECT_EQ(box("txtOutputDirectory").text().toStdString(), nativePath("/x/"));
         setStatus("new");
         leave("txtOutputDirectory", "txtTitleLine");
         EXPECT_EQ(status(), "new") << "only with the mark";
@@ -102,16 +103,17 @@ TEST_F(PointFields, AnotherSelectionOfStationsTakesTheStatus) {
 TEST_F(PointFields, TheFolderPickerHasItsTitleAndStartsInTheDirectory) {
     inEach([this](const Kind& kind) {
         host_.folderPicks.clear();
-        host_.folderAnswers = {"/picked", ""};
+        host_.folderAnswers = {nativePath("/picked"), ""};
         click("cmdBrowseDirectory");
         ASSERT_EQ(host_.folderPicks.size(), 1U);
         EXPECT_EQ(host_.folderPicks[0].title, std::string(kind.name) == "SURF"
                                                   ? "Select a Working Directory:"
                                                   : "Select a Output Directory:");
         EXPECT_EQ(host_.folderPicks[0].start, directory_.file("out/"));
-        EXPECT_EQ(box("txtOutputDirectory").text(), "/picked/");
+        EXPECT_EQ(box("txtOutputDirectory").text().toStdString(), nativePath("/picked/"));
         click("cmdBrowseDirectory");
-        EXPECT_EQ(box("txtOutputDirectory").text(), "/picked/") << "nothing was picked";
+        EXPECT_EQ(box("txtOutputDirectory").text().toStdString(), nativePath("/picked/"))
+            << "nothing was picked";
     });
 }
 
@@ -119,7 +121,7 @@ TEST_F(PointFields, TheNextFileIsLookedForWhereTheLastOneWas) {
     inEach([this](const Kind& kind) {
         EXPECT_EQ(host_.openPicks.back().directory, "") << "each opening starts afresh";
         browse(kind.file, kind.text);
-        EXPECT_EQ(host_.openPicks.back().directory, directory_.path() + "/");
+        EXPECT_EQ(host_.openPicks.back().directory, directory_.file(""));
         EXPECT_EQ(host_.openPicks.back().fileName, "");
     });
 }
@@ -143,7 +145,8 @@ TEST_F(PointFields, ADirectoryOfBlanksDoesNotExist) {
                                         : "Selected Output Directory does not exist.";
         box("txtOutputDirectory").setText(" ");
         EXPECT_EQ(refusal(), message);
-        EXPECT_EQ(box("txtOutputDirectory").text(), " /") << "completed as any other, and yet not the root";
+        EXPECT_EQ(box("txtOutputDirectory").text().toStdString(), nativePath(" /"))
+            << "completed as any other, and yet not the root";
         EXPECT_EQ(refusal(), message);
         EXPECT_TRUE(marked("txtOutputDirectory"));
     });
