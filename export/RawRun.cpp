@@ -124,16 +124,16 @@ class RawRunner {
 
     void takeResult(const std::string& directory, const std::string& name) {
         const std::string path = directory + name;
-        if (!fileExists(path + ".frq"))
-            throw RawFault(input_.path + ": the processor made no " + name + ".frq", false);
-        result_.frqFiles.push_back(path + ".frq");
+        const std::string frq = existingFile(path + ".frq");  // with the letters that the system gave it
+        if (frq.empty()) throw RawFault(input_.path + ": the processor made no " + name + ".frq", false);
+        result_.frqFiles.push_back(frq);
         if (wishes_.keeps) {
             for (const char* const kind : {".frq", ".tab", ".tsf"})
-                if (fileExists(path + kind)) result_.kept.push_back(path + kind);
+                if (fileExists(path + kind)) result_.kept.push_back(existingFile(path + kind));
             return;
         }
         if (wishes_.keepsFrq)
-            result_.kept.push_back(copied(path + ".frq", withSeparator(output_) + name + ".frq"));
+            result_.kept.push_back(copied(frq, withSeparator(output_) + frq.substr(folderOf(frq).size())));
         for (const char* const kind : {".tab", ".tsf"}) removeFile(path + kind);  // of many files much
     }
 

@@ -318,6 +318,7 @@ TEST(RawExport, AStationInAnotherEncodingNamesItsRose) {
     ASSERT_EQ(names.size(), 1U);
     EXPECT_TRUE(names[0].starts_with(onWindows ? "s_Z\xC3\xBCri" : "s_Z\xFCri")) << names[0];
     EXPECT_EQ(zg::filesMatching(directory.file("s_Z*.png")).size(), 1U);
+    EXPECT_TRUE(holds(outcome.out, names[0])) << "told by its name";
 }
 
 TEST(RawExport, AReportNamesTheFileThatWasGiven) {
