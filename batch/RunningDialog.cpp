@@ -19,7 +19,7 @@ RunningDialog::RunningDialog(Host& host, const char* name, const char* title, QW
     nameForm(*this, name, title);
     lblStatus->setTextFormat(Qt::PlainText);
     wrapWithin(*lblStatus);
-    lblStatus->setMinimumHeight(2 * lblStatus->fontMetrics().height());
+    lblStatus->setMinimumHeight(2 * lblStatus->fontMetrics().lineSpacing());
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
