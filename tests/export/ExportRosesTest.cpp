@@ -27,7 +27,7 @@ class ExportRoses : public ::testing::Test {
     }
 
     int run() { return runExport(job_, out_, errors_); }
-    long lines() const {
+    std::ptrdiff_t lines() const {
         const std::string text = out_.str();
         return std::count(text.begin(), text.end(), '\n');
     }
