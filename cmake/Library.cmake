@@ -41,11 +41,8 @@ endif()
 if(WIN32)
     set(ZG_ALONE -static)
     # The toolkit there cannot unpack what the one here packs by default.
-    set(CMAKE_AUTORCC_OPTIONS --no-zstd)
+    set(ZG_RESOURCE_OPTIONS OPTIONS --no-zstd)
 endif()
-
-# The toolkit's meta-object code is made of a library's own sources, so it need not wait for the libraries that it links.
-set(CMAKE_AUTOGEN_ORIGIN_DEPENDS OFF)
 
 include(${CMAKE_CURRENT_LIST_DIR}/Precompiled.cmake)
 
@@ -59,10 +56,19 @@ function(zg_compile_together target kind)
     zg_precompile(${target} ${kind})
 endfunction()
 
-# zg_library(NAME [QT] [SOURCES a.cpp ...] [HOT b.cpp ...] LINKS zg_base ...)   HOT: what runs for every point or record
+# zg_library(NAME [QT] [SOURCES a.cpp ...] [HOT b.cpp ...] [OBJECTS c.h ...] [RESOURCES d.qrc] LINKS zg_base ...)
+#   HOT: what runs for every point or record.  OBJECTS: headers with Q_OBJECT; a vtable that the linker misses is one that is not named here.
 # Headers are included by their path from the project's root.
 function(zg_library name)
-    cmake_parse_arguments(ARG "QT" "" "SOURCES;HOT;LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "QT" "" "SOURCES;HOT;OBJECTS;RESOURCES;LINKS" ${ARGN})
+    # Called this way the toolkit's compiler does not read the toolkit's own headers, of which it needs nothing, again for each of ours. What it makes
+    # is compiled together with the library's sources.
+    if(ARG_OBJECTS)
+        qt_wrap_cpp(ARG_SOURCES ${ARG_OBJECTS})
+    endif()
+    if(ARG_RESOURCES)
+        qt_add_resources(ARG_SOURCES ${ARG_RESOURCES} ${ZG_RESOURCE_OPTIONS})
+    endif()
     add_library(${name} STATIC ${ARG_SOURCES})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE zg_flags)
@@ -70,7 +76,6 @@ function(zg_library name)
         target_link_libraries(${name} PUBLIC zg_flags)
     endif()
     if(ARG_QT)
-        set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)
         zg_compile_together(${name} zg_pch_qt)
     else()
         zg_compile_together(${name} zg_pch_plain)

@@ -17,11 +17,11 @@ import sys
 
 
 def sources_of(file):
-    """The sources that a file of the build directory combines, or the file itself."""
+    """The sources that a file of the build directory combines, without what tools made there, or the file itself."""
     if not re.search(r"/Unity/unity_\d+_cxx\.cxx$", file):
         return [file]
     with open(file, encoding="utf-8") as text:
-        return re.findall(r'^#include "([^"]+\.cpp)"', text.read(), re.MULTILINE)
+        return re.findall(r'^#include "((?!.*/(?:moc|qrc)_)[^"]+\.cpp)"', text.read(), re.MULTILINE)
 
 
 OF_ANOTHER_COMPILER = ("-Winvalid-pch", "-Wno-restrict", "-Wno-stringop-overflow", "-Wno-subobject-linkage")
@@ -69,7 +69,7 @@ def main():
     def run(entry):
         # A file that combines sources may include them.
         return subprocess.run(["clang-tidy-14", "-quiet", "-p", place, "--checks=-bugprone-suspicious-include",
-                               "--header-filter=^(?!.*(autogen|/usr/)).*\\.(h|cpp)$", entry["file"]],
+                               "--header-filter=^(?!.*(/moc_|/qrc_|/usr/)).*\\.(h|cpp)$", entry["file"]],
                               capture_output=True, text=True, check=False)
 
     found, failed = set(), False
