@@ -90,13 +90,16 @@ class Desk:
         """Titles of the visible windows, by number."""
         search = ("xdotool", "search", "--onlyvisible", "--name", "")
         before = self.tool(*search).split()
-        while True:
+        known = {}
+        for _ in range(20):
             # One call for all titles, between two lists: windows come and go.
             titles = self.output(*search, "getwindowname", "%@").splitlines()
             after = self.tool(*search).split()
+            known = {number: title.strip() for number, title in zip(after, titles) if title.strip()}
             if before == after and len(titles) == len(after):
-                return {number: title.strip() for number, title in zip(after, titles) if title.strip()}
+                break
             before = after
+        return known
 
     def wait(self, what, test, seconds=20):
         """Polls until the test returns something; otherwise reports what was expected and what is displayed."""

@@ -72,7 +72,7 @@ def look_by_office(scratch):
     pictures = [os.path.join(scratch, name + "_01") for name in looks]
     place = os.path.join(scratch, "office")
     done = subprocess.run(["soffice", "-env:UserInstallation=file://" + os.path.join(scratch, "profile"), "--headless", "--convert-to", "bmp",
-                           "--outdir", place] + [picture + ".svg" for picture in pictures], capture_output=True, check=False)
+                           "--outdir", place] + [picture + ".svg" for picture in pictures], capture_output=True, check=False, timeout=120)
     for picture, (_, limit) in zip(pictures, looks.values()):
         shown = os.path.join(place, os.path.basename(picture) + ".bmp")
         if not os.path.exists(shown):
