@@ -11,19 +11,6 @@ export TEMPOLINE=${TEMPOLINE:-tempoline.exe}
 name=$1
 shift
 
-aside=("$name.previous.frq" "$name.previous.tab")
-tell_kept() {
-    local status=$? kept="" file
-    for file in "${aside[@]}"; do [ ! -e "$file" ] || kept+="${kept:+, }$file"; done
-    [ "$status" -eq 0 ] || [ -z "$kept" ] || echo "the results of an earlier run are kept as $kept" >&2
-}
-trap tell_kept EXIT
-# The FRQ file comes last: a TAB file without one is of a run that was killed, and replaces nothing that is aside.
-whole=$([ ! -e "$name.frq" ] || echo yes)
-for kind in tab frq; do
-    [ ! -e "$name.$kind" ] || { [ -z "$whole" ] && [ -e "$name.previous.$kind" ]; } || mv -f -- "$name.$kind" "$name.previous.$kind"
-done
-
 # A control file names each output in a line "! TSFOUT = NAME !"; that of a run that reads a series has
 # "! ROSEPLT = NAME !".
 outputs() {
@@ -35,6 +22,19 @@ for control in "$@"; do
     [ -n "$found" ] || found=$(outputs ROSEPLT "$control")
     [ -n "$found" ] || { echo "$control: there is no TSFOUT and no ROSEPLT that names its results" >&2; exit 1; }
     while IFS= read -r output; do tabs+=("$output.tab"); done <<<"$found"
+done
+
+aside=("$name.previous.frq" "$name.previous.tab")
+tell_kept() {
+    local status=$? kept="" file
+    for file in "${aside[@]}"; do [ ! -e "$file" ] || kept+="${kept:+, }$file"; done
+    [ "$status" -eq 0 ] || [ -z "$kept" ] || echo "the results of an earlier run are kept as $kept" >&2
+}
+trap tell_kept EXIT
+# The FRQ file comes last: a TAB file without one is of a run that was killed, and replaces nothing that is aside.
+whole=$([ ! -e "$name.frq" ] || echo yes)
+for kind in tab frq; do
+    [ ! -e "$name.$kind" ] || { [ -z "$whole" ] && [ -e "$name.previous.$kind" ]; } || mv -f -- "$name.$kind" "$name.previous.$kind"
 done
 
 if command -v parallel >/dev/null 2>&1; then

@@ -133,10 +133,18 @@ def check_parallel(processor, directory, path):
     assert done.returncode == 2 and done.stderr.startswith("usage: "), done.stderr
     # what a killed run left does not replace a whole result that is aside, and success removes it
     (directory / "joined.tab").write_bytes(b"of a killed run")
+    (directory / "broken.inp").write_bytes(b"broken\n\n! TSFOUT = broken !\n")
     done = parallel_script(directory, processor, "part0.inp", "broken.inp", path=path)
-    assert done.returncode == 1 and older[1] == (directory / "joined.previous.tab").read_bytes(), done.stderr
+    assert done.returncode != 0 and done.stderr.splitlines()[-1] == kept, done.stderr
+    assert older[1] == (directory / "joined.previous.tab").read_bytes()
     done = parallel_script(directory, processor, *controls, path=path)
     assert done.returncode == 0, done.stderr
+    same_results(directory, "joined", "whole")
+    assert not [name for name in names(directory) if "previous" in name], names(directory)
+    # a control file that cannot be used is found before anything is put aside
+    (directory / "broken.inp").write_bytes(b"broken")
+    done = parallel_script(directory, processor, "part0.inp", "broken.inp", path=path)
+    assert done.returncode == 1 and len(done.stderr.splitlines()) == 1, done.stderr
     same_results(directory, "joined", "whole")
     assert not [name for name in names(directory) if "previous" in name], names(directory)
 
