@@ -156,9 +156,8 @@ class Guess {
 
     /// A line of units, or a record of a station that was not asked for.
     void passOver(std::string_view station) {
-        TimeReadings trial = *readings_;
         const TimeValues times(fields_, facts_.layout.timeColumns);
-        if (facts_.records > 0 || trial.add(times.values()) || !takeUnits()) stations_.add(station);
+        if (facts_.records > 0 || readings_->canRead(times.values()) || !takeUnits()) stations_.add(station);
     }
 
     /// A line after the names with units or the like; false for a record whose time cannot be read.

@@ -71,6 +71,12 @@ bool TimeReadings::add(std::span<const std::string_view> values, bool isOtherSta
     return true;
 }
 
+bool TimeReadings::canRead(std::span<const std::string_view> values) const {
+    return std::any_of(readings_.begin(), readings_.end(), [&](const TimeReading& reading) {
+        return tableTime(reading.form, pattern_, values).has_value();
+    });
+}
+
 bool TimeReadings::overlap() const {
     return std::all_of(readings_.begin(), readings_.end(),
                        [](const TimeReading& reading) { return reading.overlaps; });

@@ -40,6 +40,9 @@ class TimeReadings {
     /// Adds the time of a record; false if no form that could read all earlier ones can read it.
     bool add(std::span<const std::string_view> values, bool isOtherStation = false);
 
+    /// Whether a form that could read all earlier ones can read that time too.
+    bool canRead(std::span<const std::string_view> values) const;
+
     /// Whether times of several stations overlap in every interpretation.
     bool overlap() const;
 
