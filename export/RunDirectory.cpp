@@ -16,15 +16,19 @@ namespace {
 
 std::mutex directoriesMutex;
 
+/// With a separator at its end.
+std::string temporaryPlace() {
+    std::error_code error;
+    const std::filesystem::path place = std::filesystem::temp_directory_path(error);
+    if (error) throw RawFault("there is no directory for temporary files: " + error.message(), false);
+    return withSeparator(place.string());
+}
+
 /// Those of this process, as long as it has any.
-std::shared_ptr<TemporaryFiles> filesOfThisProcess() {
+std::shared_ptr<TemporaryFiles> filesOfThisProcess(const std::string& place) {
     static std::weak_ptr<TemporaryFiles> current;
     if (std::shared_ptr<TemporaryFiles> files = current.lock()) return files;
-    std::error_code error;
-    const std::filesystem::path parent = std::filesystem::temp_directory_path(error);
-    if (error) throw RawFault("there is no directory for temporary files: " + error.message(), false);
-    const auto files = std::make_shared<TemporaryFiles>(
-        TemporaryPlace{withSeparator(parent.string()), "zephyrgraph-", true});
+    const auto files = std::make_shared<TemporaryFiles>(TemporaryPlace{place, "zephyrgraph-", true});
     files->removeRemains();
     current = files;
     return files;
@@ -34,11 +38,14 @@ std::shared_ptr<TemporaryFiles> filesOfThisProcess() {
 
 RunDirectory::RunDirectory() {
     const std::lock_guard guard(directoriesMutex);
-    files_ = filesOfThisProcess();
+    const std::string place = temporaryPlace();
+    files_ = filesOfThisProcess(place);
     path_ = files_->makeDirectory();
+    const int reason = errno;
     if (path_.empty())
-        throw RawFault(
-            "no directory for temporary files can be made: " + std::generic_category().message(errno), false);
+        throw RawFault(place + ": no directory for temporary files can be made there: " +
+                           std::generic_category().message(reason),
+                       false);
 }
 
 RunDirectory::~RunDirectory() { removeTree(path_); }

@@ -10,7 +10,8 @@ namespace zg {
 class TemporaryFiles;
 
 /// A directory for one run, removed with its contents at the end. Those that killed companions of the same
-/// user left on this machine are removed when the first one is made. Several threads may have some.
+/// user left on this machine are removed when the first one is made: under a processor too that goes on
+/// without its companion. Several threads may have some.
 class RunDirectory {
  public:
     /// Throws a RawFault if it cannot be created.

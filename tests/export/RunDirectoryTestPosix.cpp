@@ -85,4 +85,23 @@ TEST_F(KilledCompanion, TakesNothingFromOneThatGoesOn) {
     EXPECT_EQ(temporaries(), 0) << "and removes that at its end";
 }
 
+// A place where not even the system's administrator may make anything.
+TEST(RunDirectory, ThatCannotBeMadeIsToldWithItsPlace) {
+    const TempDirectory directory;
+    const std::string winds =
+        directory.write("winds.csv", "time,ws,wd\n2016-01-01 00:00,3,90\n2016-01-01 01:00,4,180\n");
+    const Result result = runCompanion(
+        {QString::fromStdString(winds), QStringLiteral("--out"), QString::fromStdString(directory.path())},
+        [](QProcess& process) {
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            environment.insert(QStringLiteral("TMPDIR"), QStringLiteral("/proc"));
+            process.setProcessEnvironment(environment);
+        });
+    EXPECT_EQ(result.status, 1);
+    const std::string told = result.errors.toStdString();
+    EXPECT_NE(told.find("/proc/: no directory for temporary files can be made there: No such file"),
+              std::string::npos)
+        << told;
+}
+
 }  // namespace
