@@ -3,6 +3,7 @@
 #include <QProcess>
 #include <algorithm>
 #include <filesystem>
+#include <map>
 #include <system_error>
 
 #include "base/Files.h"
@@ -12,6 +13,7 @@
 #include "export/RawPlan.h"
 #include "platform/QtText.h"
 #include "processing/ControlFile.h"
+#include "windtable/TableRecords.h"
 
 namespace zg {
 
@@ -81,17 +83,28 @@ class RawRunner {
         return controlFilesOf(input_.path, stem, header, wishes);
     }
 
+    /// The results of one station must not replace those of another.
+    [[noreturn]] void refuse(const std::string& station, const std::string& other) const {
+        std::string text = input_.path + ": --station: " + quotedValue(station);
+        text += station == other ? " is given twice"
+                                 : " would have the names of the results of " + quotedValue(other);
+        throw RawFault(text, true);
+    }
+
     /// Each station of a table has a period and a step of its own.
     std::vector<ControlFile> planned() {
         const bool areSeveral = input_.kind == InputKind::Csv && wishes_.stations.size() > 1;
         std::vector<ControlFile> controls;
+        std::map<std::string, std::string> stationOfStem;
         for (const std::string& station : areSeveral ? wishes_.stations : std::vector<std::string>()) {
+            const std::string stem = input_.stem + "_" + partOfName(station);
+            const auto [other, isNew] = stationOfStem.try_emplace(nameKey(stem), station);
+            if (!isNew) refuse(station, other->second);
             RawWishes one = wishes_;
             one.stations = {station};
             const RawFacts header = rawFactsOf(input_.path, input_.kind, one);
             if (header.table.layout.stationColumn == 0) return plannedFor(input_.stem, header, wishes_);
-            const std::vector<ControlFile> more =
-                plannedFor(input_.stem + "_" + partOfName(station), header, one);
+            const std::vector<ControlFile> more = plannedFor(stem, header, one);
             controls.insert(controls.end(), more.begin(), more.end());
         }
         if (areSeveral) return controls;

@@ -176,6 +176,25 @@ TEST(RawExport, OneOrMoreStationsOfATableAreTaken) {
     EXPECT_TRUE(holds(none.errors, "mast.csv: --station: these winds are of one station\n")) << none.errors;
 }
 
+TEST(RawExport, StationsWhoseResultsWouldHaveOneNameAreRefused) {
+    const TempDirectory directory;
+    std::string text = "station,time,ws,wd\n";
+    for (const char* const hour : {"00", "01"})
+        for (const char* const station : {"A/B", "A_B"})
+            text += std::string(station) + ",2016-01-01 " + hour + ":00,3,90\n";
+    directory.write("net.csv", text);
+    const Outcome alike =
+        runRaw({"net.csv", "--station", "A/B", "--station", "A_B", "--frq"}, directory.path());
+    EXPECT_EQ(alike.status, 2);
+    EXPECT_EQ(alike.errors, "net.csv: --station: \"A_B\" would have the names of the results of \"A/B\"\n");
+    const Outcome twice =
+        runRaw({"net.csv", "--station", "A_B", "--station", "A_B", "--dry-run"}, directory.path());
+    EXPECT_EQ(twice.status, 2);
+    EXPECT_EQ(twice.errors, "net.csv: --station: \"A_B\" is given twice\n");
+    EXPECT_EQ(alike.out + twice.out, "");
+    EXPECT_EQ(namesIn(directory.path()), "net.csv ");
+}
+
 TEST(RawExport, OptionsReachTheControlFileAndADryRunRunsNothing) {
     const TempDirectory directory;
     directory.write("mast.csv", table);
