@@ -12,11 +12,11 @@
 #include <cstdio>
 #include <cstring>
 
+#include "base/Paths.h"
 #include "platform/Fonts.h"
 #include "platform/QtText.h"
 #include "tests/forms/Forms.h"
 #include "tests/forms/Looks.h"
-#include "tests/support/Places.h"
 
 namespace {
 
@@ -52,7 +52,7 @@ void hideScratch(QWidget& form, const zg::FormWorld& world) {
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    if (onWindows) zg::useFontsBeside(zg::filePath(QCoreApplication::applicationDirPath()));
+    if (zg::pathSeparator == '\\') zg::useFontsBeside(zg::filePath(QCoreApplication::applicationDirPath()));
     if (argc < 2) {
         std::fprintf(stderr, "usage: zg_form_pictures DIRECTORY [large] [dark]\n");
         return 2;
