@@ -10,10 +10,10 @@ namespace zg {
 namespace {
 
 /// What splits a name into several words of a command line, 0 if nothing does. For the copy of the listing
-/// the shell of Windows, identified by its separator, takes more signs than the blank.
+/// the shell of Windows, identified by its separator, takes more signs than the blank: "+" joins two files.
 char splitterIn(const std::string& name, char separator) {
     if (name.find(' ') != std::string::npos) return ' ';
-    const std::size_t at = separator == '\\' ? name.find_first_of(";,=") : std::string::npos;
+    const std::size_t at = separator == '\\' ? name.find_first_of(";,=+") : std::string::npos;
     return at == std::string::npos ? '\0' : name[at];
 }
 

@@ -27,6 +27,7 @@ Texts oddStations() {
             " lead",
             "trail ",
             "a;b",
+            "a+b",
             "a/b",
             "../up",
             "a\\b",
@@ -203,7 +204,7 @@ std::string ofRun(const std::string& output, const std::string& remedy) {
     if (isNoFile(output)) return refused + "\"" + output + "\" is no plain file name" + number;
     if (output.size() > 240) return refused + "\"" + output + "\" is too long for a file" + number;
     if (output.find(' ') != std::string::npos) return blankOf + remedy;
-    if (const std::size_t at = output.find_first_of(";,="); onWindows && at != std::string::npos)
+    if (const std::size_t at = output.find_first_of(";,=+"); onWindows && at != std::string::npos)
         return std::string("waits: a ") + output[at] +
                " in the name: the command shell cannot copy the processor's listing; " + remedy;
     if (output.find('\t') != std::string::npos)
