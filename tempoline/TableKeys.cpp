@@ -63,6 +63,8 @@ TableLayout readTableLayout(ControlKeys& keys) {
     if (keys.has("CSVSTN")) {
         layout.stationColumn = columnOfKey(keys, "CSVSTN");
         layout.station = keys.text("CSVID");
+    } else if (keys.has("CSVID")) {
+        throw keys.failure("CSVID", "it needs a CSVSTN");
     }
     if (!keys.has("CSVZONE")) return layout;
     layout.zone = zoneOffset(keys.text("CSVZONE"));

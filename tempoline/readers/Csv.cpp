@@ -34,6 +34,10 @@ class Csv : public InputReader {
         if (lines.lineNumber() < layout_.headLines)
             throw lines.failure("", "the file ends within the " + std::to_string(layout_.headLines) +
                                         " lines before its first record");
+        if (layout_.stationColumn != 0 && !begun_)
+            throw Failure(ExitStatus::Failed, path + ": no line has " + quotedValue(layout_.station) +
+                                                  " in " + fieldName(layout_.stationColumn) +
+                                                  ", where CSVSTN expects the stations");
         if (!begun_) noteNoShift(control_);
     }
 

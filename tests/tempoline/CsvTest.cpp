@@ -188,6 +188,22 @@ TEST(Csv, OfSeveralStationsOnlyOneIsRead) {
     EXPECT_EQ(reading.failure(rows), "4: column 2 (ws): \"fast\" is no speed");
 }
 
+TEST(Csv, AStationThatNoLineHasIsTold) {
+    CsvReading reading;
+    reading.control.table.stationColumn = 4;
+    reading.control.table.station = "C";
+    const std::string rows = hour0 + "3,90,A\n" + hour0 + "4,90,B\n";
+    EXPECT_EQ(reading.failure(rows), " no line has \"C\" in column 4, where CSVSTN expects the stations");
+    reading.control.table.station = "B";
+    reading.control.table.stationColumn = 3;
+    EXPECT_EQ(reading.failure(rows),
+              " no line has \"B\" in column 3 (wd), where CSVSTN expects the stations");
+    reading.control.table.stationColumn = 5;
+    EXPECT_EQ(reading.failure(rows), " no line has \"B\" in column 5, where CSVSTN expects the stations");
+    reading.control.table.stationColumn = 4;
+    EXPECT_EQ(reading.of(rows).valid, 1);
+}
+
 TEST(Csv, ADamagedGzipFileIsTold) {
     CsvReading reading;
     const std::string zipped = gzipped("time,ws,wd\n" + hour0 + "3,90\n");
@@ -221,6 +237,7 @@ TEST(Csv, TheControlFileSaysWhatIsWrongWithALayout) {
     EXPECT_EQ(fault("CSVTIME", "1,2,3"), "CSVTIME: 3 columns are no time of the form DMY\n");
     EXPECT_EQ(fault("CSVSTMP", "MIDDLE"), "CSVSTMP: BEGIN or END is needed\n");
     EXPECT_EQ(fault("CSVLEN", "90000"), "CSVLEN: 90000 is not between 1 and 86400\n");
+    EXPECT_EQ(fault("CSVID", "A"), "CSVID: it needs a CSVSTN\n");
     EXPECT_EQ(fault("CSVZONE", "EST"), "CSVZONE: \"EST\" is no zone such as UTC-0500\n");
 }
 
