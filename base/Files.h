@@ -91,6 +91,10 @@ std::string wholePath(const std::string& name);
 /// Whether the bytes are a name in a directory that leads nowhere else.
 bool isPlainName(std::string_view name);
 
+/// The text for a name put together of several: Windows has no names of bytes, and a part that is not UTF-8
+/// would turn the letters of the others into different ones.
+std::string asPartOfName(std::string_view text);
+
 /// Equal for two names that the system considers the same under its rule for letter case.
 std::string nameKey(std::string_view name);
 

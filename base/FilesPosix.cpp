@@ -135,6 +135,8 @@ bool isPlainName(std::string_view name) {
            name.find('\0') == std::string_view::npos && name != "." && name != "..";
 }
 
+std::string asPartOfName(std::string_view text) { return std::string(text); }
+
 std::string nameKey(std::string_view name) { return std::string(name); }
 
 std::string machineName() {

@@ -7,6 +7,7 @@
 #include <cstring>
 #include <utility>
 
+#include "base/Encoding.h"
 #include "base/Files.h"
 #include "base/WindowsNames.h"
 
@@ -258,6 +259,8 @@ bool isPlainName(std::string_view name) {
         if (static_cast<unsigned char>(c) < ' ' || refused.find(c) != std::string_view::npos) return false;
     return !name.empty() && name.back() != '.' && name.back() != ' ' && !isDevice(name);
 }
+
+std::string asPartOfName(std::string_view text) { return toUtf8(text); }
 
 std::string nameKey(std::string_view name) {
     std::wstring wide = wideUnits(name);

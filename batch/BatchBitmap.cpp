@@ -1,6 +1,5 @@
 #include "batch/BatchBitmap.h"
 
-#include "base/Encoding.h"
 #include "base/Files.h"
 #include "base/Paths.h"
 #include "graph/frq/ModPolarGraph.h"
@@ -11,9 +10,6 @@ namespace zg {
 namespace {
 
 constexpr bool onWindows = pathSeparator == '\\';
-
-/// Windows has no names of bytes: what is not UTF-8 would spoil what stands before it.
-std::string asPartOfName(const std::string& text) { return onWindows ? toUtf8(text) : text; }
 
 }  // namespace
 

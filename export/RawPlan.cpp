@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "base/Paths.h"
+#include "base/Encoding.h"
+#include "base/Files.h"
 #include "base/Text.h"
 #include "export/RawRules.h"
 #include "headers/Stations.h"
@@ -136,14 +137,20 @@ class Planner {
             if (wishes_.stations.size() > 1) refuse(path_, "--station: these winds are of one station");
             return wishes_.stations;
         }
-        for (const std::string& wish : wishes_.stations) {
-            if (std::find(header_.stations.begin(), header_.stations.end(), wish) != header_.stations.end())
-                continue;
-            std::string text = "--station: there is no station \"" + wish + "\"; the file has";
-            for (const std::string& station : header_.stations) text += " " + station;
-            refuse(path_, text);
-        }
-        return wishes_.stations;
+        std::vector<std::string> stations;
+        for (const std::string& wish : wishes_.stations) stations.push_back(stationOfFile(wish));
+        return stations;
+    }
+
+    /// In the bytes of the file: what is typed is UTF-8.
+    std::string stationOfFile(const std::string& wish) const {
+        const auto found =
+            std::find_if(header_.stations.begin(), header_.stations.end(),
+                         [&](const std::string& station) { return toUtf8(station) == toUtf8(wish); });
+        if (found != header_.stations.end()) return *found;
+        std::string text = "--station: there is no station \"" + toUtf8(wish) + "\"; the file has";
+        for (const std::string& station : header_.stations) text += " " + toUtf8(station);
+        refuse(path_, text);
     }
 
     std::string nameOf(const std::string& station, const std::string& height, bool severalStations,
@@ -226,7 +233,7 @@ std::vector<ControlFile> controlFilesOf(const std::string& path, const std::stri
 std::string partOfName(std::string text) {
     for (char& c : text)
         if (c == '/' || c == '\\' || c == '!' || c == ',' || static_cast<unsigned char>(c) < ' ') c = '_';
-    return trim(text);
+    return asPartOfName(trim(text));
 }
 
 void needPlainWishes(const RawWishes& wishes) {

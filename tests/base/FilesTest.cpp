@@ -200,5 +200,11 @@ TEST(Files, TheMachineAndTheProcessAreGoodInNames) {
     EXPECT_GT(processNumber(), 0U);
 }
 
+TEST(Files, APartOfANameDoesNotChangeTheLettersOfTheOthers) {
+    const std::string name = "W\xC3\xBCrzburg_" + asPartOfName("Z\xFCrich");
+    const bool onWindows = pathSeparator == '\\';
+    EXPECT_EQ(name, onWindows ? "W\xC3\xBCrzburg_Z\xC3\xBCrich" : "W\xC3\xBCrzburg_Z\xFCrich");
+}
+
 }  // namespace
 }  // namespace zg
