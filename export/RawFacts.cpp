@@ -1,9 +1,11 @@
 #include "export/RawFacts.h"
 
+#include "base/Encoding.h"
 #include "base/Lines.h"
 #include "base/Numbers.h"
 #include "headers/RawHeader.h"
 #include "windtable/TableFields.h"
+#include "windtable/TableRecords.h"
 #include "windtable/TableTimes.h"
 
 namespace zg {
@@ -59,13 +61,17 @@ void readTable(const std::string& path, const RawWishes& wishes, RawFacts& facts
     }
     const TableFacts& table = facts.table;
     if (table.layout.station.find('!') != std::string::npos)
-        throw RawFault("--station: a \"!\" ends a value of the control file", true);
+        throw RawFault(path + ": --station: a \"!\" ends a value of the control file", true);
     facts.begin = DateTime{table.begin + epochFrom1899};
     facts.end = DateTime{table.end + epochFrom1899};
     if (table.zone) facts.zone = zoneWord(*table.zone);
     facts.stepSeconds = static_cast<int>(table.layout.recordSeconds);
     if (table.height) facts.heights = {singleText(static_cast<float>(*table.height))};
-    facts.told = path + ": " + takenText(table);
+    facts.told = {path + ": " + takenText(table)};
+    if (wished.station.empty() || table.onlyStation.empty()) return;
+    if (toUtf8(wished.station) != toUtf8(table.onlyStation))
+        facts.told.push_back(path + ": its only station is " + quotedValue(table.onlyStation) + "; " +
+                             quotedValue(wished.station) + " is only the name");
 }
 
 std::string faultText(const std::string& path, const HeaderError& error) {

@@ -20,7 +20,7 @@ struct RawFacts {
     std::vector<std::string> stations;  ///< available stations, in file order
     std::vector<std::string> heights;   ///< metres; empty for a series, whose height is its own
     TableFacts table;                   ///< of a table
-    std::string told;                   ///< what was detected, to be reported
+    std::vector<std::string> told;      ///< lines: what was detected, to be reported
 };
 
 /// Reads the header, for some kinds the whole file. Throws a RawFault with file, line and field.

@@ -79,7 +79,7 @@ class RawRunner {
  private:
     std::vector<ControlFile> plannedFor(const std::string& stem, const RawFacts& header,
                                         const RawWishes& wishes) {
-        if (!header.told.empty()) result_.told.push_back(header.told);
+        result_.told.insert(result_.told.end(), header.told.begin(), header.told.end());
         return controlFilesOf(input_.path, stem, header, wishes);
     }
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 
+#include "base/Encoding.h"
 #include "base/Lines.h"
 #include "base/RunTimeError.h"
 #include "windtable/TableFields.h"
@@ -35,7 +36,11 @@ std::optional<int> wholeNumber(std::string_view text) {
 class Guess {
  public:
     Guess(const std::string& path, const TableWishes& wishes)
-        : path_(path), wishes_(wishes), lines_(path, longestTableLine) {
+        : path_(path),
+          wishes_(wishes),
+          lines_(path, longestTableLine),
+          station_(toUtf8(wishes.station)),
+          stationInWindows1252_(fromUtf8(station_)) {
         facts_.layout.stampsEnd = wishes.stampsEnd;
         facts_.layout.missing = wishes.missing;
     }
@@ -136,7 +141,7 @@ class Guess {
             fail(lines_.lineNumber(), "a quote is not closed");
         if (isEmptyLine(line, layout.delimiter)) return;
         const std::string_view station = fields_.at(stations_.column());
-        if (choosesStation() && station != wishes_.station) return passOver(station);
+        if (choosesStation() && !isChosen(station)) return passOver(station);
         if (fields_.size() < columns_ && (facts_.records > 0 || layout.namesLine == 0))
             fail(lines_.lineNumber(), "the line has " + std::to_string(fields_.size()) + " of at least " +
                                           std::to_string(columns_) + " values");
@@ -153,6 +158,14 @@ class Guess {
     }
 
     bool choosesStation() const { return !wishes_.station.empty() && stations_.column() != 0; }
+
+    /// Wishes are in UTF-8. The first record tells in which of the two encodings the table has the name.
+    bool isChosen(std::string_view station) {
+        if (station == station_) return true;
+        if (facts_.records > 0 || station != stationInWindows1252_) return false;
+        station_ = stationInWindows1252_;
+        return true;
+    }
 
     /// A line of units, or a record of a station that was not asked for.
     void passOver(std::string_view station) {
@@ -203,9 +216,9 @@ class Guess {
                  true);
         if (!choosesStation() && stations_.areSeveral() && (stations_.alternate() || readings_->overlap()))
             fail(0,
-                 "the column " + quotedValue(stations_.name()) + " names " + std::to_string(stations.size()) +
-                     " stations, whose times overlap: " + stationsText(stations) + "; --station " +
-                     quotedValue(stations.front()) + " takes one of them",
+                 "the column " + quotedValue(stations_.name()) + " names " + stationsCount(stations) +
+                     " stations, whose times overlap or are not in order: " + stationsText(stations) +
+                     "; --station " + quotedValue(stations.front()) + " takes one of them",
                  true);
         if (facts_.records == 0) fail(lines_.lineNumber(), "there is no record after the columns' names");
         const TimeReading* reading = readings_->best();
@@ -233,13 +246,16 @@ class Guess {
     }
 
     void takeStation() {
-        if (!stations_.areSeveral()) return;
+        if (!stations_.areSeveral()) {
+            if (!stations_.all().empty()) facts_.onlyStation = stations_.all().front();
+            return;
+        }
         if (!choosesStation()) {
             facts_.stations = stations_.all();
             return;
         }
         facts_.layout.stationColumn = stations_.column();
-        facts_.layout.station = wishes_.station;
+        facts_.layout.station = station_;
     }
 
     std::string bothReadings() const {
@@ -259,6 +275,8 @@ class Guess {
     TableFields fields_;
     std::optional<TimeReadings> readings_;
     TableStations stations_;
+    std::string station_;  ///< the chosen one, in the bytes of the table
+    std::string stationInWindows1252_;
     std::optional<WindUnit> unit_;
     std::size_t columns_ = 0;
     bool isCommaDecided_ = false;

@@ -35,6 +35,7 @@ struct TableFacts {
     std::string directionName;
     std::vector<std::string> otherSpeeds;  ///< those that were not chosen
     std::vector<std::string> stations;     ///< of a table with several whose times do not overlap
+    std::string onlyStation;               ///< of a table whose column of stations names one
     std::optional<double> height;          ///< metres, if a name states it
     std::int64_t begin = 0;                ///< of the first record, by the clock of the file
     std::int64_t end = 0;                  ///< of the last record

@@ -1,9 +1,16 @@
 #include "windtable/TableRecords.h"
 
+#include "base/Encoding.h"
 #include "windtable/TableReadings.h"
 #include "windtable/TableValues.h"
 
 namespace zg {
+
+namespace {
+
+bool isWithinCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+
+}  // namespace
 
 TimeValues::TimeValues(const TableFields& fields, const std::vector<std::size_t>& columns) {
     for (const std::size_t column : columns) {
@@ -20,10 +27,16 @@ std::string TimeValues::text() const {
 
 std::string quotedValue(std::string_view text) {
     constexpr std::size_t longest = 40;
-    std::string shown(text.substr(0, longest));
+    std::string shown = toUtf8(text);
+    const bool isLong = shown.size() > longest;
+    if (isLong) {
+        std::size_t end = longest;
+        while (end > 0 && isWithinCharacter(shown[end])) --end;
+        shown.resize(end);
+    }
     for (char& c : shown)
         if (static_cast<unsigned char>(c) < ' ') c = '?';
-    return "\"" + shown + (text.size() > longest ? "...\"" : "\"");
+    return "\"" + shown + (isLong ? "...\"" : "\"");
 }
 
 TableLine TableRecords::fail(std::size_t column, std::string text) {

@@ -63,7 +63,7 @@ class TimeValues {
     std::size_t count_ = 0;
 };
 
-/// "17" in quotes, fit for a message.
+/// "17" in quotes and in UTF-8, fit for a message.
 std::string quotedValue(std::string_view text);
 
 }  // namespace zg

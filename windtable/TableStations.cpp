@@ -22,12 +22,17 @@ void TableStations::add(std::string_view station) {
     }
 }
 
+std::string stationsCount(const std::vector<std::string>& stations, std::size_t without) {
+    std::string text = stations.size() < mostStations ? "" : "at least ";
+    return text + std::to_string(stations.size() - without);
+}
+
 std::string stationsText(const std::vector<std::string>& stations) {
     std::string text;
     for (std::size_t i = 0; i < stations.size() && i < mostNamed; ++i)
         text.append(i == 0 ? "" : ", ").append(quotedValue(stations[i]));
-    if (stations.size() > mostNamed) text += " and " + std::to_string(stations.size() - mostNamed) + " more";
-    return text;
+    if (stations.size() <= mostNamed) return text;
+    return text + " and " + stationsCount(stations, mostNamed) + " more";
 }
 
 }  // namespace zg

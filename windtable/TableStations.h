@@ -44,6 +44,9 @@ class TableStations {
     bool alternate_ = false;
 };
 
+/// How many there are but for so many of them, "at least" so many if there may be more than are known.
+std::string stationsCount(const std::vector<std::string>& stations, std::size_t without = 0);
+
 /// Their names in quotes, with commas; of many only the first.
 std::string stationsText(const std::vector<std::string>& stations);
 

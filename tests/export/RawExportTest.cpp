@@ -150,10 +150,10 @@ TEST(RawExport, OneOrMoreStationsOfATableAreTaken) {
     directory.write("net.csv", text);
     const Outcome all = runRaw({"net.csv"}, directory.path());
     EXPECT_EQ(all.status, 2);
-    EXPECT_EQ(
-        all.errors,
-        "net.csv: the column \"station\" names 2 stations, whose times overlap: \"A\", \"B B\"; --station "
-        "\"A\" takes one of them\n");
+    EXPECT_EQ(all.errors,
+              "net.csv: the column \"station\" names 2 stations, whose times overlap or are not in order: "
+              "\"A\", \"B B\"; --station "
+              "\"A\" takes one of them\n");
     const Outcome one =
         runRaw({"net.csv", "--station", "B B", "--frq", "--rose", "1", "--size", "50"}, directory.path());
     EXPECT_EQ(one.status, 0) << one.errors;
@@ -273,6 +273,11 @@ TEST(RawExport, WishesThatTheDataContradictAreRefusedInTheDialogsWords) {
     EXPECT_EQ(refusal({"--speed", "Spd"}),
               "mast.csv:1: the columns' names have no wind speed \"Spd\" (--speed NAME): they are \"time\" "
               "\"ws\" \"wd\"\n");
+    directory.write("net.csv",
+                    "station,time,ws,wd\nA!B,2016-01-01 00:00,3,90\nC,2016-01-01 00:00,4,180\n"
+                    "A!B,2016-01-01 01:00,3,90\nC,2016-01-01 01:00,4,180\n");
+    EXPECT_EQ(runRaw({"net.csv", "--station", "A!B"}, directory.path()).errors,
+              "net.csv: --station: a \"!\" ends a value of the control file\n");
     const Outcome station =
         runRaw({q(samples + "valley_surf.dat"), "--station", "nowhere"}, directory.path());
     EXPECT_EQ(station.status, 2);
@@ -338,6 +343,41 @@ TEST(RawExport, AStationInAnotherEncodingNamesItsRose) {
     EXPECT_TRUE(names[0].starts_with(onWindows ? "s_Z\xC3\xBCri" : "s_Z\xFCri")) << names[0];
     EXPECT_EQ(zg::filesMatching(directory.file("s_Z*.png")).size(), 1U);
     EXPECT_TRUE(holds(outcome.out, names[0])) << "told by its name";
+}
+
+TEST(RawExport, AStationThatIsOnlyANameIsTold) {
+    const TempDirectory directory;
+    directory.write("one.csv", "station,time,ws,wd\nA,2016-01-01 00:00,3,90\nA,2016-01-01 01:00,4,180\n");
+    const std::string line = "one.csv: its only station is \"A\"; \"B\" is only the name\n";
+    const auto errorsOf = [&](const char* station) {
+        const Outcome outcome = runRaw({"one.csv", "--station", station, "--dry-run"}, directory.path());
+        EXPECT_EQ(outcome.status, 0) << outcome.errors;
+        return outcome.errors;
+    };
+    EXPECT_TRUE(holds(errorsOf("B"), ", no zone named\n" + line)) << errorsOf("B");
+    EXPECT_FALSE(holds(errorsOf("A"), "its only station")) << errorsOf("A");
+}
+
+TEST(RawExport, AStationInAnotherEncodingCanBeTyped) {
+    const TempDirectory directory;
+    const std::string typed = "Z\xC3\xBCri";
+    std::string text = zg::readWholeFile(samples + "valley_surf.dat");
+    text.replace(text.find("10011"), 5, "Z\xFCri");
+    directory.write("s.dat", text);
+    const Outcome surface =
+        runRaw({"s.dat", "--station", q(typed), "--rose", "1", "--size", "50"}, directory.path());
+    EXPECT_EQ(surface.status, 0) << surface.errors;
+    EXPECT_EQ(surface.out, nativePath("./s_01.png\n"));
+    const Outcome none = runRaw({"s.dat", "--station", "nowhere"}, directory.path());
+    EXPECT_TRUE(holds(none.errors, "the file has " + typed)) << none.errors;
+    directory.write("net.csv",
+                    "station,time,ws,wd\nZ\xFCri,2016-01-01 00:00,3,90\nB,2016-01-01 00:00,4,180\n"
+                    "Z\xFCri,2016-01-01 01:00,3,90\nB,2016-01-01 01:00,4,180\n");
+    const Outcome table =
+        runRaw({"net.csv", "--station", q(typed), "--keep", "--rose", "1", "--size", "50"}, directory.path());
+    EXPECT_EQ(table.status, 0) << table.errors;
+    EXPECT_TRUE(holds(directory.read("net_tempoline.inp"), "! CSVID   = Z\xFCri !")) << "as the table has it";
+    EXPECT_TRUE(holds(directory.read("net.frq"), "Total Periods = 2; Valid Periods = 2;"));
 }
 
 TEST(RawExport, AReportNamesTheFileThatWasGiven) {

@@ -207,22 +207,64 @@ constexpr std::string_view oneAfterTheOther =
 TEST(TableGuess, NamesTheStationsOfATableWithSeveral) {
     Table table(interleaved);
     EXPECT_EQ(table.fault(),
-              ": the column \"station\" names 2 stations, whose times overlap: \"JFK\", \"LGA\"; --station "
+              ": the column \"station\" names 2 stations, whose times overlap or are not in order: \"JFK\", "
+              "\"LGA\"; --station "
               "\"JFK\" takes one of them");
     EXPECT_TRUE(table.isWrongWish);
     EXPECT_EQ(faultIn(oneAfterTheOther),
-              ": the column \"stid\" names 2 stations, whose times overlap: \"JFK\", \"LGA\"; --station "
+              ": the column \"stid\" names 2 stations, whose times overlap or are not in order: \"JFK\", "
+              "\"LGA\"; --station "
               "\"JFK\" takes one of them");
     const std::string alternate =
         "time,ws,wd,stn\n2016-01-01 00:00,1,2,A\n2016-01-01 00:30,1,2,B\n2016-01-01 01:00,1,2,A\n";
-    EXPECT_TRUE(faultIn(alternate).ends_with(
-        " names 2 stations, whose times overlap: \"A\", \"B\"; --station \"A\" takes one of them"))
+    EXPECT_TRUE(
+        faultIn(alternate).ends_with(" names 2 stations, whose times overlap or are not in order: \"A\", "
+                                     "\"B\"; --station \"A\" takes one of them"))
         << "although their order is right";
     std::string many = "site_id,time,ws,wd\n";
     for (int i = 1; i <= 25; ++i) many += "S" + std::to_string(i) + ",2016-01-01 00:00,1,2\n";
     EXPECT_TRUE(
         Table(many).fault().ends_with("\"S19\", \"S20\" and 5 more; --station \"S1\" takes one of them"))
         << Table(many).fault();
+}
+
+TEST(TableGuess, CountsNoMoreStationsThanItKeeps) {
+    const auto faultOf = [](int count) {
+        std::string many = "site_id,time,ws,wd\n";
+        for (int i = 1; i <= count; ++i) many += "S" + std::to_string(i) + ",2016-01-01 00:00,1,2\n";
+        return faultIn(many);
+    };
+    EXPECT_NE(faultOf(999).find(" names 999 stations,"), std::string::npos);
+    EXPECT_NE(faultOf(999).find(" and 979 more;"), std::string::npos);
+    EXPECT_NE(faultOf(1100).find(" names at least 1000 stations,"), std::string::npos);
+    EXPECT_NE(faultOf(1100).find(" and at least 980 more;"), std::string::npos);
+}
+
+TEST(TableGuess, AStationIsFoundAndShownWhateverTheEncodingOfTheTable) {
+    const std::string inUtf8 = "Z\xC3\xBCri";
+    for (const std::string name : {"Z\xFCri", "Z\xC3\xBCri"}) {
+        Table table("time,ws,wd,stn\n2016-01-01 00:00,1,2,B\n2016-01-01 00:00,1,2," + name +
+                    "\n2016-01-01 01:00,1,2,B\n2016-01-01 01:00,1,2," + name + "\n");
+        EXPECT_NE(table.fault().find("\"B\", \"" + inUtf8 + "\";"), std::string::npos) << table.fault();
+        table.wishes.station = inUtf8;
+        EXPECT_EQ(table.fault(), "no fault");
+        EXPECT_EQ(table.layout().station, name) << "in the bytes of the table";
+        EXPECT_NE(table.taken().find("station \"" + inUtf8 + "\", 2 records"), std::string::npos)
+            << table.taken();
+        table.wishes.station = "Z\xC3\xBCrich";
+        EXPECT_EQ(
+            table.fault(),
+            ": --station: there is no station \"Z\xC3\xBCrich\"; the file has \"B\", \"" + inUtf8 + "\"");
+    }
+}
+
+TEST(TableGuess, ALongValueIsShownUpToAWholeCharacter) {
+    const std::string letters = std::string(39, 'a') +
+                                "\xC3\xBC"
+                                "b";
+    EXPECT_NE(faultIn("time,ws,wd,stn\n2016-01-01 00:00,1,2,B\n2016-01-01 00:00,1,2," + letters + "\n")
+                  .find(", \"" + std::string(39, 'a') + "...\";"),
+              std::string::npos);
 }
 
 TEST(TableGuess, TakesTheStationThatIsAskedFor) {
