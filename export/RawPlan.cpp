@@ -149,7 +149,7 @@ class Planner {
                          [&](const std::string& station) { return toUtf8(station) == toUtf8(wish); });
         if (found != header_.stations.end()) return *found;
         std::string text = "--station: there is no station \"" + toUtf8(wish) + "\"; the file has";
-        for (const std::string& station : header_.stations) text += " " + toUtf8(station);
+        for (const std::string& station : header_.stations) text.append(" ").append(toUtf8(station));
         refuse(path_, text);
     }
 

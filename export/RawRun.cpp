@@ -86,8 +86,10 @@ class RawRunner {
     /// The results of one station must not replace those of another.
     [[noreturn]] void refuse(const std::string& station, const std::string& other) const {
         std::string text = input_.path + ": --station: " + quotedValue(station);
-        text += station == other ? " is given twice"
-                                 : " would have the names of the results of " + quotedValue(other);
+        if (station == other)
+            text += " is given twice";
+        else
+            text.append(" would have the names of the results of ").append(quotedValue(other));
         throw RawFault(text, true);
     }
 

@@ -202,8 +202,7 @@ TEST(Files, TheMachineAndTheProcessAreGoodInNames) {
 
 TEST(Files, APartOfANameDoesNotChangeTheLettersOfTheOthers) {
     const std::string name = "W\xC3\xBCrzburg_" + asPartOfName("Z\xFCrich");
-    const bool onWindows = pathSeparator == '\\';
-    EXPECT_EQ(name, onWindows ? "W\xC3\xBCrzburg_Z\xC3\xBCrich" : "W\xC3\xBCrzburg_Z\xFCrich");
+    EXPECT_EQ(name, pathSeparator == '\\' ? "W\xC3\xBCrzburg_Z\xC3\xBCrich" : "W\xC3\xBCrzburg_Z\xFCrich");
 }
 
 }  // namespace
