@@ -30,7 +30,10 @@ void BatchStarter::start(const std::string& batchFile, WindowStyle style) {
 /// The lines copy whatever listing is there to the marker. If the processor is missing or crashes, that of an
 /// earlier run would show its roses as those of this one.
 void BatchStarter::startRun(const RunBatch& run) {
-    removeFile(run.outputDirectory + run.base + "_tempoline.lst");
+    const std::string listing = run.outputDirectory + run.base + "_tempoline.lst";
+    if (fileExists(listing) && !removeFile(listing))
+        throw RunTimeError(static_cast<int>(ErrorNumber::PermissionDenied),
+                           "Permission denied: " + listing + ", of an earlier run, cannot be removed");
     ProcessStarter::startRun(run);
 }
 

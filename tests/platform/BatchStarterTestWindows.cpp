@@ -55,6 +55,17 @@ TEST(BatchStarterOfWindows, AListingOfAnEarlierRunMakesNoMarker) {
     EXPECT_FALSE(std::filesystem::exists(directory.file("finished.txt"))) << "there is no processor";
 }
 
+TEST(BatchStarterOfWindows, StartsNothingBesideAListingThatCannotBeRemoved) {
+    const TempDirectory directory;
+    const std::string listing = directory.write("B_tempoline.lst", "of an earlier run");
+    directory.write("run_tempoline.bat", "echo ran> ran\r\n");
+    std::filesystem::permissions(listing, std::filesystem::perms::owner_read);
+    EXPECT_RAISES(70, "Permission denied: " + listing + ", of an earlier run, cannot be removed",
+                  (BatchStarter().startRun({directory.file(""), "B", directory.path()}), 0));
+    std::filesystem::permissions(listing, std::filesystem::perms::owner_all);
+    EXPECT_EQ(directory.read("B_tempoline.lst"), "of an earlier run");
+}
+
 TEST(BatchStarterOfWindows, RaisesTheErrorOfABatchFileThatIsMissing) {
     const TempDirectory directory;
     EXPECT_RAISES(53, "File not found",
