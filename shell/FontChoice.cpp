@@ -5,6 +5,7 @@
 #include "platform/Errors.h"
 #include "platform/FormParts.h"
 #include "platform/QtText.h"
+#include "platform/ReasonLabel.h"
 
 namespace zg {
 
@@ -15,6 +16,7 @@ FontChoice::FontChoice(Host& host, const FontRecord& font, const FontRecord& fac
     QPushButton* cmdSelectColor = namedButton(captions.colour, ("cmdSelectColor" + suffix).c_str());
     QPushButton* cmdReset = namedButton(captions.reset, ("cmdResetToDefaults" + suffix).c_str());
     sample_->setObjectName(QString::fromStdString("lblSample" + suffix));
+    sample_->setTextFormat(Qt::PlainText);
     sample_->setAutoFillBackground(true);
     sample_->setFrameShape(QFrame::StyledPanel);
     auto* row = new QHBoxLayout(this);
@@ -53,7 +55,7 @@ void FontChoice::showSample() {
     colours.setColor(QPalette::WindowText, toQColor(paintedColour(font_.colour)));
     sample_->setPalette(colours);
     sample_->setText(shown(font_.name) + QLatin1Char(' ') + QString::number(font_.size));
-    sample_->setToolTip(sample_->text());
+    sample_->setToolTip(plainTip(sample_->text()));
     // The dialog grows with it; of a text that is larger still at least the beginning is shown.
     const QSize whole = sample_->sizeHint();
     const QSize largest(420, 90);

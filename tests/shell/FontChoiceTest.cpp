@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QTest>
+#include <QTextDocumentFragment>
 #include <QVBoxLayout>
 
 #include "tests/support/TestHost.h"
@@ -51,6 +52,13 @@ TEST_F(FontSample, OfAHugeFontShowsTheBeginningAndIsItsTip) {
     EXPECT_LE(dialog_.height(), 200);
     choose(small());
     EXPECT_TRUE(sample().alignment().testFlag(Qt::AlignHCenter));
+}
+
+TEST_F(FontSample, ShowsANameWithMarkupAsItIs) {
+    choose({0, "<b>Sans</b>", 7, false, false});
+    EXPECT_EQ(sample().text(), "<b>Sans</b> 7");
+    EXPECT_EQ(sample().textFormat(), Qt::PlainText);
+    EXPECT_EQ(QTextDocumentFragment::fromHtml(sample().toolTip()).toPlainText(), "<b>Sans</b> 7");
 }
 
 }  // namespace
