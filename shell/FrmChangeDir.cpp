@@ -85,6 +85,7 @@ frmChangeDir::frmChangeDir(Host& host, std::string& directory, const std::string
 void frmChangeDir::letCopy() {
     if constexpr (pathSeparator == '/') return lblCurDir->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* copy = new QAction(QStringLiteral("&Copy"), lblCurDir);
+    copy->setShortcut(QKeySequence::Copy);
     connect(copy, &QAction::triggered, this, [this] { QGuiApplication::clipboard()->setText(choice_); });
     lblCurDir->addAction(copy);
     lblCurDir->setContextMenuPolicy(Qt::ActionsContextMenu);
@@ -101,6 +102,7 @@ void frmChangeDir::goTo(const QString& path) {
 void frmChangeDir::choose(const QString& path) {
     choice_ = QDir::toNativeSeparators(path);
     lblCurDir->setText(withBreaks(choice_));
+    lblCurDir->setAccessibleName(choice_);
 }
 
 /// In the middle, so that the directories below it are visible too.

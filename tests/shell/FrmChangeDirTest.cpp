@@ -102,12 +102,14 @@ TEST_F(ChangeDir, EnterOnCancelCancels) {
 TEST_F(ChangeDir, WhatIsCopiedIsThePathAlone) {
     open();
     auto* label = form_->findChild<QLabel*>("lblCurDir");
+    EXPECT_EQ(label->accessibleName(), path()) << "what is read aloud has no breaks";
     QGuiApplication::clipboard()->clear();
     if (label->actions().isEmpty()) {
         EXPECT_TRUE(label->textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
         EXPECT_EQ(label->text(), path()) << "what is selected has no breaks";
         return;
     }
+    EXPECT_EQ(label->actions().front()->shortcut(), QKeySequence(QKeySequence::Copy));
     label->actions().front()->trigger();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), path());
 }
