@@ -6,7 +6,6 @@
 #include <QWindow>
 #include <filesystem>
 
-#include "base/Files.h"
 #include "base/Lines.h"
 #include "base/Paths.h"
 #include "settings/Settings.h"
@@ -133,13 +132,16 @@ TEST_F(FrmMainTest, ARowThatLacksAPercentageIsToldWithItsLine) {
 }
 
 TEST_F(FrmMainTest, TheTitleHasTheFilesNameAsItIs) {
-    for (const char* name : {"a[*]b.frq", "[*][*].frq", "& <b>x.frq", "two  words .frq", "%1 %n.frq"}) {
-        if (!isPlainName(name)) continue;  // Windows has no such name
+    int tried = 0;
+    for (const std::string name : {"a[*]b.frq", "[*][*].frq", "& <b>x.frq", "two  words .frq", "%1 %n.frq"}) {
+        if (onWindows && name.find_first_of("*<>") != std::string::npos) continue;  // it has no such names
+        ++tried;
         const std::string path = directory_.file(name);
         std::filesystem::copy(sample, path);
         open(path);
-        EXPECT_EQ(window_->windowHandle()->title().toStdString(), std::string("Zephyrgraph - ") + name);
+        EXPECT_EQ(window_->windowHandle()->title().toStdString(), "Zephyrgraph - " + name);
     }
+    EXPECT_EQ(tried, onWindows ? 2 : 5);
 }
 
 TEST_F(FrmMainTest, AMissingFileAndADirectoryAreTold) {
