@@ -10,7 +10,7 @@ walk=build/guide/walk
 scratch=/tmp/zephyrgraph
 rm -rf "$forms" "$walk" "$scratch"
 mkdir -p "$forms" "$walk"
-"$bin"/zg_form_pictures "$forms" 2>/dev/null
+"$bin"/zg_form_pictures "$forms"
 ZG_WALK_DIR=$scratch python3 -B tests/e2e/walk.py "$bin" "$walk"
 
 target=docs/pictures

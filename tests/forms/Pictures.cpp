@@ -10,6 +10,7 @@
 #include <QTest>
 #include <QTreeView>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 #include "base/Paths.h"
@@ -20,6 +21,11 @@
 
 namespace {
 
+[[noreturn]] void fail(const QString& why) {
+    std::fprintf(stderr, "zg_form_pictures: %s\n", qPrintable(why));
+    std::exit(1);
+}
+
 /// A tree shows the scratch directory as if it were the whole disk.
 void showOnly(const QString& scratch, QTreeView& tree) {
     auto* model = dynamic_cast<QFileSystemModel*>(tree.model());
@@ -27,7 +33,10 @@ void showOnly(const QString& scratch, QTreeView& tree) {
     const QDir inside(model->filePath(current));
     const auto expected = static_cast<int>(inside.entryList(QDir::AllDirs | QDir::NoDotAndDotDot).size());
     tree.setRootIndex(model->index(scratch));
-    if (!QTest::qWaitFor([&] { return model->rowCount(current) == expected; })) std::exit(1);
+    if (!QTest::qWaitFor([&] { return model->rowCount(current) == expected; }))
+        fail(QStringLiteral("the tree does not show the %1 directories of %2")
+                 .arg(expected)
+                 .arg(inside.path()));
     tree.scrollTo(current);
     QCoreApplication::processEvents();
 }
@@ -62,7 +71,8 @@ int main(int argc, char** argv) {
         if (std::strcmp(argv[i], "dark") == 0) zg::takeDarkTheme();
     }
     const QDir directory(QString::fromLocal8Bit(argv[1]));
-    if (!directory.exists() && !QDir().mkpath(directory.path())) return 1;
+    if (!directory.exists() && !QDir().mkpath(directory.path()))
+        fail(QStringLiteral("%1 cannot be made").arg(directory.path()));
     for (const zg::FormRow& row : zg::forms()) {
         zg::FormWorld world;
         const auto form = zg::open(row, world);
@@ -70,7 +80,8 @@ int main(int argc, char** argv) {
         zg::forEachPage(*form, [&](const std::string& page) {
             QString name = QString::fromStdString(zg::rowName(row) + (page.empty() ? "" : "_" + page));
             name.remove(QLatin1Char('&'));
-            if (!form->grab().save(directory.filePath(name + QStringLiteral(".png")))) std::exit(1);
+            const QString path = directory.filePath(name + QStringLiteral(".png"));
+            if (!form->grab().save(path)) fail(QStringLiteral("%1 cannot be written").arg(path));
         });
     }
     return 0;
