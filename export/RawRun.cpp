@@ -47,8 +47,8 @@ std::vector<std::string> linesOf(const std::string& text) {
 std::string commandLine(const std::string& directory, const std::string& processor,
                         const std::string& controlName) {
     constexpr bool onWindows = pathSeparator == '\\';
-    const char quote = onWindows ? '"' : '\'';
-    const auto quoted = [quote](const std::string& word) { return quote + word + quote; };
+    constexpr char quote = onWindows ? '"' : '\'';
+    const auto quoted = [](const std::string& word) { return quote + word + quote; };
     std::string line = onWindows ? "cd /d " : "cd ";
     line += quoted(directory) + " && " + quoted(processor) + " ";
     return line + quoted(controlName);
