@@ -38,12 +38,13 @@ QRectF around(Point centre, double radius) {
     return {bounded(centre.x) - r, bounded(centre.y) - r, 2 * r, 2 * r};
 }
 
-/// The toolkit fills with numbers of 32 bits on Windows, which overflow when a shape reaches farther.
+/// The toolkit fills with numbers of 32 bits on Windows, which overflow when a shape reaches farther, in dots
+/// of the device.
 constexpr double farFilled = 3e4;
 
-bool isNear(const QRectF& bounds) {
-    return bounds.left() >= -farFilled && bounds.top() >= -farFilled && bounds.right() <= farFilled &&
-           bounds.bottom() <= farFilled;
+bool isWithin(const QRectF& bounds, const QRectF& limits) {
+    return bounds.left() >= limits.left() && bounds.top() >= limits.top() &&
+           bounds.right() <= limits.right() && bounds.bottom() <= limits.bottom();
 }
 
 /// The part of a filled shape on one side of a line, on which the distance is not negative.
@@ -190,9 +191,22 @@ void QtCanvas::pie(Point centre, double radius, double start, double end, Colour
     drawFar(path);
 }
 
-/// Draws a shape by the painter's pen and brush, but fills it only round the page.
+/// Whether the toolkit can fill a shape of these bounds as it is. What is cut off round the page would leave
+/// one within that as it is.
+bool QtCanvas::isNear(const QRectF& bounds) const {
+    const QRectF dots = painter_.deviceTransform().mapRect(bounds);
+    return isWithin(bounds, roundPage()) ||
+           isWithin(dots, {-farFilled, -farFilled, 2 * farFilled, 2 * farFilled});
+}
+
+/// Draws a shape by the painter's pen and brush, but fills it only round the page. A pen of more than one dot
+/// is filled as well: it draws what is left of the shape, whose cuts are a page away.
 void QtCanvas::drawFar(const QPainterPath& shape) {
     const QPen pen = painter_.pen();
+    if (painter_.deviceTransform().mapRect(QRectF(0, 0, 1, 1)).width() > 1) {
+        painter_.drawPolygon(within(shape.toFillPolygon(), roundPage()));
+        return;
+    }
     painter_.setPen(Qt::NoPen);
     painter_.drawPolygon(within(shape.toFillPolygon(), roundPage()));
     painter_.strokePath(shape, pen);

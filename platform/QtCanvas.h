@@ -36,6 +36,7 @@ class QtCanvas : public Canvas {
     TextSize measure(const std::string& text, const TextStyle& style) const override;
 
  private:
+    bool isNear(const QRectF& bounds) const;
     void drawFar(const QPainterPath& shape);
     QRectF roundPage() const;
     QFont fontOf(const TextStyle& style) const;

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QPainter>
 #include <QPdfWriter>
+#include <QPicture>
 #include <QTemporaryDir>
 #include <cmath>
 #include <numbers>
@@ -203,6 +205,29 @@ TEST(QtCanvas, ShapesOfAnySizeFillTheirPartOfThePage) {
         canvas.clear(white);
         canvas.fillPolygon({{-size, -size}, {size, -size}, {size, size}, {-size, size}}, blue);
         EXPECT_TRUE(pixelIs(page, 5, 55, blue));
+    }
+}
+
+/// On a sharp page it is the pixels that are too many for the toolkit, not the units.
+TEST(QtCanvas, ShapesThatAreFarOnlyInPixelsAreFilledOnlyRoundThePage) {
+    for (const double scale : {1.0, 4.0}) {
+        SCOPED_TRACE(scale);
+        QPicture calls;
+        QPainter painter(&calls);
+        painter.scale(scale, scale);
+        QtCanvas(painter, 60, 60).fillPolygon({{30, 30}, {2e4, 20}, {2e4, 40}}, blue);
+        painter.end();
+        EXPECT_EQ(calls.boundingRect().right() > 1e4, scale < 2);
+        QImage page = makePageImage(60, 60, scale);
+        QtCanvas canvas(page, 60, 60);
+        const int unit = static_cast<int>(scale);
+        canvas.pie({30, 30}, 2e4, 0, 1, red, black);
+        EXPECT_TRUE(pixelIs(page, 45 * unit, 25 * unit, red));
+        EXPECT_TRUE(pixelIs(page, 15 * unit, 25 * unit, white));
+        canvas.clear(white);
+        canvas.disc({30 - 2e4, 30}, 2e4, red, black);
+        EXPECT_TRUE(pixelIs(page, 15 * unit, 30 * unit, red));
+        EXPECT_TRUE(pixelIs(page, 45 * unit, 30 * unit, white));
     }
 }
 
