@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "base/Encoding.h"
+#include "base/Files.h"
 #include "base/Text.h"
 #include "platform/QtText.h"
 #include "platform/ReasonLabel.h"
@@ -250,7 +251,8 @@ TEST_F(OddNamesRoad, OfStationsAreTheSameInAllFormsOfSingleOutputs) {
         EXPECT_EQ(outcome(), ofRun(name + "_TSFMET_20231201-20240201", remedy));
         openWith<frmOpenUPDATFile>("valley_up.dat");
         const std::string run = name + "_UP_20231201-20240201";
-        EXPECT_EQ(outcome(), name == "hey!" ? "made: " + run + "_10m.frq" : ofRun(run, remedy));
+        // A batch file of Windows cannot hold the "!".
+        EXPECT_EQ(outcome(), name == "hey!" && !onWindows ? "made: " + run + "_10m.frq" : ofRun(run, remedy));
     }
 }
 
@@ -364,11 +366,12 @@ TEST_F(OddNamesRoad, InTheStatusLeaveTheFormsAsWideAsTheyAre) {
 TEST_F(OddNamesRoad, OfInputsNameTheRun) {
     Texts names = fewOddStations();
     names.emplace_back("a\nb");
+    std::filesystem::copy(samples + "AERMET2.PFL", directory_.file("sample"));
+    const std::string profile = directory_.read("sample");
     for (const std::string& name : names) {
         const bool hasControl = onWindows && name.find_first_of("\t\n") != std::string::npos;
         if (isNoFile(name + ".pfl") || hasControl || name.size() > 200) continue;  // no file has such a name
-        const std::string data = directory_.file(name + ".pfl");
-        std::filesystem::copy(samples + "AERMET2.PFL", data);
+        const std::string data = directory_.write(name + ".pfl", profile);
         open<frmOpenAERMETFile>(InputKind::AermPfl);
         browse(data);
         // "\" separates directories everywhere in this program.
@@ -380,7 +383,7 @@ TEST_F(OddNamesRoad, OfInputsNameTheRun) {
                 "\"a<LF>b_AERMETPFL_19880301-19880305_10m\" has a line end in it\".  (Error Number = 52)");
         else
             EXPECT_EQ(outcome(), ofRun(output, "rename the input")) << name;
-        std::filesystem::remove(data);
+        EXPECT_TRUE(zg::removeFile(data)) << name;
     }
 }
 
