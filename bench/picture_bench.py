@@ -2,8 +2,10 @@
 # A PNG of one rose by the companion and by matplotlib (Debian's python3-matplotlib), 600 x 600 pixels each.
 #   bench/picture_bench.py COMPANION
 # Cold: a process that starts, draws one picture and ends. Warm: a picture more in a process that has drawn some: of the companion the
-# difference of two runs of different length, divided by the pictures between them. Run it on a quiet machine.
+# difference of two runs of different length, divided by the pictures between them. The two take turns, since a machine is not equally fast all the
+# time; printed are the shortest time of each and the median of the turns' ratios. Run it on a quiet machine.
 import os
+import statistics
 import subprocess
 import sys
 import tempfile
@@ -12,6 +14,7 @@ import time
 SAMPLE = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "data", "samples", "LOVETT_1988.frq")
 COLOURS = ["#ff0000", "#00ff00", "#0000ff", "#ffff00", "#00ffff", "#000000"]
 DRAWN_BY_COMPANION = 40  # files of nine roses in the longer run
+DRAWN_BY_OTHER = 10  # pictures at a time
 
 
 def rose_of(path):
@@ -61,8 +64,10 @@ def seconds(words):
     return time.perf_counter() - begin
 
 
-def best(measure, times=5):
-    return min(measure() for _ in range(times))
+def in_turns(own, other, turns=7):
+    """Best seconds of each, and the median of the ratios of neighbouring turns."""
+    times = [(own(), other()) for _ in range(turns)]
+    return min(o for o, _ in times), min(o for _, o in times), statistics.median(b / a for a, b in times)
 
 
 def main():
@@ -74,24 +79,28 @@ def main():
             with open(SAMPLE, "rb") as source, open(inputs[-1], "wb") as copy:
                 copy.write(source.read())
         words = [companion, "--quiet", "--out", scratch]
-        cold = best(lambda: seconds(words + [SAMPLE, "--rose", "1"]))
-        long = best(lambda: seconds(words + inputs), 3)
-        short = best(lambda: seconds(words + inputs[:1]), 3)
-        warm = (long - short) / ((len(inputs) - 1) * 9)
-        other_cold = best(lambda: seconds([sys.executable, __file__, "--once", os.path.join(scratch, "m.png")]))
         import matplotlib
         matplotlib.use("Agg")
         import matplotlib.pyplot as plt
         rose = rose_of(SAMPLE)
+        picture = os.path.join(scratch, "m.png")
 
         def another():
             begin = time.perf_counter()
-            draw(plt, *rose, os.path.join(scratch, "m.png"))
-            return time.perf_counter() - begin
+            for _ in range(DRAWN_BY_OTHER):
+                draw(plt, *rose, picture)
+            return (time.perf_counter() - begin) / DRAWN_BY_OTHER
 
-        other_warm = best(another, 10)
-    for name, own, other in (("cold", cold, other_cold), ("warm", warm, other_warm)):
-        print("%s: companion %.1f ms, matplotlib %.1f ms, %.1f times" % (name, own * 1000, other * 1000, other / own))
+        def one_more():
+            short = seconds(words + inputs[:1])
+            return (seconds(words + inputs) - short) / ((len(inputs) - 1) * 9)
+
+        another()
+        cold = in_turns(lambda: seconds(words + [SAMPLE, "--rose", "1"]),
+                        lambda: seconds([sys.executable, __file__, "--once", picture]))
+        warm = in_turns(one_more, another)
+    for name, (own, other, ratio) in (("cold", cold), ("warm", warm)):
+        print("%s: companion %.1f ms, matplotlib %.1f ms, %.1f times" % (name, own * 1000, other * 1000, ratio))
 
 
 if __name__ == "__main__":

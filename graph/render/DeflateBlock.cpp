@@ -29,10 +29,13 @@ constexpr Split split(std::uint32_t number, std::uint32_t symbolBits) {
 
 Split distanceOf(std::size_t distance) { return split(static_cast<std::uint32_t>(distance - 1), 1); }
 
-Split lengthOf(std::size_t length) {
-    if (length == DeflateMatch::longest) return {28, 0, 0};
-    return split(static_cast<std::uint32_t>(length - DeflateMatch::shortest), 2);
-}
+/// By the length less the shortest one.
+constexpr auto lengthSplits = [] {
+    std::array<Split, DeflateMatch::longest - DeflateMatch::shortest + 1> splits;
+    for (std::uint32_t i = 0; i < splits.size(); ++i) splits[i] = split(i, 2);
+    splits.back() = {28, 0, 0};
+    return splits;
+}();
 
 /// A length of a code's words, so often, in the symbols in which deflate writes lengths.
 void addRun(std::vector<Split>& symbols, std::uint8_t length, std::uint32_t count) {
@@ -85,11 +88,34 @@ void writeLengths(BitWriter& bits, const PrefixCode& literals, const PrefixCode&
     }
 }
 
+/// A length's symbol in its code, and the bits after it.
+struct Word {
+    std::uint32_t bits = 0;
+    std::uint32_t count = 0;
+};
+
+using LengthWords = std::array<Word, lengthSplits.size()>;
+
+LengthWords lengthWords(const PrefixCode& literals) {
+    LengthWords words;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const Split& split = lengthSplits[i];
+        const std::uint32_t count = literals.lengths[firstLength + split.symbol];
+        words[i] = {literals.words[firstLength + split.symbol] | split.rest << count, count + split.bits};
+    }
+    return words;
+}
+
+constexpr std::size_t mostBytesOfCodes = 1024;  // 316 lengths of 7 + 7 bits at most, and few bits more
+constexpr std::size_t mostBytesOfMatch = 6;     // two words of 15 bits, 5 and 13 bits after them
+
 }  // namespace
 
 void BitWriter::endByte() {
+    bytes_.resize(end_);
     for (; count_ > 0; count_ -= std::min(count_, 8U), waiting_ >>= 8U)
         bytes_ += static_cast<char>(waiting_ & 0xFFU);
+    end_ = bytes_.size();
 }
 
 DeflateBlock::DeflateBlock() {
@@ -114,7 +140,7 @@ void DeflateBlock::addLiteral(char byte) {
 
 void DeflateBlock::addMatch(const DeflateMatch& match) {
     tokens_.push_back({static_cast<std::uint16_t>(match.length), static_cast<std::uint16_t>(match.distance)});
-    ++literals_[firstLength + lengthOf(match.length).symbol];
+    ++literals_[firstLength + lengthSplits[match.length - DeflateMatch::shortest].symbol];
     ++distances_[distanceOf(match.distance).symbol];
 }
 
@@ -122,6 +148,8 @@ void DeflateBlock::write(BitWriter& bits, bool isLast) {
     constexpr std::uint32_t ownCodes = 2;
     const PrefixCode literals = prefixCode(literals_, longestWord);
     const PrefixCode distances = prefixCode(distances_, longestWord);
+    const LengthWords lengths = lengthWords(literals);
+    bits.makeRoom(mostBytesOfCodes + tokens_.size() * mostBytesOfMatch);
     bits.add(isLast ? 1 : 0, 1);
     bits.add(ownCodes, 2);
     writeLengths(bits, literals, distances);
@@ -130,12 +158,11 @@ void DeflateBlock::write(BitWriter& bits, bool isLast) {
             bits.word(literals, token.value);
             continue;
         }
-        const Split length = lengthOf(token.value);
-        bits.word(literals, firstLength + length.symbol);
-        bits.add(length.rest, length.bits);
+        const Word& length = lengths[token.value - DeflateMatch::shortest];
+        bits.add(length.bits, length.count);
         const Split distance = distanceOf(token.distance);
-        bits.word(distances, distance.symbol);
-        bits.add(distance.rest, distance.bits);
+        const std::uint32_t count = distances.lengths[distance.symbol];
+        bits.add(distances.words[distance.symbol] | distance.rest << count, count + distance.bits);
     }
     bits.word(literals, endOfBlock);
     clear();

@@ -70,7 +70,8 @@ class MatchFinder {
             lengthen(best, at, distance, limit);
             if (best.length == limit) return best;
         }
-        if (at + sizeof(std::uint64_t) > lines_.size()) return best;
+        // Another place would spare a few bits at most, and take longest to find.
+        if (best.length >= longEnough || at + sizeof(std::uint64_t) > lines_.size()) return best;
         lengthenFrom(best, at, twoColours_.replace(lines_.data(), at), limit);
         const std::uint32_t sameColour = oneColour_.replace(lines_.data(), at);
         if (best.length < 2 * colourBytes) lengthenFrom(best, at, sameColour, limit);
@@ -79,6 +80,7 @@ class MatchFinder {
 
  private:
     static constexpr std::size_t colourBytes = 3;
+    static constexpr std::size_t longEnough = 32;
 
     void lengthen(DeflateMatch& best, std::size_t at, std::size_t distance, std::size_t limit) const {
         const char* place = lines_.data() + at;
@@ -96,6 +98,29 @@ class MatchFinder {
     std::size_t line_;
     LastPlaces<colourBytes> oneColour_;
     LastPlaces<2 * colourBytes> twoColours_;
+};
+
+/// Where pixels begin; each line begins with one byte more.
+class PixelStarts {
+ public:
+    PixelStarts(std::size_t bytesPerPixel, std::size_t bytesPerLine)
+        : pixel_(bytesPerPixel), line_(bytesPerLine) {}
+
+    /// The first pixel or line that begins there or later; places come in ascending order.
+    std::size_t firstFrom(std::size_t at) {
+        while (at - lineStart_ >= line_) lineStart_ += line_;
+        if (at == lineStart_) return at;
+        const auto inLine = static_cast<std::uint32_t>(at - lineStart_ - 1);
+        const std::uint32_t begun =
+            pixel_ == 3 ? inLine % 3
+                        : inLine % static_cast<std::uint32_t>(pixel_);  // a known divisor is faster
+        return begun == 0 ? at : std::min(at + pixel_ - begun, lineStart_ + line_);
+    }
+
+ private:
+    std::size_t pixel_;
+    std::size_t line_;
+    std::size_t lineStart_ = 0;
 };
 
 constexpr std::size_t summedAtOnce = 32;
@@ -138,22 +163,28 @@ std::string packedPage(std::string_view lines, std::size_t bytesPerPixel, std::s
     std::string packed;
     packed.reserve(lines.size() / 8);
     BitWriter bits(packed);
+    bits.makeRoom(4);
     bits.add(0x0178, 16);  // deflate, 32 KiB, packed fast
     MatchFinder finder(lines, bytesPerPixel, bytesPerLine);
+    PixelStarts pixels(bytesPerPixel, bytesPerLine);
     DeflateBlock block;
     for (std::size_t at = 0; at < lines.size();) {
         const DeflateMatch match = finder.longestAt(at);
-        if (match.length < DeflateMatch::shortest) {
-            block.addLiteral(lines[at++]);
-        } else {
+        if (match.length >= DeflateMatch::shortest) {
             block.addMatch(match);
             at += match.length;
+        } else {
+            block.addLiteral(lines[at++]);
         }
+        // What is in the middle of a pixel was hardly seen before where pixels begin.
+        for (const std::size_t next = std::min(pixels.firstFrom(at), lines.size()); at < next;)
+            block.addLiteral(lines[at++]);
         if (block.isFull()) block.write(bits, false);
     }
     block.write(bits, true);
     bits.endByte();
     const std::uint32_t sum = sumOf(lines);
+    bits.makeRoom(4);
     for (const unsigned shift : {24U, 16U, 8U, 0U}) bits.add(sum >> shift & 0xFFU, 8);
     bits.endByte();
     return packed;
