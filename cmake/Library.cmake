@@ -64,10 +64,15 @@ function(zg_library name)
     # Called this way the toolkit's compiler does not read the toolkit's own headers, of which it needs nothing, again for each of ours. What it makes
     # is compiled together with the library's sources.
     if(ARG_OBJECTS)
-        qt_wrap_cpp(ARG_SOURCES ${ARG_OBJECTS})
+        qt_wrap_cpp(made ${ARG_OBJECTS})
     endif()
     if(ARG_RESOURCES)
-        qt_add_resources(ARG_SOURCES ${ARG_RESOURCES} ${ZG_RESOURCE_OPTIONS})
+        qt_add_resources(made ${ARG_RESOURCES} ${ZG_RESOURCE_OPTIONS})
+    endif()
+    if(made)
+        # What is made by a command for one target waits for all that the target links; for two only for what both do, here nothing.
+        add_custom_target(${name}_made DEPENDS ${made})
+        list(APPEND ARG_SOURCES ${made})
     endif()
     add_library(${name} STATIC ${ARG_SOURCES})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})

@@ -29,13 +29,17 @@ constexpr Split split(std::uint32_t number, std::uint32_t symbolBits) {
 
 Split distanceOf(std::size_t distance) { return split(static_cast<std::uint32_t>(distance - 1), 1); }
 
-/// By the length less the shortest one.
-constexpr auto lengthSplits = [] {
-    std::array<Split, DeflateMatch::longest - DeflateMatch::shortest + 1> splits;
-    for (std::uint32_t i = 0; i < splits.size(); ++i) splits[i] = split(i, 2);
+constexpr std::size_t lengthCount = DeflateMatch::longest - DeflateMatch::shortest + 1;
+
+constexpr std::array<Split, lengthCount> splitLengths() {
+    std::array<Split, lengthCount> splits;
+    for (std::uint32_t i = 0; i < lengthCount; ++i) splits[i] = split(i, 2);
     splits.back() = {28, 0, 0};
     return splits;
-}();
+}
+
+/// By the length less the shortest one.
+constexpr std::array<Split, lengthCount> lengthSplits = splitLengths();
 
 /// A length of a code's words, so often, in the symbols in which deflate writes lengths.
 void addRun(std::vector<Split>& symbols, std::uint8_t length, std::uint32_t count) {
