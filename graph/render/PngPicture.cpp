@@ -3,6 +3,7 @@
 #include <zlib.h>
 
 #include <array>
+#include <bit>
 #include <cstring>
 #include <memory>
 #include <optional>
@@ -92,6 +93,11 @@ std::optional<Bytes> numberedLines(const PixelPage& page, ColourTable& table) {
     return lines;
 }
 
+/// A number whose highest byte is the first in memory.
+inline std::uint32_t highestFirst(std::uint32_t number) {
+    return std::endian::native == std::endian::big ? number : __builtin_bswap32(number);
+}
+
 Bytes plainLines(const PixelPage& page) {
     Bytes lines((1 + page.width * 3) * page.height + 1);
     char* to = lines.begin();
@@ -100,11 +106,8 @@ Bytes plainLines(const PixelPage& page) {
         *to++ = 0;
         for (std::size_t x = 0; x < page.width; ++x, to += 3) {
             // Four bytes at once; the next pixel replaces the last one, for which the end has room.
-            const std::uint32_t p = from[x];
-            const std::array<char, 4> bytes = {static_cast<char>(p >> 16U & 0xFFU),
-                                               static_cast<char>(p >> 8U & 0xFFU),
-                                               static_cast<char>(p & 0xFFU), 0};
-            std::memcpy(to, bytes.data(), bytes.size());
+            const std::uint32_t bytes = highestFirst(from[x] << 8U);
+            std::memcpy(to, &bytes, sizeof bytes);
         }
     }
     lines.dropLast();
