@@ -88,7 +88,7 @@ std::string withOwnSeparators(std::string path, char separator) {
 }
 
 std::string folderOf(const std::string& path) {
-    const std::size_t at = pathSeparator == '\\' ? path.find_last_of("/\\:") : path.rfind(pathSeparator);
+    const std::size_t at = onWindows ? path.find_last_of("/\\:") : path.rfind(pathSeparator);
     return at == std::string::npos ? "" : path.substr(0, at + 1);
 }
 
@@ -101,7 +101,7 @@ std::string existingFile(const std::string& path) {
     if (path.empty()) return {};
     const bool isThere = isPlainFile(path);
     // A system that ignores letter case gives any of them the file.
-    constexpr bool tellsCases = pathSeparator == '/';
+    constexpr bool tellsCases = !onWindows;
     if (isThere && tellsCases) return path;
     const std::string folder = folderOf(path);
     const std::string name = path.substr(folder.size());

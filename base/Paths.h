@@ -11,6 +11,7 @@
 namespace zg {
 
 constexpr char pathSeparator = static_cast<char>(std::filesystem::path::preferred_separator);
+constexpr bool onWindows = pathSeparator == '\\';
 
 /// The directory of the running program without a final separator. It is set once at the start; tests set it
 /// as they need.

@@ -7,12 +7,6 @@
 
 namespace zg {
 
-namespace {
-
-constexpr bool onWindows = pathSeparator == '\\';
-
-}  // namespace
-
 std::string asFileName(std::string_view text) {
     // "\" separates directories everywhere in this program.
     constexpr std::string_view refused = onWindows ? "/\\:*?\"<>|" : "/\\";

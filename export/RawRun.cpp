@@ -46,7 +46,6 @@ std::vector<std::string> linesOf(const std::string& text) {
 /// For a person to run in the shell of the platform.
 std::string commandLine(const std::string& directory, const std::string& processor,
                         const std::string& controlName) {
-    constexpr bool onWindows = pathSeparator == '\\';
     constexpr char quote = onWindows ? '"' : '\'';
     const auto quoted = [](const std::string& word) { return quote + word + quote; };
     std::string line = onWindows ? "cd /d " : "cd ";

@@ -22,11 +22,11 @@ inline std::string typed(const QString& text) { return fromUtf8(text.toStdString
 
 /// File names keep the bytes of the file system.
 inline QString fileName(const std::string& path) {
-    if constexpr (pathSeparator == '\\') return QString::fromStdU16String(wideName(path));
+    if constexpr (onWindows) return QString::fromStdU16String(wideName(path));
     return QFile::decodeName(QByteArray(path.data(), static_cast<qsizetype>(path.size())));
 }
 inline std::string filePath(const QString& name) {
-    if constexpr (pathSeparator == '\\') return narrowName(QDir::toNativeSeparators(name).toStdU16String());
+    if constexpr (onWindows) return narrowName(QDir::toNativeSeparators(name).toStdU16String());
     return QFile::encodeName(name).toStdString();
 }
 

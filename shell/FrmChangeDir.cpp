@@ -18,7 +18,7 @@ namespace zg {
 
 namespace {
 
-constexpr const char* rootDirectory = pathSeparator == '\\' ? "C:\\" : "/";
+constexpr const char* rootDirectory = onWindows ? "C:\\" : "/";
 
 std::string startDirectory(const std::string& asked, const std::string& workDir) {
     if (IsDirectory(asked)) return asked;
@@ -83,7 +83,7 @@ frmChangeDir::frmChangeDir(Host& host, std::string& directory, const std::string
 
 /// What is shown may have breaks that are no part of the path.
 void frmChangeDir::letCopy() {
-    if constexpr (pathSeparator == '/') return lblCurDir->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    if constexpr (!onWindows) return lblCurDir->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* copy = new QAction(QStringLiteral("&Copy"), lblCurDir);
     copy->setShortcut(QKeySequence::Copy);
     connect(copy, &QAction::triggered, this, [this] { QGuiApplication::clipboard()->setText(choice_); });

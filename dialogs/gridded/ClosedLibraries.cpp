@@ -22,7 +22,7 @@ namespace zg {
 
 namespace {
 
-constexpr const char* librarySuffix = pathSeparator == '\\' ? ".dll" : ".so";
+constexpr const char* librarySuffix = onWindows ? ".dll" : ".so";
 
 using Int = std::int32_t;
 constexpr Int ventosCode = 1;  // of the kinds of files; 2 is for files of concentrations

@@ -61,7 +61,7 @@ void hideScratch(QWidget& form, const zg::FormWorld& world) {
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    if (zg::pathSeparator == '\\') zg::useFontsBeside(zg::filePath(QCoreApplication::applicationDirPath()));
+    if (zg::onWindows) zg::useFontsBeside(zg::filePath(QCoreApplication::applicationDirPath()));
     if (argc < 2) {
         std::fprintf(stderr, "usage: zg_form_pictures DIRECTORY [large] [dark]\n");
         return 2;

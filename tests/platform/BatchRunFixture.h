@@ -50,7 +50,7 @@ class BatchRun : public ::testing::Test {
     }
     /// Runs the lines to their end; returns the text that the terminal shows.
     std::string carryOut(const std::string& base = "B", const std::string& report = "") {
-        if (pathSeparator == '\\') writeBatchFile(batchLines(batch(base)));
+        if (onWindows) writeBatchFile(batchLines(batch(base)));
         return carriedOut(batch(base), report);
     }
     bool isThere(const std::string& name) const { return fileExists(out_ + pathSeparator + name); }

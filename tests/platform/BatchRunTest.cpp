@@ -63,7 +63,7 @@ TEST_F(BatchRun, ABaseWithABlankReachesTheProcessorInPiecesAndLeavesNoMarker) {
 
 TEST_F(BatchRun, NothingInANameMeansAnythingToTheShell) {
     standIn("words words\nlisting\n");
-    const std::string base = pathSeparator == '/' ? "$(touch${IFS}hacked);B'&" : "$(B)'`[1]{2}~#@";
+    const std::string base = onWindows ? "$(B)'`[1]{2}~#@" : "$(touch${IFS}hacked);B'&";
     carryOut(base);
     EXPECT_TRUE(isThere("finished.txt"));
     EXPECT_FALSE(isThere("hacked"));

@@ -12,7 +12,7 @@ std::string carriedOut(const zg::RunBatch& run, const std::string& report) {
     QProcess shell;
     // "pause" finds the end of its input.
     shell.setStandardInputFile(QProcess::nullDevice());
-    if (zg::pathSeparator == '\\')
+    if (zg::onWindows)
         shell.start(QStringLiteral("cmd.exe"), {QStringLiteral("/c"), zg::fileName(run.path())});
     else
         shell.start(QStringLiteral("sh"),

@@ -7,7 +7,7 @@
 #include "base/Paths.h"
 #include "base/WideNames.h"
 
-inline constexpr bool onWindows = zg::pathSeparator == '\\';
+using zg::onWindows;
 
 /// The path with the system's own separators: tests write "/" everywhere.
 inline std::string nativePath(std::string path) {

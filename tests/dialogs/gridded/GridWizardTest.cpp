@@ -138,7 +138,7 @@ TEST_F(VentosWizard, StepOneWantsFiles) {
 TEST_F(VentosWizard, AFileOfAnotherFormIsTold) {
     const std::string good = directory_.write("good.dat", ventosText());
     // Windows allows no quote in a name.
-    const std::string name = pathSeparator == '/' ? "ba\"d.dat" : "ba'd.dat";
+    const std::string name = onWindows ? "ba'd.dat" : "ba\"d.dat";
     const std::string bad = directory_.write(name, "no");
     for (const auto& files : {std::vector{bad}, {bad, good}, {good, bad}}) {
         view_.files = files;
