@@ -63,6 +63,7 @@ function(zg_library name)
     cmake_parse_arguments(ARG "QT" "" "SOURCES;HOT;OBJECTS;RESOURCES;LINKS" ${ARGN})
     # Called this way the toolkit's compiler does not read the toolkit's own headers, of which it needs nothing, again for each of ours. What it makes
     # is compiled together with the library's sources.
+    set(made)
     if(ARG_OBJECTS)
         qt_wrap_cpp(made ${ARG_OBJECTS})
     endif()

@@ -63,6 +63,19 @@ TEST(PagePacker, FindsTheLineBeforeAndWhatWasFartherBack) {
     EXPECT_LT(packedSize(line + other + line, 1, 3000), 1801 + 1500 + 400U);
 }
 
+TEST(PagePacker, FindsPixelsOfALineFartherBack) {
+    const std::string line = '\0' + random(1800, 256);
+    const std::string other = '\0' + random(1800, 256, 2);
+    EXPECT_LT(packedSize(line + other + line), 2 * 1801 + 400U);
+}
+
+TEST(PagePacker, KeepsMatchesOfEachLength) {
+    const std::string bytes = random(300, 256);
+    for (std::size_t length = 1; length <= bytes.size(); ++length)
+        packedSize(bytes + bytes.substr(0, length) + static_cast<char>(~bytes[length % bytes.size()]), 1,
+                   300);
+}
+
 TEST(PagePacker, PrefersTheLineBeforeToBytesThatBeginAlike) {
     std::string line;
     for (unsigned i = 0; i < 180; ++i) line += "edge: " + random(4, 256, i);
